@@ -1,0 +1,8 @@
+# mivo_test(<name> SOURCES ... USES <target>...): one test program, <name>_test, one ctest entry per program so that a
+# run of all stays quick; `<name>_test --gtest_filter=` runs a single row.
+function(mivo_test name)
+  cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;USES")
+  add_executable(${name}_test ${arg_SOURCES})
+  target_link_libraries(${name}_test PRIVATE mivo_warnings ${arg_USES} GTest::gmock GTest::gtest_main)
+  add_test(NAME ${name} COMMAND ${name}_test)
+endfunction()

@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <span>
+
+#include "mivo/model/Date.h"
+#include "mivo/model/Record.h"
+#include "mivo/model/UUID.h"
+
+namespace mivo {
+
+/// A fast that has ended. Three words, because every calculation reads a whole history of them; notes and the like stay
+/// with the host.
+struct FinishedFastingDataEntry {
+  Date start, end;
+  std::int64_t goalSeconds = 0;  ///< the length that the user set out to fast
+
+  /// Seconds from start to end; 0 where it ends before it starts.
+  double duration() const { return end > start ? secondsBetween(start, end) : 0; }
+  bool operator==(const FinishedFastingDataEntry&) const = default;
+};
+
+/// One recorded fast. `finished` is there once it has ended.
+struct FastingDataEntry {
+  UUID id;
+  Date start;
+  std::int64_t goalSeconds = 0;
+  std::optional<FinishedFastingDataEntry> finished;
+  bool operator==(const FastingDataEntry&) const = default;
+};
+
+/// A fast from `start` to `end`, as it is recorded once it has ended.
+FastingDataEntry finishedFast(UUID id, Date start, Date end, std::int64_t goalSeconds);
+
+/// A fast that is still running.
+FastingDataEntry ongoingFast(UUID id, Date start, std::int64_t goalSeconds);
+
+/// Sum of the durations, in seconds; 0 for none.
+double totalDuration(std::span<const FinishedFastingDataEntry> fasts);
+
+/// The longest duration, in seconds; 0 for none.
+double longestFast(std::span<const FinishedFastingDataEntry> fasts);
+
+}  // namespace mivo

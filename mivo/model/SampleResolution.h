@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cmath>
+#include <cstddef>
+#include <vector>
+
+#include "mivo/model/Date.h"
+#include "mivo/model/TimeRange.h"
+
+namespace mivo {
+
+/// Thins a dense series, ascending by date: week keeps it as it is, month keeps the last sample of each day of Unix
+/// time, year the last of each seven days. Order is kept; O(n).
+template <class Sample>
+std::vector<Sample> reducedSampleResolution(std::vector<Sample> samples, TimeRange range) {
+  if (range == TimeRange::week) return samples;
+  const double bucketSeconds = range == TimeRange::month ? secondsPerDay : 7 * secondsPerDay;
+  const auto bucket = [&](const Sample& sample) { return std::floor(secondsSince1970(sample.date) / bucketSeconds); };
+  std::size_t kept = 0;
+  for (std::size_t index = 0; index < samples.size(); ++index) {
+    if (index + 1 < samples.size() && bucket(samples[index]) == bucket(samples[index + 1])) continue;
+    samples[kept++] = samples[index];
+  }
+  samples.erase(samples.begin() + static_cast<std::ptrdiff_t>(kept), samples.end());
+  return samples;
+}
+
+}  // namespace mivo

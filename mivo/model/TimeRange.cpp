@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: MIT
+#include "mivo/model/TimeRange.h"
+
+#include <cstddef>
+
+namespace mivo {
+namespace {
+
+struct Row {
+  std::string_view rawValue;
+  double totalDaysOnXAxis;
+  std::string_view xAxixDateFormat;
+};
+
+constexpr std::array<Row, 3> rows{{{"week", 90, "EEE"}, {"month", 365, "MMMd"}, {"year", 3650, "MMM"}}};
+
+constexpr const Row& row(TimeRange range) { return rows[static_cast<std::size_t>(range)]; }
+
+}  // namespace
+
+std::string_view rawValue(TimeRange range) { return row(range).rawValue; }
+
+std::optional<TimeRange> timeRangeFrom(std::string_view rawValue) {
+  for (const TimeRange range : allTimeRanges)
+    if (row(range).rawValue == rawValue) return range;
+  return std::nullopt;
+}
+
+std::string_view displayString(TimeRange range) { return row(range).rawValue; }
+
+double totalDaysOnXAxis(TimeRange range) { return row(range).totalDaysOnXAxis; }
+
+std::string_view xAxixDateFormat(TimeRange range) { return row(range).xAxixDateFormat; }
+
+}  // namespace mivo

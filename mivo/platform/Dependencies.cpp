@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+#include "mivo/platform/Dependencies.h"
+
+#include <cstdlib>
+#include <iostream>
+#include <utility>
+
+namespace mivo {
+namespace {
+
+thread_local std::shared_ptr<const Dependencies> context;
+
+}  // namespace
+
+std::shared_ptr<const Dependencies> currentContext() { return context; }
+
+DependencyScope::DependencyScope(std::shared_ptr<const Dependencies> values)
+    : previous{std::exchange(context, std::move(values))} {}
+
+DependencyScope::~DependencyScope() { context = std::move(previous); }
+
+const Dependencies& currentDependencies() {
+  if (context) return *context;
+  std::cerr << "No dependencies are set on this thread: call withDependencies around what uses them." << std::endl;
+  std::abort();
+}
+
+void stopForMissingDependency(const char* type) {
+  std::cerr << "The current dependencies have no client of type " << type << ": fill it in before it is used."
+            << std::endl;
+  std::abort();
+}
+
+}  // namespace mivo

@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: MIT
+#include "mivo/platform/IssueReporting.h"
+
+#include <iostream>
+
+#include "mivo/platform/Dependencies.h"
+
+namespace mivo {
+
+void reportIssue(std::string_view message, std::source_location where) {
+  const auto context = currentContext();
+  if (context && context->issueReporter) return context->issueReporter->report(message, where);
+  printIssue(message, where);
+}
+
+void printIssue(std::string_view message, const std::source_location& where) {
+  const std::string_view path = where.file_name();
+  std::cerr << path.substr(path.find_last_of('/') + 1) << ':' << where.line() << ": " << message << std::endl;
+}
+
+}  // namespace mivo
