@@ -21,13 +21,12 @@ DependencyScope::~DependencyScope() { context = std::move(previous); }
 
 const Dependencies& currentDependencies() {
   if (context) return *context;
-  std::cerr << "No dependencies are set on this thread: call withDependencies around what uses them." << std::endl;
+  std::cerr << "No dependencies are set on this thread: call withDependencies around what uses them.\n";
   std::abort();
 }
 
 void stopForMissingDependency(const char* type) {
-  std::cerr << "The current dependencies have no client of type " << type << ": fill it in before it is used."
-            << std::endl;
+  std::cerr << "The current dependencies have no client of type " << type << ": fill it in before it is used.\n";
   std::abort();
 }
 

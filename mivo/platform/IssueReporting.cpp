@@ -15,7 +15,7 @@ void reportIssue(std::string_view message, std::source_location where) {
 
 void printIssue(std::string_view message, const std::source_location& where) {
   const std::string_view path = where.file_name();
-  std::cerr << path.substr(path.find_last_of('/') + 1) << ':' << where.line() << ": " << message << std::endl;
+  std::cerr << path.substr(path.find_last_of('/') + 1) << ':' << where.line() << ": " << message << '\n';
 }
 
 }  // namespace mivo

@@ -11,7 +11,7 @@ constexpr std::string_view healthKitSyncKey = "healthKitSync";
 constexpr std::string_view fastsValue = "fasts", daysValue = "days";
 
 template <class Type>
-Type valueOr(const std::optional<UserDefaults::Value>& value, Type fallback) {
+Type valueOr(const std::optional<UserDefaults::Value>& value, const Type& fallback) {
   const Type* held = value ? std::get_if<Type>(&*value) : nullptr;
   return held ? *held : fallback;
 }
