@@ -13,7 +13,8 @@ def nanoseconds: .real_time * {"ns": 1, "us": 1e3, "ms": 1e6, "s": 1e9}[.time_un
 def records: .run_name | split("/") | last | tonumber? // null;
 
 def rows:
-    [.benchmarks[] | select(.aggregate_name == "median" or .error_occurred)] as $medians
+    ([.benchmarks[] | select(.aggregate_name == "median")]
+     + ([.benchmarks[] | select(.error_occurred)] | unique_by(.run_name))) as $medians
     | ([$medians[] | select(.run_name | startswith("floor")) | {key: (records | tostring), value: nanoseconds}] | from_entries) as $floors
     | $medians[] | select(.run_name | startswith("floor") | not)
     | if .error_occurred then "| \(.run_name) | | **\(.error_message)** | | | |"
@@ -23,7 +24,8 @@ def rows:
           + (if $floor then "\($floor / $n | digits(2)) ns | \($time / $floor | digits(2)) |" else " | |" end)
       end;
 
-(.[0].context | "Measured on \(.num_cpus) cores of \(.mhz_per_cpu) MHz, \(.library_build_type) build.", ""),
+"Measured on \(.[0].context.num_cpus) cores of \($processor), \($compiler), release build.",
+"",
 "| what | records | time | a record | floor a record | times the floor |",
 "|---|---:|---:|---:|---:|---:|",
 (.[] | rows)
