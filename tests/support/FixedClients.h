@@ -59,6 +59,7 @@ struct EnglishTexts : TextLookup {
 struct EnglishHoursAndMinutes : DurationFormatter {
   std::optional<std::string> string(double seconds) const override {
     if (!std::isfinite(seconds)) return std::nullopt;
+    if (seconds < 0) return '-' + *string(-seconds);
     const auto minutes = static_cast<std::int64_t>(seconds / 60);
     const std::string rest = std::to_string(minutes % 60) + "m";
     return minutes < 60 ? rest : std::to_string(minutes / 60) + "h " + rest;
