@@ -22,6 +22,7 @@ function(mivo_room house room)
     add_library(${target} ${arg_SOURCES} ${arg_HEADERS})
     target_include_directories(
       ${target} PUBLIC $<BUILD_INTERFACE:${root}> $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>)
+    target_compile_features(${target} PUBLIC cxx_std_20)
     target_link_libraries(
       ${target}
       PUBLIC ${arg_LINKS}
@@ -30,6 +31,7 @@ function(mivo_room house room)
     add_library(${target} INTERFACE)
     target_include_directories(
       ${target} INTERFACE $<BUILD_INTERFACE:${root}> $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>)
+    target_compile_features(${target} INTERFACE cxx_std_20)
     target_link_libraries(${target} INTERFACE ${arg_LINKS})
   endif()
   add_library(${house}::${room} ALIAS ${target})
