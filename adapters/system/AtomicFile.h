@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <filesystem>
+#include <string_view>
+
+namespace mivo::adapters {
+
+/// Puts `content` in the place of a file, so that a reader, a crash or a full disk finds the old file or the new one
+/// and never a part. The content is on disk when it returns. Missing folders are made; a symbolic link stays one and
+/// its target is replaced.
+///
+/// Errors: std::system_error whose text names the file; the old file is then as it was. Thread: any.
+void writeAtomically(const std::filesystem::path& file, std::string_view content);
+
+}  // namespace mivo::adapters

@@ -1,0 +1,10 @@
+// SPDX-License-Identifier: MIT
+#include "adapters/system/SystemClock.h"
+
+#include <chrono>
+
+namespace mivo::adapters {
+
+Date SystemClock::now() const { return std::chrono::system_clock::now(); }
+
+}  // namespace mivo::adapters

@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+#include "adapters/system/UserDirectories.h"
+
+#include <cstdlib>
+
+namespace mivo::adapters {
+namespace {
+
+namespace fs = std::filesystem;
+
+fs::path directory(const char* variable, const char* belowHome) {
+  const char* named = std::getenv(variable);
+  if (named && fs::path{named}.is_absolute()) return fs::path{named} / "mivo";
+  const char* home = std::getenv("HOME");
+  if (home && fs::path{home}.is_absolute()) return fs::path{home} / belowHome / "mivo";
+  return ".mivo";
+}
+
+}  // namespace
+
+fs::path configurationDirectory() { return directory("XDG_CONFIG_HOME", ".config"); }
+
+fs::path dataDirectory() { return directory("XDG_DATA_HOME", ".local/share"); }
+
+}  // namespace mivo::adapters

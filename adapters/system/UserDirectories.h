@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <filesystem>
+
+namespace mivo::adapters {
+
+// The folders that the desktop's base-directory convention gives a user's files; they need not exist yet. Where the
+// variable is unset or not absolute and there is no home either, the folder is the working directory's ".mivo".
+
+/// $XDG_CONFIG_HOME/mivo, else ~/.config/mivo: settings.
+std::filesystem::path configurationDirectory();
+/// $XDG_DATA_HOME/mivo, else ~/.local/share/mivo: the history.
+std::filesystem::path dataDirectory();
+
+}  // namespace mivo::adapters
