@@ -3,6 +3,8 @@
 
 #include <cstddef>
 
+#include "mivo/model/Translatable.h"
+
 namespace mivo {
 namespace {
 
@@ -10,13 +12,13 @@ struct Row {
   std::string_view rawValue, caseName, displayString;
 };
 
-constexpr std::array<Row, 7> rows{{{"Fasting", "fasting", "Fasting"},
-                                   {"Eating", "eating", "Eating"},
-                                   {"Anabolic (0-4h)", "anabolic", "Anabolic"},
-                                   {"Catabolic (4-16h)", "catabolic", "Catabolic"},
-                                   {"Fat Burning (16-24h)", "fatBurning", "Fat Burning"},
-                                   {"Ketosis (24-72h)", "ketosis", "Ketosis"},
-                                   {"Deep Ketosis (72h+)", "deepKetosis", "Deep Ketosis"}}};
+constexpr std::array<Row, 7> rows{{{"Fasting", "fasting", translatable("Fasting")},
+                                   {"Eating", "eating", translatable("Eating")},
+                                   {"Anabolic (0-4h)", "anabolic", translatable("Anabolic")},
+                                   {"Catabolic (4-16h)", "catabolic", translatable("Catabolic")},
+                                   {"Fat Burning (16-24h)", "fatBurning", translatable("Fat Burning")},
+                                   {"Ketosis (24-72h)", "ketosis", translatable("Ketosis")},
+                                   {"Deep Ketosis (72h+)", "deepKetosis", translatable("Deep Ketosis")}}};
 
 constexpr const Row& row(LegacyFastingZone zone) { return rows[static_cast<std::size_t>(zone)]; }
 

@@ -3,16 +3,20 @@
 
 #include <cstddef>
 
+#include "mivo/model/Translatable.h"
+
 namespace mivo {
 namespace {
 
 struct Row {
-  std::string_view rawValue;
+  std::string_view rawValue, displayString;
   double totalDaysOnXAxis;
   std::string_view xAxixDateFormat;
 };
 
-constexpr std::array<Row, 3> rows{{{"week", 90, "EEE"}, {"month", 365, "MMMd"}, {"year", 3650, "MMM"}}};
+constexpr std::array<Row, 3> rows{{{"week", translatable("week"), 90, "EEE"},
+                                   {"month", translatable("month"), 365, "MMMd"},
+                                   {"year", translatable("year"), 3650, "MMM"}}};
 
 constexpr const Row& row(TimeRange range) { return rows[static_cast<std::size_t>(range)]; }
 
@@ -26,7 +30,7 @@ std::optional<TimeRange> timeRangeFrom(std::string_view rawValue) {
   return std::nullopt;
 }
 
-std::string_view displayString(TimeRange range) { return row(range).rawValue; }
+std::string_view displayString(TimeRange range) { return row(range).displayString; }
 
 double totalDaysOnXAxis(TimeRange range) { return row(range).totalDaysOnXAxis; }
 

@@ -6,6 +6,8 @@
 #include <string>
 #include <string_view>
 
+#include "mivo/model/Translatable.h"
+
 namespace mivo {
 
 /// The message catalogue of the user's language. A key is the English text itself; a missing entry falls back to it.
@@ -21,9 +23,6 @@ class TextLookup {
   /// The same for a text that depends on a count: `one` and `many` are the English forms.
   virtual std::string plural(std::string_view one, std::string_view many, std::int64_t count) const = 0;
 };
-
-/// Marks a text that is looked up later, so that it gets into the catalogues.
-constexpr std::string_view translatable(std::string_view english) { return english; }
 
 /// Puts the arguments into the numbered places {1}, {2}, ... of a template; a place without an argument stays as it is.
 std::string filledIn(std::string_view pattern, std::initializer_list<std::string_view> arguments);

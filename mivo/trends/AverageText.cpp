@@ -16,15 +16,15 @@ constexpr double noticeableDifference = secondsPerHour / 2;
 
 // {1} is the range's word, {2} the zone's name. By Comparison: less, equal, more.
 using Templates = std::array<std::string_view, 3>;
-constexpr Templates fastingTemplates{translatable("You're fasting less this {1} compared to last {1}."),
-                                     translatable("You're fasting about as much this {1} as last {1}."),
-                                     translatable("You're fasting more this {1} compared to last {1}.")};
-constexpr Templates eatingTemplates{translatable("Your eating window is shorter this {1} compared to last {1}."),
-                                    translatable("Your eating window is about as long this {1} as last {1}."),
-                                    translatable("Your eating window is longer this {1} compared to last {1}.")};
-constexpr Templates zoneTemplates{translatable("You're less in the {2} zone this {1} compared to last {1}."),
-                                  translatable("You're about as much in the {2} zone this {1} as last {1}."),
-                                  translatable("You're more in the {2} zone this {1} compared to last {1}.")};
+constexpr Templates fastingTemplates{translatableByRange("You're fasting less this {1} compared to last {1}."),
+                                     translatableByRange("You're fasting about as much this {1} as last {1}."),
+                                     translatableByRange("You're fasting more this {1} compared to last {1}.")};
+constexpr Templates eatingTemplates{translatableByRange("Your eating window is shorter this {1} compared to last {1}."),
+                                    translatableByRange("Your eating window is about as long this {1} as last {1}."),
+                                    translatableByRange("Your eating window is longer this {1} compared to last {1}.")};
+constexpr Templates zoneTemplates{translatableByRange("You're less in the {2} zone this {1} compared to last {1}."),
+                                  translatableByRange("You're about as much in the {2} zone this {1} as last {1}."),
+                                  translatableByRange("You're more in the {2} zone this {1} compared to last {1}.")};
 
 constexpr const Templates& templates(LegacyFastingZone zone) {
   switch (zone) {
