@@ -62,7 +62,7 @@ std::size_t editDistance(std::string_view a, std::string_view b) {
 std::optional<std::string> closestName(std::string_view name) {
   if (name.empty() || name.size() > 64) return std::nullopt;
   const std::string wanted = lowerCase(name);
-  std::size_t best = std::min<std::size_t>(3, name.size() / 2 + 1);
+  std::size_t best = std::min<std::size_t>(3, name.size() / 3 + 1);
   std::optional<std::string> closest;
   for (std::string& candidate : timeZoneNames()) {
     const std::string lower = lowerCase(candidate);
