@@ -80,7 +80,9 @@ class IdentifiedArray {
 
     std::size_t slotOf(const ID& id) const {
       const std::size_t mask = slots.size() - 1;
-      std::size_t slot = std::hash<ID>{}(id)&mask;
+      // Mixed, because a standard hash of a number is that number, and ids may be alike in half of their bits.
+      const std::uint64_t hash = std::hash<ID>{}(id);
+      std::size_t slot = ((hash ^ hash >> 32) * 0x9E3779B97F4A7C15u >> 32) & mask;
       while (slots[slot] != 0 && !(elements[slots[slot] - 1].id == id)) slot = (slot + 1) & mask;
       return slot;
     }

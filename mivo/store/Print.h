@@ -18,7 +18,9 @@
 
 #include "mivo/model/Date.h"
 #include "mivo/model/UUID.h"
+#include "mivo/store/Action.h"
 #include "mivo/store/Observed.h"
+#include "mivo/store/Presentation.h"
 
 namespace mivo {
 
@@ -58,11 +60,6 @@ std::string enumeratorText(Enumeration value) {
   return isNamed ? std::string{names[static_cast<std::size_t>(number)]} : std::to_string(number);
 }
 
-/// An action: a union of cases that is, or derives from, a variant.
-template <class Candidate>
-concept ActionUnion =
-    requires(const Candidate& candidate) { []<class... Case>(const std::variant<Case...>&) {}(candidate); };
-
 template <class Candidate>
 inline constexpr bool isOptional = false;
 template <class Value>
@@ -72,6 +69,18 @@ template <class Candidate>
 inline constexpr bool isPair = false;
 template <class First, class Second>
 inline constexpr bool isPair<std::pair<First, Second>> = true;
+
+/// "timeRange", for `&State::timeRange`.
+template <auto member>
+constexpr std::string_view memberName() {
+  const std::string_view pretty = __PRETTY_FUNCTION__;
+  return lastNamePart(pretty.substr(pretty.find("member = ") + 9));
+}
+
+template <auto member, class Visit>
+void fields(const Write<member>& write, Visit&& visit) {
+  visit(memberName<member>(), write.value);
+}
 
 /// Prints what has a list of fields, cases, or a meaning of its own; the name of the type for anything else.
 template <class Value>
@@ -148,9 +157,8 @@ void printCase(std::ostream& out, const Case& value) {
   if constexpr (Record<const Case>) {
     printFields(out, value);
   } else if constexpr (std::is_aggregate_v<Case> && !std::is_empty_v<Case>) {
-    const auto& [payload] = value;
     out << '(';
-    print(out, payload);
+    print(out, payload(value));
     out << ')';
   }
 }
@@ -159,7 +167,7 @@ template <class Value>
 void print(std::ostream& out, const Value& value) {
   if constexpr (isObserved<Value>)
     print(out, value.value());
-  else if constexpr (isOptional<Value>)
+  else if constexpr (isOptional<Value> || isPresentation<Value>)
     value ? print(out, *value) : void(out << "none");
   else if constexpr (isPair<Value>)
     out << printed(value.first) << ": " << printed(value.second);
@@ -179,7 +187,7 @@ void print(std::ostream& out, const Value& value) {
     out << text(value);
   else if constexpr (Record<const Value>)
     printFields(out, value);
-  else if constexpr (ActionUnion<Value>)
+  else if constexpr (CaseUnion<Value>)
     std::visit([&out](const auto& active) { printCase(out, active); }, value);
   else if constexpr (std::ranges::input_range<const Value>)
     printElements(out, value);
@@ -189,7 +197,7 @@ void print(std::ostream& out, const Value& value) {
 
 /// So that test frameworks and logs print what is ours: fields, records, actions, lists.
 template <class Value>
-  requires(isObserved<Value> || Record<const Value> || SharedList<Value> || ActionUnion<Value>)
+  requires(isObserved<Value> || Record<const Value> || SharedList<Value> || CaseUnion<Value>)
 std::ostream& operator<<(std::ostream& out, const Value& value) {
   print(out, value);
   return out;

@@ -39,8 +39,17 @@ struct CountingUUIDs : UUIDGenerator {
 
 /// Keeps what was reported, for a test to look at.
 struct RecordedIssues : IssueReporter {
-  void report(std::string_view message, const std::source_location&) const override { messages.emplace_back(message); }
+  void report(std::string_view message, const std::source_location&) const override {
+    const std::scoped_lock lock{mutex};
+    messages.emplace_back(message);
+  }
+  /// What was reported since the last call.
+  std::vector<std::string> taken() const {
+    const std::scoped_lock lock{mutex};
+    return std::exchange(messages, {});
+  }
   mutable std::vector<std::string> messages;
+  mutable std::mutex mutex;
 };
 
 /// The keys themselves, filled with nothing; counts how often it is asked.
@@ -86,16 +95,19 @@ struct PlainNumbers : NumberFormatter {
 
 struct MemoryDefaults : UserDefaults {
   std::optional<Value> value(std::string_view key) const override {
+    const std::scoped_lock lock{mutex};
     const auto found = values.find(key);
     return found == values.end() ? std::nullopt : std::optional{found->second};
   }
   void setValue(std::string_view key, std::optional<Value> written) const override {
+    const std::scoped_lock lock{mutex};
     if (written)
       values.insert_or_assign(std::string{key}, *std::move(written));
     else if (const auto found = values.find(key); found != values.end())
       values.erase(found);
   }
   mutable std::map<std::string, Value, std::less<>> values;
+  mutable std::mutex mutex;
 };
 
 /// All of the above at noon of 1 July 2026 UTC; a test replaces what it is about.
