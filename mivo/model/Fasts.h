@@ -22,6 +22,14 @@ struct FinishedFastingDataEntry {
   bool operator==(const FinishedFastingDataEntry&) const = default;
 };
 
+template <RecordOf<FinishedFastingDataEntry> Record, class Visit>
+void fields(Record& record, Visit&& visit) {
+  auto& [start, end, goalSeconds] = record;
+  visit("start", start);
+  visit("end", end);
+  visit("goalSeconds", goalSeconds);
+}
+
 /// One recorded fast. `finished` is there once it has ended.
 struct FastingDataEntry {
   UUID id;
@@ -30,6 +38,15 @@ struct FastingDataEntry {
   std::optional<FinishedFastingDataEntry> finished;
   bool operator==(const FastingDataEntry&) const = default;
 };
+
+template <RecordOf<FastingDataEntry> Record, class Visit>
+void fields(Record& record, Visit&& visit) {
+  auto& [id, start, goalSeconds, finished] = record;
+  visit("id", id);
+  visit("start", start);
+  visit("goalSeconds", goalSeconds);
+  visit("finished", finished);
+}
 
 /// A fast from `start` to `end`, as it is recorded once it has ended.
 FastingDataEntry finishedFast(UUID id, Date start, Date end, std::int64_t goalSeconds);
