@@ -2,6 +2,7 @@
 #include "adapters/icu/IcuDates.h"
 
 #include <cmath>
+#include <iterator>
 #include <utility>
 
 #include "adapters/icu/IcuCalendar.h"
@@ -21,20 +22,34 @@ IcuDates::IcuDates(std::string identifier, std::unique_ptr<icu::Calendar> opened
 
 DateFields IcuDates::fields(local_days day) const {
   const std::lock_guard lock{guard};
-  const Month month = monthOf(day);
+  const Month& month = monthOf(day);
   return {month.number, static_cast<int>((day - month.first).count()) + 1, month.isLeapMonth};
 }
 
-IcuDates::Month IcuDates::monthOf(local_days day) const {
-  if (day >= lastMonth.first && day < lastMonth.next) return lastMonth;
+const IcuDates::Month& IcuDates::monthOf(local_days day) const {
+  constexpr std::size_t mostKept = 5000;  // four centuries
+  const auto after = months.upper_bound(day);
+  if (after != months.begin())
+    if (const Month& month = std::prev(after)->second; day < month.next) return month;
+  if (months.size() >= mostKept) months.clear();
+  const Month month = readMonth(day);
+  return months.emplace(month.first, month).first->second;
+}
+
+// No month of any calendar is longer than 31 days, nor are two together shorter: the day after those 31 lies in the
+// next month, and says when that began. Asking the calendar to add a month takes up to a hundred times as long.
+IcuDates::Month IcuDates::readMonth(local_days day) const {
   UErrorCode status = U_ZERO_ERROR;
-  calendar->setTime(millisecondsOf(day), status);
+  const auto firstOfMonth = [&](local_days at) {
+    calendar->setTime(millisecondsOf(at), status);
+    return at - days{calendar->get(UCAL_DATE, status) - 1};
+  };
   Month month;
+  month.first = firstOfMonth(day);
   month.number = calendar->get(UCAL_MONTH, status) + 1;
   month.isLeapMonth = calendar->get(UCAL_IS_LEAP_MONTH, status) != 0;
-  month.first = day - days{calendar->get(UCAL_DATE, status) - 1};
-  month.next = added(month.first, UCAL_MONTH, 1).value_or(day + days{1});
-  return lastMonth = month;
+  month.next = firstOfMonth(month.first + days{31});
+  return month;
 }
 
 std::optional<local_days> IcuDates::added(local_days day, UCalendarDateFields field, std::int64_t count) const {
@@ -50,7 +65,8 @@ std::optional<local_days> IcuDates::added(local_days day, UCalendarDateFields fi
 
 std::optional<local_days> IcuDates::addingMonths(local_days day, std::int64_t count) const {
   const std::lock_guard lock{guard};
-  if (count == 1 && day == lastMonth.first && lastMonth.next > lastMonth.first) return lastMonth.next;
+  if (count == 1)
+    if (const Month& month = monthOf(day); day == month.first) return month.next;
   return added(day, UCAL_MONTH, count);
 }
 
