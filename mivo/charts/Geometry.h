@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "mivo/model/Record.h"
+
 namespace mivo {
 
 // Places and lengths on the screen, in points; y grows downwards.
@@ -14,6 +16,13 @@ struct Size {
   double width = 0, height = 0;
   bool operator==(const Size&) const = default;
 };
+
+template <RecordOf<Size> Record, class Visit>
+void fields(Record& record, Visit&& visit) {
+  auto& [width, height] = record;
+  visit("width", width);
+  visit("height", height);
+}
 
 struct Rectangle {
   Point origin;
