@@ -6,7 +6,7 @@
 #include <utility>
 
 #include "mivo/store/Action.h"
-#include "mivo/store/Subscription.h"
+#include "mivo/platform/Subscription.h"
 
 namespace mivo {
 

@@ -21,7 +21,7 @@
 #include "mivo/store/Effect.h"
 #include "mivo/store/Presentation.h"
 #include "mivo/store/ScopedStore.h"
-#include "mivo/store/Subscription.h"
+#include "mivo/platform/Subscription.h"
 
 namespace mivo {
 
@@ -91,7 +91,7 @@ class Store {
     const Client<MainQueue> mainQueue;
     const Client<TaskRunner> taskRunner;
     const std::shared_ptr<const Dependencies> context = currentContext();
-    Observers observers;
+    Observers<> observers;
     std::deque<Received> waiting;
     std::vector<std::shared_ptr<Running>> tasks;
     bool isBusy = false, isClosed = false;
