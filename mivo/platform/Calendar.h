@@ -15,7 +15,7 @@ enum class CalendarComponent { hour, day, month, year };
 /// The fields a date must have to match; those left out may be anything. Months and days count from 1, weekdays from
 /// 1 = Sunday.
 struct MatchingComponents {
-  std::optional<int> month, day, weekday, hour, minute;
+  std::optional<int> month{}, day{}, weekday{}, hour{}, minute{};
 };
 
 /// A calendar in a time zone. Every answer is missing where the date or the result lies outside the years 1 to 9999.
