@@ -4,6 +4,8 @@
 #include <chrono>
 #include <cmath>
 
+#include "mivo/model/Record.h"
+
 namespace mivo {
 
 /// Elapsed time in seconds, with fractions.
@@ -40,11 +42,25 @@ struct DateInterval {
   bool operator==(const DateInterval&) const = default;
 };
 
+template <RecordOf<DateInterval> Record, class Visit>
+void fields(Record& record, Visit&& visit) {
+  auto& [start, end] = record;
+  visit("start", start);
+  visit("end", end);
+}
+
 /// A span of time with both ends inside.
 struct ClosedDateRange {
   Date lowerBound, upperBound;
   double duration() const { return secondsBetween(lowerBound, upperBound); }
   bool operator==(const ClosedDateRange&) const = default;
 };
+
+template <RecordOf<ClosedDateRange> Record, class Visit>
+void fields(Record& record, Visit&& visit) {
+  auto& [lowerBound, upperBound] = record;
+  visit("lowerBound", lowerBound);
+  visit("upperBound", upperBound);
+}
 
 }  // namespace mivo

@@ -7,9 +7,11 @@
 #include "mivo/platform/Client.h"
 #include "mivo/platform/DateGenerator.h"
 #include "mivo/platform/DependencyContext.h"
+#include "mivo/platform/DonationClient.h"
 #include "mivo/platform/Formatters.h"
 #include "mivo/platform/HealthKitClient.h"
 #include "mivo/platform/IssueReporting.h"
+#include "mivo/platform/LinkOpener.h"
 #include "mivo/platform/MainQueue.h"
 #include "mivo/platform/TaskRunner.h"
 #include "mivo/platform/TextLookup.h"
@@ -38,6 +40,8 @@ struct Dependencies {
   Client<HealthKitClient> healthKitClient;
   Client<TipCatalogue> tips;
   Client<URLSession> urlSession;
+  Client<DonationClient> donations;  ///< may stay empty: the donation screen then says that nothing can be loaded
+  Client<LinkOpener> links;          ///< may stay empty: nothing opens
   Client<MainQueue> mainQueue;
   Client<TaskRunner> taskRunner;
   Client<IssueReporter> issueReporter;

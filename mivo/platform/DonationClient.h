@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <stop_token>
+#include <string>
+#include <vector>
+
+#include "mivo/model/Record.h"
+
+namespace mivo {
+
+/// One way to give: a link to where it is paid. The texts come in the user's language, the price with its currency.
+struct DonationProduct {
+  std::string id, title, price, url;
+  bool operator==(const DonationProduct&) const = default;
+};
+
+template <RecordOf<DonationProduct> Record, class Visit>
+void fields(Record& record, Visit&& visit) {
+  auto& [id, title, price, url] = record;
+  visit("id", id);
+  visit("title", title);
+  visit("price", price);
+  visit("url", url);
+}
+
+struct DonationProducts {
+  std::vector<DonationProduct> oneTime, recurring;
+  bool operator==(const DonationProducts&) const = default;
+};
+
+template <RecordOf<DonationProducts> Record, class Visit>
+void fields(Record& record, Visit&& visit) {
+  auto& [oneTime, recurring] = record;
+  visit("oneTime", oneTime);
+  visit("recurring", recurring);
+}
+
+/// Where the ways to give are listed. Thread: any; blocks, so it is called from tasks only.
+class DonationClient {
+ public:
+  virtual ~DonationClient() = default;
+  /// Throws a std::exception whose `what()` is one sentence for the user, also once `stop` is requested.
+  virtual DonationProducts products(std::stop_token stop) const = 0;
+};
+
+}  // namespace mivo
