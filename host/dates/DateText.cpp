@@ -1,0 +1,193 @@
+// SPDX-License-Identifier: MIT
+#include "host/dates/DateText.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <cstdint>
+#include <cstdio>
+
+namespace mivo::host {
+namespace {
+
+using namespace std::chrono;
+
+/// Takes the front of a text, piece by piece.
+class Scanner {
+ public:
+  explicit Scanner(std::string_view text) : rest{text} {}
+
+  bool atEnd() const { return rest.empty(); }
+
+  bool take(std::string_view anyOf) {
+    if (rest.empty() || anyOf.find(rest.front()) == std::string_view::npos) return false;
+    rest.remove_prefix(1);
+    return true;
+  }
+
+  /// Exactly `count` digits, as a number.
+  std::optional<int> number(std::size_t count) {
+    if (rest.size() < count) return std::nullopt;
+    int result = 0;
+    for (const char c : rest.substr(0, count)) {
+      if (c < '0' || c > '9') return std::nullopt;
+      result = result * 10 + (c - '0');
+    }
+    rest.remove_prefix(count);
+    return result;
+  }
+
+  std::string_view digits() {
+    const std::size_t count = std::min(rest.find_first_not_of("0123456789"), rest.size());
+    const std::string_view result = rest.substr(0, count);
+    rest.remove_prefix(count);
+    return result;
+  }
+
+  char front() const { return rest.empty() ? '\0' : rest.front(); }
+
+ private:
+  std::string_view rest;
+};
+
+std::optional<local_days> scanDay(Scanner& scanner) {
+  const auto yearNumber = scanner.number(4);
+  if (!yearNumber || *yearNumber < 1 || !scanner.take("-")) return std::nullopt;
+  const auto monthNumber = scanner.number(2);
+  if (!monthNumber || !scanner.take("-")) return std::nullopt;
+  const auto dayNumber = scanner.number(2);
+  if (!dayNumber) return std::nullopt;
+  const year_month_day date{year{*yearNumber}, month{static_cast<unsigned>(*monthNumber)},
+                            day{static_cast<unsigned>(*dayNumber)}};
+  if (!date.ok()) return std::nullopt;
+  return local_days{date};
+}
+
+struct TimeOfDay {
+  seconds sinceMidnight{0};
+  bool isLeapSecond = false;
+  std::string_view fraction = {};
+};
+
+std::optional<TimeOfDay> scanTime(Scanner& scanner) {
+  const auto hour = scanner.number(2);
+  if (!hour || *hour > 23 || !scanner.take(":")) return std::nullopt;
+  const auto minute = scanner.number(2);
+  if (!minute || *minute > 59) return std::nullopt;
+  TimeOfDay time{.sinceMidnight = hours{*hour} + minutes{*minute}};
+  if (!scanner.take(":")) return time;
+  const auto second = scanner.number(2);
+  if (!second || *second > 60) return std::nullopt;
+  time.sinceMidnight += seconds{*second};
+  time.isLeapSecond = *second == 60;
+  if (!scanner.take(".,")) return time;
+  time.fraction = scanner.digits();
+  if (time.fraction.empty()) return std::nullopt;
+  return time;
+}
+
+/// `Z`, `+01:00`, `+0100` or `+01`.
+std::optional<seconds> scanOffset(Scanner& scanner) {
+  if (scanner.take("Zz")) return seconds{0};
+  const bool isWest = scanner.front() == '-';
+  if (!scanner.take("+-")) return std::nullopt;
+  const auto hour = scanner.number(2);
+  if (!hour || *hour > 23) return std::nullopt;
+  std::optional<int> minute{0};
+  if (scanner.take(":") || !scanner.atEnd()) minute = scanner.number(2);
+  if (!minute || *minute > 59) return std::nullopt;
+  const seconds east = hours{*hour} + minutes{*minute};
+  return isWest ? -east : east;
+}
+
+/// 1 minus a fraction, digit by digit and so exact: "25" gives "75". The digits are not all zero.
+void complement(char* first, char* last) {
+  const auto isZero = [](char digit) { return digit == '0'; };
+  char* const lastNonZero =
+      std::find_if_not(std::make_reverse_iterator(last), std::make_reverse_iterator(first), isZero).base() - 1;
+  for (char* digit = first; digit != lastNonZero; ++digit) *digit = static_cast<char>('9' - (*digit - '0'));
+  *lastNonZero = static_cast<char>('9' + 1 - (*lastNonZero - '0'));
+}
+
+/// Rounds once, from the decimal digits of the whole instant, so that what `rfc3339` writes reads back.
+Date instantAt(sys_seconds whole, std::string_view fraction) {
+  const std::int64_t wholeSeconds = whole.time_since_epoch().count();
+  constexpr std::size_t digitsThatMatter = 40;
+  fraction = fraction.substr(0, digitsThatMatter);
+  if (fraction.find_first_not_of('0') == std::string_view::npos)
+    return dateSince1970(static_cast<double>(wholeSeconds));
+
+  const bool isNegative = wholeSeconds < 0;
+  std::array<char, 24 + digitsThatMatter> decimal;
+  char* end = std::to_chars(decimal.data(), decimal.data() + 24, isNegative ? -wholeSeconds - 1 : wholeSeconds).ptr;
+  *end++ = '.';
+  char* const firstDigit = end;
+  end = std::copy(fraction.begin(), fraction.end(), end);
+  if (isNegative) complement(firstDigit, end);
+  double magnitude = 0;
+  std::from_chars(decimal.data(), end, magnitude);
+  return dateSince1970(isNegative ? -magnitude : magnitude);
+}
+
+std::optional<Date> representable(Date date) { return isRepresentable(date) ? std::optional{date} : std::nullopt; }
+
+}  // namespace
+
+std::optional<DateText> parseDateText(std::string_view text) {
+  Scanner scanner{text};
+  const auto day = scanDay(scanner);
+  if (!day) return std::nullopt;
+  if (scanner.atEnd()) return DateText{.wallTime = *day};
+  if (!scanner.take("Tt ")) return std::nullopt;
+  const auto time = scanTime(scanner);
+  if (!time) return std::nullopt;
+  DateText date{.wallTime = *day + time->sinceMidnight, .fraction = time->fraction, .hasTime = true};
+  scanner.take(" ");
+  if (!scanner.atEnd()) {
+    date.offset = scanOffset(scanner);
+    if (!date.offset || !scanner.atEnd()) return std::nullopt;
+  }
+  if (time->isLeapSecond) {
+    if (!date.offset || (date.wallTime.time_since_epoch() - *date.offset) % days{1} != seconds{0}) return std::nullopt;
+  }
+  return date;
+}
+
+std::optional<Date> instant(const DateText& date) {
+  if (!date.offset) return std::nullopt;
+  return representable(instantAt(sys_seconds{date.wallTime.time_since_epoch() - *date.offset}, date.fraction));
+}
+
+std::optional<Date> instant(const DateText& date, const adapters::TimeZone& zone) {
+  if (date.offset) return instant(date);
+  return representable(instantAt(zone.firstInstant(date.wallTime), date.fraction));
+}
+
+std::string rfc3339(Date date) {
+  const double unixSeconds = secondsSince1970(date);
+  if (!std::isfinite(unixSeconds)) return std::isnan(unixSeconds) ? "nan" : unixSeconds < 0 ? "-inf" : "inf";
+  std::array<char, 400> decimal;  // the longest double has 309 digits before the point
+  char* const end =
+      std::to_chars(decimal.data(), decimal.data() + decimal.size(), std::abs(unixSeconds), std::chars_format::fixed)
+          .ptr;
+  char* const point = std::find(decimal.data(), end, '.');
+  char* const firstDigit = point == end ? end : point + 1;
+  const bool isBefore1970 = unixSeconds < 0;
+  if (isBefore1970 && firstDigit != end) complement(firstDigit, end);
+  const sys_seconds whole{seconds{static_cast<std::int64_t>(std::floor(unixSeconds))}};
+  const sys_days day = floor<days>(whole);
+  const year_month_day fields{day};
+  const hh_mm_ss time{whole - day};
+
+  std::array<char, 48> text;
+  const int length = std::snprintf(text.data(), text.size(), "%04d-%02u-%02uT%02d:%02d:%02d",
+                                   static_cast<int>(fields.year()), static_cast<unsigned>(fields.month()),
+                                   static_cast<unsigned>(fields.day()), static_cast<int>(time.hours().count()),
+                                   static_cast<int>(time.minutes().count()), static_cast<int>(time.seconds().count()));
+  std::string result(text.data(), static_cast<std::size_t>(length));
+  if (firstDigit != end) result.append(".").append(firstDigit, end);
+  return result + 'Z';
+}
+
+}  // namespace mivo::host

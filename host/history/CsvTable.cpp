@@ -1,0 +1,138 @@
+// SPDX-License-Identifier: MIT
+#include "host/history/CsvTable.h"
+
+#include <csv.h>
+
+#include <algorithm>
+#include <array>
+#include <new>
+#include <utility>
+#include <vector>
+
+namespace mivo::host {
+namespace {
+
+/// Collects what libcsv hands over field by field into records. Its callbacks cannot stop the parser, so a fault is
+/// kept and what follows ignored until the parser returns from its piece of the text.
+class RecordCollector {
+ public:
+  RecordCollector(const std::string& fileName, const std::function<std::optional<BadRecord>(const CsvRow&)>& callback)
+      : file{fileName}, onRow{callback} {}
+
+  void field(std::string_view text) {
+    if (fault) return;
+    bytes += text;
+    ends.push_back(bytes.size());
+    lineBreaksInRecord += std::ranges::count(text, '\n');
+  }
+
+  /// `terminator` is the character that ended the record, negative at the end of the text. libcsv reports both
+  /// characters of a CRLF, the second as an empty record.
+  void endOfRecord(int terminator) {
+    if (fault) return;
+    if (!ends.empty()) deliver();
+    line += lineBreaksInRecord;
+    if (terminator == '\r' || (terminator == '\n' && !lastWasReturn)) ++line;
+    lastWasReturn = terminator == '\r';
+    bytes.clear();
+    ends.clear();
+    lineBreaksInRecord = 0;
+    ++recordsSeen;
+  }
+
+  BadRecord bad(std::string reason) const { return {.file = file, .line = line, .reason = std::move(reason)}; }
+
+  std::optional<BadRecord> fault;
+  std::int64_t recordsSeen = 0;
+
+ private:
+  void deliver() {
+    fields.clear();
+    std::size_t from = 0;
+    for (const std::size_t end : ends) {
+      fields.push_back(std::string_view{bytes}.substr(from, end - from));
+      from = end;
+    }
+    fault = onRow({line, fields});
+  }
+
+  const std::string& file;
+  const std::function<std::optional<BadRecord>(const CsvRow&)>& onRow;
+  std::string bytes;  // of the record's fields, one after the other
+  std::vector<std::size_t> ends;
+  std::vector<std::string_view> fields;
+  std::int64_t line = 1;
+  std::int64_t lineBreaksInRecord = 0;
+  bool lastWasReturn = false;
+};
+
+class Parser {
+ public:
+  explicit Parser(char separator) {
+    constexpr unsigned char options = CSV_STRICT | CSV_STRICT_FINI | CSV_REPALL_NL;
+    if (csv_init(&parser, options) != 0) throw std::bad_alloc{};
+    csv_set_delim(&parser, static_cast<unsigned char>(separator));
+    csv_set_blk_size(&parser,
+                     std::size_t{1} << 16);  // grows by this much: the default of 128 bytes makes long fields slow
+  }
+  ~Parser() { csv_free(&parser); }
+  Parser(const Parser&) = delete;
+  Parser& operator=(const Parser&) = delete;
+
+  bool parse(std::string_view piece, RecordCollector& collector) {
+    return csv_parse(&parser, piece.data(), piece.size(), takeField, takeEnd, &collector) == piece.size();
+  }
+  bool finish(RecordCollector& collector) { return csv_fini(&parser, takeField, takeEnd, &collector) == 0; }
+
+ private:
+  static void takeField(void* text, std::size_t length, void* collector) {
+    static_cast<RecordCollector*>(collector)->field({static_cast<const char*>(text), length});
+  }
+  static void takeEnd(int terminator, void* collector) {
+    static_cast<RecordCollector*>(collector)->endOfRecord(terminator);
+  }
+
+  csv_parser parser;
+};
+
+std::string_view firstLine(std::string_view text) {
+  text.remove_prefix(std::min(text.find_first_not_of("\r\n"), text.size()));
+  return text.substr(0, text.find_first_of("\r\n"));
+}
+
+}  // namespace
+
+char csvSeparator(std::string_view text) {
+  constexpr std::array candidates{',', ';', '\t'};
+  std::array<std::size_t, candidates.size()> counts{};
+  bool isQuoted = false;
+  for (const char c : firstLine(text).substr(0, longestCsvRecordInBytes)) {
+    if (c == '"') isQuoted = !isQuoted;
+    for (std::size_t index = 0; index < candidates.size(); ++index)
+      counts[index] += !isQuoted && c == candidates[index];
+  }
+  return candidates[static_cast<std::size_t>(std::ranges::max_element(counts) - counts.begin())];
+}
+
+std::optional<BadRecord> readCsv(std::string_view text, char separator, const std::string& file,
+                                 const std::function<std::optional<BadRecord>(const CsvRow&)>& onRow) {
+  constexpr std::size_t pieceInBytes = std::size_t{1} << 16;
+  RecordCollector collector{file, onRow};
+  Parser parser{separator};
+  std::size_t bytesSinceRecord = 0;
+  while (!text.empty()) {
+    const std::string_view piece = text.substr(0, pieceInBytes);
+    text.remove_prefix(piece.size());
+    const auto recordsBefore = collector.recordsSeen;
+    const bool isWellFormed = parser.parse(piece, collector);
+    if (collector.fault) return std::move(collector.fault);
+    if (!isWellFormed) return collector.bad("expected quotes only around whole fields, and doubled inside them");
+    bytesSinceRecord = collector.recordsSeen == recordsBefore ? bytesSinceRecord + piece.size() : 0;
+    if (bytesSinceRecord > longestCsvRecordInBytes) return collector.bad("expected a record of at most 1 MiB");
+  }
+  if (!parser.finish(collector))
+    return collector.bad("expected a quote that closes the one opened here, found the end of the file");
+  return std::move(collector.fault);
+}
+
+}  // namespace mivo::host

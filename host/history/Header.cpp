@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: MIT
+#include "host/history/Header.h"
+
+#include <array>
+#include <charconv>
+#include <cmath>
+
+namespace mivo::host {
+
+std::string plainHeader(std::string_view name) {
+  std::string result;
+  for (const char c : name) {
+    if (c == ' ' || c == '_' || c == '-' || c == '\t') continue;
+    result += c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+  }
+  return result;
+}
+
+std::string joined(const CsvRow& header) {
+  std::string result;
+  for (const std::string_view field : header.fields) {
+    if (result.size() > 200) break;  // more than a sentence quotes
+    if (field.data() != header.fields.front().data()) result += ',';
+    result += field;
+  }
+  return result;
+}
+
+std::optional<BadRecord> wrongFieldCount(const CsvRow& row, std::size_t expected, const std::string& file) {
+  const std::size_t count = row.fields.size();
+  if (count == expected) return std::nullopt;
+  const bool onlyEmptyOnesTooMany =
+      count > expected && std::ranges::all_of(row.fields.subspan(expected), &std::string_view::empty);
+  if (onlyEmptyOnesTooMany) return std::nullopt;
+  return BadRecord{
+      .file = file,
+      .line = row.line,
+      .reason = "expected " + std::to_string(expected) + " fields as in the header, found " + std::to_string(count)};
+}
+
+std::optional<double> decimalNumber(std::string_view text, bool decimalComma) {
+  std::array<char, 64> copy;
+  if (text.empty() || text.size() > copy.size()) return std::nullopt;
+  std::ranges::copy(text, copy.begin());
+  char* const end = copy.data() + text.size();
+  if (decimalComma && text.find('.') == std::string_view::npos)
+    if (char* const comma = std::find(copy.data(), end, ','); comma != end) *comma = '.';
+  double number = 0;
+  const auto read = std::from_chars(copy.data(), end, number);
+  if (read.ec != std::errc{} || read.ptr != end || !std::isfinite(number)) return std::nullopt;
+  return number;
+}
+
+}  // namespace mivo::host

@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <tl/expected.hpp>
+
+#include "host/history/History.h"
+#include "mivo/platform/UUIDGenerator.h"
+
+namespace mivo::host {
+
+/// Reads a snapshot, the app's own backup:
+///
+///     {"version": 1,
+///      "fasts":   [{"id"?, "start", "end" (null while it runs), "goalSeconds" (default 57600), "note"?}],
+///      "weights": [{"id"?, "date", "weightInKg"}]}
+///
+/// Strict, because a misread backup is worse than a refused one: every key is known and stands once in its object,
+/// dates carry their offset, and one fast at most is unfinished. Either list may be left out. Records without an id get
+/// one from `ids`. The first fault is the answer instead; its column is the way to the field, "fasts[12].end", so that
+/// a file of one line can be mended too. One pass, whatever the nesting. Thread: any.
+tl::expected<History, BadRecord> readSnapshot(std::string_view text, const std::string& file, const UUIDGenerator& ids);
+
+}  // namespace mivo::host

@@ -1,0 +1,150 @@
+// SPDX-License-Identifier: MIT
+#include "host/history/WeightsCsv.h"
+
+#include <array>
+#include <span>
+#include <utility>
+
+#include "host/dates/DateText.h"
+#include "host/history/CsvTable.h"
+#include "host/history/FieldRules.h"
+#include "host/history/Header.h"
+#include "host/history/History.h"
+
+namespace mivo::host {
+namespace {
+
+enum class Role { date, weight };
+
+constexpr std::array<HeaderName<Role>, 28> headerNames{{{"date", Role::date},
+                                                        {"datetime", Role::date},
+                                                        {"date/time", Role::date},
+                                                        {"time", Role::date},
+                                                        {"timestamp", Role::date},
+                                                        {"startdate", Role::date},
+                                                        {"timeofmeasurement", Role::date},
+                                                        {"logdate", Role::date},
+                                                        {"weight", Role::weight},
+                                                        {"weight(kg)", Role::weight},
+                                                        {"weightkg", Role::weight},
+                                                        {"weightinkg", Role::weight},
+                                                        {"kg", Role::weight},
+                                                        {"weight(lb)", Role::weight},
+                                                        {"weight(lbs)", Role::weight},
+                                                        {"weight(inlbs)", Role::weight},
+                                                        {"weightlb", Role::weight},
+                                                        {"weightlbs", Role::weight},
+                                                        {"lb", Role::weight},
+                                                        {"lbs", Role::weight},
+                                                        {"pounds", Role::weight},
+                                                        {"weight(st)", Role::weight},
+                                                        {"weightst", Role::weight},
+                                                        {"bodyweight", Role::weight},
+                                                        {"bodyweight(kg)", Role::weight},
+                                                        {"bodymass", Role::weight},
+                                                        {"bodymass(kg)", Role::weight},
+                                                        {"value", Role::weight}}};
+
+struct UnitName {
+  std::string_view name;
+  WeightUnit unit;
+};
+constexpr std::array<UnitName, 5> unitNames{{{"kg", WeightUnit::kilograms},
+                                             {"lb", WeightUnit::pounds},
+                                             {"lbs", WeightUnit::pounds},
+                                             {"pounds", WeightUnit::pounds},
+                                             {"st", WeightUnit::stones}}};
+
+/// The unit that a header or a cell ends with, and what stands before it.
+std::pair<std::string_view, std::optional<WeightUnit>> splitUnit(std::string_view text) {
+  for (const auto& [name, unit] : unitNames) {
+    if (!text.ends_with(name)) continue;
+    text.remove_suffix(name.size());
+    while (text.ends_with(' ')) text.remove_suffix(1);
+    return {text, unit};
+  }
+  return {text, std::nullopt};
+}
+
+bool saysNotWeighed(std::string_view cell) { return cell.empty() || cell == "NA" || cell == "--" || cell == "null"; }
+
+class WeightsReader {
+ public:
+  WeightsReader(const std::string& fileName, char separator, const adapters::TimeZone& timeZone,
+                std::optional<WeightUnit> fallback, const UUIDGenerator& uuids)
+      : file{fileName}, zone{timeZone}, ids{uuids}, unit{fallback}, decimalComma{separator != ','} {}
+
+  std::optional<BadRecord> row(const CsvRow& row) {
+    if (fieldCount == 0) return header(row);
+    if (auto bad = wrongFieldCount(row, fieldCount, file)) return bad;
+    if (saysNotWeighed(row.fields[weight.index])) return std::nullopt;
+    return sample(row);
+  }
+
+  std::vector<BodyWeightSample> samples;
+  bool hasHeader() const { return fieldCount > 0; }
+
+ private:
+  std::optional<BadRecord> header(const CsvRow& row) {
+    std::optional<BadRecord> bad;
+    const std::span<const HeaderName<Role>> names{headerNames};
+    const auto dateColumn = column(row, names, Role::date, file, bad);
+    const auto weightColumn = column(row, names, Role::weight, file, bad);
+    if (bad) return bad;
+    if (!dateColumn || !weightColumn)
+      return BadRecord{file, row.line, "header", quotable(joined(row)),
+                       "expected the columns \"date\" and \"weight_kg\""};
+    date = *dateColumn;
+    weight = *weightColumn;
+    std::string plain = plainHeader(weight.name);
+    if (plain.ends_with(')')) plain.pop_back();
+    if (const auto named = splitUnit(plain).second) unit = named;
+    fieldCount = row.fields.size();
+    return std::nullopt;
+  }
+
+  std::optional<BadRecord> sample(const CsvRow& row) {
+    const auto dateText = parseDateText(row.fields[date.index]);
+    const auto when = dateText ? instant(*dateText, zone) : std::nullopt;
+    if (!when) return bad(row, date, expectedDate);
+    const auto [digits, cellUnit] = splitUnit(row.fields[weight.index]);
+    const auto number = decimalNumber(digits, decimalComma);
+    const auto unitOfCell = cellUnit ? cellUnit : unit;
+    if (number && !unitOfCell) return bad(row, weight, "expected a unit in the header or the cell: kg, lb or st");
+    const double weightInKg = number ? *number * kilogramsPer(*unitOfCell) : 0;
+    if (!isBodyWeight(weightInKg)) return bad(row, weight, expectedWeight);
+    samples.push_back({ids.next(), *when, weightInKg});
+    return std::nullopt;
+  }
+
+  BadRecord bad(const CsvRow& row, const Column& column, std::string_view reason) const {
+    return {file, row.line, column.name, quotable(row.fields[column.index]), std::string{reason}};
+  }
+
+  const std::string& file;
+  const adapters::TimeZone& zone;
+  const UUIDGenerator& ids;
+  std::optional<WeightUnit> unit;
+  bool decimalComma;
+  std::size_t fieldCount = 0;
+  Column date, weight;
+};
+
+}  // namespace
+
+tl::expected<std::vector<BodyWeightSample>, BadRecord> readWeightsCsv(std::string_view text, const std::string& file,
+                                                                      const adapters::TimeZone& zone,
+                                                                      std::optional<WeightUnit> unit,
+                                                                      const UUIDGenerator& ids) {
+  const char separator = csvSeparator(text);
+  WeightsReader reader{file, separator, zone, unit, ids};
+  auto bad = readCsv(text, separator, file, [&](const CsvRow& row) { return reader.row(row); });
+  if (!bad && !reader.hasHeader())
+    bad = BadRecord{.file = file,
+                    .reason = "expected a header with the columns \"date\" and \"weight_kg\", found an empty file"};
+  if (bad) return tl::unexpected{std::move(*bad)};
+  sortByDate(reader.samples);
+  return std::move(reader.samples);
+}
+
+}  // namespace mivo::host
