@@ -75,6 +75,8 @@ std::vector<Fast> sortedByStart(Fasts fasts) {
   return sorted;
 }
 
+bool isByStart(Fasts fasts) { return std::ranges::is_sorted(fasts, std::less{}, &Fast::start); }
+
 // Strictly, because turning the list around would turn fasts of equal start around too.
 bool isStrictlyNewestFirst(Fasts fasts) {
   const auto isOutOfOrder = [](const Fast& one, const Fast& next) { return !(next.start < one.start); };
@@ -83,12 +85,18 @@ bool isStrictlyNewestFirst(Fasts fasts) {
 
 }  // namespace
 
-FastsByStart::FastsByStart(Fasts fasts) : ordered{fasts} {
-  if (std::ranges::is_sorted(fasts, std::less{}, &Fast::start)) return;
+void sortByStart(std::vector<Fast>& fasts) {
+  if (isByStart(fasts)) return;
   if (isStrictlyNewestFirst(fasts))
-    copies.assign(fasts.rbegin(), fasts.rend());
+    std::ranges::reverse(fasts);
   else
-    copies = sortedByStart(fasts);
+    fasts = sortedByStart(fasts);
+}
+
+FastsByStart::FastsByStart(Fasts fasts) : ordered{fasts} {
+  if (isByStart(fasts)) return;
+  copies.assign(fasts.begin(), fasts.end());
+  sortByStart(copies);
   ordered = copies;
 }
 

@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: MIT
+#include "mivo/calculations/SummaryTotals.h"
+
+#include <cmath>
+#include <cstdlib>
+#include <iostream>
+
+namespace mivo {
+namespace {
+
+std::int64_t wholeHours(double seconds) {
+  const double hours = std::trunc(seconds / secondsPerHour);
+  constexpr double limit = 0x1p63;
+  if (hours >= -limit && hours < limit) return static_cast<std::int64_t>(hours);
+  std::cerr << "The fasts add up to " << hours << " hours, more than can be counted." << std::endl;
+  std::abort();
+}
+
+}  // namespace
+
+SummaryTotals summaryTotals(std::span<const FinishedFastingDataEntry> fasts) {
+  const double seconds = totalDuration(fasts);
+  return {.totalFasts = std::ssize(fasts),
+          .totalHours = wholeHours(seconds),
+          .averageFast = fasts.empty() ? 0 : seconds / static_cast<double>(fasts.size()),
+          .longestFast = longestFast(fasts)};
+}
+
+}  // namespace mivo
