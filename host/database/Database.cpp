@@ -1,0 +1,261 @@
+// SPDX-License-Identifier: MIT
+#include "host/database/Database.h"
+
+#include <SQLiteCpp/Database.h>
+#include <SQLiteCpp/Exception.h>
+#include <SQLiteCpp/Statement.h>
+#include <SQLiteCpp/Transaction.h>
+#include <sqlite3.h>
+
+#include <array>
+#include <chrono>
+#include <cstring>
+#include <system_error>
+#include <utility>
+
+#include "adapters/system/UserDirectories.h"
+#include "host/database/Schema.h"
+#include "host/dates/DateText.h"
+
+namespace mivo::host {
+namespace {
+
+namespace fs = std::filesystem;
+using Kind = DatabaseError::Kind;
+
+constexpr int millisecondsToWaitForALock = 5000;
+
+// Identifiers as 16 bytes, the most significant first, so that they sort and read as their text does.
+using IDBytes = std::array<unsigned char, 16>;
+
+IDBytes bytes(UUID id) {
+  IDBytes result;
+  for (std::size_t place = 0; place < result.size(); ++place) {
+    const std::uint64_t half = place < 8 ? id.high : id.low;
+    result[place] = static_cast<unsigned char>(half >> (56 - 8 * (place % 8)));
+  }
+  return result;
+}
+
+UUID identifier(const SQLite::Column& column) {
+  IDBytes held{};
+  std::memcpy(held.data(), column.getBlob(), held.size());
+  UUID id;
+  for (std::size_t place = 0; place < held.size(); ++place) {
+    std::uint64_t& half = place < 8 ? id.high : id.low;
+    half = half << 8 | held[place];
+  }
+  return id;
+}
+
+void bind(SQLite::Statement& statement, int place, UUID id) {
+  const IDBytes held = bytes(id);
+  statement.bind(place, held.data(), static_cast<int>(held.size()));
+}
+
+void bind(SQLite::Statement& statement, const FastRecord& record) {
+  const auto& [fast, note] = record;
+  bind(statement, 1, fast.id);
+  statement.bind(2, secondsSince1970(fast.start));
+  if (fast.finished)
+    statement.bind(3, secondsSince1970(fast.finished->end));
+  else
+    statement.bind(3);
+  statement.bind(4, fast.goalSeconds);
+  statement.bind(5, note);
+}
+
+void bind(SQLite::Statement& statement, const BodyWeightSample& sample) {
+  bind(statement, 1, sample.id);
+  statement.bind(2, secondsSince1970(sample.date));
+  statement.bind(3, sample.weightInKg);
+}
+
+FastRecord fastRecord(SQLite::Statement& row) {
+  const UUID id = identifier(row.getColumn(0));
+  const Date start = dateSince1970(row.getColumn(1));
+  const SQLite::Column end = row.getColumn(2);
+  const std::int64_t goalSeconds = row.getColumn(3);
+  return {end.isNull() ? mivo::ongoingFast(id, start, goalSeconds)
+                       : finishedFast(id, start, dateSince1970(end), goalSeconds),
+          row.getColumn(4)};
+}
+
+BodyWeightSample weightSample(SQLite::Statement& row) {
+  return {identifier(row.getColumn(0)), dateSince1970(row.getColumn(1)), row.getColumn(2)};
+}
+
+constexpr const char* selectFasts = "SELECT id, startedAt, endedAt, goalSeconds, note FROM fasts ";
+constexpr const char* selectWeights = "SELECT id, weighedAt, weightInKg FROM weights ";
+constexpr const char* deleteFast =
+    "DELETE FROM fasts WHERE id = ? AND startedAt = ? AND endedAt IS ? AND goalSeconds = ? AND note = ?";
+constexpr const char* deleteWeight = "DELETE FROM weights WHERE id = ? AND weighedAt = ? AND weightInKg = ?";
+constexpr const char* insertFast =
+    "INSERT INTO fasts (id, startedAt, endedAt, goalSeconds, note) VALUES (?, ?, ?, ?, ?)";
+constexpr const char* insertWeight = "INSERT INTO weights (id, weighedAt, weightInKg) VALUES (?, ?, ?)";
+
+DatabaseError conflict(const fs::path& file, const char* sentence) {
+  return {Kind::conflict, file.string() + ": " + sentence};
+}
+
+DatabaseError translated(const fs::path& file, const SQLite::Exception& error) {
+  const std::string at = file.string() + ": ";
+  switch (error.getErrorCode()) {
+    case SQLITE_CORRUPT:
+    case SQLITE_NOTADB:
+      return {Kind::damaged, at + "the database is damaged: " + error.what()};
+    case SQLITE_CONSTRAINT:
+      if (std::strstr(error.what(), "oneRunningFast")) return conflict(file, "another fast is running already");
+      return {Kind::conflict, at + "a record cannot be added: " + error.what()};
+    case SQLITE_FULL:
+      return {Kind::unavailable, at + "the disk is full; nothing was changed"};
+    case SQLITE_BUSY:
+      return {Kind::unavailable, at + "another program keeps it locked; nothing was changed"};
+    case SQLITE_READONLY:
+      return {Kind::unavailable, at + "it may not be written; nothing was changed"};
+    default:
+      return {Kind::unavailable, at + error.what()};
+  }
+}
+
+// Runs `body`, and turns what SQLite throws into a sentence that names the file.
+template <class Body>
+auto translating(const fs::path& file, Body&& body) {
+  try {
+    return body();
+  } catch (const SQLite::Exception& error) {
+    throw translated(file, error);
+  }
+}
+
+template <class Record>
+void removeAll(SQLite::Database& database, const fs::path& file, const char* sql, const std::vector<Record>& records) {
+  if (records.empty()) return;
+  SQLite::Statement statement{database, sql};
+  for (const Record& record : records) {
+    bind(statement, record);
+    if (statement.exec() != 1) throw conflict(file, "a record was changed meanwhile; nothing was changed");
+    statement.reset();
+  }
+}
+
+template <class Record>
+void addAll(SQLite::Database& database, const char* sql, const std::vector<Record>& records) {
+  if (records.empty()) return;
+  SQLite::Statement statement{database, sql};
+  for (const Record& record : records) {
+    bind(statement, record);
+    statement.exec();
+    statement.reset();
+  }
+}
+
+void makeFolder(const fs::path& file) {
+  std::error_code error;
+  if (file.has_parent_path()) fs::create_directories(file.parent_path(), error);
+  if (error)
+    throw DatabaseError{Kind::unavailable,
+                        file.parent_path().string() + ": the folder cannot be made: " + error.message()};
+}
+
+}  // namespace
+
+struct Database::Connection {
+  explicit Connection(fs::path path)
+      : file{std::move(path)},
+        database{file.string(), SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE, millisecondsToWaitForALock} {
+    database.exec("PRAGMA journal_mode = WAL");
+    database.exec("PRAGMA synchronous = FULL");
+    database.exec("PRAGMA foreign_keys = ON");
+    const std::string verdict = database.execAndGet("PRAGMA quick_check(1)");
+    if (verdict != "ok") throw DatabaseError{Kind::damaged, file.string() + ": the database is damaged: " + verdict};
+    migrate(database);
+  }
+
+  template <class Record>
+  std::optional<Record> find(const std::string& sql, std::optional<UUID> id, Record (*read)(SQLite::Statement&)) {
+    return translating(file, [&]() -> std::optional<Record> {
+      SQLite::Statement statement{database, sql};
+      if (id) bind(statement, 1, *id);
+      return statement.executeStep() ? std::optional{read(statement)} : std::nullopt;
+    });
+  }
+
+  fs::path file;
+  SQLite::Database database;
+};
+
+Database::Database(const fs::path& file) {
+  makeFolder(file);
+  connection = translating(file, [&] { return std::make_unique<Connection>(file); });
+}
+
+Database::~Database() = default;
+Database::Database(Database&&) noexcept = default;
+Database& Database::operator=(Database&&) noexcept = default;
+
+History Database::history() const {
+  return translating(file(), [&] {
+    SQLite::Transaction snapshot{connection->database};
+    History history;
+    SQLite::Statement fasts{connection->database, std::string{selectFasts} + "ORDER BY startedAt, place"};
+    while (fasts.executeStep()) history.fasts.push_back(fastRecord(fasts));
+    SQLite::Statement weights{connection->database, std::string{selectWeights} + "ORDER BY weighedAt, place"};
+    while (weights.executeStep()) history.weights.push_back(weightSample(weights));
+    return history;
+  });
+}
+
+std::optional<FastRecord> Database::fast(UUID id) const {
+  return connection->find(std::string{selectFasts} + "WHERE id = ?", id, fastRecord);
+}
+
+std::optional<FastRecord> Database::runningFast() const {
+  return connection->find(std::string{selectFasts} + "WHERE endedAt IS NULL", std::nullopt, fastRecord);
+}
+
+std::optional<BodyWeightSample> Database::weight(UUID id) const {
+  return connection->find(std::string{selectWeights} + "WHERE id = ?", id, weightSample);
+}
+
+void Database::apply(const HistoryChange& change) {
+  translating(file(), [&] {
+    SQLite::Database& database = connection->database;
+    SQLite::Transaction transaction{database, SQLite::TransactionBehavior::IMMEDIATE};
+    removeAll(database, file(), deleteFast, change.removedFasts);
+    removeAll(database, file(), deleteWeight, change.removedWeights);
+    addAll(database, insertFast, change.addedFasts);
+    addAll(database, insertWeight, change.addedWeights);
+    transaction.commit();
+  });
+}
+
+std::int64_t Database::version() const {
+  return translating(
+      file(), [&]() -> std::int64_t { return connection->database.execAndGet("PRAGMA data_version").getInt64(); });
+}
+
+const fs::path& Database::file() const { return connection->file; }
+
+OpenedDatabase openOrSetAside(const fs::path& file) {
+  try {
+    return {Database{file}, std::nullopt};
+  } catch (const DatabaseError& error) {
+    if (error.kind != Kind::damaged) throw;
+  }
+  const auto now = std::chrono::floor<std::chrono::seconds>(std::chrono::system_clock::now());
+  const std::string suffix = ".damaged-" + rfc3339(now);
+  const fs::path aside = file.string() + suffix;
+  for (const char* part : {"", "-wal", "-shm"}) {
+    std::error_code error;
+    fs::rename(file.string() + part, aside.string() + part, error);
+    if (error && *part == '\0')
+      throw DatabaseError{Kind::unavailable,
+                          file.string() + ": it is damaged and cannot be moved aside: " + error.message()};
+  }
+  return {Database{file}, aside};
+}
+
+fs::path ownDatabaseFile() { return adapters::dataDirectory() / "mivo.sqlite"; }
+
+}  // namespace mivo::host

@@ -1,0 +1,76 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <memory>
+#include <optional>
+#include <stdexcept>
+#include <string>
+
+#include "host/database/HistoryChange.h"
+#include "host/history/History.h"
+
+namespace mivo::host {
+
+/// What went wrong with the user's database; `what()` is a sentence that names the file.
+class DatabaseError : public std::runtime_error {
+ public:
+  enum class Kind {
+    damaged,      ///< it is not a database, or its contents do not hold together
+    tooNew,       ///< a later version of the program has written it
+    conflict,     ///< a record is not, or no longer, as the change takes it to be
+    unavailable,  ///< it cannot be read or written: permissions, a full disk, another program that keeps it locked
+  };
+
+  DatabaseError(Kind what, const std::string& sentence) : std::runtime_error{sentence}, kind{what} {}
+
+  const Kind kind;
+};
+
+/// The user's fasts and weights on disk. Several programs may have it open at once and see each other's changes.
+///
+/// What was written is on disk when the call returns, so that a program may be killed at any moment and start again
+/// without repair. Thread: one at a time.
+class Database {
+ public:
+  /// Opens the database, makes it and its folder where they are missing, and brings an older one up to date. Throws
+  /// DatabaseError.
+  explicit Database(const std::filesystem::path& file);
+  ~Database();
+  Database(Database&&) noexcept;
+  Database& operator=(Database&&) noexcept;
+
+  /// Everything: fasts by start and weights by date, those of one instant in the order in which they were added.
+  History history() const;
+
+  std::optional<FastRecord> fast(UUID id) const;
+  std::optional<FastRecord> runningFast() const;
+  std::optional<BodyWeightSample> weight(UUID id) const;
+
+  /// Does a change as a whole. Throws DatabaseError: a conflict where a record that it takes away is not there as the
+  /// change has it, where one that it adds would have the id of another, and where a second fast would be running.
+  void apply(const HistoryChange& change);
+
+  /// Another number than last time: another program has changed something since.
+  std::int64_t version() const;
+
+  const std::filesystem::path& file() const;
+
+ private:
+  struct Connection;
+  std::unique_ptr<Connection> connection;
+};
+
+/// Opens the database like the constructor, but moves a damaged one aside and starts an empty one in its place.
+/// `setAside` is then the path under which the damaged one is kept.
+struct OpenedDatabase {
+  Database database;
+  std::optional<std::filesystem::path> setAside;
+};
+OpenedDatabase openOrSetAside(const std::filesystem::path& file);
+
+/// Where the app and the command line keep a user's database: "mivo/mivo.sqlite" in the user's data folder.
+std::filesystem::path ownDatabaseFile();
+
+}  // namespace mivo::host

@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: MIT
+#include "host/database/Schema.h"
+
+#include <SQLiteCpp/Transaction.h>
+
+#include <array>
+#include <string>
+
+#include "host/database/Database.h"
+
+namespace mivo::host {
+namespace {
+
+// Never edit a step that has shipped: append one.
+//
+// Dates are seconds since 1970 as doubles, so that they come back to the last bit. `place` keeps the order in which
+// records were added, which decides between equal dates.
+constexpr std::array steps{
+    R"(CREATE TABLE fasts (
+         place INTEGER PRIMARY KEY AUTOINCREMENT,
+         id BLOB NOT NULL UNIQUE CHECK (length(id) = 16),
+         startedAt REAL NOT NULL,
+         endedAt REAL,
+         goalSeconds INTEGER NOT NULL CHECK (goalSeconds >= 0),
+         note TEXT NOT NULL
+       ) STRICT;
+       CREATE INDEX fastsByStart ON fasts (startedAt, place);
+       CREATE UNIQUE INDEX oneRunningFast ON fasts (endedAt IS NULL) WHERE endedAt IS NULL;
+       CREATE TABLE weights (
+         place INTEGER PRIMARY KEY AUTOINCREMENT,
+         id BLOB NOT NULL UNIQUE CHECK (length(id) = 16),
+         weighedAt REAL NOT NULL,
+         weightInKg REAL NOT NULL CHECK (weightInKg > 0)
+       ) STRICT;
+       CREATE INDEX weightsByDate ON weights (weighedAt, place);)",
+};
+
+int layout(SQLite::Database& database) { return database.execAndGet("PRAGMA user_version").getInt(); }
+
+}  // namespace
+
+void migrate(SQLite::Database& database) {
+  constexpr int newest = static_cast<int>(steps.size());
+  while (layout(database) < newest) {
+    SQLite::Transaction transaction{database, SQLite::TransactionBehavior::IMMEDIATE};
+    const int present = layout(database);  // again: another program may have been quicker
+    if (present >= newest) break;
+    database.exec(steps[static_cast<std::size_t>(present)]);
+    database.exec("PRAGMA user_version = " + std::to_string(present + 1));
+    transaction.commit();
+  }
+  if (layout(database) > newest)
+    throw DatabaseError{DatabaseError::Kind::tooNew,
+                        database.getFilename() + ": written by a later version of Mivo; update to open it"};
+}
+
+}  // namespace mivo::host

@@ -1,0 +1,165 @@
+// SPDX-License-Identifier: MIT
+#include "host/database/Database.h"
+
+#include <SQLiteCpp/Database.h>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <thread>
+#include <vector>
+
+#include "TemporaryFolder.h"
+
+namespace mivo::host {
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::StartsWith;
+
+Date at(double hours) { return dateSince1970(1.77e9 + hours * secondsPerHour); }
+
+FastRecord fast(std::uint64_t id, double startHours, double endHours, std::string note = "") {
+  return {finishedFast({7, id}, at(startHours), at(endHours), 57600), std::move(note)};
+}
+
+FastRecord running(std::uint64_t id, double startHours) { return {ongoingFast({7, id}, at(startHours), 57600), ""}; }
+
+HistoryChange adding(std::vector<FastRecord> fasts) {
+  HistoryChange change;
+  change.addedFasts = std::move(fasts);
+  return change;
+}
+
+class DatabaseTest : public testing::Test {
+ protected:
+  Database open() const { return Database{file}; }
+
+  DatabaseError failure(Database& database, const HistoryChange& change) const {
+    try {
+      database.apply(change);
+    } catch (const DatabaseError& error) {
+      return error;
+    }
+    ADD_FAILURE() << "the change was done";
+    return {DatabaseError::Kind::unavailable, ""};
+  }
+
+  TemporaryFolder folder;
+  std::filesystem::path file = folder.path / "some" / "folder" / "mivo.sqlite";
+};
+
+TEST_F(DatabaseTest, givesBackToTheLastBitWhatWasWritten) {
+  const FastRecord third{finishedFast({1, 2}, dateSince1970(0.1 + 0.2), dateSince1970(1e9 + 1.0 / 3), 1),
+                         "a \"note\"\n☕"};
+  const std::vector<BodyWeightSample> weights{{{3, 4}, at(1), 81.4}, {{3, 5}, at(1), 0.1 + 0.2}};
+  HistoryChange change = adding({running(9, 48), fast(1, 0, 16), third});
+  change.addedWeights = weights;
+  open().apply(change);
+  const History history = open().history();
+  EXPECT_THAT(history.fasts, ElementsAre(third, fast(1, 0, 16), running(9, 48)));
+  EXPECT_EQ(history.weights, weights);
+  EXPECT_EQ(open().runningFast(), running(9, 48));
+  EXPECT_EQ(open().fast({1, 2}), third);
+  EXPECT_EQ(open().weight({3, 5}), weights[1]);
+  EXPECT_EQ(open().fast({3, 5}), std::nullopt);
+}
+
+TEST_F(DatabaseTest, undoesAnEditAsAWhole) {
+  Database database = open();
+  database.apply(adding({fast(1, 0, 16), fast(2, 20, 30)}));
+  const History before = database.history();
+  HistoryChange merge;
+  merge.removedFasts = before.fasts;
+  merge.addedFasts = {fast(1, 0, 30)};
+  database.apply(merge);
+  EXPECT_THAT(database.history().fasts, ElementsAre(fast(1, 0, 30)));
+  database.apply(inverse(merge));
+  EXPECT_EQ(database.history(), before);
+}
+
+TEST_F(DatabaseTest, changesNothingOnAConflict) {
+  Database database = open();
+  database.apply(adding({fast(1, 0, 16), running(2, 20)}));
+  const History before = database.history();
+
+  HistoryChange stale = adding({fast(5, 40, 50)});
+  stale.removedFasts = {fast(1, 0, 15)};
+  const struct {
+    const char* name;
+    HistoryChange change;
+    const char* says;
+  } rows[] = {
+      {"taken away as it no longer is", stale, "a record was changed meanwhile"},
+      {"a second running fast", adding({fast(4, 50, 60), running(3, 21)}), "another fast is running already"},
+      {"an id that is taken", adding({fast(4, 50, 60), fast(1, 70, 80)}), "a record cannot be added"},
+  };
+  for (const auto& [name, change, says] : rows) {
+    const DatabaseError error = failure(database, change);
+    EXPECT_EQ(error.kind, DatabaseError::Kind::conflict) << name;
+    EXPECT_THAT(error.what(), StartsWith(file.string() + ": ")) << name;
+    EXPECT_THAT(error.what(), HasSubstr(says)) << name;
+    EXPECT_EQ(database.history(), before) << name;
+  }
+}
+
+TEST_F(DatabaseTest, showsWhatAnotherConnectionWrote) {
+  Database app = open(), commandLine = open();
+  const std::int64_t before = app.version();
+  app.apply(adding({fast(1, 0, 16)}));
+  EXPECT_EQ(app.version(), before) << "its own changes are no news";
+  commandLine.apply(adding({fast(2, 20, 30)}));
+  EXPECT_NE(app.version(), before);
+  EXPECT_EQ(app.history().fasts.size(), 2u);
+}
+
+TEST_F(DatabaseTest, isMadeOnceByManyAtATime) {
+  std::vector<std::jthread> programs;
+  for (std::uint64_t id = 1; id <= 8; ++id)
+    programs.emplace_back([&, id] {
+      const double start = static_cast<double>(id);
+      for (std::uint64_t round = 0; round < 5; ++round) open().apply(adding({fast(id * 10 + round, start, start + 1)}));
+    });
+  programs.clear();
+  EXPECT_EQ(open().history().fasts.size(), 40u);
+}
+
+TEST_F(DatabaseTest, movesADamagedFileAsideAndSaysWhere) {
+  std::filesystem::create_directories(file.parent_path());
+  std::ofstream{file} << "This is not a database, it is a letter of at least one hundred bytes to whom it may concern: "
+                         "the contents matter to somebody.";
+  EXPECT_THROW(open(), DatabaseError);
+  const OpenedDatabase opened = openOrSetAside(file);
+  ASSERT_TRUE(opened.setAside);
+  EXPECT_THAT(opened.setAside->string(), StartsWith(file.string() + ".damaged-"));
+  EXPECT_GT(std::filesystem::file_size(*opened.setAside), 100u);
+  EXPECT_THAT(opened.database.history().fasts, IsEmpty());
+}
+
+TEST_F(DatabaseTest, leavesALaterVersionsFileAlone) {
+  open().apply(adding({fast(1, 0, 16)}));
+  SQLite::Database{file.string(), SQLite::OPEN_READWRITE}.exec("PRAGMA user_version = 1000");
+  try {
+    openOrSetAside(file);
+    FAIL() << "it was opened";
+  } catch (const DatabaseError& error) {
+    EXPECT_EQ(error.kind, DatabaseError::Kind::tooNew);
+    EXPECT_EQ(error.what(), file.string() + ": written by a later version of Mivo; update to open it");
+  }
+}
+
+TEST_F(DatabaseTest, saysWhatStandsInTheWayOfAFolder) {
+  std::ofstream{folder.path / "some"} << "a file where a folder is needed";
+  try {
+    open();
+    FAIL() << "it was opened";
+  } catch (const DatabaseError& error) {
+    EXPECT_EQ(error.kind, DatabaseError::Kind::unavailable);
+    EXPECT_THAT(error.what(), StartsWith(file.parent_path().string() + ": the folder cannot be made"));
+  }
+}
+
+}  // namespace
+}  // namespace mivo::host
