@@ -19,6 +19,7 @@
 #include "mivo/model/Date.h"
 #include "mivo/model/UUID.h"
 #include "mivo/store/Action.h"
+#include "mivo/store/Names.h"
 #include "mivo/store/Observed.h"
 #include "mivo/store/Presentation.h"
 
@@ -27,38 +28,6 @@ namespace mivo {
 // How states and actions read in test messages and issue reports:
 //
 //     didTapBar{0: 6BA7B810-...}   {totalFasts: 3, now: 2026-07-01T12:00:00Z, data: [...], timeRange: week}
-
-/// "didTapBar": the last part of a type's or an enumerator's name, as the compiler spells it.
-constexpr std::string_view lastNamePart(std::string_view name) {
-  name = name.substr(0, name.find_first_of("<;]"));
-  const auto colon = name.find_last_of(':');
-  return colon == std::string_view::npos ? name : name.substr(colon + 1);
-}
-
-template <class Type>
-constexpr std::string_view typeName() {
-  const std::string_view pretty = __PRETTY_FUNCTION__;
-  return lastNamePart(pretty.substr(pretty.find("Type = ") + 7));
-}
-
-template <auto enumerator>
-constexpr std::string_view enumeratorName() {
-  const std::string_view pretty = __PRETTY_FUNCTION__;
-  const std::string_view name = pretty.substr(pretty.find("enumerator = ") + 13);
-  return name.front() == '(' ? std::string_view{} : lastNamePart(name);
-}
-
-/// "week"; the number of a value outside the first 32, or without a name.
-template <class Enumeration>
-  requires std::is_enum_v<Enumeration>
-std::string enumeratorText(Enumeration value) {
-  static constexpr auto names = []<std::size_t... index>(std::index_sequence<index...>) {
-    return std::array{enumeratorName<static_cast<Enumeration>(index)>()...};
-  }(std::make_index_sequence<32>{});
-  const auto number = static_cast<long long>(value);
-  const bool isNamed = number >= 0 && number < 32 && !names[static_cast<std::size_t>(number)].empty();
-  return isNamed ? std::string{names[static_cast<std::size_t>(number)]} : std::to_string(number);
-}
 
 template <class Candidate>
 inline constexpr bool isOptional = false;
@@ -69,13 +38,6 @@ template <class Candidate>
 inline constexpr bool isPair = false;
 template <class First, class Second>
 inline constexpr bool isPair<std::pair<First, Second>> = true;
-
-/// "timeRange", for `&State::timeRange`.
-template <auto member>
-constexpr std::string_view memberName() {
-  const std::string_view pretty = __PRETTY_FUNCTION__;
-  return lastNamePart(pretty.substr(pretty.find("member = ") + 9));
-}
 
 template <auto member, class Visit>
 void fields(const Write<member>& write, Visit&& visit) {

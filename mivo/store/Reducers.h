@@ -9,8 +9,8 @@
 #include "mivo/platform/IssueReporting.h"
 #include "mivo/store/Action.h"
 #include "mivo/store/Effect.h"
+#include "mivo/store/Names.h"
 #include "mivo/store/Presentation.h"
-#include "mivo/store/Print.h"
 
 namespace mivo {
 

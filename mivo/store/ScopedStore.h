@@ -5,8 +5,8 @@
 #include <type_traits>
 #include <utility>
 
-#include "mivo/store/Action.h"
 #include "mivo/platform/Subscription.h"
+#include "mivo/store/Action.h"
 
 namespace mivo {
 

@@ -17,11 +17,11 @@
 #include "mivo/platform/DependencyContext.h"
 #include "mivo/platform/IssueReporting.h"
 #include "mivo/platform/MainQueue.h"
+#include "mivo/platform/Subscription.h"
 #include "mivo/platform/TaskRunner.h"
 #include "mivo/store/Effect.h"
 #include "mivo/store/Presentation.h"
 #include "mivo/store/ScopedStore.h"
-#include "mivo/platform/Subscription.h"
 
 namespace mivo {
 

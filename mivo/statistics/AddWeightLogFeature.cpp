@@ -1,0 +1,105 @@
+// SPDX-License-Identifier: MIT
+#include "mivo/statistics/AddWeightLogFeature.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "mivo/statistics/WeightText.h"
+
+namespace mivo {
+namespace {
+
+using Feature = AddWeightLogFeature;
+using State = Feature::State;
+using Action = Feature::Action;
+
+/// A tenth of a kilogram or a pound; a whole pound where stones and pounds are shown.
+double stepInKg(WeightUnit unit) {
+  return unit == WeightUnit::stones ? kilogramsPer(WeightUnit::pounds) : kilogramsPer(unit) / 10;
+}
+
+void edited(State& state) {
+  state.savingState = Feature::SavingState::notSaved;
+  state.problem = std::nullopt;
+}
+
+/// The next weight up or down that the field can show, so that a tap never seems to do nothing.
+void step(State& state, int direction) {
+  const double inKg = stepInKg(state.weightUnit);
+  const double steps = std::round(state.weightInKg / inKg) + direction;
+  if (steps < 1 || steps * inKg >= heaviestWeightInKg) return;
+  state.weightInKg = steps * inKg;
+  state.typedText = std::nullopt;
+  edited(state);
+}
+
+void didChangeText(State& state, const std::string& text) {
+  const auto weight = parseWeight(text, state.weightUnit);
+  if (weight) state.weightInKg = *weight;
+  state.typedText = text;
+  edited(state);
+}
+
+std::optional<Feature::Problem> problemOf(const State& state, Date now) {
+  const auto& typed = *state.typedText;
+  if (typed && !parseWeight(*typed, state.weightUnit)) return Feature::Problem::notAWeight;
+  if (*state.logDate > now) return Feature::Problem::dateInFuture;
+  return std::nullopt;
+}
+
+void didTapSave(const Feature& feature, State& state) {
+  if (state.savingState == Feature::SavingState::saving) return;
+  state.problem = problemOf(state, feature.date->now());
+  if (state.problem->has_value()) return;
+  state.savingState = Feature::SavingState::saving;
+  state.pendingSample = BodyWeightSample{feature.uuid->next(), state.logDate, state.weightInKg};
+}
+
+void didSave(State& state, Date now) {
+  state.savingState = Feature::SavingState::saved;
+  state.pendingSample = std::nullopt;
+  state.typedText = std::nullopt;
+  state.failure = std::string{};
+  state.logDate = now;  // for the next weighing
+}
+
+void didFail(State& state, const std::string& reason) {
+  state.savingState = Feature::SavingState::failed;
+  state.pendingSample = std::nullopt;
+  state.failure = reason;
+}
+
+}  // namespace
+
+auto AddWeightLogFeature::reduce(State& state, const Action& action) const -> Effect<Action> {
+  if (const auto* text = std::get_if<Action::didChangeText>(&action)) didChangeText(state, text->text);
+  if (std::holds_alternative<Action::didTapIncrease>(action)) step(state, 1);
+  if (std::holds_alternative<Action::didTapDecrease>(action)) step(state, -1);
+  if (const auto* changed = std::get_if<Action::didChangeDate>(&action)) {
+    state.logDate = changed->date;
+    edited(state);
+  }
+  if (const auto* changed = std::get_if<Action::didChangeUnit>(&action)) {
+    state.weightUnit = changed->unit;
+    state.typedText = std::nullopt;
+  }
+  if (std::holds_alternative<Action::didTapSave>(action)) didTapSave(*this, state);
+  if (std::holds_alternative<Action::didSave>(action)) didSave(state, date->now());
+  if (const auto* failed = std::get_if<Action::didFailToSave>(&action)) didFail(state, failed->reason);
+  return {};
+}
+
+std::string weightFieldText(const AddWeightLogFeature::State& state, const NumberFormatter& numbers,
+                            const MassFormatter& masses) {
+  const auto& typed = *state.typedText;
+  return typed ? *typed : weightFieldText(state.weightInKg, state.weightUnit, numbers, masses);
+}
+
+std::string problemText(const AddWeightLogFeature::State& state, const TextLookup& texts) {
+  if (state.savingState == Feature::SavingState::failed) return state.failure;
+  if (state.problem == Feature::Problem::notAWeight) return texts.text("Type your weight as a number, such as 81.4.");
+  if (state.problem == Feature::Problem::dateInFuture) return texts.text("This date has not come yet.");
+  return {};
+}
+
+}  // namespace mivo

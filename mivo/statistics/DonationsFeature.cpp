@@ -1,0 +1,68 @@
+// SPDX-License-Identifier: MIT
+#include "mivo/statistics/DonationsFeature.h"
+
+#include <algorithm>
+#include <exception>
+
+#include "mivo/model/Translatable.h"
+
+namespace mivo {
+namespace {
+
+using Feature = DonationsFeature;
+using State = Feature::State;
+using Action = Feature::Action;
+
+constexpr std::string_view nothingSetUp = translatable("No ways to donate are set up.");
+
+Effect<Action> load(const Feature& feature, State& state) {
+  if (state.loadingState == Feature::LoadingState::loading) return {};
+  state.loadingState = Feature::LoadingState::loading;
+  return Effect<Action>::run(
+      [](const Send<Action>& send, std::stop_token stop, const Client<DonationClient>& donations) {
+        if (!donations) return send(Action::didFailToLoad{std::string{nothingSetUp}});
+        try {
+          send(Action::didLoad{donations->products(stop)});
+        } catch (const std::exception& error) {
+          send(Action::didFailToLoad{error.what()});
+        }
+      },
+      feature.donations);
+}
+
+void didLoad(State& state, const DonationProducts& products) {
+  state.oneTimeProducts = products.oneTime;
+  state.recurringProducts = products.recurring;
+  state.loadingState = Feature::LoadingState::loaded;
+  state.failure = std::string{};
+}
+
+const DonationProduct* product(const State& state, const std::string& id) {
+  for (const auto* list : {&*state.oneTimeProducts, &*state.recurringProducts})
+    if (const auto found = std::ranges::find(*list, id, &DonationProduct::id); found != list->end()) return found;
+  return nullptr;
+}
+
+Effect<Action> open(const Feature& feature, const State& state, const std::string& id) {
+  const DonationProduct* tapped = product(state, id);
+  if (!tapped || !feature.links) return {};
+  return Effect<Action>::run([](const Send<Action>&, std::stop_token, const Client<LinkOpener>& links,
+                                const std::string& url) { links->open(url); },
+                             feature.links, tapped->url);
+}
+
+}  // namespace
+
+auto DonationsFeature::reduce(State& state, const Action& action) const -> Effect<Action> {
+  if (std::holds_alternative<Action::onAppear>(action) || std::holds_alternative<Action::didTapRetry>(action))
+    return load(*this, state);
+  if (const auto* loaded = std::get_if<Action::didLoad>(&action)) didLoad(state, loaded->products);
+  if (const auto* failed = std::get_if<Action::didFailToLoad>(&action)) {
+    state.loadingState = Feature::LoadingState::failed;
+    state.failure = failed->reason;
+  }
+  if (const auto* tapped = std::get_if<Action::didTapProduct>(&action)) return open(*this, state, tapped->id);
+  return {};
+}
+
+}  // namespace mivo

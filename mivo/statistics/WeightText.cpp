@@ -1,0 +1,104 @@
+// SPDX-License-Identifier: MIT
+#include "mivo/statistics/WeightText.h"
+
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <cstddef>
+#include <cstdint>
+#include <string>
+
+namespace mivo {
+namespace {
+
+// The first digit of each script that a keyboard may type; nine more follow it.
+constexpr std::array<std::uint32_t, 6> zeros{0x660, 0x6F0, 0x966, 0x9E6, 0xE50, 0xFF10};
+constexpr std::uint32_t arabicDecimalSign = 0x66B;
+
+std::uint32_t nextCodePoint(std::string_view& text) {
+  const auto first = static_cast<unsigned char>(text.front());
+  const std::size_t length = first < 0x80 ? 1 : first < 0xE0 ? 2 : first < 0xF0 ? 3 : 4;
+  std::uint32_t point = length == 1 ? first : first & (0x7Fu >> length);
+  for (std::size_t index = 1; index < length && index < text.size(); ++index)
+    point = point << 6 | (static_cast<unsigned char>(text[index]) & 0x3Fu);
+  text.remove_prefix(std::min(length, text.size()));
+  return point;
+}
+
+/// The text in lower-case ASCII, its digits 0 to 9 and its decimal sign a dot; what is neither stays out as '?'.
+std::string plain(std::string_view text) {
+  std::string result;
+  while (!text.empty()) {
+    const std::uint32_t point = nextCodePoint(text);
+    char c = point < 0x80 ? static_cast<char>(point) : '?';
+    if (point == ',' || point == arabicDecimalSign) c = '.';
+    if (point == 0xA0 || point == 0x202F) c = ' ';
+    if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
+    for (const std::uint32_t zero : zeros)
+      if (point >= zero && point < zero + 10) c = static_cast<char>('0' + (point - zero));
+    result += c;
+  }
+  return result;
+}
+
+void skipBlanks(std::string_view& text) { text.remove_prefix(std::min(text.find_first_not_of(' '), text.size())); }
+
+std::optional<double> takeNumber(std::string_view& text) {
+  skipBlanks(text);
+  double number = 0;
+  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number, std::chars_format::fixed);
+  if (error != std::errc{} || !std::isfinite(number) || number < 0 || text.front() == '-') return std::nullopt;
+  text.remove_prefix(static_cast<std::size_t>(end - text.data()));
+  return number;
+}
+
+std::optional<WeightUnit> takeUnit(std::string_view& text) {
+  skipBlanks(text);
+  struct Name {
+    std::string_view text;
+    WeightUnit unit;
+  };
+  static constexpr std::array<Name, 8> names{{{"kgs", WeightUnit::kilograms},
+                                              {"kg", WeightUnit::kilograms},
+                                              {"lbs", WeightUnit::pounds},
+                                              {"lb", WeightUnit::pounds},
+                                              {"pounds", WeightUnit::pounds},
+                                              {"stones", WeightUnit::stones},
+                                              {"stone", WeightUnit::stones},
+                                              {"st", WeightUnit::stones}}};
+  for (const Name& name : names) {
+    if (!text.starts_with(name.text)) continue;
+    text.remove_prefix(name.text.size());
+    return name.unit;
+  }
+  return std::nullopt;
+}
+
+}  // namespace
+
+std::optional<double> parseWeight(std::string_view typed, WeightUnit unit) {
+  const std::string all = plain(typed);
+  std::string_view text = all;
+  const auto number = takeNumber(text);
+  if (!number) return std::nullopt;
+  const WeightUnit given = takeUnit(text).value_or(unit);
+  double weightInKg = *number * kilogramsPer(given);
+  skipBlanks(text);
+  if (given == WeightUnit::stones && !text.empty()) {
+    const auto pounds = takeNumber(text);
+    if (!pounds || *pounds >= 14 || takeUnit(text).value_or(WeightUnit::pounds) != WeightUnit::pounds)
+      return std::nullopt;
+    weightInKg += *pounds * kilogramsPer(WeightUnit::pounds);
+    skipBlanks(text);
+  }
+  const bool isWeight = text.empty() && weightInKg > 0 && weightInKg < heaviestWeightInKg;
+  return isWeight ? std::optional{weightInKg} : std::nullopt;
+}
+
+std::string weightFieldText(double weightInKg, WeightUnit unit, const NumberFormatter& numbers,
+                            const MassFormatter& masses) {
+  if (unit == WeightUnit::stones) return masses.string(weightInKg, unit);
+  return numbers.string(weightInKg / kilogramsPer(unit), 1);
+}
+
+}  // namespace mivo
