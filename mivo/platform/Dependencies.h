@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <string>
 #include <typeinfo>
 
 #include "mivo/platform/Calendar.h"
@@ -11,8 +12,12 @@
 #include "mivo/platform/Formatters.h"
 #include "mivo/platform/HealthKitClient.h"
 #include "mivo/platform/IssueReporting.h"
+#include "mivo/platform/JSONValue.h"
 #include "mivo/platform/LinkOpener.h"
+#include "mivo/platform/LogOutput.h"
 #include "mivo/platform/MainQueue.h"
+#include "mivo/platform/RandomNumberGenerator.h"
+#include "mivo/platform/ServerAddresses.h"
 #include "mivo/platform/TaskRunner.h"
 #include "mivo/platform/TextLookup.h"
 #include "mivo/platform/TipCatalogue.h"
@@ -42,10 +47,15 @@ struct Dependencies {
   Client<URLSession> urlSession;
   Client<DonationClient> donations;  ///< may stay empty: the donation screen then says that nothing can be loaded
   Client<LinkOpener> links;          ///< may stay empty: nothing opens
+  Client<JSONDecoder> jsonDecoder;
+  Client<RandomNumberGenerator> random;
   Client<MainQueue> mainQueue;
   Client<TaskRunner> taskRunner;
   Client<IssueReporter> issueReporter;
-  int platformVersion = 17;  ///< 17 and later: tips, and charts that scroll under a header
+  Client<LogOutput> log;  ///< may stay empty: standard output
+  ServerAddresses servers;
+  std::string languageTag = "en";  ///< of texts that a file has in several languages: "de", "pt-BR"
+  int platformVersion = 17;        ///< 17 and later: tips, and charts that scroll under a header
 };
 
 /// The dependencies in force on this thread; stops the program with a sentence where none were set.

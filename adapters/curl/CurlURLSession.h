@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <chrono>
+#include <cstddef>
+#include <filesystem>
+#include <memory>
+
+#include "mivo/model/Date.h"
+#include "mivo/platform/URLSession.h"
+
+namespace mivo::adapters {
+
+/// GET requests over HTTP and HTTPS. Certificates are verified, the proxy is that of the environment (https_proxy,
+/// no_proxy), redirects are followed to HTTPS addresses only. Connections are kept and shared by all requests of the
+/// session. Thread: any; requests of several threads run beside each other.
+class CurlURLSession final : public URLSession {
+ public:
+  struct Options {
+    Duration timeLimit = std::chrono::seconds{60};   ///< for a whole request
+    std::size_t sizeLimit = std::size_t{4} << 20;    ///< bytes of an answer
+    std::filesystem::path certificateAuthorities{};  ///< a file of trusted ones instead of the system's
+  };
+
+  CurlURLSession();
+  explicit CurlURLSession(Options options);
+  /// No request may be under way.
+  ~CurlURLSession() override;
+
+  /// The sentences of the errors begin with the address. A request ends within a moment of `stop`.
+  std::string data(std::string_view url, std::stop_token stop) const override;
+
+ private:
+  struct Pool;
+  std::unique_ptr<Pool> pool;
+};
+
+}  // namespace mivo::adapters
