@@ -22,4 +22,7 @@ namespace mivo::host {
 /// a file of one line can be mended too. One pass, whatever the nesting. Thread: any.
 tl::expected<History, BadRecord> readSnapshot(std::string_view text, const std::string& file, const UUIDGenerator& ids);
 
+/// A history as a snapshot, a record a line. It reads back to the last bit.
+std::string writeSnapshot(const History& history);
+
 }  // namespace mivo::host

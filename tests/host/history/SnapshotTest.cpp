@@ -46,6 +46,18 @@ TEST(Snapshot, readsEveryField) {
   EXPECT_EQ(runningFast(history->fasts), history->fasts[1].fast);
 }
 
+TEST(Snapshot, readsBackWhatWasWritten) {
+  const History history{
+      .fasts = {{finishedFast({1, 2}, dateSince1970(-0.1), dateSince1970(1772452800.3), 64800), "a \"b\"\n\x1B\x7Fü"},
+                {finishedFast({3, 4}, dateSince1970(1772481600), dateSince1970(1772481600), 0), ""},
+                {ongoingFast({5, 6}, firstDate, 9223372036854775807), ""}},
+      .weights = {{{7, 8}, dateSince1970(1772348400), 81.45000000000002}, {{9, 10}, lastDate, 1000}},
+      .endsBeforeStart = {}};
+  const std::string text = writeSnapshot(history);
+  EXPECT_EQ(read(text), history) << text;
+  EXPECT_EQ(writeSnapshot({}), "{\n  \"version\": 1,\n  \"fasts\": [],\n  \"weights\": []\n}\n");
+}
+
 TEST(Snapshot, takesEmptyListsAndLeavesOneOut) {
   EXPECT_EQ(read(R"({"version": 1, "fasts": [], "weights": []})"), History{});
   EXPECT_EQ(read(R"({"weights": [], "version": 1})"), History{});

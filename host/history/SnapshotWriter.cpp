@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: MIT
+#include "host/history/Snapshot.h"
+#include "host/json/RecordJson.h"
+
+namespace mivo::host {
+
+template <>
+struct JsonFields<FastRecord> : std::true_type {
+  static void visit(const FastRecord& record, auto&& visit) {
+    const auto& [fast, note] = record;
+    visit("id", fast.id);
+    visit("start", fast.start);
+    if (fast.finished)
+      visit("end", fast.finished->end);
+    else
+      visit("end", std::optional<Date>{});
+    visit("goalSeconds", fast.goalSeconds);
+    if (!note.empty()) visit("note", note);
+  }
+};
+
+namespace {
+
+template <class Record>
+void writeLines(JsonWriter& json, std::string_view key, const std::vector<Record>& records) {
+  json.key(key);
+  json.beginArray(JsonWriter::Layout::spread);
+  for (const auto& record : records) {
+    json.beginObject(JsonWriter::Layout::line);
+    writeJsonFields(json, record);
+    json.endObject();
+  }
+  json.endArray();
+}
+
+}  // namespace
+
+std::string writeSnapshot(const History& history) {
+  JsonWriter json;
+  json.beginObject(JsonWriter::Layout::spread);
+  json.key("version");
+  json.number(std::int64_t{1});
+  writeLines(json, "fasts", history.fasts);
+  writeLines(json, "weights", history.weights);
+  json.endObject();
+  return std::move(json).text();
+}
+
+}  // namespace mivo::host
