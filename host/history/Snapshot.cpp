@@ -267,8 +267,8 @@ class SnapshotReader {
     const bool isOfRecord = place != Place::snapshot;
     return fail(std::nullopt, std::string{rule(key).expected} + ", found no such key", isOfRecord ? lineOfRecord : 0);
   }
-  bool fail(std::optional<std::string_view> value, std::string reason, std::int64_t line = 0) {
-    fault = BadRecord{file, line > 0 ? line : lineHere(), path(pending),
+  bool fail(std::optional<std::string_view> value, std::string reason, std::int64_t otherLine = 0) {
+    fault = BadRecord{file, otherLine > 0 ? otherLine : lineHere(), path(pending),
                       value ? std::optional{quotable(*value)} : std::nullopt, std::move(reason)};
     return false;
   }
@@ -284,9 +284,13 @@ class SnapshotReader {
   }
 
   /// The line of the last token; the parser reads one character past a number, which may be a line's end.
-  std::int64_t lineHere() const {
+  std::int64_t lineHere() {
     const char* const last = std::max(reached - 1, text.data());
-    return 1 + std::count(text.data(), last, '\n');
+    if (last > counted) {
+      line += std::count(counted, last, '\n');
+      counted = last;
+    }
+    return line;
   }
 
   static bool isDelimiter(char c) { return delimiters.find(c) != std::string_view::npos; }
@@ -302,6 +306,8 @@ class SnapshotReader {
 
   std::string_view text;
   const char* reached;
+  const char* counted = text.data();  // up to where line ends were counted, so that each is looked at once
+  std::int64_t line = 1;
   const std::string& file;
   const UUIDGenerator& ids;
 
