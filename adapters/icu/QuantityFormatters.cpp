@@ -6,10 +6,11 @@
 #include <unicode/measunit.h>
 #include <unicode/numberformatter.h>
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <memory>
-#include <span>
+#include <mutex>
 #include <utility>
 
 #include "adapters/icu/IcuCalendar.h"
@@ -26,7 +27,7 @@ icu::Locale icuLocale(const UserLocale& locale) {
   return icu::Locale::forLanguageTag(locale.tag(), status);
 }
 
-// A formatter of numbers as the locale groups them, with `digits` after the decimal sign.
+// Numbers as the locale groups them, with `digits` after the decimal sign.
 LocalizedNumberFormatter numbers(const icu::Locale& locale, int digits) {
   return icu::number::NumberFormatter::withLocale(locale)
       .precision(Precision::fixedFraction(digits))
@@ -34,10 +35,28 @@ LocalizedNumberFormatter numbers(const icu::Locale& locale, int digits) {
       .sign(UNUM_SIGN_NEGATIVE);
 }
 
-icu::UnicodeString text(const LocalizedNumberFormatter& formatter, double number) {
-  UErrorCode status = U_ZERO_ERROR;
-  return formatter.formatDouble(number, status).toString(status);
-}
+// One for all threads. It needs no lock by itself, but compiles itself after some uses and hands the result to other
+// threads in a way that the thread sanitizer cannot see inside the library.
+class SharedFormatter {
+ public:
+  explicit SharedFormatter(LocalizedNumberFormatter opened) : formatter{std::move(opened)} {}
+
+  icu::UnicodeString text(double number) const {
+    const std::lock_guard lock{guard};
+    UErrorCode status = U_ZERO_ERROR;
+    return formatter.formatDouble(number, status).toString(status);
+  }
+
+  icu::UnicodeString text(std::int64_t number) const {
+    const std::lock_guard lock{guard};
+    UErrorCode status = U_ZERO_ERROR;
+    return formatter.formatInt(number, status).toString(status);
+  }
+
+ private:
+  LocalizedNumberFormatter formatter;
+  mutable std::mutex guard;
+};
 
 // "12h 30m", "12 st 11 lb": two quantities that are one measure.
 icu::UnicodeString joined(const icu::ListFormatter& list, std::array<icu::UnicodeString, 2> parts) {
@@ -72,14 +91,14 @@ class IcuDurationFormatter final : public DurationFormatter {
     const double sign = seconds < 0 ? -1 : 1;
     const double allMinutes = wholeMinutes(std::abs(seconds));
     const double wholeHours = std::floor(allMinutes / 60);
-    if (units == DurationUnits::hours) return utf8(text(hours, sign * wholeHours));
-    if (wholeHours < 1) return utf8(text(minutes, sign * allMinutes));
-    return utf8(joined(*list, {text(hours, sign * wholeHours), text(minutes, std::fmod(allMinutes, 60))}));
+    if (units == DurationUnits::hours) return utf8(hours.text(sign * wholeHours));
+    if (wholeHours < 1) return utf8(minutes.text(sign * allMinutes));
+    return utf8(joined(*list, {hours.text(sign * wholeHours), minutes.text(std::fmod(allMinutes, 60))}));
   }
 
  private:
   DurationUnits units;
-  LocalizedNumberFormatter hours, minutes;
+  SharedFormatter hours, minutes;
   std::unique_ptr<icu::ListFormatter> list;
 };
 
@@ -93,9 +112,9 @@ class IcuMassFormatter final : public MassFormatter {
         list{listOfUnits(locale)} {}
 
   std::string string(double weightInKg, WeightUnit unit) const override {
-    if (unit == WeightUnit::kilograms) return utf8(text(kilograms, weightInKg));
+    if (unit == WeightUnit::kilograms) return utf8(kilograms.text(weightInKg));
     const double inPounds = weightInKg / kilogramsPer(WeightUnit::pounds);
-    return utf8(unit == WeightUnit::pounds ? text(pounds, inPounds) : inStones(inPounds));
+    return utf8(unit == WeightUnit::pounds ? pounds.text(inPounds) : inStones(inPounds));
   }
 
  private:
@@ -104,32 +123,31 @@ class IcuMassFormatter final : public MassFormatter {
   }
 
   icu::UnicodeString inStones(double inPounds) const {
-    const double poundsPerStone = 14, rounded = std::round(inPounds);
-    const double wholeStones = std::trunc(rounded / poundsPerStone), rest = std::fmod(rounded, poundsPerStone);
-    if (wholeStones == 0) return text(wholePounds, rest);
-    return joined(*list, {text(stones, wholeStones), text(wholePounds, std::abs(rest))});
+    const double rounded = std::round(inPounds);
+    const double whole = std::trunc(rounded / poundsPerStone), rest = std::fmod(rounded, poundsPerStone);
+    if (whole == 0) return wholePounds.text(rest);
+    return joined(*list, {stones.text(whole), wholePounds.text(std::abs(rest))});
   }
 
-  LocalizedNumberFormatter kilograms, pounds, stones, wholePounds;
+  SharedFormatter kilograms, pounds, stones, wholePounds;
   std::unique_ptr<icu::ListFormatter> list;
 };
 
 class IcuNumberFormatter final : public NumberFormatter {
  public:
-  explicit IcuNumberFormatter(icu::Locale chosen) : locale{std::move(chosen)}, integers{numbers(locale, 0)} {}
+  explicit IcuNumberFormatter(const icu::Locale& locale)
+      : byDigits{SharedFormatter{numbers(locale, 0)}, SharedFormatter{numbers(locale, 1)},
+                 SharedFormatter{numbers(locale, 2)}, SharedFormatter{numbers(locale, 3)}} {}
 
-  std::string string(std::int64_t number) const override {
-    UErrorCode status = U_ZERO_ERROR;
-    return utf8(integers.formatInt(number, status).toString(status));
-  }
+  std::string string(std::int64_t number) const override { return utf8(byDigits.front().text(number)); }
 
   std::string string(double number, int fractionDigits) const override {
-    return utf8(text(fractionDigits == 0 ? integers : numbers(locale, fractionDigits), number));
+    const auto most = static_cast<int>(byDigits.size()) - 1;
+    return utf8(byDigits[static_cast<std::size_t>(std::clamp(fractionDigits, 0, most))].text(number));
   }
 
  private:
-  icu::Locale locale;
-  LocalizedNumberFormatter integers;
+  std::array<SharedFormatter, 4> byDigits;
 };
 
 }  // namespace

@@ -16,7 +16,7 @@ Client<DurationFormatter> durationFormatter(const UserLocale& locale, DurationUn
 /// Kilograms and pounds with one digit, stones with whole pounds; halves are rounded away from zero.
 Client<MassFormatter> massFormatter(const UserLocale& locale);
 
-/// Halves are rounded away from zero; what rounds to nothing has no sign.
+/// Up to three digits after the decimal sign; halves are rounded away from zero; what rounds to nothing has no sign.
 Client<NumberFormatter> numberFormatter(const UserLocale& locale);
 
 }  // namespace mivo::adapters

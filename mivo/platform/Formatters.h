@@ -28,7 +28,7 @@ class DateFormatter {
   virtual std::optional<std::string> string(Date date, std::string_view skeleton) const = 0;
 };
 
-/// "Jul 1 - 7, 2026": medium date style, no time.
+/// "Jul 1 - 7, 2026": medium date style, no time. The end is outside, so that seven days from a midnight on are those.
 class DateIntervalFormatter {
  public:
   virtual ~DateIntervalFormatter() = default;
@@ -36,6 +36,8 @@ class DateIntervalFormatter {
 };
 
 enum class WeightUnit { kilograms, pounds, stones };
+
+inline constexpr double poundsPerStone = 14;
 
 /// Kilograms per unit, exact by definition of the avoirdupois pound.
 constexpr double kilogramsPer(WeightUnit unit) {
@@ -46,7 +48,7 @@ constexpr double kilogramsPer(WeightUnit unit) {
     case WeightUnit::pounds:
       return pound;
     case WeightUnit::stones:
-      return 14 * pound;
+      return poundsPerStone * pound;
   }
   return 1;
 }
