@@ -54,6 +54,7 @@ struct Dependencies {
   Client<IssueReporter> issueReporter;
   Client<LogOutput> log;  ///< may stay empty: standard output
   ServerAddresses servers;
+  std::string bundleIdentifier;    ///< names the app among others; without one there are no votes
   std::string languageTag = "en";  ///< of texts that a file has in several languages: "de", "pt-BR"
   int platformVersion = 17;        ///< 17 and later: tips, and charts that scroll under a header
 };

@@ -1,0 +1,63 @@
+// SPDX-License-Identifier: MIT
+#include "mivo/roadmap/FeatureVoterTallyAPI.h"
+
+#include <exception>
+
+#include "mivo/platform/Dependencies.h"
+#include "mivo/platform/LogOutput.h"
+#include "mivo/platform/URLSession.h"
+#include "mivo/roadmap/JSONDataFetcher.h"
+#include "mivo/roadmap/RoadmapFeatureVotingCount.h"
+
+namespace mivo {
+namespace {
+
+/// The error itself: `URLError("...")`, and the plain name of the case that has nothing else to say.
+std::string debugText(const std::exception& error) {
+  const auto named = [&error](const char* type) { return std::string{type} + "(\"" + error.what() + "\")"; };
+  if (dynamic_cast<const JSONDataFetcher::Error*>(&error)) return "invalidURL";
+  if (dynamic_cast<const URLError*>(&error)) return named("URLError");
+  if (dynamic_cast<const DecodingError*>(&error)) return named("DecodingError");
+  return named("Error");
+}
+
+std::string debugText(const std::optional<std::int64_t>& count) {
+  return count ? "Optional(" + std::to_string(*count) + ")" : "nil";
+}
+
+}  // namespace
+
+std::int64_t FeatureVoterTallyAPI::fetch(const RoadmapFeature& feature, std::stop_token stop) const {
+  try {
+    const auto url = address("/get/", feature);
+    return JSONDataFetcher::loadJSON<RoadmapFeatureVotingCount>(url, std::move(stop)).value.value_or(0);
+  } catch (const std::exception& error) {
+    // In one piece, because several features are fetched beside each other.
+    logLine(debugText(error) + "\nFetching voting count failed with error: " + error.what());
+    return 0;
+  }
+}
+
+std::optional<std::int64_t> FeatureVoterTallyAPI::vote(const RoadmapFeature& feature) const { return add(1, feature); }
+
+std::optional<std::int64_t> FeatureVoterTallyAPI::unvote(const RoadmapFeature& feature) const {
+  return add(-1, feature);
+}
+
+std::optional<std::int64_t> FeatureVoterTallyAPI::add(int delta, const RoadmapFeature& feature) const {
+  try {
+    const auto url = address("/add/", feature) + "?delta=" + std::to_string(delta);
+    const auto count = JSONDataFetcher::loadJSON<RoadmapFeatureVotingCount>(url).value;
+    logLine("Successfully voted, count is now: " + debugText(count));
+    return count;
+  } catch (const std::exception& error) {
+    logLine(std::string{"Voting failed: "} + error.what());
+    return std::nullopt;
+  }
+}
+
+std::string FeatureVoterTallyAPI::address(const char* operation, const RoadmapFeature& feature) const {
+  return currentDependencies().servers.tally + operation + namespaceName + "/feature" + feature.id;
+}
+
+}  // namespace mivo

@@ -1,0 +1,159 @@
+// SPDX-License-Identifier: MIT
+#include "mivo/roadmap/RoadmapListFeature.h"
+
+#include <algorithm>
+#include <exception>
+#include <utility>
+
+#include "mivo/roadmap/JSONDataFetcher.h"
+
+namespace mivo {
+namespace {
+
+using Action = RoadmapListFeature::Action;
+using State = RoadmapListFeature::State;
+
+/// Every order is as likely as any other, but for the last digits of a 64-bit number's remainder.
+void shuffle(std::vector<RoadmapFeature>& features, const RandomNumberGenerator& random) {
+  for (std::size_t left = features.size(); left > 1; --left)
+    std::swap(features[left - 1], features[random.next() % left]);
+}
+
+std::vector<RoadmapFeature> loadedFeatures(const RoadmapConfiguration& configuration, const std::string& languageTag,
+                                           const RandomNumberGenerator& random, std::stop_token stop) {
+  const std::string& url = configuration.request.value_or(configuration.roadmapJSONURL);
+  auto features = JSONDataFetcher::loadJSON<RoadmapFile>(url, std::move(stop)).features(languageTag);
+  if (configuration.shuffled) shuffle(features, random);
+  if (configuration.sorting) std::ranges::stable_sort(features, configuration.sorting);
+  return features;
+}
+
+List<RoadmapRow> rowsOf(const std::vector<RoadmapFeature>& features, const RoadmapVotes& votes) {
+  std::vector<RoadmapRow> rows;
+  for (const RoadmapFeature& feature : features)
+    rows.push_back({.feature = feature, .isVoted = votes.isVoted(feature.id)});
+  return rows;
+}
+
+const RoadmapRow* rowOf(const State& state, const std::string& id) {
+  const auto row = std::ranges::find(*state.rows, id, [](const RoadmapRow& each) { return each.feature.id; });
+  return row == state.rows->end() ? nullptr : row;
+}
+
+template <class Change>
+void changeRow(State& state, const std::string& id, Change change) {
+  auto rows = state.rows->elements();
+  for (RoadmapRow& row : rows)
+    if (row.feature.id == id) change(row);
+  state.rows = List<RoadmapRow>{std::move(rows)};
+}
+
+}  // namespace
+
+Effect<Action> RoadmapListFeature::reduce(State& state, const Action& action) const {
+  if (std::holds_alternative<Action::onAppear>(action))
+    return state.phase == RoadmapPhase::idle ? load(state) : Effect<Action>::none();
+  if (std::holds_alternative<Action::didTapTryAgain>(action))
+    return state.phase == RoadmapPhase::failed ? load(state) : Effect<Action>::none();
+  if (const auto* tapped = std::get_if<Action::didTapVote>(&action)) return didTapVote(state, tapped->id);
+  if (const auto* loaded = std::get_if<Action::didLoad>(&action)) return didLoad(state, *loaded);
+  if (const auto* answer = std::get_if<Action::didReceiveVoteAnswer>(&action))
+    return didReceiveVoteAnswer(state, answer->answer);
+  if (const auto* tapped = std::get_if<Action::didTapStatus>(&action)) state.status = tapped->status;
+  if (const auto* received = std::get_if<Action::didReceiveCount>(&action))
+    changeRow(state, received->count.id, [received](RoadmapRow& row) {
+      if (!row.isSending && !row.hasOwnAnswer) row.count = received->count.count;
+    });
+  if (const auto* failed = std::get_if<Action::didFailToLoad>(&action)) {
+    state.phase = RoadmapPhase::failed;
+    state.failure = failed->reason;
+  }
+  return {};
+}
+
+Effect<Action> RoadmapListFeature::load(State& state) const {
+  state.phase = RoadmapPhase::loading;
+  state.failure = std::string{};
+  state.unsentVote = std::nullopt;
+  return Effect<Action>::run(
+      [](const Send<Action>& send, std::stop_token stop, const RoadmapConfiguration& how, const RoadmapVotes& cast,
+         const Client<RandomNumberGenerator>& generator, const std::string& language) {
+        try {
+          send(Action::didLoad{rowsOf(loadedFeatures(how, language, *generator, std::move(stop)), cast)});
+        } catch (const std::exception& error) {
+          send(Action::didFailToLoad{error.what()});
+        }
+      },
+      configuration, votes, random, languageTag);
+}
+
+Effect<Action> RoadmapListFeature::didLoad(State& state, const Action::didLoad& loaded) const {
+  state.phase = RoadmapPhase::loaded;
+  state.rows = loaded.rows;
+  Effect<Action> all;
+  if (configuration.allowVotes)
+    for (const RoadmapRow& row : *state.rows) all.add(fetchCount(row.feature));
+  return all;
+}
+
+Effect<Action> RoadmapListFeature::fetchCount(const RoadmapFeature& feature) const {
+  return Effect<Action>::run(
+      [](const Send<Action>& send, std::stop_token stop, const Client<FeatureVoter>& voter,
+         const RoadmapFeature& asked) {
+        send(Action::didReceiveCount{{asked.id, voter->fetch(asked, std::move(stop))}});
+      },
+      configuration.voter, feature);
+}
+
+Effect<Action> RoadmapListFeature::didTapVote(State& state, const std::string& id) const {
+  const RoadmapRow* row = rowOf(state, id);
+  if (!configuration.allowVotes || !row || row->isSending || !isOpenForVotes(row->feature)) return {};
+  const bool isVote = !row->isVoted;
+  const RoadmapFeature feature = row->feature;
+  state.unsentVote = std::nullopt;
+  changeRow(state, id, [isVote](RoadmapRow& tapped) {
+    tapped.isVoted = isVote;
+    tapped.count += isVote ? 1 : -1;
+    tapped.isSending = true;
+  });
+  return Effect<Action>::run(
+      [](const Send<Action>& send, std::stop_token, bool adds, const RoadmapFeature& voted, const RoadmapVotes& cast,
+         const Client<FeatureVoter>& voter) {
+        send(Action::didReceiveVoteAnswer{{voted.id, cast.send(adds, voted, *voter)}});
+      },
+      isVote, feature, votes, configuration.voter);
+}
+
+Effect<Action> RoadmapListFeature::didReceiveVoteAnswer(State& state, const RoadmapVoteAnswer& answer) const {
+  const RoadmapRow* row = rowOf(state, answer.id);
+  if (!row) return {};
+  const RoadmapFeature feature = row->feature;
+  changeRow(state, answer.id, [&answer](RoadmapRow& sent) {
+    sent.isSending = false;
+    sent.hasOwnAnswer = answer.count.has_value();
+    if (!answer.count) sent.isVoted = !sent.isVoted;
+    sent.count = answer.count.value_or(sent.count + (sent.isVoted ? 1 : -1));
+  });
+  if (answer.count) return {};
+  state.unsentVote = answer.id;
+  return fetchCount(feature);
+}
+
+std::vector<RoadmapRow> visibleRows(const State& state) {
+  std::vector<RoadmapRow> rows;
+  for (const RoadmapRow& row : *state.rows)
+    if (!state.status.value() || row.feature.status == *state.status.value()) rows.push_back(row);
+  return rows;
+}
+
+std::vector<std::string> statuses(const State& state) {
+  std::vector<std::string> found;
+  for (const RoadmapRow& row : *state.rows)
+    if (!row.feature.status.empty()) found.push_back(row.feature.status);
+  std::ranges::sort(found, {}, [](const std::string& status) { return std::pair{statusRank(status), status}; });
+  const auto repeated = std::ranges::unique(found);
+  found.erase(repeated.begin(), repeated.end());
+  return found;
+}
+
+}  // namespace mivo
