@@ -36,4 +36,12 @@ std::optional<RangeStarts> rangeStarts(TimeRange range, const Calendar& calendar
   return RangeStarts{*thisStart, *lastStart};
 }
 
+Date endOfToday(const Calendar& calendar, Date now) { return calendar.endOfDay(now).value_or(now); }
+
+std::optional<double> daysOfThisRange(TimeRange range, const Calendar& calendar, Date now) {
+  const auto starts = rangeStarts(range, calendar, now);
+  if (!starts) return std::nullopt;
+  return secondsBetween(starts->thisStart, endOfToday(calendar, now)) / secondsPerDay;
+}
+
 }  // namespace mivo

@@ -21,4 +21,11 @@ struct RangeStarts {
 /// None where the calendar has no answer, which is near the years 1 and 9999. Cost: three calendar calls. Thread: any.
 std::optional<RangeStarts> rangeStarts(TimeRange range, const Calendar& calendar, Date now);
 
+/// Where this range ends for its averages: with today, whose rest counts as eating; now where the calendar cannot tell.
+Date endOfToday(const Calendar& calendar, Date now);
+
+/// What the averages of this range are divided by: the days from its start to the end of today, 1/24 less or more for a
+/// day with a clock change. Times an average it gives the range's total. None where there are no range starts.
+std::optional<double> daysOfThisRange(TimeRange range, const Calendar& calendar, Date now);
+
 }  // namespace mivo

@@ -149,7 +149,7 @@ bool StatsContainer::updateNumbers(Fasts completed, const StreakSettings& streak
 
   const auto starts = rangeStarts(timeRange, calendar, now);
   if (!starts) return false;
-  const ZoneAverages averages = zoneAverages(completed, *starts, calendar.endOfDay(now).value_or(now));
+  const ZoneAverages averages = zoneAverages(completed, *starts, endOfToday(calendar, now));
   fastingAverages = averages[LegacyFastingZone::fasting];
   eatingAverages = averages[LegacyFastingZone::eating];
   anabolicAverages = averages[LegacyFastingZone::anabolic];
