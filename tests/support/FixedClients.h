@@ -93,6 +93,20 @@ struct PlainNumbers : NumberFormatter {
   }
 };
 
+/// "72.4 kg", "-2.6 kg": kilograms in any unit.
+struct PlainMasses : MassFormatter {
+  std::string string(double weightInKg, WeightUnit) const override {
+    return PlainNumbers{}.string(weightInKg, 1) + " kg";
+  }
+};
+
+/// "yMMMd(1782907200)": the skeleton and the Unix time.
+struct SkeletonDates : DateFormatter {
+  std::optional<std::string> string(Date date, std::string_view skeleton) const override {
+    return std::string{skeleton} + '(' + PlainNumbers{}.string(secondsSince1970(date), 0) + ')';
+  }
+};
+
 struct MemoryDefaults : UserDefaults {
   std::optional<Value> value(std::string_view key) const override {
     const std::scoped_lock lock{mutex};
@@ -118,6 +132,8 @@ inline Dependencies fixedDependencies() {
   clients.hourMinDurationUnitFormatter = std::make_shared<EnglishHoursAndMinutes>();
   clients.hourDurationUnitFormatter = std::make_shared<EnglishHours>();
   clients.numberFormatter = std::make_shared<PlainNumbers>();
+  clients.massFormatter = std::make_shared<PlainMasses>();
+  clients.dateFormatter = std::make_shared<SkeletonDates>();
   clients.texts = std::make_shared<EnglishTexts>();
   clients.appGroupUserDefaults = std::make_shared<MemoryDefaults>();
   clients.userDefaults = std::make_shared<MemoryDefaults>();
