@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: MIT
+#include "tally/net/Stream.h"
+
+namespace mivo::tally {
+
+tcp::socket& Stream::socket() {
+  if (auto* secure = std::get_if<Secure>(&stream_)) return secure->next_layer();
+  return std::get<tcp::socket>(stream_);
+}
+
+error_code Stream::expectHost(const std::string& host) {
+  auto& secure = std::get<Secure>(stream_);
+  error_code error;
+  secure.set_verify_mode(ssl::verify_peer, error);
+  if (!error) secure.set_verify_callback(ssl::host_name_verification(host), error);
+  if (error) return error;
+  error_code notAnAddress;
+  asio::ip::make_address(host, notAnAddress);
+  // A server name is sent for names only: RFC 6066 has no form for addresses.
+  if (notAnAddress && SSL_set_tlsext_host_name(secure.native_handle(), host.c_str()) != 1)
+    return asio::error::invalid_argument;
+  return {};
+}
+
+std::size_t Stream::writeNow(asio::const_buffer bytes, error_code& error) {
+  if (isSecure()) return 0;
+  const auto taken = std::get<tcp::socket>(stream_).write_some(bytes, error);
+  if (error == asio::error::would_block) error = {};
+  return taken;
+}
+
+void Stream::finishSending(std::function<void()> done) {
+  if (auto* secure = std::get_if<Secure>(&stream_)) {
+    secure->async_shutdown([done = std::move(done)](error_code) { done(); });
+    return;
+  }
+  error_code ignored;
+  socket().shutdown(tcp::socket::shutdown_send, ignored);
+  done();
+}
+
+void Stream::close() {
+  error_code ignored;
+  socket().close(ignored);
+}
+
+}  // namespace mivo::tally

@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+#include <functional>
+#include <memory>
+#include <string>
+#include <variant>
+
+#include "tally/net/Asio.h"
+
+namespace mivo::tally {
+
+/// A TCP connection, bare or under TLS, read and written alike. One read and one write may be under way at a time; the
+/// stream must outlive both.
+class Stream {
+ public:
+  using Secure = ssl::stream<tcp::socket>;
+
+  explicit Stream(tcp::socket socket) : stream_(std::move(socket)) {}
+  Stream(tcp::socket socket, ssl::context& context) : stream_(std::in_place_type<Secure>, std::move(socket), context) {}
+
+  bool isSecure() const { return std::holds_alternative<Secure>(stream_); }
+  tcp::socket& socket();
+
+  /// Before the handshake: checks the peer's certificate against `host` and asks for that name.
+  error_code expectHost(const std::string& host);
+
+  template <class Done>
+  void handshake(ssl::stream_base::handshake_type role, Done done) {
+    std::get<Secure>(stream_).async_handshake(role, std::move(done));
+  }
+
+  template <class Done>
+  void readSome(asio::mutable_buffer into, Done done) {
+    std::visit([&](auto& stream) { stream.async_read_some(into, std::move(done)); }, stream_);
+  }
+
+  template <class Done>
+  void write(asio::const_buffer bytes, Done done) {
+    std::visit([&](auto& stream) { asio::async_write(stream, bytes, std::move(done)); }, stream_);
+  }
+
+  /// Hands over what the kernel takes without waiting, and says how much that was; nothing under TLS. The socket must
+  /// be non-blocking.
+  std::size_t writeNow(asio::const_buffer bytes, error_code& error);
+
+  /// Says that nothing more will be sent; `done` is called when the peer was told.
+  void finishSending(std::function<void()> done);
+  void close();
+
+ private:
+  std::variant<tcp::socket, Secure> stream_;
+};
+
+}  // namespace mivo::tally

@@ -1,0 +1,115 @@
+// SPDX-License-Identifier: MIT
+#include "tally/request/RequestReader.h"
+
+#include <algorithm>
+#include <utility>
+
+#include <boost/asio/buffer.hpp>
+#include <boost/beast/core/string.hpp>
+#include <boost/beast/http/basic_parser.hpp>
+#include <boost/beast/http/error.hpp>
+
+namespace mivo::tally {
+namespace {
+
+namespace http = boost::beast::http;
+using boost::beast::iequals;
+using boost::system::error_code;
+
+constexpr Refusal malformed{400, "the request is not well-formed HTTP/1.1"};
+constexpr Refusal withBody{413, "a request must not have a body"};
+constexpr Refusal tooLong{431, "the request's line and headers must fit 8192 bytes"};
+
+// The parser checks the grammar and hands over views; only what Request names is kept.
+class Parser : public http::basic_parser<true> {
+ public:
+  explicit Parser(std::string_view bytes) : bytes_(bytes) { header_limit(largestRequest); }
+  const Request& request() const { return request_; }
+  bool hasBody() const { return hasTransferEncoding_ || content_length_remaining().value_or(0) > 0; }
+
+ private:
+  // The parser unfolds a folded line into a buffer of its own, which would be gone when the view is used.
+  bool isInPlace(std::string_view value) const {
+    return value.empty() || (value.data() >= bytes_.data() && value.data() < bytes_.data() + bytes_.size());
+  }
+
+  void keepOnce(std::string_view& kept, std::string_view value, error_code& error) {
+    if (!kept.empty()) error = http::error::bad_field;
+    kept = value;
+  }
+
+  void keepUnknown(std::string_view name, std::string_view value) {
+    if (iequals(name, "Sec-Fetch-Site")) request_.fetchSite = value;
+    if (iequals(name, "X-Forwarded-For")) request_.forwardedFor = value;
+    const bool saysPurpose = iequals(name, "Sec-Purpose") || iequals(name, "Purpose") || iequals(name, "X-Purpose") ||
+                             iequals(name, "X-Moz");
+    if (saysPurpose && (value.starts_with("pre"))) request_.isPrefetch = true;  // prefetch, prerender, preview
+  }
+
+  void on_request_impl(http::verb method, std::string_view name, std::string_view target, int version,
+                       error_code&) override {
+    if (method == http::verb::get) request_.method = Method::get;
+    if (method == http::verb::head) request_.method = Method::head;
+    request_.methodName = name;
+    request_.target = target;
+    request_.isHttp11 = version == 11;
+  }
+
+  void on_field_impl(http::field field, std::string_view name, std::string_view value, error_code& error) override {
+    if (!isInPlace(value)) {
+      error = http::error::bad_value;
+      return;
+    }
+    if (field == http::field::host) return keepOnce(request_.host, value, error);
+    if (field == http::field::origin) return keepOnce(request_.origin, value, error);
+    if (field == http::field::transfer_encoding) hasTransferEncoding_ = true;
+    if (field == http::field::unknown) keepUnknown(name, value);
+  }
+
+  void on_header_impl(error_code& error) override {
+    request_.keepAlive = keep_alive();
+    if (request_.isHttp11 && request_.host.empty()) error = http::error::bad_field;
+  }
+
+  void on_response_impl(int, std::string_view, int, error_code&) override {}
+  void on_body_init_impl(const boost::optional<std::uint64_t>&, error_code&) override {}
+  std::size_t on_body_impl(std::string_view body, error_code&) override { return body.size(); }
+  void on_chunk_header_impl(std::uint64_t, std::string_view, error_code&) override {}
+  std::size_t on_chunk_body_impl(std::uint64_t, std::string_view body, error_code&) override { return body.size(); }
+  void on_finish_impl(error_code&) override {}
+
+  std::string_view bytes_;
+  Request request_;
+  bool hasTransferEncoding_ = false;
+};
+
+RequestReading refused(Refusal refusal) {
+  return {.state = RequestReading::State::refused, .consumed = 0, .request = {}, .refusal = refusal};
+}
+
+// A method is upper-case letters: anything else (a TLS greeting to a plain port) need not be waited for.
+bool canBegin(char first) { return first >= 'A' && first <= 'Z'; }
+
+}  // namespace
+
+RequestReading readRequest(std::string_view bytes) {
+  std::size_t blank = 0;  // an empty line before a request is to be ignored (RFC 9112, 2.2)
+  while (bytes.substr(blank).starts_with("\r\n")) blank += 2;
+  const auto text = bytes.substr(blank);
+  const RequestReading more{.state = RequestReading::State::needsMore, .consumed = blank, .request = {}, .refusal = {}};
+  if (text.empty() || text == "\r") return more;
+  if (!canBegin(text.front())) return refused(malformed);
+
+  Parser parser{text};
+  error_code error;
+  const auto parsed = parser.put(boost::asio::const_buffer{text.data(), text.size()}, error);
+  // The parser minds its limit only where the bytes come in pieces.
+  const bool isTooLong = error == http::error::need_more ? text.size() >= largestRequest : parsed > largestRequest;
+  if (isTooLong || error == http::error::header_limit) return refused(tooLong);
+  if (error == http::error::need_more) return more;
+  if (error && error != http::error::body_limit) return refused(malformed);
+  if (error || parser.hasBody()) return refused(parser.request().method == Method::other ? onlyGetAndHead : withBody);
+  return {RequestReading::State::complete, blank + parsed, parser.request(), {}};
+}
+
+}  // namespace mivo::tally

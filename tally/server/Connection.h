@@ -1,0 +1,86 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+#include <chrono>
+#include <functional>
+#include <list>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "tally/net/Stream.h"
+#include "tally/request/RequestReader.h"
+#include "tally/server/Log.h"
+#include "tally/server/Service.h"
+#include "tally/store/OperationQueue.h"
+
+namespace mivo::tally {
+
+class Connection;
+/// Open connections, the one that was silent longest first.
+using Connections = std::list<std::shared_ptr<Connection>>;
+
+/// What all connections share.
+struct Workplace {
+  const ServeOptions& options;
+  Service& service;
+  OperationQueue& operations;
+  Log& log;
+  Metrics& metrics;
+  Connections& connections;
+  std::function<void()> didClose;  // a connection left the list
+};
+
+/// One client: reads requests, answers them in order, many in one write where they came together.
+class Connection : public std::enable_shared_from_this<Connection> {
+ public:
+  using Instant = std::chrono::steady_clock::time_point;
+
+  Connection(Stream stream, const Workplace& workplace, asio::ip::address peer);
+
+  /// Begins, once the connection stands in the list.
+  void start(Connections::iterator place);
+  /// Cuts off what took too long: with 408 in the middle of a request, without a word between two.
+  void checkDeadline(Instant now);
+  /// Closes where nothing is under way; else the next answer says that it is the last.
+  void drain(Instant now);
+  bool isWaitingForClient() const { return phase_ == Phase::idle || phase_ == Phase::receiving; }
+  void close();
+
+ private:
+  enum class Phase { handshaking, idle, receiving, asking, sending, parting, closed };
+
+  void enter(Phase phase, Instant deadline);
+  void awaitRequest();
+  void read();
+  void didRead(std::size_t size);
+  void makeRoom();
+  std::string_view unread() const;
+  void answerWhatCame();
+  bool takeRequest();
+  void ask(Operation operation);
+  void refuse(const Refusal& refusal);
+  void finish(Answer answer);
+  void log(const Answer& answer);
+  void write();
+  void didWrite();
+  void part();
+  asio::ip::address client() const;
+
+  Stream stream_;
+  const Workplace& work_;
+  asio::ip::address peer_;
+  Connections::iterator place_;
+  Phase phase_ = Phase::handshaking;
+  Instant deadline_;
+  std::vector<char> inbox_;  // what was read lies in [begin_, end_)
+  std::size_t begin_ = 0;
+  std::size_t end_ = 0;
+  std::string outbox_;
+  Request request_;  // being answered; its views are into inbox_
+  Instant received_;
+  bool keepAlive_ = true;
+  bool isDraining_ = false;
+  bool hasServed_ = false;
+};
+
+}  // namespace mivo::tally

@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+#include <chrono>
+#include <condition_variable>
+#include <mutex>
+#include <string>
+#include <string_view>
+#include <thread>
+
+#include "tally/server/DateTexts.h"
+
+namespace mivo::tally {
+
+/// One JSON object a line, gathered and written by a thread of its own: a reader that stops reading stops no vote.
+/// Where eight megabytes wait, further lines are left out, and their number is said once there is room again.
+class Log {
+ public:
+  struct Request {
+    std::string_view method;
+    std::string_view target;  // cut at 200 bytes
+    unsigned status = 0;
+    std::chrono::microseconds duration{};
+    std::string_view address;  // empty leaves it out
+  };
+
+  /// Writes to a file descriptor, which stays the caller's.
+  explicit Log(int descriptor);
+  /// Writes what is left.
+  ~Log();
+  Log(const Log&) = delete;
+  Log& operator=(const Log&) = delete;
+
+  /// Thread of both: one, the same.
+  void request(const Request& request);
+  void event(std::string_view name, std::string_view text);
+
+ private:
+  void begin();
+  void end();
+  void write(const std::stop_token& stop);
+  std::string take(const std::stop_token& stop);
+
+  int descriptor_;
+  DateTexts dates_;
+  std::string line_;
+
+  std::mutex mutex_;
+  std::condition_variable_any wake_;
+  std::string waiting_;
+  std::size_t leftOut_ = 0;
+  std::jthread writer_;
+};
+
+}  // namespace mivo::tally

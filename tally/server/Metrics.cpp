@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: MIT
+#include "tally/server/Metrics.h"
+
+#include <algorithm>
+#include <sstream>
+#include <string_view>
+
+namespace mivo::tally {
+namespace {
+
+void describe(std::ostream& out, std::string_view name, std::string_view type, std::string_view help) {
+  out << "# HELP mivo_tally_" << name << ' ' << help << "\n# TYPE mivo_tally_" << name << ' ' << type << '\n';
+}
+
+template <class Value>
+void single(std::ostream& out, std::string_view name, std::string_view type, std::string_view help, Value value) {
+  describe(out, name, type, help);
+  out << "mivo_tally_" << name << ' ' << value << '\n';
+}
+
+double seconds(std::int64_t microseconds) { return static_cast<double>(microseconds) / 1e6; }
+
+}  // namespace
+
+void Metrics::answered(unsigned status, std::chrono::microseconds duration) {
+  ++answersByStatus_[std::min<std::size_t>(status, answersByStatus_.size() - 1)];
+  const auto bucket = std::ranges::lower_bound(bucketMicroseconds, duration.count());
+  if (bucket != bucketMicroseconds.end())
+    ++answersByDuration_[static_cast<std::size_t>(bucket - bucketMicroseconds.begin())];
+  ++answers_;
+  microseconds_ += duration.count();
+}
+
+void Metrics::batchSent(std::size_t operations) {
+  ++batches_;
+  operations_ += operations;
+}
+
+std::string Metrics::text(const Present& present) const {
+  std::ostringstream out;
+  describe(out, "answers_total", "counter", "Answers by HTTP status.");
+  for (std::size_t status = 0; status < answersByStatus_.size(); ++status)
+    if (answersByStatus_[status] > 0)
+      out << "mivo_tally_answers_total{status=\"" << status << "\"} " << answersByStatus_[status] << '\n';
+  describe(out, "votes_total", "counter", "Votes that were kept.");
+  out << "mivo_tally_votes_total{delta=\"1\"} " << votesUp_ << "\nmivo_tally_votes_total{delta=\"-1\"} " << votesDown_
+      << '\n';
+  describe(out, "answer_seconds", "histogram", "Time from a request's last byte to its answer.");
+  std::uint64_t upTo = 0;
+  for (std::size_t i = 0; i < bucketMicroseconds.size(); ++i)
+    out << "mivo_tally_answer_seconds_bucket{le=\"" << seconds(bucketMicroseconds[i]) << "\"} "
+        << (upTo += answersByDuration_[i]) << '\n';
+  out << "mivo_tally_answer_seconds_bucket{le=\"+Inf\"} " << answers_ << "\nmivo_tally_answer_seconds_sum "
+      << seconds(microseconds_) << "\nmivo_tally_answer_seconds_count " << answers_ << '\n';
+  single(out, "store_batches_total", "counter", "Batches sent to the store.", batches_);
+  single(out, "store_operations_total", "counter", "Reads and votes in those batches.", operations_);
+  single(out, "open_connections", "gauge", "Connections that are open.", present.openConnections);
+  single(out, "store_available", "gauge", "1 where a vote is likely to be kept.", present.isStoreAvailable ? 1 : 0);
+  return out.str();
+}
+
+}  // namespace mivo::tally

@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+#include <array>
+#include <chrono>
+#include <cstdint>
+#include <string>
+
+namespace mivo::tally {
+
+/// What the server counts of itself since it started. Thread: the event loop's.
+class Metrics {
+ public:
+  struct Present {
+    std::size_t openConnections = 0;
+    bool isStoreAvailable = false;
+  };
+
+  void answered(unsigned status, std::chrono::microseconds duration);
+  void voted(int delta) { ++(delta > 0 ? votesUp_ : votesDown_); }
+  void batchSent(std::size_t operations);
+
+  /// Prometheus' text format.
+  std::string text(const Present& present) const;
+
+ private:
+  static constexpr std::array bucketMicroseconds{100, 250, 500, 1000, 2500, 5000, 10'000, 50'000, 250'000, 1'000'000};
+
+  std::array<std::uint64_t, 600> answersByStatus_{};
+  std::array<std::uint64_t, bucketMicroseconds.size()> answersByDuration_{};
+  std::uint64_t answers_ = 0;
+  std::int64_t microseconds_ = 0;
+  std::uint64_t votesUp_ = 0;
+  std::uint64_t votesDown_ = 0;
+  std::uint64_t batches_ = 0;
+  std::uint64_t operations_ = 0;
+};
+
+}  // namespace mivo::tally

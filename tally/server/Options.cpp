@@ -1,0 +1,132 @@
+// SPDX-License-Identifier: MIT
+#include "tally/server/Options.h"
+
+#include <CLI/CLI.hpp>
+#include <cstdlib>
+#include <iostream>
+#include <stdexcept>
+
+#include "tally/net/Asio.h"
+
+namespace mivo::tally {
+namespace {
+
+constexpr int wrongUsage = 2;
+
+std::string variable(const char* name) {
+  const char* value = std::getenv(name);
+  return value == nullptr ? std::string{} : std::string{value};
+}
+
+// systemd names a state folder; a person's own data lies where the desktop's rules put it.
+std::filesystem::path defaultDatabase() {
+  constexpr auto name = "tally.sqlite";
+  if (const auto state = variable("STATE_DIRECTORY"); !state.empty()) return std::filesystem::path{state} / name;
+  if (const auto data = variable("XDG_DATA_HOME"); !data.empty()) return std::filesystem::path{data} / "mivo" / name;
+  if (const auto home = variable("HOME"); !home.empty())
+    return std::filesystem::path{home} / ".local" / "share" / "mivo" / name;
+  return name;
+}
+
+bool isLoopback(const std::string& host) {
+  error_code error;
+  const auto address = asio::ip::make_address(host, error);
+  return error ? host == "localhost" : address.is_loopback();
+}
+
+void check(const ServeOptions& options) {
+  if (options.certificate.empty() != options.key.empty())
+    throw std::invalid_argument("--certificate and --key are given together");
+  if (options.certificate.empty() && !options.allowPlainHttp && !isLoopback(options.listen.host))
+    throw std::invalid_argument("--listen " + describe(options.listen) +
+                                ": others can reach it, so give --certificate and --key, or --allow-plain-http where a "
+                                "balancer in front does TLS");
+}
+
+struct Texts {
+  std::string listen = "127.0.0.1:8787";
+  std::string store = "sqlite:" + defaultDatabase().string();
+  unsigned requestSeconds = 10;
+  unsigned idleSeconds = 60;
+};
+
+void addFlags(CLI::App& app, ServeOptions& options, Texts& texts) {
+  const auto seconds = CLI::Range(1, 3600);
+  app.add_option("--listen", texts.listen, "Address and port to answer on; port 0 takes a free one")
+      ->envname("MIVO_TALLY_LISTEN")
+      ->type_name("HOST:PORT");
+  app.add_option("--store", texts.store, "sqlite:FILE, redis://[USER:PASSWORD@]HOST:PORT/DB, or rediss:// for TLS")
+      ->envname("MIVO_TALLY_STORE")
+      ->type_name("ADDRESS");
+  app.add_option("--roadmap", options.roadmap, "The list served as /data/roadmap-mivo.json")
+      ->envname("MIVO_TALLY_ROADMAP")
+      ->type_name("FILE");
+  app.add_option("--certificate", options.certificate, "Certificate chain (PEM); read again on SIGHUP")
+      ->envname("MIVO_TALLY_CERTIFICATE")
+      ->type_name("FILE");
+  app.add_option("--key", options.key, "Its private key (PEM)")->envname("MIVO_TALLY_KEY")->type_name("FILE");
+  app.add_flag("--allow-plain-http", options.allowPlainHttp, "Answer without TLS beyond this machine");
+  app.add_option("--votes-per-minute", options.votesPerMinute, "Votes taken from one address; 0 takes all")
+      ->envname("MIVO_TALLY_VOTES_PER_MINUTE")
+      ->type_name("N")
+      ->capture_default_str();
+  app.add_flag("--trust-forwarded-for", options.trustForwardedFor,
+               "Take the client's address from the last entry of X-Forwarded-For");
+  app.add_option("--allow-origin", options.allowedOrigins, "A web origin whose pages may vote; repeatable; * for all")
+      ->type_name("ORIGIN");
+  app.add_flag("--log-addresses", options.logAddresses, "Write clients' addresses into the log");
+  app.add_option("--request-seconds", texts.requestSeconds, "Time to send a request")->check(seconds)->type_name("N");
+  app.add_option("--idle-seconds", texts.idleSeconds, "Time between requests")->check(seconds)->type_name("N");
+  app.add_option("--max-connections", options.mostConnections,
+                 "Connections held; beyond, the one that was silent longest is dropped")
+      ->check(CLI::Range(1, 1'000'000))
+      ->type_name("N")
+      ->capture_default_str();
+}
+
+ServeOptions finished(ServeOptions options, const Texts& texts) {
+  const auto listen = parseEndpoint(texts.listen);
+  if (!listen)
+    throw std::invalid_argument("--listen: expected HOST:PORT or [IPV6]:PORT, found \"" + texts.listen + '"');
+  options.listen = *listen;
+  options.store = parseStoreAddress(texts.store);
+  options.requestTime = std::chrono::seconds{texts.requestSeconds};
+  options.idleTime = std::chrono::seconds{texts.idleSeconds};
+  check(options);
+  return options;
+}
+
+}  // namespace
+
+Command parseCommandLine(int argc, const char* const* argv) {
+  ServeOptions serve;
+  ExportOptions exported;
+  ImportOptions imported;
+  Texts texts;
+  CLI::App app{
+      "mivo-tally: counts votes for the features of a roadmap.\n"
+      "Without a command it serves; without flags, on this machine alone, into a SQLite file."};
+  addFlags(app, serve, texts);
+  auto* exporting = app.add_subcommand("export", "Write every counter of --store, one JSON object a line");
+  exporting->fallthrough()->add_option("--to", exported.to, "Where to; standard output without it")->type_name("FILE");
+  auto* importing = app.add_subcommand("import", "Bring counters that export wrote into --store");
+  importing->fallthrough()->add_option("FILE", imported.from, "What export wrote")->required();
+  importing->add_flag("--replace", imported.replace, "Overwrite counters that have another count");
+  app.footer(
+      "Examples:\n  mivo-tally\n  mivo-tally --store redis://localhost/0 --roadmap roadmap.json\n"
+      "  mivo-tally export --store sqlite:tally.sqlite > counters.jsonl\n"
+      "  mivo-tally import --store redis://localhost/0 counters.jsonl");
+  try {
+    app.parse(argc, argv);
+    if (exporting->parsed()) return ExportOptions{parseStoreAddress(texts.store), exported.to};
+    if (importing->parsed()) return ImportOptions{parseStoreAddress(texts.store), imported.from, imported.replace};
+    return finished(serve, texts);
+  } catch (const CLI::ParseError& error) {
+    return Exit{app.exit(error) == 0 ? 0 : wrongUsage};
+  } catch (const std::invalid_argument& error) {
+    std::cerr << "mivo-tally: " << error.what() << '\n';
+    return Exit{wrongUsage};
+  }
+}
+
+}  // namespace mivo::tally

@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+#include <chrono>
+#include <filesystem>
+#include <variant>
+
+#include "tally/net/Endpoint.h"
+#include "tally/request/Manners.h"
+#include "tally/store/StoreAddress.h"
+
+namespace mivo::tally {
+
+struct ServeOptions {
+  Endpoint listen{"127.0.0.1", "8787"};
+  StoreAddress store;
+  std::filesystem::path roadmap;      // empty: the example that is built in
+  std::filesystem::path certificate;  // empty: plain HTTP
+  std::filesystem::path key;
+  bool allowPlainHttp = false;
+  unsigned votesPerMinute = 60;  // from one address; 0: as many as it likes
+  bool trustForwardedFor = false;
+  bool logAddresses = false;
+  AllowedOrigins allowedOrigins;
+  std::chrono::seconds requestTime{10};  // from a request's first byte to its last, and to take an answer
+  std::chrono::seconds idleTime{60};     // between two requests
+  std::size_t mostConnections = 20'000;
+};
+
+struct ExportOptions {
+  StoreAddress store;
+  std::filesystem::path to;  // empty: standard output
+};
+
+struct ImportOptions {
+  StoreAddress store;
+  std::filesystem::path from;
+  bool replace = false;
+};
+
+struct Exit {
+  int code = 0;
+};
+
+using Command = std::variant<Exit, ServeOptions, ExportOptions, ImportOptions>;
+
+/// Reads flags and MIVO_TALLY_* variables. What was only asked to be explained, or is wrong, has been printed; the
+/// program then ends with the exit code (2 for wrong usage).
+Command parseCommandLine(int argc, const char* const* argv);
+
+}  // namespace mivo::tally

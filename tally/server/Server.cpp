@@ -1,0 +1,152 @@
+// SPDX-License-Identifier: MIT
+#include "tally/server/Server.h"
+
+#include <csignal>
+#include <stdexcept>
+
+#include "tally/server/Roadmap.h"
+#include "tally/server/TlsCertificate.h"
+
+namespace mivo::tally {
+namespace {
+
+constexpr int waitingToBeAccepted = 4096;
+constexpr std::chrono::milliseconds acceptPause{100};
+
+}  // namespace
+
+Server::Server(asio::io_context& loop, const ServeOptions& options, CounterStore& store, Log& log)
+    : loop_(loop),
+      options_(options),
+      store_(store),
+      log_(log),
+      service_(options, store, loadRoadmap(options.roadmap), [this] { return metricsText(); }),
+      operations_(loop, store, [this](std::size_t operations) { metrics_.batchSent(operations); }),
+      workplace_{options, service_, operations_, log, metrics_, connections_, [this] { stopWhenDone(); }},
+      acceptor_(loop),
+      signals_(loop, SIGTERM, SIGINT, SIGHUP),
+      second_(loop),
+      acceptAgain_(loop) {
+  if (!options.certificate.empty()) certificate_ = loadCertificate(options.certificate, options.key);
+  listen();
+}
+
+void Server::listen() {
+  try {
+    const tcp::endpoint endpoint = *tcp::resolver{loop_}.resolve(options_.listen.host, options_.listen.port).begin();
+    acceptor_.open(endpoint.protocol());
+    acceptor_.set_option(tcp::acceptor::reuse_address{true});
+    acceptor_.bind(endpoint);
+    acceptor_.listen(waitingToBeAccepted);
+    acceptor_.non_blocking(true);
+  } catch (const boost::system::system_error& error) {
+    throw std::runtime_error("--listen " + describe(options_.listen) + ": " + error.code().message());
+  }
+}
+
+void Server::run() {
+  const auto local = acceptor_.local_endpoint();
+  log_.event("listening", (certificate_ ? "https://" : "http://") +
+                              describe(Endpoint{local.address().to_string(), std::to_string(local.port())}) +
+                              ", votes in " + describe(options_.store));
+  accept();
+  checkDeadlines();
+  awaitSignal();
+  loop_.run();
+}
+
+void Server::accept() {
+  acceptor_.async_accept([this](error_code error, tcp::socket socket) {
+    if (!acceptor_.is_open()) return;
+    if (!error) {
+      add(std::move(socket));
+      return accept();
+    }
+    if (error == asio::error::connection_aborted) return accept();
+    // Out of descriptors: give one back, and do not spin.
+    makeRoom();
+    acceptAgain_.expires_after(acceptPause);
+    acceptAgain_.async_wait([this](error_code cancelled) {
+      if (!cancelled) accept();
+    });
+  });
+}
+
+void Server::add(tcp::socket socket) {
+  if (connections_.size() >= options_.mostConnections) makeRoom();
+  error_code error;
+  const auto peer = socket.remote_endpoint(error);
+  if (!error) socket.set_option(tcp::no_delay{true}, error);
+  if (!error) socket.non_blocking(true, error);
+  if (error) return;  // it is gone already
+  auto stream = certificate_ ? Stream{std::move(socket), *certificate_} : Stream{std::move(socket)};
+  connections_.push_back(std::make_shared<Connection>(std::move(stream), workplace_, peer.address()));
+  connections_.back()->start(std::prev(connections_.end()));
+}
+
+// A connection that answers were sent to lately stands behind those that only hold a place.
+void Server::makeRoom() {
+  const auto silent = std::ranges::find_if(connections_, [](const auto& each) { return each->isWaitingForClient(); });
+  if (silent != connections_.end()) std::shared_ptr {
+      *silent
+    } -> close();
+}
+
+void Server::checkDeadlines() {
+  const auto now = std::chrono::steady_clock::now();
+  for (auto next = connections_.begin(); next != connections_.end();) {
+    const auto connection = *next++;  // which may leave the list
+    connection->checkDeadline(now);
+  }
+  second_.expires_after(std::chrono::seconds{1});
+  second_.async_wait([this](error_code error) {
+    if (!error) checkDeadlines();
+  });
+}
+
+void Server::awaitSignal() {
+  signals_.async_wait([this](error_code error, int signal) {
+    if (error) return;
+    if (signal == SIGHUP) reload();
+    if (signal != SIGHUP) isStopping_ ? loop_.stop() : stop();
+    awaitSignal();
+  });
+}
+
+void Server::reload() {
+  try {
+    service_.replaceRoadmap(loadRoadmap(options_.roadmap));
+    if (certificate_) certificate_ = loadCertificate(options_.certificate, options_.key);
+    log_.event("reloaded", certificate_ ? "certificate and roadmap" : "roadmap");
+  } catch (const std::exception& error) {
+    log_.event("not reloaded", error.what());
+  }
+}
+
+void Server::stop() {
+  log_.event("stopping", "finishing what is in flight");
+  isStopping_ = true;
+  error_code error;
+  for (;;) {  // those the system has connected already were promised an answer
+    auto socket = acceptor_.accept(error);
+    if (error) break;
+    add(std::move(socket));
+  }
+  acceptor_.close(error);
+  const auto now = std::chrono::steady_clock::now();
+  for (auto next = connections_.begin(); next != connections_.end();) {
+    const auto connection = *next++;
+    connection->drain(now);
+  }
+  stopWhenDone();
+}
+
+void Server::stopWhenDone() {
+  if (isStopping_ && connections_.empty() && operations_.isIdle()) loop_.stop();
+}
+
+std::string Server::metricsText() const {
+  return metrics_.text({.openConnections = connections_.size(), .isStoreAvailable = store_.isAvailable()});
+}
+
+}  // namespace mivo::tally

@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+#include "tally/server/Connection.h"
+
+namespace mivo::tally {
+
+/// Listens, and minds the connections: their number, their deadlines, the signals of whoever runs the server.
+///
+/// SIGTERM and SIGINT: no new connection, what is in flight is finished, then `run` returns; a second one ends it at
+/// once. SIGHUP: certificate and roadmap are read again; where one cannot be, the old one stays.
+class Server {
+ public:
+  /// Throws std::runtime_error with one sentence where it cannot listen or read a file.
+  Server(asio::io_context& loop, const ServeOptions& options, CounterStore& store, Log& log);
+  /// Serves until it is told to stop.
+  void run();
+
+ private:
+  void listen();
+  void accept();
+  void add(tcp::socket socket);
+  void makeRoom();
+  void checkDeadlines();
+  void awaitSignal();
+  void reload();
+  void stop();
+  void stopWhenDone();
+  std::string metricsText() const;
+
+  asio::io_context& loop_;
+  const ServeOptions& options_;
+  CounterStore& store_;
+  Log& log_;
+  Metrics metrics_;
+  Service service_;
+  OperationQueue operations_;
+  Connections connections_;
+  Workplace workplace_;
+  std::shared_ptr<ssl::context> certificate_;
+  tcp::acceptor acceptor_;
+  asio::signal_set signals_;
+  asio::steady_timer second_;
+  asio::steady_timer acceptAgain_;
+  bool isStopping_ = false;
+};
+
+}  // namespace mivo::tally

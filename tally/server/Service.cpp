@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: MIT
+#include "tally/server/Service.h"
+
+#include "tally/request/ClientAddress.h"
+
+namespace mivo::tally {
+namespace {
+
+constexpr unsigned retrySeconds = 5;
+constexpr Refusal storeIsAway{503, "the votes cannot be read or kept just now"};
+constexpr Refusal wouldOverflow{409, "the count cannot go further"};
+constexpr Refusal tooMany{429, "too many votes from this address"};
+
+template <class... Cases>
+struct Overloaded : Cases... {
+  using Cases::operator()...;
+};
+
+}  // namespace
+
+Service::Service(const ServeOptions& options, const CounterStore& store, std::string roadmap,
+                 std::function<std::string()> metricsText)
+    : allowedOrigins_(options.allowedOrigins),
+      store_(store),
+      roadmap_(std::move(roadmap)),
+      metricsText_(std::move(metricsText)),
+      limiter_(options.votesPerMinute) {}
+
+std::variant<Answer, Operation> Service::handle(const Request& request, const asio::ip::address& client,
+                                                std::chrono::steady_clock::time_point now) {
+  using Handled = std::variant<Answer, Operation>;
+  return std::visit(
+      Overloaded{
+          [](const Refusal& refusal) -> Handled { return refusalAnswer(refusal); },
+          [&](const ReadCount& read) -> Handled {
+            if (const auto count = store_.known(read.counter)) return countAnswer(*count);
+            return Operation{std::string{read.counter}, 0};
+          },
+          [&](const AddVote& vote) -> Handled {
+            if (const auto wait = limiter_.secondsToWait(rateKey(client), now)) return refusalAnswer(tooMany, wait);
+            return Operation{std::string{vote.counter}, vote.delta};
+          },
+          [&](const ReadRoadmap&) -> Handled { return Answer{.body = roadmap_}; },
+          [&](const ReadHealth&) -> Handled { return health(); },
+          [&](const ReadMetrics&) -> Handled { return Answer{.content = Content::text, .body = metricsText_()}; },
+      },
+      decide(request, allowedOrigins_));
+}
+
+Answer Service::answerTo(const Result& result) const {
+  switch (result.outcome) {
+    case Outcome::counted:
+      return countAnswer(result.count);
+    case Outcome::overflow:
+      return refusalAnswer(wouldOverflow);
+    case Outcome::away:
+      break;
+  }
+  return refusalAnswer(storeIsAway, retrySeconds);
+}
+
+void Service::allowOrigin(const Request& request, Answer& answer) const {
+  if (allowedOrigins_.empty()) return;
+  answer.allowedOrigin = originToAllow(request, allowedOrigins_);
+  answer.variesByOrigin = true;
+}
+
+Answer Service::health() const {
+  if (!store_.isAvailable()) return refusalAnswer(storeIsAway, retrySeconds);
+  return Answer{.body = R"({"status":"ok"})"};
+}
+
+}  // namespace mivo::tally

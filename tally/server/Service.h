@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+#include <chrono>
+#include <functional>
+#include <variant>
+
+#include "tally/net/Asio.h"
+#include "tally/request/Decision.h"
+#include "tally/server/Metrics.h"
+#include "tally/server/Options.h"
+#include "tally/server/RateLimiter.h"
+#include "tally/store/CounterStore.h"
+
+namespace mivo::tally {
+
+/// Turns requests into answers, or into what has to be asked of the store first. Knows no sockets.
+class Service {
+ public:
+  /// `metricsText` writes the page of /metrics.
+  Service(const ServeOptions& options, const CounterStore& store, std::string roadmap,
+          std::function<std::string()> metricsText);
+
+  std::variant<Answer, Operation> handle(const Request& request, const asio::ip::address& client,
+                                         std::chrono::steady_clock::time_point now);
+  /// The answer after the store was asked.
+  Answer answerTo(const Result& result) const;
+  /// Adds what a web page needs to be allowed to read the answer.
+  void allowOrigin(const Request& request, Answer& answer) const;
+  void replaceRoadmap(std::string roadmap) { roadmap_ = std::move(roadmap); }
+
+ private:
+  Answer health() const;
+
+  AllowedOrigins allowedOrigins_;
+  const CounterStore& store_;
+  std::string roadmap_;
+  std::function<std::string()> metricsText_;
+  RateLimiter limiter_;
+};
+
+}  // namespace mivo::tally

@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: MIT
+#include "tally/server/TlsCertificate.h"
+
+#include <stdexcept>
+
+namespace mivo::tally {
+namespace {
+
+void check(const error_code& error, const std::filesystem::path& file) {
+  if (error) throw std::runtime_error(file.string() + ": " + error.message());
+}
+
+}  // namespace
+
+std::shared_ptr<ssl::context> loadCertificate(const std::filesystem::path& certificate,
+                                              const std::filesystem::path& key) {
+  auto context = std::make_shared<ssl::context>(ssl::context::tls_server);
+  context->set_options(ssl::context::no_tlsv1 | ssl::context::no_tlsv1_1 | ssl::context::no_compression);
+  // An idle connection then keeps no buffers of OpenSSL's.
+  SSL_CTX_set_mode(context->native_handle(), SSL_MODE_RELEASE_BUFFERS);
+  error_code error;
+  context->use_certificate_chain_file(certificate.string(), error);
+  check(error, certificate);
+  context->use_private_key_file(key.string(), ssl::context::pem, error);
+  check(error, key);
+  if (SSL_CTX_check_private_key(context->native_handle()) != 1)
+    throw std::runtime_error(key.string() + ": does not belong to " + certificate.string());
+  return context;
+}
+
+}  // namespace mivo::tally

@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+#include "tally/net/Asio.h"
+#include "tally/store/CounterStore.h"
+
+namespace mivo::tally {
+
+/// Gathers what connections ask of the store while its last batch is under way, and sends that as the next one: however
+/// many vote at once, one flush of the disk or one round trip serves them all.
+class OperationQueue {
+ public:
+  /// Told once a batch: how many operations it held.
+  using BatchSent = std::function<void(std::size_t)>;
+
+  OperationQueue(asio::io_context& loop, CounterStore& store, BatchSent batchSent)
+      : loop_(loop), store_(store), batchSent_(std::move(batchSent)) {}
+
+  void add(Operation operation, std::function<void(Result)> done);
+  bool isIdle() const { return !isUnderWay_ && operations_.empty(); }
+
+ private:
+  using Callbacks = std::vector<std::function<void(Result)>>;
+
+  void sendSoon();
+  void send();
+  void didFinish(const Results& results);
+
+  asio::io_context& loop_;
+  CounterStore& store_;
+  BatchSent batchSent_;
+  Operations operations_;
+  Callbacks callbacks_;
+  Callbacks underWay_;
+  bool isUnderWay_ = false;
+};
+
+}  // namespace mivo::tally

@@ -1,0 +1,122 @@
+// SPDX-License-Identifier: MIT
+#include "tally/store/RedisLink.h"
+
+#include <boost/asio/connect.hpp>
+
+namespace mivo::tally {
+namespace {
+
+// Longer than any healthy Redis takes, also one that flushes each write; shorter than a client waits.
+constexpr std::chrono::seconds longestWait{5};
+
+}  // namespace
+
+template <class Next>
+auto RedisLink::step(Next next) {
+  return [self = shared_from_this(), next = std::move(next)](error_code error, auto... results) {
+    if (self->isClosed_) return;
+    if (error == asio::error::eof) return self->lose("it closed the connection");
+    if (error) return self->lose(error.message());
+    next(results...);
+  };
+}
+
+RedisLink::RedisLink(asio::io_context& loop, RedisAddress address)
+    : address_(std::move(address)), loop_(loop), tls_(ssl::context::tls_client), resolver_(loop), deadline_(loop) {
+  tls_.set_options(ssl::context::no_tlsv1 | ssl::context::no_tlsv1_1);
+  error_code ignored;  // without authorities no certificate passes, which then says so
+  tls_.set_default_verify_paths(ignored);
+}
+
+void RedisLink::open(std::function<void()> ready, Lost lost) {
+  ready_ = std::move(ready);
+  lost_ = std::move(lost);
+  startDeadline();
+  resolver_.async_resolve(address_.endpoint.host, address_.endpoint.port,
+                          step([this](const tcp::resolver::results_type& endpoints) { connect(endpoints); }));
+}
+
+void RedisLink::connect(const tcp::resolver::results_type& endpoints) {
+  if (address_.isSecure) {
+    stream_.emplace(tcp::socket{loop_}, tls_);
+  } else {
+    stream_.emplace(tcp::socket{loop_});
+  }
+  asio::async_connect(stream_->socket(), endpoints, step([this](const auto&) {  // the endpoint that answered
+                        stream_->socket().set_option(tcp::no_delay{true});
+                        stream_->socket().set_option(asio::socket_base::keep_alive{true});
+                        address_.isSecure ? secure() : logIn();
+                      }));
+}
+
+void RedisLink::secure() {
+  if (const auto error = stream_->expectHost(address_.endpoint.host)) return lose(error.message());
+  stream_->handshake(ssl::stream_base::client, step([this] { logIn(); }));
+}
+
+void RedisLink::logIn() {
+  read();
+  std::string commands;
+  if (address_.user.empty() && !address_.password.empty()) appendCommand(commands, {"AUTH", address_.password});
+  if (!address_.user.empty()) appendCommand(commands, {"AUTH", address_.user, address_.password});
+  appendCommand(commands, {"SELECT", std::to_string(address_.database)});
+  appendCommand(commands, {"GET", redisKeyPrefix});  // fails while Redis still loads its file
+  exchange(std::move(commands), address_.password.empty() ? 2 : 3, [this](const Replies& replies) {
+    for (const auto& reply : replies)
+      if (reply.kind == RedisReply::Kind::error) return lose(reply.text);
+    std::exchange(ready_, {})();
+  });
+}
+
+void RedisLink::exchange(std::string commands, std::size_t count, Replied replied) {
+  commands_ = std::move(commands);
+  expected_ = count;
+  replied_ = std::move(replied);
+  startDeadline();
+  stream_->write(asio::buffer(commands_), step([](std::size_t) {}));
+}
+
+void RedisLink::read() {
+  stream_->readSome(asio::buffer(bytes_), step([this](std::size_t size) { take(size); }));
+}
+
+void RedisLink::take(std::size_t size) {
+  try {
+    reader_.feed({bytes_.data(), size});
+    while (auto reply = reader_.next()) replies_.push_back(std::move(*reply));
+  } catch (const std::exception& error) {
+    return lose(error.what());
+  }
+  if (replies_.size() > expected_) return lose("an answer that nobody asked for");
+  if (expected_ > 0 && replies_.size() == expected_) {
+    expected_ = 0;
+    deadline_.cancel();
+    std::exchange(replied_, {})(std::exchange(replies_, {}));
+  }
+  if (!isClosed_) read();
+}
+
+void RedisLink::startDeadline() {
+  deadline_.expires_after(longestWait);
+  deadline_.async_wait([self = shared_from_this()](error_code error) {
+    if (!error && !self->isClosed_) self->lose("no answer within 5 seconds");
+  });
+}
+
+void RedisLink::lose(const std::string& reason) {
+  const auto lost = std::exchange(lost_, {});
+  close();
+  if (lost) asio::post(loop_, [lost, reason] { lost(reason); });
+}
+
+void RedisLink::close() {
+  isClosed_ = true;
+  lost_ = {};
+  ready_ = {};
+  replied_ = {};
+  resolver_.cancel();
+  deadline_.cancel();
+  if (stream_) stream_->close();
+}
+
+}  // namespace mivo::tally

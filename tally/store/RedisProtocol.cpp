@@ -1,0 +1,77 @@
+// SPDX-License-Identifier: MIT
+#include "tally/store/RedisProtocol.h"
+
+#include <hiredis/hiredis.h>
+
+#include <new>
+#include <stdexcept>
+
+namespace mivo::tally {
+namespace {
+
+RedisReply converted(const redisReply& reply) {
+  RedisReply result;
+  switch (reply.type) {
+    case REDIS_REPLY_INTEGER:
+      result.kind = RedisReply::Kind::integer;
+      result.integer = reply.integer;
+      break;
+    case REDIS_REPLY_STRING:
+    case REDIS_REPLY_STATUS:
+      result.kind = RedisReply::Kind::text;
+      result.text.assign(reply.str, static_cast<std::size_t>(reply.len));
+      break;
+    case REDIS_REPLY_ERROR:
+      result.kind = RedisReply::Kind::error;
+      result.text.assign(reply.str, static_cast<std::size_t>(reply.len));
+      break;
+    case REDIS_REPLY_ARRAY:
+      result.kind = RedisReply::Kind::list;
+      for (std::size_t i = 0; i < reply.elements; ++i) result.list.push_back(converted(*reply.element[i]));
+      break;
+    default:
+      break;
+  }
+  return result;
+}
+
+}  // namespace
+
+std::string redisKey(std::string_view counter) { return std::string{redisKeyPrefix}.append(counter); }
+
+void appendCommand(std::string& out, std::span<const std::string_view> words) {
+  std::vector<const char*> texts;
+  std::vector<std::size_t> lengths;
+  for (const auto word : words) {
+    texts.push_back(word.data());
+    lengths.push_back(word.size());
+  }
+  char* command = nullptr;
+  const int length = redisFormatCommandArgv(&command, static_cast<int>(words.size()), texts.data(), lengths.data());
+  if (length < 0) throw std::bad_alloc{};
+  out.append(command, static_cast<std::size_t>(length));
+  redisFreeCommand(command);
+}
+
+void appendCommand(std::string& out, std::initializer_list<std::string_view> words) {
+  appendCommand(out, std::span{words.begin(), words.size()});
+}
+
+RedisReplyReader::RedisReplyReader() : reader_(redisReaderCreate()) {
+  if (reader_ == nullptr) throw std::bad_alloc{};
+}
+
+RedisReplyReader::~RedisReplyReader() { redisReaderFree(reader_); }
+
+void RedisReplyReader::feed(std::string_view bytes) { redisReaderFeed(reader_, bytes.data(), bytes.size()); }
+
+std::optional<RedisReply> RedisReplyReader::next() {
+  void* found = nullptr;
+  if (redisReaderGetReply(reader_, &found) != REDIS_OK)
+    throw std::runtime_error(static_cast<const char*>(reader_->errstr));
+  if (found == nullptr) return std::nullopt;
+  const std::unique_ptr<void, void (*)(void*)> owner{found, freeReplyObject};
+  return converted(*static_cast<redisReply*>(found));
+}
+
+}  // namespace mivo::tally

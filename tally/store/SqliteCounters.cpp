@@ -1,0 +1,179 @@
+// SPDX-License-Identifier: MIT
+#include "tally/store/SqliteCounters.h"
+
+#include <SQLiteCpp/SQLiteCpp.h>
+#include <sqlite3.h>
+
+#include <algorithm>
+#include <stdexcept>
+#include <unordered_map>
+
+namespace mivo::tally {
+namespace {
+
+constexpr int schemaVersion = 1;
+
+// Gives what SQLite says the file's name, which it leaves out.
+template <class Body>
+auto naming(const std::filesystem::path& file, Body body) {
+  try {
+    return body();
+  } catch (const std::exception& error) {
+    throw std::runtime_error(file.string() + ": " + error.what());
+  }
+}
+
+void prepare(SQLite::Database& database) {
+  database.exec("PRAGMA journal_mode = WAL");
+  database.exec("PRAGMA synchronous = FULL");
+  const int version = database.execAndGet("PRAGMA user_version").getInt();
+  if (version > schemaVersion) throw std::runtime_error("written by a newer mivo-tally");
+  if (version == schemaVersion) return;
+  SQLite::Transaction transaction{database};
+  database.exec("CREATE TABLE counter (name TEXT PRIMARY KEY, value INTEGER NOT NULL) STRICT, WITHOUT ROWID");
+  database.exec("PRAGMA user_version = 1");
+  transaction.commit();
+}
+
+SQLite::Database openDatabase(const std::filesystem::path& file, SqliteCounters::Access access) {
+  const bool writes = access == SqliteCounters::Access::readWrite;
+  constexpr int busyMilliseconds = 5000;
+  SQLite::Database database{
+      file.string(), writes ? SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE : SQLite::OPEN_READONLY, busyMilliseconds};
+  if (writes) prepare(database);
+  return database;
+}
+
+bool isRead(const Operation& operation) { return operation.delta == 0; }
+
+}  // namespace
+
+struct SqliteCounters::Database {
+  Database(const std::filesystem::path& file, Access access)
+      : connection(openDatabase(file, access)),
+        select(connection, "SELECT value FROM counter WHERE name = ?"),
+        upsert(connection, "INSERT INTO counter VALUES (?1, ?2) ON CONFLICT (name) DO UPDATE SET value = ?2"),
+        begin(connection, "BEGIN IMMEDIATE"),
+        commit(connection, "COMMIT") {}
+
+  std::int64_t count(const std::string& counter) {
+    select.bindNoCopy(1, counter);
+    const std::int64_t value = select.executeStep() ? select.getColumn(0).getInt64() : 0;
+    select.reset();
+    return value;
+  }
+
+  void set(const std::string& counter, std::int64_t value) {
+    upsert.bindNoCopy(1, counter);
+    upsert.bind(2, value);
+    run(upsert);
+  }
+
+  static void run(SQLite::Statement& statement) {
+    statement.exec();
+    statement.reset();
+  }
+
+  template <class Body>
+  auto inTransaction(Body body) {
+    run(begin);
+    try {
+      auto result = body();
+      run(commit);
+      return result;
+    } catch (...) {
+      recover();
+      throw;
+    }
+  }
+
+  // Some failures have already rolled back; a statement that failed keeps its lock until it is reset.
+  void recover() {
+    for (auto* statement : {&select, &upsert, &begin, &commit}) statement->tryReset();
+    if (sqlite3_get_autocommit(connection.getHandle()) == 0) connection.tryExec("ROLLBACK");
+  }
+
+  SQLite::Database connection;
+  SQLite::Statement select, upsert, begin, commit;
+};
+
+// However often a batch votes for a counter, its row is read and written once.
+class SqliteCounters::Batch {
+ public:
+  explicit Batch(Database& database) : database_(database) {}
+
+  Results results(const Operations& operations) {
+    Results results(operations.size());
+    std::ranges::transform(operations, results.begin(), [this](const auto& operation) { return result(operation); });
+    return results;
+  }
+
+  void write() {
+    for (const auto& [counter, count] : counts_)
+      if (count.isChanged) database_.set(*count.name, count.value);
+  }
+
+ private:
+  struct Count {
+    const std::string* name;
+    std::int64_t value;
+    bool isChanged = false;
+  };
+
+  Result result(const Operation& operation) {
+    auto found = counts_.find(operation.counter);
+    if (found == counts_.end()) {
+      const Count count{&operation.counter, database_.count(operation.counter)};
+      found = counts_.emplace(operation.counter, count).first;
+    }
+    auto& count = found->second;
+    const auto after = added(count.value, operation.delta);
+    if (!after) return {Outcome::overflow, count.value};
+    count.isChanged = count.isChanged || !isRead(operation);
+    count.value = *after;
+    return {Outcome::counted, count.value};
+  }
+
+  Database& database_;
+  std::unordered_map<std::string_view, Count> counts_;
+};
+
+SqliteCounters::SqliteCounters(const std::filesystem::path& file, Access access) : file_(file) {
+  database_ = naming(file, [&] { return std::make_unique<Database>(file, access); });
+}
+
+SqliteCounters::~SqliteCounters() = default;
+
+Results SqliteCounters::apply(const Operations& operations) {
+  return naming(file_, [&] {
+    Batch batch{*database_};
+    if (std::ranges::all_of(operations, isRead)) return batch.results(operations);
+    return database_->inTransaction([&] {
+      auto results = batch.results(operations);
+      batch.write();
+      return results;
+    });
+  });
+}
+
+std::int64_t SqliteCounters::count(std::string_view counter) {
+  return naming(file_, [&] { return database_->count(std::string{counter}); });
+}
+
+void SqliteCounters::forEach(const std::function<void(std::string_view, std::int64_t)>& visit) {
+  naming(file_, [&] {
+    SQLite::Statement all{database_->connection, "SELECT name, value FROM counter ORDER BY name"};
+    while (all.executeStep()) visit(all.getColumn(0).getText(), all.getColumn(1).getInt64());
+  });
+}
+
+void SqliteCounters::set(const std::vector<Change>& changes) {
+  naming(file_, [&] {
+    database_->inTransaction([&] {
+      for (const auto& change : changes) database_->set(change.counter, change.to);
+      return changes.size();
+    });
+  });
+}
+
+}  // namespace mivo::tally

@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+#include <filesystem>
+#include <functional>
+#include <memory>
+
+#include "tally/store/Change.h"
+#include "tally/store/CounterStore.h"
+
+namespace mivo::tally {
+
+/// The counters' table in a SQLite file. Write-ahead log with synchronous=FULL: what `apply` returned is on disk.
+/// Every operation throws std::runtime_error with one sentence that names the file. Thread: one at a time.
+class SqliteCounters {
+ public:
+  enum class Access { readOnly, readWrite };
+
+  /// Opens the file; for writing, makes it where it is missing.
+  SqliteCounters(const std::filesystem::path& file, Access access);
+  ~SqliteCounters();
+
+  /// All votes in one transaction, flushed once. After a throw none of them is kept.
+  Results apply(const Operations& operations);
+  /// 0 for a counter that nobody voted for.
+  std::int64_t count(std::string_view counter);
+  /// Every counter in order of its name.
+  void forEach(const std::function<void(std::string_view counter, std::int64_t count)>& visit);
+  /// Writes counts as they are, all or none.
+  void set(const std::vector<Change>& changes);
+
+ private:
+  struct Database;
+  class Batch;
+  std::filesystem::path file_;
+  std::unique_ptr<Database> database_;
+};
+
+}  // namespace mivo::tally

@@ -1,0 +1,105 @@
+// SPDX-License-Identifier: MIT
+#include "tally/store/Transfer.h"
+
+#include <istream>
+#include <nlohmann/json.hpp>
+#include <optional>
+#include <ostream>
+#include <stdexcept>
+
+#include "tally/request/CounterName.h"
+#include "tally/store/FileLock.h"
+#include "tally/store/RedisTransfer.h"
+#include "tally/store/SqliteCounters.h"
+
+namespace mivo::tally {
+namespace {
+
+using nlohmann::json;
+
+struct Line {
+  std::string counter;
+  std::int64_t value = 0;
+};
+
+std::int64_t wholeNumber(const json& value) {
+  constexpr auto largest = static_cast<std::uint64_t>(std::numeric_limits<std::int64_t>::max());
+  const bool fits = value.is_number_integer() && (!value.is_number_unsigned() || value.get<std::uint64_t>() <= largest);
+  if (!fits) throw std::runtime_error("value: expected a whole number of 64 bits, found " + value.dump());
+  return value.get<std::int64_t>();
+}
+
+Line parseLine(const std::string& text) {
+  const auto line = json::parse(text, nullptr, false);
+  if (!line.is_object()) throw std::runtime_error("expected an object with counter and value");
+  if (!line.contains("counter") || !line["counter"].is_string()) throw std::runtime_error("counter: expected a text");
+  if (!line.contains("value")) throw std::runtime_error("value: is missing");
+  auto counter = line["counter"].get<std::string>();
+  if (const auto fault = faultOfCounterName(counter)) throw std::runtime_error("counter: " + std::string{*fault});
+  return {std::move(counter), wholeNumber(line["value"])};
+}
+
+Counts readTable(SqliteCounters& table) {
+  Counts counts;
+  table.forEach([&](std::string_view counter, std::int64_t count) { counts.emplace(counter, count); });
+  return counts;
+}
+
+}  // namespace
+
+void writeCounts(std::ostream& out, const Counts& counts) {
+  for (const auto& [counter, value] : counts)
+    out << "{\"counter\":" << json(counter).dump() << ",\"value\":" << value << "}\n";
+}
+
+Counts readCounts(std::istream& in, const std::string& fileName) {
+  Counts counts;
+  std::string text;
+  for (int number = 1; std::getline(in, text); ++number) {
+    if (text.empty()) continue;
+    try {
+      auto [counter, value] = parseLine(text);
+      if (!counts.emplace(counter, value).second) throw std::runtime_error("counter: " + counter + " comes twice");
+    } catch (const std::exception& error) {
+      throw std::runtime_error(fileName + ':' + std::to_string(number) + ": " + error.what());
+    }
+  }
+  return counts;
+}
+
+ImportPlan planImport(const Counts& present, const Counts& wanted, bool replace) {
+  ImportPlan plan;
+  for (const auto& [counter, value] : wanted) {
+    const auto found = present.find(counter);
+    const bool isNew = found == present.end();
+    const Change change{counter, isNew ? 0 : found->second, value};
+    if (!isNew && change.from == value) {
+      ++plan.equal;
+    } else {
+      (isNew || replace ? plan.changes : plan.conflicts).push_back(change);
+    }
+  }
+  return plan;
+}
+
+Counts readStore(const StoreAddress& address) {
+  if (const auto* redis = std::get_if<RedisAddress>(&address)) return readRedis(*redis);
+  SqliteCounters counters{std::get<SqliteAddress>(address).file, SqliteCounters::Access::readOnly};
+  return readTable(counters);
+}
+
+ImportPlan importCounts(const StoreAddress& address, const Counts& wanted, bool replace) {
+  if (const auto* redis = std::get_if<RedisAddress>(&address)) {
+    auto plan = planImport(readRedis(*redis), wanted, replace);
+    if (plan.conflicts.empty()) changeRedis(*redis, plan.changes);
+    return plan;
+  }
+  const auto& file = std::get<SqliteAddress>(address).file;
+  const FileLock lock{file};
+  SqliteCounters counters{file, SqliteCounters::Access::readWrite};
+  auto plan = planImport(readTable(counters), wanted, replace);
+  if (plan.conflicts.empty()) counters.set(plan.changes);
+  return plan;
+}
+
+}  // namespace mivo::tally

@@ -1,0 +1,112 @@
+// SPDX-License-Identifier: MIT
+#include "tally/store/RedisStore.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "PrintedResult.h"
+#include "tests/tally_support/RedisServer.h"
+
+namespace mivo::tally {
+namespace {
+
+using testing::Each;
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+Result counted(std::int64_t count) { return {Outcome::counted, count}; }
+const Result away{};
+
+struct Fixture : testing::Test {
+  RedisStore& storeAt(const std::string& address) {
+    store.emplace(loop, std::get<RedisAddress>(parseStoreAddress(address)),
+                  [this](std::string_view text) { reports.emplace_back(text); });
+    return *store;
+  }
+
+  template <class Condition>
+  void runUntil(Condition condition) {
+    const auto end = std::chrono::steady_clock::now() + std::chrono::seconds{30};
+    while (!condition() && std::chrono::steady_clock::now() < end) loop.run_one_for(std::chrono::seconds{1});
+    ASSERT_TRUE(condition()) << testing::PrintToString(reports);
+  }
+
+  Results ask(Operations operations) {
+    std::optional<Results> results;
+    store->submit(std::move(operations), [&](Results done) { results = std::move(done); });
+    EXPECT_FALSE(results) << "answered from inside";
+    runUntil([&] { return results.has_value(); });
+    return results.value_or(Results{});
+  }
+
+  asio::io_context loop;
+  std::vector<std::string> reports;
+  std::optional<RedisStore> store;
+};
+
+using RedisStoreTest = Fixture;
+
+TEST_F(RedisStoreTest, countsInOrderAndKeepsNothingHimself) {
+  const test::RedisServer redis;
+  auto& sut = storeAt(redis.address());
+  EXPECT_FALSE(sut.isAvailable());
+  runUntil([&] { return sut.isAvailable(); });
+  EXPECT_THAT(ask({{"a/feature1", 0}, {"a/feature1", 1}, {"a/feature1", 1}, {"a/feature2", -1}, {"a/feature1", 0}}),
+              ElementsAre(counted(0), counted(1), counted(2), counted(-1), counted(2)));
+  EXPECT_EQ(sut.known("a/feature1"), std::nullopt);
+}
+
+TEST_F(RedisStoreTest, leavesAnOverflowToRedisAndTellsOfStrangeValues) {
+  const test::RedisServer redis;
+  auto& sut = storeAt(redis.address());
+  runUntil([&] { return sut.isAvailable(); });
+  test::ChildProcess{{"redis-cli", "-u", redis.address(), "MSET", "mivo-tally:a/feature1", "9223372036854775807",
+                      "mivo-tally:a/feature2", "many"}}
+      .wait();
+  const auto results = ask({{"a/feature1", 1}, {"a/feature1", 0}, {"a/feature2", 0}, {"a/feature2", 1}});
+  EXPECT_EQ(results.at(0).outcome, Outcome::overflow);
+  EXPECT_EQ(results.at(1), counted(9223372036854775807));
+  EXPECT_EQ(results.at(2), away);
+  EXPECT_EQ(results.at(3), away);
+  EXPECT_THAT(reports.back(), HasSubstr("Redis refuses"));
+}
+
+TEST_F(RedisStoreTest, isAwayWithRedisAndComesBackByItself) {
+  test::RedisServer redis;
+  auto& sut = storeAt(redis.address());
+  runUntil([&] { return sut.isAvailable(); });
+  EXPECT_THAT(ask({{"a/feature1", 1}}), ElementsAre(counted(1)));
+  redis.process().kill();
+  runUntil([&] { return !sut.isAvailable(); });  // without a vote that would have to be lost to find out
+  EXPECT_THAT(ask({{"a/feature1", 1}, {"a/feature1", 0}}), Each(away));
+  redis.restart();
+  runUntil([&] { return sut.isAvailable(); });
+  EXPECT_THAT(ask({{"a/feature1", 1}}), ElementsAre(counted(2)));
+  EXPECT_THAT(reports, ElementsAre(HasSubstr("is there"), HasSubstr("is away"), HasSubstr("is there")));
+}
+
+TEST_F(RedisStoreTest, doesNotTrustACertificateOfNobodyKnown) {
+  const test::TemporaryFolder folder;
+  const test::CertificateFiles files{folder.file("certificate.pem"), folder.file("key.pem")};
+  test::makeCertificate(files, 1);
+  const test::RedisServer redis{{.password = {}, .certificate = files}};
+  auto& sut = storeAt(redis.address());
+  runUntil([&] { return !reports.empty(); });
+  EXPECT_FALSE(sut.isAvailable());
+  EXPECT_THAT(reports.front(), HasSubstr("certificate verify failed"));
+}
+
+TEST_F(RedisStoreTest, countsOverTls) {
+  const test::TemporaryFolder folder;
+  const test::CertificateFiles files{folder.file("certificate.pem"), folder.file("key.pem")};
+  test::makeCertificate(files, 1);
+  const test::RedisServer redis{{.password = "secret", .certificate = files}};
+  ::setenv("SSL_CERT_FILE", files.certificate.c_str(), 1);
+  auto& sut = storeAt(redis.address());
+  ::unsetenv("SSL_CERT_FILE");
+  runUntil([&] { return sut.isAvailable(); });
+  EXPECT_THAT(ask({{"a/feature1", 1}, {"a/feature1", 1}}), ElementsAre(counted(1), counted(2)));
+}
+
+}  // namespace
+}  // namespace mivo::tally

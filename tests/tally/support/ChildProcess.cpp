@@ -1,0 +1,109 @@
+// SPDX-License-Identifier: MIT
+#include "tests/tally_support/ChildProcess.h"
+
+#include <fcntl.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <array>
+#include <chrono>
+#include <csignal>
+#include <optional>
+#include <stdexcept>
+
+namespace mivo::tally::test {
+namespace {
+
+constexpr std::chrono::seconds patience{30};
+
+std::optional<std::string> lineWith(std::string_view output, std::string_view text) {
+  const auto found = output.find(text);
+  const auto end = found == std::string_view::npos ? found : output.find('\n', found);
+  if (end == std::string_view::npos) return std::nullopt;
+  const auto before = output.rfind('\n', found);
+  const auto begin = before == std::string_view::npos ? 0 : before + 1;
+  return std::string{output.substr(begin, end - begin)};
+}
+
+// execvp's list of words; made before the fork, after which a child of many threads must not allocate.
+std::vector<char*> wordsOf(const std::vector<std::string>& command) {
+  std::vector<char*> words;
+  for (const auto& word : command) words.push_back(const_cast<char*>(word.c_str()));
+  words.push_back(nullptr);
+  return words;
+}
+
+[[noreturn]] void become(const std::vector<char*>& words, int output) {
+  ::dup2(output, STDOUT_FILENO);
+  ::dup2(output, STDERR_FILENO);
+  ::execvp(words[0], words.data());
+  ::_exit(127);
+}
+
+}  // namespace
+
+ChildProcess::ChildProcess(const std::vector<std::string>& command) {
+  const auto words = wordsOf(command);
+  std::array<int, 2> pipe{};
+  if (::pipe2(pipe.data(), O_CLOEXEC) != 0) throw std::runtime_error("no pipe");
+  id_ = ::fork();
+  if (id_ == 0) become(words, pipe[1]);
+  ::close(pipe[1]);
+  if (id_ < 0) throw std::runtime_error("no process");
+  reader_ = std::jthread{[this, from = pipe[0]] { gather(from); }};
+}
+
+ChildProcess::~ChildProcess() { kill(); }
+
+void ChildProcess::gather(int descriptor) {
+  std::array<char, 4096> bytes{};
+  for (;;) {
+    const auto size = ::read(descriptor, bytes.data(), bytes.size());
+    if (size < 0 && errno == EINTR) continue;
+    const std::lock_guard guard{mutex_};
+    if (size > 0) output_.append(bytes.data(), static_cast<std::size_t>(size));
+    hasEnded_ = size <= 0;
+    changed_.notify_all();
+    if (hasEnded_) break;
+  }
+  ::close(descriptor);
+}
+
+void ChildProcess::send(int signal) const { ::kill(id_, signal); }
+
+void ChildProcess::kill() {
+  if (id_ < 0) return;
+  ::kill(id_, SIGKILL);
+  ::waitpid(id_, nullptr, 0);
+  id_ = -1;
+}
+
+int ChildProcess::wait() {
+  {
+    std::unique_lock lock{mutex_};
+    if (!changed_.wait_for(lock, patience, [this] { return hasEnded_; }))
+      throw std::runtime_error("the program does not end: " + output_);
+  }
+  int status = 0;
+  ::waitpid(id_, &status, 0);
+  id_ = -1;
+  return WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
+}
+
+std::string ChildProcess::output() const {
+  const std::lock_guard guard{mutex_};
+  return output_;
+}
+
+std::string ChildProcess::waitForLine(std::string_view text) const {
+  std::unique_lock lock{mutex_};
+  std::optional<std::string> line;
+  changed_.wait_for(lock, patience, [&] {
+    line = lineWith(output_, text);
+    return line || hasEnded_;
+  });
+  if (!line) throw std::runtime_error("no line says \"" + std::string{text} + "\": " + output_);
+  return *line;
+}
+
+}  // namespace mivo::tally::test

@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+#include <sys/types.h>
+
+#include <condition_variable>
+#include <mutex>
+#include <string>
+#include <string_view>
+#include <thread>
+#include <vector>
+
+namespace mivo::tally::test {
+
+/// A program started by a test, whose output (both kinds) is gathered, and which ends with the object.
+class ChildProcess {
+ public:
+  explicit ChildProcess(const std::vector<std::string>& command);
+  ~ChildProcess();
+  ChildProcess(const ChildProcess&) = delete;
+  ChildProcess& operator=(const ChildProcess&) = delete;
+
+  pid_t id() const { return id_; }
+  void send(int signal) const;
+  /// SIGKILL, and gone when this returns.
+  void kill();
+  /// The exit status; throws where the program does not end within 30 seconds.
+  int wait();
+  std::string output() const;
+  /// The first line that holds `text`, of those written or still to come; throws, with the output, where none does
+  /// within 30 seconds or before the program ends.
+  std::string waitForLine(std::string_view text) const;
+
+ private:
+  void gather(int descriptor);
+
+  pid_t id_ = -1;
+  mutable std::mutex mutex_;
+  mutable std::condition_variable changed_;
+  std::string output_;
+  bool hasEnded_ = false;
+  std::jthread reader_;
+};
+
+}  // namespace mivo::tally::test

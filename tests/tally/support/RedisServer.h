@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+#include <optional>
+
+#include "tests/tally_support/Certificate.h"
+#include "tests/tally_support/ChildProcess.h"
+#include "tests/tally_support/TemporaryFolder.h"
+
+namespace mivo::tally::test {
+
+/// A Redis on a free port with an append-only file that is flushed at each write. Where the program is not installed
+/// the constructor throws, and the test fails: it is never left out silently.
+class RedisServer {
+ public:
+  struct Setup {
+    std::string password;
+    std::optional<CertificateFiles> certificate;  // TLS where there is one
+  };
+
+  RedisServer() : RedisServer(Setup{}) {}
+  explicit RedisServer(const Setup& setup);
+
+  /// As --store takes it.
+  std::string address(int database = 0) const;
+  ChildProcess& process() { return *process_; }
+  /// After it was killed: the same port, the same file.
+  void restart();
+
+ private:
+  void start();
+
+  TemporaryFolder folder_;
+  Setup setup_;
+  int port_ = 0;
+  std::optional<ChildProcess> process_;
+};
+
+}  // namespace mivo::tally::test

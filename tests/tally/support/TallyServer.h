@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+#include <cstdint>
+
+#include "tests/tally_support/ChildProcess.h"
+
+namespace mivo::tally::test {
+
+/// The path of the program under test.
+std::string tallyProgram();
+
+/// `mivo-tally` on a free port of this machine. It listens when the constructor returns.
+class TallyServer {
+ public:
+  explicit TallyServer(const std::string& store, const std::vector<std::string>& flags = {"--votes-per-minute", "0"});
+
+  std::uint16_t port() const { return port_; }
+  ChildProcess& process() { return process_; }
+
+ private:
+  ChildProcess process_;
+  std::uint16_t port_;
+};
+
+}  // namespace mivo::tally::test

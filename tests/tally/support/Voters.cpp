@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: MIT
+#include "tests/tally_support/Voters.h"
+
+#include <chrono>
+#include <optional>
+#include <stdexcept>
+
+#include "tests/tally_support/HttpClient.h"
+
+namespace mivo::tally::test {
+namespace {
+
+constexpr std::chrono::milliseconds breath{2};  // between two looks at something that no one tells of
+constexpr std::chrono::minutes patience{1};
+
+std::optional<HttpAnswer> answerOf(HttpClient& client, const std::string& target) {
+  try {
+    return client.get(target);
+  } catch (const std::exception&) {
+    return std::nullopt;
+  }
+}
+
+}  // namespace
+
+Voters::Voters(std::size_t clients, std::string counter, std::function<std::uint16_t()> port)
+    : target_("/add/" + std::move(counter) + "?delta=1"), port_(std::move(port)) {
+  for (std::size_t i = 0; i < clients; ++i) clients_.emplace_back([this] { vote(); });
+}
+
+Voters::~Voters() { stop(); }
+
+void Voters::waitForMore(std::int64_t votes) const {
+  const auto enough = kept_ + votes;
+  const auto end = std::chrono::steady_clock::now() + patience;
+  while (kept_ < enough) {
+    if (std::chrono::steady_clock::now() > end) throw std::runtime_error("no votes are kept");
+    std::this_thread::sleep_for(breath);
+  }
+}
+
+Tally Voters::stop() {
+  isStopped_ = true;
+  for (auto& client : clients_) client.join();
+  clients_.clear();
+  return {kept_, unknown_};
+}
+
+void Voters::vote() {
+  while (!isStopped_) {
+    try {
+      voteOnOneConnection();
+    } catch (const std::exception&) {
+      std::this_thread::sleep_for(breath);  // nobody listens just now
+    }
+  }
+}
+
+void Voters::voteOnOneConnection() {
+  HttpClient client{port_()};
+  while (!isStopped_) {
+    const auto answer = answerOf(client, target_);
+    const bool isKept = answer && answer->status == 200;
+    ++(isKept ? kept_ : unknown_);
+    if (!answer) return;
+    if (!isKept) std::this_thread::sleep_for(breath);
+  }
+}
+
+}  // namespace mivo::tally::test
