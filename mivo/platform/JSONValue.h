@@ -39,6 +39,23 @@ class DecodingError : public std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
+/// Runs `decode`; an error says in front where it happened.
+template <class Decode>
+auto decodedAt(std::string_view place, Decode decode) {
+  try {
+    return decode();
+  } catch (const DecodingError& error) {
+    throw DecodingError{std::string{place} + ": " + error.what()};
+  }
+}
+
+/// Decodes a member, null where there is none; an error names it.
+template <class Decode>
+auto decodedMember(const JSONValue& object, std::string_view key, Decode decode) {
+  const JSONValue* member = object.member(key);
+  return decodedAt(key, [&] { return decode(member ? *member : JSONValue{}); });
+}
+
 /// Decodes JSON texts. Thread: any.
 class JSONDecoder {
  public:

@@ -15,17 +15,6 @@ constexpr std::array<std::pair<std::string_view, std::string_view>, 3> statusTex
      {"in progress", translatable("In progress")},
      {finished, translatable("Finished")}}};
 
-/// Runs `decode` with the member, an error naming where it stands.
-template <class Decode>
-auto decodedMember(const JSONValue& entry, const std::string& place, const char* key, Decode decode) {
-  try {
-    const JSONValue* member = entry.member(key);
-    return decode(member ? *member : JSONValue{});
-  } catch (const DecodingError& error) {
-    throw DecodingError{place + key + ": " + error.what()};
-  }
-}
-
 std::string decodedId(const JSONValue& value) {
   if (const auto number = value.whole()) return std::to_string(*number);
   if (!value.text() || value.text()->empty()) throw DecodingError{"expected a text or a whole number"};
@@ -42,12 +31,10 @@ std::string decodedStatus(const JSONValue& value) {
   return *value.text();
 }
 
-RoadmapFile::Entry decodedEntry(const JSONValue& entry, std::size_t number) {
-  const std::string place = "the roadmap: feature " + std::to_string(number) + ": ";
-  if (!entry.object()) throw DecodingError{place + "expected an object"};
-  return {decodedMember(entry, place, "id", decodedId), decodedMember(entry, place, "title", LocalizedText::decoded),
-          decodedMember(entry, place, "description", decodedOptionalText),
-          decodedMember(entry, place, "status", decodedStatus)};
+RoadmapFile::Entry decodedEntry(const JSONValue& entry) {
+  if (!entry.object()) throw DecodingError{"expected an object"};
+  return {decodedMember(entry, "id", decodedId), decodedMember(entry, "title", LocalizedText::decoded),
+          decodedMember(entry, "description", decodedOptionalText), decodedMember(entry, "status", decodedStatus)};
 }
 
 }  // namespace
@@ -69,7 +56,9 @@ RoadmapFile RoadmapFile::decoded(const JSONValue& file) {
   const JSONValue::Array* list = file.array();
   if (!list) throw DecodingError{"the roadmap: expected a list of features"};
   RoadmapFile result;
-  for (const JSONValue& entry : *list) result.entries.push_back(decodedEntry(entry, result.entries.size() + 1));
+  for (const JSONValue& entry : *list)
+    result.entries.push_back(decodedAt("the roadmap: feature " + std::to_string(result.entries.size() + 1),
+                                       [&entry] { return decodedEntry(entry); }));
   return result;
 }
 
