@@ -22,4 +22,8 @@ fs::path configurationDirectory() { return directory("XDG_CONFIG_HOME", ".config
 
 fs::path dataDirectory() { return directory("XDG_DATA_HOME", ".local/share"); }
 
+fs::path appDefaultsFile() { return configurationDirectory() / "app.json"; }
+
+fs::path appGroupDefaultsFile() { return configurationDirectory() / "group.json"; }
+
 }  // namespace mivo::adapters

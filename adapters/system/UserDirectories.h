@@ -13,4 +13,8 @@ std::filesystem::path configurationDirectory();
 /// $XDG_DATA_HOME/mivo, else ~/.local/share/mivo: the history.
 std::filesystem::path dataDirectory();
 
+/// The settings of the app, and those that it shares with its extensions; for `FileUserDefaults`.
+std::filesystem::path appDefaultsFile();
+std::filesystem::path appGroupDefaultsFile();
+
 }  // namespace mivo::adapters
