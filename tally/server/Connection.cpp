@@ -2,6 +2,7 @@
 #include "tally/server/Connection.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "tally/request/ClientAddress.h"
 
@@ -9,6 +10,7 @@ namespace mivo::tally {
 namespace {
 
 constexpr std::size_t usualInbox = 1024;
+constexpr std::size_t usualOutbox = 4 << 10;
 constexpr std::size_t mostUnsent = 64 << 10;
 constexpr std::chrono::seconds partingTime{2};
 constexpr std::chrono::seconds firstRequestTime{1};  // for one that connected while the server stops
@@ -51,9 +53,11 @@ void Connection::awaitRequest() {
 }
 
 void Connection::read() {
+  if (std::exchange(isReading_, true)) return;  // 408 was sent while bytes were waited for
   makeRoom();
   stream_.readSome(asio::buffer(inbox_.data() + end_, inbox_.size() - end_),
                    [self = shared_from_this()](error_code error, std::size_t size) {
+                     self->isReading_ = false;
                      if (error) return self->close();
                      self->didRead(size);
                    });
@@ -73,8 +77,8 @@ void Connection::makeRoom() {
 std::string_view Connection::unread() const { return {inbox_.data() + begin_, end_ - begin_}; }
 
 void Connection::didRead(std::size_t size) {
-  if (phase_ == Phase::parting) return read();  // drops what comes after the last answer
-  if (phase_ == Phase::closed) return;
+  if (phase_ == Phase::parting) return read();
+  if (phase_ == Phase::closed || !keepAlive_) return;  // the last answer is on its way
   end_ += size;
   received_ = now();
   if (phase_ == Phase::idle) enter(Phase::receiving, received_ + work_.options.requestTime);
@@ -121,6 +125,7 @@ void Connection::ask(Operation operation) {
 // After a request that was not understood nobody knows where the next one begins.
 void Connection::refuse(const Refusal& refusal) {
   request_.keepAlive = false;
+  wasRefused_ = true;
   finish(refusalAnswer(refusal));
 }
 
@@ -159,6 +164,7 @@ void Connection::write() {
 
 void Connection::didWrite() {
   outbox_.clear();
+  if (outbox_.capacity() > usualOutbox) outbox_.shrink_to_fit();
   if (!keepAlive_) return part();
   if (begin_ == end_) {
     awaitRequest();
@@ -168,9 +174,12 @@ void Connection::didWrite() {
   answerWhatCame();
 }
 
-// Closing at once while bytes are unread would reset the connection, and the client might lose the last answer.
+// Closing while bytes come in would reset the connection, and the client might lose the last answer.
 void Connection::part() {
+  const bool mayHaveMore = wasRefused_ || begin_ != end_;
+  if (!mayHaveMore && !stream_.isSecure()) return close();
   enter(Phase::parting, now() + partingTime);
+  if (!isReading_) begin_ = end_ = 0;
   stream_.finishSending([self = shared_from_this()] { self->stream_.isSecure() ? self->close() : self->read(); });
 }
 

@@ -78,6 +78,8 @@ class Connection : public std::enable_shared_from_this<Connection> {
   std::string outbox_;
   Request request_;  // being answered; its views are into inbox_
   Instant received_;
+  bool isReading_ = false;
+  bool wasRefused_ = false;
   bool keepAlive_ = true;
   bool isDraining_ = false;
   bool hasServed_ = false;

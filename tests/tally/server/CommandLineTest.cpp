@@ -1,0 +1,87 @@
+// SPDX-License-Identifier: MIT
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <fstream>
+
+#include "tests/tally_support/HttpClient.h"
+#include "tests/tally_support/TallyServer.h"
+#include "tests/tally_support/TemporaryFolder.h"
+
+namespace mivo::tally::test {
+namespace {
+
+struct CommandRow {
+  const char* name;
+  std::vector<std::string> words;
+  int exitCode;
+  const char* says;
+};
+void PrintTo(const CommandRow& row, std::ostream* out) { *out << row.name; }
+
+class Commands : public testing::TestWithParam<CommandRow> {};
+
+TEST_P(Commands, endWithASentenceAndACode) {
+  auto command = GetParam().words;
+  command.insert(command.begin(), tallyProgram());
+  ChildProcess process{command};
+  EXPECT_EQ(process.wait(), GetParam().exitCode);
+  EXPECT_THAT(process.output(), testing::HasSubstr(GetParam().says));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Rows, Commands,
+    testing::Values(
+        CommandRow{"help", {"--help"}, 0, "--votes-per-minute"},
+        CommandRow{"unknownFlag", {"--nonsense"}, 2, "--nonsense"},
+        CommandRow{"noNumber", {"--votes-per-minute", "many"}, 2, "--votes-per-minute"},
+        CommandRow{"badListen", {"--listen", "8787"}, 2, "--listen: expected HOST:PORT or [IPV6]:PORT, found \"8787\""},
+        CommandRow{"badStore", {"--store", "mysql://h"}, 2, "--store: expected sqlite:FILE"},
+        CommandRow{
+            "plainForOthers", {"--listen", "0.0.0.0:0"}, 2, "give --certificate and --key, or --allow-plain-http"},
+        CommandRow{"keyAlone", {"--key", "k.pem"}, 2, "--certificate and --key are given together"},
+        CommandRow{"noCertificate",
+                   {"--listen", "127.0.0.1:0", "--store", "sqlite:/tmp/mivo-tally-unused/t", "--certificate",
+                    "/no/c.pem", "--key", "/no/k.pem"},
+                   1,
+                   "/no/c.pem: "},
+        CommandRow{"noRoadmap",
+                   {"--listen", "127.0.0.1:0", "--store", "sqlite:/tmp/mivo-tally-unused/t", "--roadmap", "/no/r.json"},
+                   1,
+                   "/no/r.json: No such file or directory"},
+        CommandRow{"noFolder", {"--store", "sqlite:/proc/no/t.sqlite"}, 1, "/proc/no"},
+        CommandRow{"exportOfNothing", {"export", "--store", "sqlite:/no/t.sqlite"}, 1, "/no/t.sqlite: unable to open"},
+        CommandRow{"importOfNothing", {"import", "/no/c.jsonl"}, 1, "/no/c.jsonl: cannot be read"},
+        CommandRow{
+            "redisAway", {"export", "--store", "redis://127.0.0.1:1"}, 1, "redis://127.0.0.1:1/0: Connection refused"}),
+    [](const auto& row) { return std::string{row.param.name}; });
+
+TEST(MivoTally, exportsWhileItServesAndImportsAfterwards) {
+  const TemporaryFolder folder;
+  const auto store = "sqlite:" + folder.file("tally.sqlite");
+  const auto file = folder.file("counters.jsonl");
+  TallyServer server{store};
+  HttpClient client{server.port()};
+  client.get("/add/app.example/feature12?delta=1");
+  EXPECT_EQ((ChildProcess{{tallyProgram(), "export", "--store", store, "--to", file}}.wait()), 0);
+
+  const std::vector<std::string> import{tallyProgram(), "import", file, "--store"};
+  const auto importInto = [&](const std::string& address) {
+    auto command = import;
+    command.push_back(address);
+    ChildProcess process{command};
+    return std::pair{process.wait(), process.output()};
+  };
+  EXPECT_THAT(importInto(store), testing::Pair(1, testing::HasSubstr("another mivo-tally is using it")));
+  const auto other = "sqlite:" + folder.file("other.sqlite");
+  EXPECT_EQ(importInto(other), (std::pair{0, std::string{"1 counters imported, 0 were there already\n"}}));
+  EXPECT_EQ(importInto(other), (std::pair{0, std::string{"0 counters imported, 1 were there already\n"}}));
+
+  std::ofstream{file} << R"({"counter":"app.example/feature12","value":9})" << '\n';
+  const auto [code, output] = importInto(other);
+  EXPECT_EQ(code, 1);
+  EXPECT_THAT(output, testing::HasSubstr("app.example/feature12: " + other + " counts 1, the file 9"));
+}
+
+}  // namespace
+}  // namespace mivo::tally::test

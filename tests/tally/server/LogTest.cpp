@@ -1,0 +1,75 @@
+// SPDX-License-Identifier: MIT
+#include "tally/server/Log.h"
+
+#include <fcntl.h>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include <array>
+
+namespace mivo::tally {
+namespace {
+
+using testing::HasSubstr;
+
+struct Pipe {
+  Pipe() { EXPECT_EQ(::pipe2(ends.data(), O_CLOEXEC), 0); }
+  ~Pipe() {
+    ::close(ends[0]);
+    ::close(ends[1]);
+  }
+  int writeEnd() const { return ends[1]; }
+  std::string read() const {
+    std::string text;
+    std::array<char, 65536> bytes{};
+    ::fcntl(ends[0], F_SETFL, O_NONBLOCK);
+    for (ssize_t size = 0; (size = ::read(ends[0], bytes.data(), bytes.size())) > 0;)
+      text.append(bytes.data(), static_cast<std::size_t>(size));
+    return text;
+  }
+  std::array<int, 2> ends{};
+};
+
+TEST(LogTest, writesOneObjectALine) {
+  const Pipe pipe;
+  {
+    Log log{pipe.writeEnd()};
+    log.request({"GET", "/get/a\"\\\n\xff", 200, std::chrono::microseconds{42}, {}});
+    log.request({"GET", "/" + std::string(500, 'x'), 429, std::chrono::microseconds{1}, "192.0.2.7"});
+    log.event("store", "Redis is there");
+  }
+  const auto text = pipe.read();
+  const auto second = text.find('\n') + 1;
+  EXPECT_TRUE(text.starts_with("{\"time\":\"20")) << text;
+  EXPECT_THAT(
+      text.substr(0, second),
+      HasSubstr(R"(Z","method":"GET","target":"/get/a\u0022\u005c\u000a\u00ff","status":200,"microseconds":42})"));
+  EXPECT_THAT(text,
+              HasSubstr("/" + std::string(199, 'x') + R"(","status":429,"microseconds":1,"address":"192.0.2.7"})"));
+  EXPECT_TRUE(text.ends_with("\"event\":\"store\",\"text\":\"Redis is there\"}\n"));
+}
+
+// The pipe holds 64 KB and nobody reads: the caller goes on, and hears later what was left out.
+TEST(LogTest, neverWaitsForAReader) {
+  const Pipe pipe;
+  std::string text;
+  constexpr int lines = 100'000;
+  {
+    Log log{pipe.writeEnd()};
+    for (int i = 0; i < lines; ++i) log.request({"GET", "/get/app.example/feature12", 200, {}, {}});
+    std::jthread reader{[&] {
+      std::array<char, 65536> bytes{};
+      while (text.find("lines were left out") == std::string::npos) {
+        const auto size = ::read(pipe.ends[0], bytes.data(), bytes.size());
+        if (size <= 0) break;
+        text.append(bytes.data(), static_cast<std::size_t>(size));
+      }
+    }};
+  }
+  EXPECT_THAT(text, HasSubstr("lines were left out"));
+  EXPECT_LT(std::ranges::count(text, '\n'), lines);
+}
+
+}  // namespace
+}  // namespace mivo::tally

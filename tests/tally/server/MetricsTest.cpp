@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: MIT
+#include "tally/server/Metrics.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace mivo::tally {
+namespace {
+
+using std::chrono::microseconds;
+using testing::HasSubstr;
+
+TEST(MetricsTest, countsAnswersVotesAndBatches) {
+  Metrics metrics;
+  metrics.answered(200, microseconds{100});
+  metrics.answered(200, microseconds{101});
+  metrics.answered(503, microseconds{2'000'000});
+  metrics.voted(1);
+  metrics.voted(1);
+  metrics.voted(-1);
+  metrics.batchSent(3);
+  const auto text = metrics.text({.openConnections = 4, .isStoreAvailable = true});
+  for (const auto* line :
+       {"answers_total{status=\"200\"} 2", "answers_total{status=\"503\"} 1", "votes_total{delta=\"1\"} 2",
+        "votes_total{delta=\"-1\"} 1", "answer_seconds_bucket{le=\"0.0001\"} 1",
+        "answer_seconds_bucket{le=\"0.00025\"} 2", "answer_seconds_bucket{le=\"1\"} 2",
+        "answer_seconds_bucket{le=\"+Inf\"} 3", "answer_seconds_count 3", "store_batches_total 1",
+        "store_operations_total 3", "open_connections 4", "store_available 1"})
+    EXPECT_THAT(text, HasSubstr("\nmivo_tally_" + std::string{line} + '\n'));
+}
+
+}  // namespace
+}  // namespace mivo::tally

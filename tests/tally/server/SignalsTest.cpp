@@ -1,0 +1,92 @@
+// SPDX-License-Identifier: MIT
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <csignal>
+#include <fstream>
+
+#include "tests/tally_support/HttpClient.h"
+#include "tests/tally_support/TallyServer.h"
+#include "tests/tally_support/TemporaryFolder.h"
+#include "tests/tally_support/Voters.h"
+
+namespace mivo::tally::test {
+namespace {
+
+using testing::HasSubstr;
+
+struct Fixture : testing::Test {
+  std::string store() const { return "sqlite:" + folder.file("tally.sqlite"); }
+  TemporaryFolder folder;
+};
+
+using SignalsTest = Fixture;
+
+TEST_F(SignalsTest, terminationFinishesTheRequestThatHasBegun) {
+  TallyServer server{store()};
+  HttpClient idle{server.port()};
+  idle.get("/health");
+  HttpClient begun{server.port()};
+  begun.send("GET /add/a/feature1?delta=1 HTTP/1.1\r\nHo");
+  HttpClient{server.port()}.get("/health");  // answered after the beginning was read
+  server.process().send(SIGTERM);
+  server.process().waitForLine("\"stopping\"");
+  EXPECT_EQ(idle.receiveAll(), "");
+  EXPECT_THROW(HttpClient{server.port()}, std::runtime_error);
+  begun.send("st: h\r\n\r\n");
+  const auto answer = begun.receive();
+  EXPECT_EQ(countOf(answer), 1);
+  EXPECT_EQ(answer.headers.at("connection"), "close");
+  EXPECT_EQ(begun.receiveAll(), "");
+  EXPECT_EQ(server.process().wait(), 0);
+  EXPECT_THAT(server.process().output(), HasSubstr("\"stopped\""));
+}
+
+TEST_F(SignalsTest, terminationUnderLoadLosesNoAnsweredVote) {
+  std::int64_t kept = 0;
+  std::int64_t unknown = 0;
+  {
+    TallyServer server{store()};
+    Voters voters{8, "a/feature1", [&] { return server.port(); }};
+    voters.waitForMore(500);
+    server.process().send(SIGTERM);
+    EXPECT_EQ(server.process().wait(), 0);
+    const auto tally = voters.stop();
+    kept = tally.kept;
+    unknown = tally.unknown;
+  }
+  TallyServer again{store()};
+  const auto count = countOf(HttpClient{again.port()}.get("/get/a/feature1"));
+  EXPECT_GE(count, kept);
+  EXPECT_LE(count, kept + unknown);
+}
+
+TEST_F(SignalsTest, aSecondTerminationDoesNotWait) {
+  TallyServer server{store()};
+  HttpClient begun{server.port()};
+  begun.send("GET /health HTTP");
+  HttpClient{server.port()}.get("/health");
+  server.process().send(SIGTERM);
+  server.process().waitForLine("\"stopping\"");
+  server.process().send(SIGTERM);
+  EXPECT_EQ(server.process().wait(), 0);
+}
+
+TEST_F(SignalsTest, hangUpReadsTheRoadmapAgainAndKeepsAGoodOne) {
+  const auto roadmap = folder.file("roadmap.json");
+  std::ofstream{roadmap} << "[1]";
+  TallyServer server{store(), {"--roadmap", roadmap}};
+  HttpClient client{server.port()};
+  EXPECT_EQ(client.get("/data/roadmap-mivo.json").body, "[1]");
+  std::ofstream{roadmap} << "[1, 2]";
+  server.process().send(SIGHUP);
+  server.process().waitForLine("\"reloaded\"");
+  EXPECT_EQ(client.get("/data/roadmap-mivo.json").body, "[1, 2]");
+  std::ofstream{roadmap} << "[1, 2";
+  server.process().send(SIGHUP);
+  EXPECT_THAT(server.process().waitForLine("\"not reloaded\""), HasSubstr("roadmap.json: byte 6: not JSON"));
+  EXPECT_EQ(client.get("/data/roadmap-mivo.json").body, "[1, 2]");
+}
+
+}  // namespace
+}  // namespace mivo::tally::test

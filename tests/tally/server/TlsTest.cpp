@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: MIT
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <csignal>
+#include <fstream>
+
+#include "tests/tally_support/Certificate.h"
+#include "tests/tally_support/HttpClient.h"
+#include "tests/tally_support/TallyServer.h"
+#include "tests/tally_support/TemporaryFolder.h"
+
+namespace mivo::tally::test {
+namespace {
+
+using testing::HasSubstr;
+constexpr auto tls = HttpClient::Security::tls;
+
+CertificateFiles madeIn(const TemporaryFolder& folder) {
+  CertificateFiles files{folder.file("certificate.pem"), folder.file("key.pem")};
+  makeCertificate(files, 1);
+  return files;
+}
+
+struct Fixture : testing::Test {
+  TemporaryFolder folder;
+  CertificateFiles files = madeIn(folder);
+  TallyServer server{"sqlite:" + folder.file("tally.sqlite"),
+                     {"--certificate", files.certificate, "--key", files.key, "--request-seconds", "1"}};
+};
+
+using TlsTest = Fixture;
+
+TEST_F(TlsTest, votesAndPipelinesAsInPlainHttp) {
+  HttpClient client{server.port(), tls};
+  EXPECT_EQ(countOf(client.get("/add/a/feature1?delta=1")), 1);
+  std::string all;
+  constexpr int times = 500;
+  for (int i = 0; i < times; ++i) all += "GET /get/a/feature1 HTTP/1.1\r\nHost: h\r\n\r\n";
+  client.send(all);
+  for (int i = 0; i < times; ++i) ASSERT_EQ(countOf(client.receive()), 1);
+  EXPECT_EQ(client.get("/health", {"Connection: close"}).status, 200U);
+  EXPECT_EQ(client.receiveAll(), "");
+}
+
+TEST_F(TlsTest, hangUpBringsANewCertificateAndKeepsOpenConnections) {
+  HttpClient before{server.port(), tls};
+  EXPECT_EQ(before.certificateSerial(), 1);
+  makeCertificate(files, 2);
+  server.process().send(SIGHUP);
+  server.process().waitForLine("\"reloaded\"");
+  EXPECT_EQ((HttpClient{server.port(), tls}.certificateSerial()), 2);
+  EXPECT_EQ(before.get("/health").status, 200U);
+}
+
+TEST_F(TlsTest, aBrokenCertificateChangesNothing) {
+  std::ofstream{files.certificate} << "nonsense";
+  server.process().send(SIGHUP);
+  EXPECT_THAT(server.process().waitForLine("\"not reloaded\""), HasSubstr("certificate.pem: "));
+  EXPECT_EQ((HttpClient{server.port(), tls}.certificateSerial()), 1);
+}
+
+TEST_F(TlsTest, dropsWhoSpeaksPlainHttpOrNothing) {
+  HttpClient plain{server.port()};
+  plain.send("GET /health HTTP/1.1\r\nHost: h\r\n\r\n");
+  EXPECT_EQ(plain.receiveAll().find("HTTP/1.1 200"), std::string::npos);
+  HttpClient silent{server.port()};
+  EXPECT_EQ(silent.receiveAll(), "");
+  EXPECT_EQ((HttpClient{server.port(), tls}.get("/health").status), 200U);
+}
+
+}  // namespace
+}  // namespace mivo::tally::test
