@@ -6,15 +6,17 @@
 #include <map>
 #include <vector>
 
-#include "CLibraryZone.h"
 #include "adapters/time/TimeZone.h"
 #include "adapters/time/TimeZoneNames.h"
+#include "tests/support/CLibraryZone.h"
 
 namespace mivo::adapters {
 namespace {
 
 using namespace std::chrono;
 using namespace std::chrono_literals;
+using tests::CLibraryZone;
+using tests::firstThat;
 
 constexpr sys_days firstTested{1900y / 1 / 1}, lastTested{2101y / 1 / 1};
 

@@ -7,7 +7,7 @@
 #include <optional>
 #include <string>
 
-namespace mivo::adapters {
+namespace mivo::tests {
 
 /// What the C library says of a zone, for as long as this lives: it sets TZ, so one at a time.
 class CLibraryZone {
@@ -57,4 +57,4 @@ std::chrono::sys_seconds firstThat(std::chrono::sys_seconds from, std::chrono::s
   return to;
 }
 
-}  // namespace mivo::adapters
+}  // namespace mivo::tests
