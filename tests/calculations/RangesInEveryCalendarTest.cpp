@@ -85,6 +85,8 @@ TEST_P(RangesIn, beginWhereAWalkBackwardsFindsThem) {
       const sys_seconds thisStart = floor<seconds>(starts->thisStart);
       EXPECT_EQ(text(starts->lastStart), text(nextBorder(thisStart, -1h, begins)))
           << text(now) << ' ' << rawValue(range);
+      const auto atItsVeryStart = rangeStarts(range, *calendar, starts->thisStart);
+      EXPECT_EQ(atItsVeryStart->thisStart, starts->lastStart) << text(now) << ' ' << rawValue(range);
     }
   }
 }
