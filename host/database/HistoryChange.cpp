@@ -1,14 +1,37 @@
 // SPDX-License-Identifier: MIT
 #include "host/database/HistoryChange.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace mivo::host {
+namespace {
+
+UUID idOf(const FastRecord& record) { return record.fast.id; }
+UUID idOf(const BodyWeightSample& sample) { return sample.id; }
+
+template <class Record, class Instant>
+void apply(const std::vector<Record>& removed, const std::vector<Record>& added, std::vector<Record>& records,
+           Instant instant) {
+  std::erase_if(records, [&](const Record& record) {
+    return std::ranges::any_of(removed, [&](const Record& gone) { return idOf(gone) == idOf(record); });
+  });
+  for (const Record& record : added)
+    records.insert(std::ranges::upper_bound(records, instant(record), {}, instant), record);
+}
+
+}  // namespace
 
 HistoryChange inverse(HistoryChange change) {
   std::swap(change.removedFasts, change.addedFasts);
   std::swap(change.removedWeights, change.addedWeights);
   return change;
+}
+
+void apply(const HistoryChange& change, std::vector<FastRecord>& fasts, std::vector<BodyWeightSample>& weights) {
+  apply(change.removedFasts, change.addedFasts, fasts, [](const FastRecord& record) { return record.fast.start; });
+  apply(change.removedWeights, change.addedWeights, weights,
+        [](const BodyWeightSample& sample) { return sample.date; });
 }
 
 }  // namespace mivo::host

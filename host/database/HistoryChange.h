@@ -19,4 +19,8 @@ struct HistoryChange {
 /// The change that undoes `change`.
 HistoryChange inverse(HistoryChange change);
 
+/// Does a change to records that are held in memory, in the order in which a database gives them back: fasts by start,
+/// weights by date, those of one instant as they were added. What is to be taken away is known by its id.
+void apply(const HistoryChange& change, std::vector<FastRecord>& fasts, std::vector<BodyWeightSample>& weights);
+
 }  // namespace mivo::host

@@ -9,7 +9,7 @@
 #include <thread>
 #include <vector>
 
-#include "TemporaryFolder.h"
+#include "tests/support/TemporaryFolder.h"
 
 namespace mivo::host {
 namespace {
@@ -47,7 +47,7 @@ class DatabaseTest : public testing::Test {
     return {DatabaseError::Kind::unavailable, ""};
   }
 
-  TemporaryFolder folder;
+  tests::TemporaryFolder folder;
   std::filesystem::path file = folder.path / "some" / "folder" / "mivo.sqlite";
 };
 

@@ -7,8 +7,8 @@
 
 #include <set>
 
-#include "TemporaryFolder.h"
 #include "host/database/Database.h"
+#include "tests/support/TemporaryFolder.h"
 
 namespace mivo::host {
 namespace {
@@ -30,7 +30,7 @@ HistoryChange adding(std::uint64_t id, std::string note = "") {
 }
 
 TEST(KilledWriter, losesNothingThatWasConfirmed) {
-  TemporaryFolder folder;
+  tests::TemporaryFolder folder;
   const auto file = folder.path / "mivo.sqlite";
   std::set<std::uint64_t> confirmed;
   for (std::uint64_t round = 0; round < 40; ++round) {
@@ -55,7 +55,7 @@ TEST(KilledWriter, losesNothingThatWasConfirmed) {
 
 // A limit on the size of files stands in for a full disk: the same call fails, with room for nothing more.
 TEST(FullDisk, isSaidAndLosesNothing) {
-  TemporaryFolder folder;
+  tests::TemporaryFolder folder;
   const auto file = folder.path / "mivo.sqlite";
   Database{file}.apply(adding(1));
   const pid_t writer = ::fork();

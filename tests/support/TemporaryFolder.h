@@ -6,7 +6,7 @@
 #include <filesystem>
 #include <string>
 
-namespace mivo::host {
+namespace mivo::tests {
 
 /// A new, empty folder that goes with the test.
 class TemporaryFolder {
@@ -22,4 +22,4 @@ class TemporaryFolder {
   std::filesystem::path path;
 };
 
-}  // namespace mivo::host
+}  // namespace mivo::tests

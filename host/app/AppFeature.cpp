@@ -1,0 +1,227 @@
+// SPDX-License-Identifier: MIT
+#include "host/app/AppFeature.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "host/app/Settings.h"
+#include "host/overlaps/OverlapRepair.h"
+#include "mivo/calculations/StatsContainer.h"
+#include "mivo/store/Reducers.h"
+
+namespace mivo::host {
+namespace {
+
+using Action = AppFeature::Action;
+using State = AppFeature::State;
+using Step = AppFeature::Step;
+
+const FastRecord* find(const List<FastRecord>& fasts, UUID id) {
+  const auto found = std::ranges::find(fasts, id, [](const FastRecord& record) { return record.fast.id; });
+  return found == fasts.end() ? nullptr : &*found;
+}
+
+HistoryChange adding(FastRecord record) {
+  HistoryChange change;
+  change.addedFasts.push_back(std::move(record));
+  return change;
+}
+
+void take(State& state, std::vector<FastRecord> fasts, std::vector<BodyWeightSample> weights) {
+  state.statistics.fasts = List<FastingDataEntry>{entries(fasts)};
+  state.fasts = List<FastRecord>{std::move(fasts)};
+  state.weights = List<BodyWeightSample>{std::move(weights)};
+}
+
+// Only what takes records away is worth an offer; the rest can be edited where it stands.
+bool offersUndo(Step step) {
+  return step == Step::remove || step == Step::removeWeight || step == Step::repairOverlaps;
+}
+
+}  // namespace
+
+AppFeature::State AppFeature::State::make(TimeRange timeRange) {
+  return {.statistics = StatisticsFeature::State::make(StatsContainer::empty(), {}, timeRange),
+          .now = dependency(&Dependencies::date)->now()};
+}
+
+const FastRecord* AppFeature::State::runningFast() const {
+  const auto found = std::ranges::find_if(*fasts, [](const FastRecord& record) { return !record.fast.finished; });
+  return found == fasts->end() ? nullptr : &*found;
+}
+
+auto AppFeature::reduce(State& state, const Action& action) const -> Effect<Action> {
+  return combine(scope<Action::statistics>(&State::statistics, statistics), [this](State& s, const Action& a) {
+    return std::visit([&](const auto& sent) { return on(s, sent); }, a);
+  })(state, action);
+}
+
+// What the statistics leave to their host.
+auto AppFeature::on(State& state, const Action::statistics& sent) const -> Effect<Action> {
+  using Sent = StatisticsFeature::Action;
+  if (std::holds_alternative<Sent::binding>(sent.action) || std::holds_alternative<Sent::onAppear>(sent.action)) {
+    recompute(state);
+  } else if (std::holds_alternative<Sent::didTapFixOverlappingFasts>(sent.action)) {
+    state.overlapRepair = overlapRepair(state.fasts->elements(), date->now());
+  } else if (const auto* weight = std::get_if<Sent::addWeightLogAction>(&sent.action)) {
+    if (std::holds_alternative<AddWeightLogFeature::Action::didTapSave>(weight->action)) return saveWeight(state);
+  } else if (const auto* goal = std::get_if<Sent::goalWeightCardAction>(&sent.action)) {
+    if (std::holds_alternative<GoalWeightCardFeature::Action::didSetGoal>(goal->action))
+      setGoalWeight(*userDefaults, state.statistics.goalWeightCardState.goalInKg);
+    else
+      setWeightUnit(*userDefaults, state.statistics.goalWeightCardState.weightUnit);
+  }
+  return {};
+}
+
+auto AppFeature::on(State&, const Action::reload&) const -> Effect<Action> {
+  return Effect<Action>::run(
+      [](const Send<Action>& send, std::stop_token, const Client<HistoryClient>& client) {
+        try {
+          send(Action::didLoad{client->load()});
+        } catch (const std::exception& error) {
+          send(Action::didFail{error.what()});
+        }
+      },
+      history);
+}
+
+auto AppFeature::on(State& state, const Action::didLoad& loaded) const -> Effect<Action> {
+  take(state, loaded.history.fasts, loaded.history.weights);
+  recompute(state);
+  return {};
+}
+
+auto AppFeature::on(State& state, const Action::didFail& failed) const -> Effect<Action> {
+  state.failure = failed.sentence;
+  return {};
+}
+
+auto AppFeature::on(State& state, const Action::recompute&) const -> Effect<Action> {
+  recompute(state);
+  return {};
+}
+
+auto AppFeature::on(State&, const Action::didTapStart& tapped) const -> Effect<Action> {
+  return write(Step::start, adding({mivo::ongoingFast(uuid->next(), tapped.start, tapped.goalSeconds), {}}));
+}
+
+auto AppFeature::on(State& state, const Action::didTapStop& tapped) const -> Effect<Action> {
+  const FastRecord* running = state.runningFast();
+  if (!running) return {};
+  const FastingDataEntry& fast = running->fast;
+  HistoryChange change = adding({finishedFast(fast.id, fast.start, tapped.end, fast.goalSeconds), running->note});
+  change.removedFasts = {*running};
+  return write(Step::stop, std::move(change));
+}
+
+auto AppFeature::on(State& state, const Action::didSaveFast& saved) const -> Effect<Action> {
+  HistoryChange change = adding(saved.record);
+  const FastRecord* before = find(state.fasts, saved.record.fast.id);
+  if (!before) return write(Step::add, std::move(change));
+  if (*before == saved.record) return {};
+  change.removedFasts = {*before};
+  return write(Step::edit, std::move(change));
+}
+
+auto AppFeature::on(State& state, const Action::didDeleteFast& deleted) const -> Effect<Action> {
+  const FastRecord* record = find(state.fasts, deleted.id);
+  if (!record) return {};
+  HistoryChange change;
+  change.removedFasts = {*record};
+  return write(Step::remove, std::move(change));
+}
+
+auto AppFeature::on(State& state, const Action::didDeleteWeight& deleted) const -> Effect<Action> {
+  const auto sample = std::ranges::find(*state.weights, deleted.id, &BodyWeightSample::id);
+  if (sample == state.weights->end()) return {};
+  HistoryChange change;
+  change.removedWeights = {*sample};
+  return write(Step::removeWeight, std::move(change));
+}
+
+auto AppFeature::on(State& state, const Action::didConfirmOverlapRepair&) const -> Effect<Action> {
+  if (!*state.overlapRepair) return {};
+  HistoryChange change = **state.overlapRepair;
+  state.overlapRepair = std::nullopt;
+  return write(Step::repairOverlaps, std::move(change));
+}
+
+auto AppFeature::on(State& state, const Action::didCancelOverlapRepair&) const -> Effect<Action> {
+  state.overlapRepair = std::nullopt;
+  return {};
+}
+
+auto AppFeature::on(State& state, const Action::didTapUndo&) const -> Effect<Action> {
+  if (!*state.undo) return {};
+  HistoryChange change = (*state.undo)->change;
+  state.undo = std::nullopt;
+  return write(Step::undo, std::move(change));
+}
+
+auto AppFeature::on(State& state, const Action::didDismissMessages&) const -> Effect<Action> {
+  state.undo = std::nullopt;
+  state.failure = std::string{};
+  return {};
+}
+
+auto AppFeature::on(State& state, const Action::didWrite& written) const -> Effect<Action> {
+  auto fasts = state.fasts->elements();
+  auto weights = state.weights->elements();
+  apply(written.change, fasts, weights);
+  take(state, std::move(fasts), std::move(weights));
+  state.failure = std::string{};
+  if (offersUndo(written.step)) state.undo = UndoOffer{written.step, inverse(written.change)};
+  recompute(state);
+  return {};
+}
+
+// The add-weight card is told of the outcome too: it shows it.
+auto AppFeature::saveWeight(const State& state) const -> Effect<Action> {
+  const auto& pending = *state.statistics.addWeightLogState.pendingSample;
+  if (!pending) return {};
+  HistoryChange change;
+  change.addedWeights = {*pending};
+  return Effect<Action>::run(
+      [](const Send<Action>& send, std::stop_token, const Client<HistoryClient>& client, const HistoryChange& written) {
+        using Card = AddWeightLogFeature::Action;
+        const auto answer = [&send](Card action) {
+          send(Action::statistics{StatisticsFeature::Action::addWeightLogAction{std::move(action)}});
+        };
+        try {
+          client->apply(written);
+        } catch (const std::exception& error) {
+          return answer(Card::didFailToSave{error.what()});
+        }
+        send(Action::didWrite{Step::addWeight, written});
+        answer(Card::didSave{});
+      },
+      history, std::move(change));
+}
+
+auto AppFeature::write(Step step, HistoryChange change) const -> Effect<Action> {
+  return Effect<Action>::run(
+      [](const Send<Action>& send, std::stop_token, const Client<HistoryClient>& client, Step done,
+         const HistoryChange& written) {
+        try {
+          client->apply(written);
+        } catch (const std::exception& error) {
+          return send(Action::didFail{error.what()});
+        }
+        send(Action::didWrite{done, written});
+      },
+      history, step, std::move(change));
+}
+
+void AppFeature::recompute(State& state) const {
+  auto& screen = state.statistics;
+  const FastRecord* running = state.runningFast();
+  const auto ongoing = running ? std::optional{running->fast} : std::nullopt;
+  StatsContainer fresh = screen.stats.copy();
+  fresh.update(*screen.fasts, ongoing, screen.streakSettings, screen.timeRange);
+  screen.updateFastingChart(fresh);
+  screen.updateWeightChart(StatsContainer::update(*state.weights));
+  state.now = date->now();
+}
+
+}  // namespace mivo::host

@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: MIT
+#include "host/app/Settings.h"
+
+#include <algorithm>
+#include <array>
+#include <string_view>
+
+namespace mivo::host {
+namespace {
+
+constexpr std::string_view goalWeightKey = "goalWeightInKg", weightUnitKey = "weightUnit",
+                           goalSecondsKey = "fastGoalSeconds";
+constexpr std::array<std::string_view, 3> unitNames{"kg", "lb", "st"};
+constexpr std::int64_t usualGoalSeconds = 57600;
+
+}  // namespace
+
+std::optional<double> goalWeight(const UserDefaults& defaults) {
+  const double goal = defaults.number(goalWeightKey, 0);
+  return goal > 0 ? std::optional{goal} : std::nullopt;
+}
+
+void setGoalWeight(const UserDefaults& defaults, std::optional<double> goalInKg) {
+  defaults.setValue(goalWeightKey, goalInKg);
+}
+
+std::optional<WeightUnit> weightUnit(const UserDefaults& defaults) {
+  const auto name = std::ranges::find(unitNames, defaults.text(weightUnitKey, ""));
+  if (name == unitNames.end()) return std::nullopt;
+  return static_cast<WeightUnit>(name - unitNames.begin());
+}
+
+void setWeightUnit(const UserDefaults& defaults, WeightUnit unit) {
+  defaults.setValue(weightUnitKey, std::string{unitNames[static_cast<std::size_t>(unit)]});
+}
+
+std::int64_t goalSeconds(const UserDefaults& defaults) {
+  return std::max<std::int64_t>(0, defaults.integer(goalSecondsKey, usualGoalSeconds));
+}
+
+void setGoalSeconds(const UserDefaults& defaults, std::int64_t seconds) { defaults.setValue(goalSecondsKey, seconds); }
+
+}  // namespace mivo::host

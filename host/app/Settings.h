@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+#include <optional>
+
+#include "mivo/platform/Formatters.h"
+#include "mivo/platform/UserDefaults.h"
+
+namespace mivo::host {
+
+// The host's own settings in the user's defaults, beside those that the module reads itself.
+
+/// The weight that the user is heading for, in kilograms.
+std::optional<double> goalWeight(const UserDefaults& defaults);
+void setGoalWeight(const UserDefaults& defaults, std::optional<double> goalInKg);
+
+/// Nothing where the user never chose one: the locale decides then.
+std::optional<WeightUnit> weightUnit(const UserDefaults& defaults);
+void setWeightUnit(const UserDefaults& defaults, WeightUnit unit);
+
+/// How long the next fast is meant to be, in seconds: the last choice, 16 hours at first.
+std::int64_t goalSeconds(const UserDefaults& defaults);
+void setGoalSeconds(const UserDefaults& defaults, std::int64_t seconds);
+
+}  // namespace mivo::host

@@ -1,0 +1,161 @@
+// SPDX-License-Identifier: MIT
+#include "host/app/AppFeature.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "host/app/Settings.h"
+#include "tests/statistics/StatisticsWorld.h"
+#include "tests/support/TemporaryFolder.h"
+
+namespace mivo::host {
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::SizeIs;
+using Action = AppFeature::Action;
+using Sent = StatisticsFeature::Action;
+
+/// The app on a real database, its tasks and its main queue driven by hand.
+class AppFeatureTest : public tests::StatisticsTest {
+ protected:
+  Date at(double hoursFromNow) const { return world.clock->now() + Duration{hoursFromNow * secondsPerHour}; }
+
+  FastRecord fast(std::uint64_t id, double start, double end, std::string note = "") const {
+    return {finishedFast({7, id}, at(start), at(end), 57600), std::move(note)};
+  }
+
+  void send(Action action) {
+    app.send(std::move(action));
+    settle();
+  }
+
+  void settle() {
+    world.tasks->runAll();
+    world.queue->runAll();
+  }
+
+  std::vector<FastRecord> onDisk() const { return Database{file}.history().fasts; }
+  const AppFeature::State& state() const { return app.state(); }
+
+  tests::TemporaryFolder folder;
+  std::filesystem::path file = folder.path / "mivo.sqlite";
+  std::shared_ptr<const DatabaseHistory> history = std::make_shared<DatabaseHistory>(Database{file});
+  Store<AppFeature> app{AppFeature::State::make(TimeRange::week), AppFeature{.history = history}, world.queue,
+                        world.tasks};
+};
+
+TEST_F(AppFeatureTest, showsAFastOnlyOnceItIsOnDisk) {
+  app.send(Action::didTapStart{at(-3), 57600});
+  EXPECT_THAT(*state().fasts, IsEmpty());
+  settle();
+  ASSERT_NE(state().runningFast(), nullptr);
+  EXPECT_THAT(onDisk(), ElementsAre(*state().runningFast()));
+  EXPECT_EQ(state().statistics.stats.totalFasts, 1);
+  EXPECT_EQ(state().statistics.stats.totalHours, 3);
+
+  world.clock->date = at(2);
+  send(Action::recompute{});
+  EXPECT_EQ(state().statistics.stats.totalHours, 5);
+
+  send(Action::didTapStop{at(0)});
+  EXPECT_EQ(state().runningFast(), nullptr);
+  EXPECT_EQ(onDisk(), state().fasts->elements());
+}
+
+TEST_F(AppFeatureTest, editsKeepTheRecordAndRemovalsCanBeUndone) {
+  send(Action::didSaveFast{fast(1, -40, -24, "first")});
+  send(Action::didSaveFast{fast(2, -20, -4)});
+  send(Action::didSaveFast{fast(1, -41, -24, "earlier")});
+  EXPECT_THAT(*state().fasts, ElementsAre(fast(1, -41, -24, "earlier"), fast(2, -20, -4)));
+  EXPECT_EQ(*state().undo, std::nullopt);
+
+  send(Action::didDeleteFast{{7, 1}});
+  EXPECT_THAT(onDisk(), ElementsAre(fast(2, -20, -4)));
+  ASSERT_TRUE(state().undo->has_value());
+  send(Action::didTapUndo{});
+  EXPECT_THAT(onDisk(), ElementsAre(fast(1, -41, -24, "earlier"), fast(2, -20, -4)));
+  EXPECT_EQ(onDisk(), state().fasts->elements());
+  EXPECT_EQ(*state().undo, std::nullopt);
+}
+
+TEST_F(AppFeatureTest, repairsOverlapsOnConfirmationAndUndoesItAsAWhole) {
+  send(Action::didSaveFast{fast(1, -40, -24)});
+  send(Action::didSaveFast{fast(2, -28, -20)});
+  send(Action::didSaveFast{fast(3, -21, -5)});
+  ASSERT_TRUE(state().statistics.stats.hasOverlappingFasts);
+  const auto before = onDisk();
+
+  send(Action::statistics{Sent::didTapFixOverlappingFasts{}});
+  ASSERT_TRUE(state().overlapRepair->has_value());
+  EXPECT_EQ(onDisk(), before) << "proposed, not done";
+  send(Action::didCancelOverlapRepair{});
+  EXPECT_FALSE(state().overlapRepair->has_value());
+
+  send(Action::statistics{Sent::didTapFixOverlappingFasts{}});
+  send(Action::didConfirmOverlapRepair{});
+  EXPECT_FALSE(state().statistics.stats.hasOverlappingFasts);
+  EXPECT_THAT(onDisk(), ElementsAre(fast(1, -40, -20), fast(3, -20, -5)));
+  send(Action::didTapUndo{});
+  EXPECT_EQ(onDisk(), before);
+}
+
+TEST_F(AppFeatureTest, savesAWeightAndTellsItsCard) {
+  send(Action::statistics{Sent::addWeightLogAction{AddWeightLogFeature::Action::didChangeText{"72.4"}}});
+  send(Action::statistics{Sent::addWeightLogAction{AddWeightLogFeature::Action::didTapSave{}}});
+  EXPECT_EQ(state().statistics.addWeightLogState.savingState, AddWeightLogFeature::SavingState::saved);
+  ASSERT_THAT(*state().weights, SizeIs(1));
+  EXPECT_EQ(Database{file}.history().weights, state().weights->elements());
+  EXPECT_EQ(*state().statistics.stats.currentWeightInKg, 72.4);
+
+  send(Action::didDeleteWeight{(*state().weights)[0].id});
+  EXPECT_EQ(*state().statistics.stats.currentWeightInKg, std::nullopt);
+  send(Action::didTapUndo{});
+  EXPECT_EQ(*state().statistics.stats.currentWeightInKg, 72.4);
+}
+
+TEST_F(AppFeatureTest, changesNothingWhereWritingFails) {
+  send(Action::didTapStart{at(-3), 57600});
+  const AppFeature::State before = state();
+  send(Action::didTapStart{at(-2), 57600});
+  EXPECT_THAT(*state().failure, HasSubstr("another fast is running already"));
+  EXPECT_EQ(state().fasts, before.fasts);
+  send(Action::didDismissMessages{});
+  EXPECT_EQ(state(), before);
+}
+
+TEST_F(AppFeatureTest, readsWhatAnotherProgramWrote) {
+  send(Action::reload{});
+  const auto version = history->version();
+  HistoryChange change;
+  change.addedFasts = {fast(9, -20, -4)};
+  Database{file}.apply(change);
+  EXPECT_NE(history->version(), version);
+  send(Action::reload{});
+  EXPECT_THAT(*state().fasts, ElementsAre(fast(9, -20, -4)));
+}
+
+TEST_F(AppFeatureTest, recomputesForAnotherRangeAndKeepsTheSelection) {
+  send(Action::didSaveFast{fast(1, -40, -24)});
+  const UUID selected = state().statistics.stats.fastingChartState.data->front().id;
+  send(Action::statistics{Sent::fastingChartAction{ScrollChartFeature::Action::didTapBar{selected}}});
+  world.clock->date = at(0.02);
+  send(Action::recompute{});
+  EXPECT_EQ(*state().statistics.stats.fastingChartState.selectedUUID, selected);
+  EXPECT_NE(state().statistics.stats.fastingChartState.data->indexOf(selected), std::nullopt);
+
+  send(Action::statistics{Sent::binding{Write<&StatisticsFeature::State::timeRange>{TimeRange::year}}});
+  EXPECT_EQ(state().statistics.stats.fastingChartState.chartTimeUnit, ChartTimeUnit::month);
+}
+
+TEST_F(AppFeatureTest, remembersTheGoal) {
+  send(Action::statistics{Sent::goalWeightCardAction{GoalWeightCardFeature::Action::didSetGoal{69.0}}});
+  EXPECT_EQ(goalWeight(*world.dependencies.userDefaults), 69.0);
+  send(Action::statistics{Sent::goalWeightCardAction{GoalWeightCardFeature::Action::didSetGoal{std::nullopt}}});
+  EXPECT_EQ(goalWeight(*world.dependencies.userDefaults), std::nullopt);
+}
+
+}  // namespace
+}  // namespace mivo::host
