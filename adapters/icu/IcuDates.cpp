@@ -53,7 +53,7 @@ IcuDates::Month IcuDates::readMonth(local_days day) const {
 }
 
 std::optional<local_days> IcuDates::added(local_days day, UCalendarDateFields field, std::int64_t count) const {
-  constexpr std::int64_t monthsOfAllYears = 13 * 10000;
+  constexpr std::int64_t monthsOfAllYears = 130'000;
   if (count < -monthsOfAllYears || count > monthsOfAllYears) return std::nullopt;
   UErrorCode status = U_ZERO_ERROR;
   calendar->setTime(millisecondsOf(day), status);

@@ -118,8 +118,8 @@ class IcuMassFormatter final : public MassFormatter {
   }
 
  private:
-  static LocalizedNumberFormatter weights(const icu::Locale& locale, int digits, icu::MeasureUnit unit) {
-    return numbers(locale, digits).unit(std::move(unit)).unitWidth(UNUM_UNIT_WIDTH_SHORT);
+  static LocalizedNumberFormatter weights(const icu::Locale& locale, int digits, const icu::MeasureUnit& unit) {
+    return numbers(locale, digits).unit(unit).unitWidth(UNUM_UNIT_WIDTH_SHORT);
   }
 
   icu::UnicodeString inStones(double inPounds) const {

@@ -17,7 +17,7 @@ DateFields GregorianDates::fields(local_days day) const {
 }
 
 std::optional<local_days> GregorianDates::addingMonths(local_days day, std::int64_t count) const {
-  constexpr std::int64_t monthsOfAllYears = 12 * 10000;
+  constexpr std::int64_t monthsOfAllYears = 120'000;
   if (count < -monthsOfAllYears || count > monthsOfAllYears) return std::nullopt;
   const year_month_day date{day};
   const year_month month = date.year() / date.month() + months{count};

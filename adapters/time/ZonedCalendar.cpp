@@ -86,7 +86,7 @@ std::optional<Date> ZonedCalendar::adding(CalendarComponent component, std::int6
 
 std::optional<local_days> ZonedCalendar::movedDay(CalendarComponent component, std::int64_t count,
                                                   local_days day) const {
-  constexpr std::int64_t daysOfAllYears = 366 * 10000;
+  constexpr std::int64_t daysOfAllYears = 3'660'000;
   if (component == CalendarComponent::month) return dateSystem->addingMonths(day, count);
   if (component == CalendarComponent::year) return dateSystem->addingYears(day, count);
   if (count < -daysOfAllYears || count > daysOfAllYears) return std::nullopt;
