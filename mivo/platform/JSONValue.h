@@ -30,8 +30,11 @@ struct JSONValue {
   const Object* object() const { return std::get_if<Object>(&content); }
   bool isNull() const { return std::holds_alternative<std::monostate>(content); }
 
-  bool operator==(const JSONValue&) const = default;
+  bool operator==(const JSONValue&) const;
 };
+
+// Once the type is complete: Clang compares the members on the spot.
+inline bool JSONValue::operator==(const JSONValue&) const = default;
 
 /// A text that is not JSON, or whose JSON is not what was expected; `what()` is one sentence that says where.
 class DecodingError : public std::runtime_error {
