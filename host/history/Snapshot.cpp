@@ -193,7 +193,7 @@ class SnapshotReader {
     }
     constexpr std::string_view hint = "; expected ";
     const std::size_t at = message.find(hint);
-    if (says("number") && isDelimiter(*(reached - 1))) --reached;  // it was read one character past its end
+    if (says("number") && isDelimiter(*lastRead())) --reached;  // it was read one character past its end
     if (pending || at == std::string_view::npos) return fail(tokenHere(), expectedHere());
     return fail(tokenHere(), std::string{message.substr(at + 2)});
   }
@@ -283,9 +283,11 @@ class SnapshotReader {
     return way + (way.empty() ? "" : ".") + std::string{rule(*key).name};
   }
 
+  const char* lastRead() const { return reached > text.data() ? reached - 1 : reached; }
+
   /// The line of the last token; the parser reads one character past a number, which may be a line's end.
   std::int64_t lineHere() {
-    const char* const last = std::max(reached - 1, text.data());
+    const char* const last = lastRead();
     if (last > counted) {
       line += std::count(counted, last, '\n');
       counted = last;
@@ -297,7 +299,7 @@ class SnapshotReader {
 
   /// The word around the place where the parser stopped.
   std::string_view tokenHere() const {
-    const auto last = static_cast<std::size_t>(std::max(reached - 1, text.data()) - text.data());
+    const auto last = static_cast<std::size_t>(lastRead() - text.data());
     if (last < text.size() && isDelimiter(text[last])) return text.substr(last, 1);
     const std::size_t before = text.find_last_of(delimiters, last);
     const std::size_t from = before == std::string_view::npos ? 0 : before + 1;
