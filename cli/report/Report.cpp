@@ -1,0 +1,78 @@
+// SPDX-License-Identifier: MIT
+#include "cli/report/Report.h"
+
+#include <cstdint>
+#include <span>
+
+#include "adapters/icu/LocaleFormatters.h"
+#include "adapters/locale/MessageCatalogue.h"
+#include "mivo/calculations/RangeStarts.h"
+#include "mivo/statistics/ComposeScreen.h"
+#include "mivo/statistics/ScreenInput.h"
+
+namespace mivo::cli {
+namespace {
+
+struct StandingClock final : DateGenerator {
+  explicit StandingClock(Date instant) : date{instant} {}
+  Date now() const override { return date; }
+  Date date;
+};
+
+/// Version 4 in form, and counted up from 1.
+struct NumberedUUIDs final : UUIDGenerator {
+  UUID next() const override { return {0x4000, std::uint64_t{1} << 63 | ++last}; }
+  void fill(std::span<UUID> ids) const override {
+    for (UUID& id : ids) id = next();
+  }
+  mutable std::uint64_t last = 0;
+};
+
+/// The border has said what is wrong with the records; the module need not say it again.
+struct SilentReporter final : IssueReporter {
+  void report(std::string_view, const std::source_location&) const override {}
+};
+
+}  // namespace
+
+std::shared_ptr<const Dependencies> runDependencies(const RunSettings& settings) {
+  auto clients = std::make_shared<Dependencies>();
+  clients->date = std::make_shared<StandingClock>(settings.now);
+  clients->uuid = std::make_shared<NumberedUUIDs>();
+  clients->calendar = clients->currentCalendar = settings.calendar;
+  clients->texts = std::make_shared<adapters::MessageCatalogue>(settings.locale.tag());
+  adapters::makeFormatters(settings.locale, *settings.calendar).fill(*clients);
+  clients->issueReporter = std::make_shared<SilentReporter>();
+  return clients;
+}
+
+Report makeReport(const host::History& history, const RunSettings& settings) {
+  Report report{settings.now, settings.range, StatsContainer::empty()};
+  report.stats.update(entries(history.fasts), runningFast(history.fasts), settings.streaks, settings.range);
+  report.stats.updateWeightChart(StatsContainer::update(history.weights));
+  return report;
+}
+
+std::vector<Card> screen(const Report& report, const RunSettings& settings,
+                         const DashboardSettingsFeature::State& flags) {
+  ScreenInput input{.stats = report.stats, .timeRange = report.range, .dashboardSettings = flags, .now = report.now};
+  input.countingEntity = settings.streaks.countingEntity;
+  input.daysOfThisRange = daysOfThisRange(report.range, *settings.calendar, report.now);
+  input.weightUnit = settings.weightUnit.value_or(settings.locale.weightUnit());
+  return composeScreen(input, screenFormatters());
+}
+
+std::vector<ZoneTrendDisplay> trends(const Report& report) {
+  const StatsContainer& stats = report.stats;
+  const std::array<const AverageThisLastTimeRange*, allFastingZones.size()> averages{
+      &*stats.fastingAverages,    &*stats.eatingAverages,  &*stats.anabolicAverages,   &*stats.catabolicAverages,
+      &*stats.fatBurningAverages, &*stats.ketosisAverages, &*stats.deepKetosisAverages};
+  std::vector<ZoneTrendDisplay> rows;
+  for (const LegacyFastingZone zone : allFastingZones) {
+    const auto& [thisAverage, lastAverage] = *averages[static_cast<std::size_t>(zone)];
+    rows.emplace_back(report.range, zone, thisAverage, lastAverage);
+  }
+  return rows;
+}
+
+}  // namespace mivo::cli

@@ -1,0 +1,98 @@
+// SPDX-License-Identifier: MIT
+#include "cli/report/ReportCommand.h"
+
+#include <string>
+#include <tl/expected.hpp>
+#include <utility>
+
+#include "cli/report/Report.h"
+#include "cli/report/ReportJson.h"
+#include "cli/report/ReportText.h"
+#include "cli/report/RunSettings.h"
+#include "cli/terminal/Paint.h"
+#include "cli/terminal/StandardOutput.h"
+#include "host/history/FastsCsv.h"
+#include "host/history/Snapshot.h"
+#include "host/history/WeightsCsv.h"
+#include "host/text/TextFile.h"
+
+namespace mivo::cli {
+namespace {
+
+using host::BadRecord;
+using host::History;
+
+constexpr int done = 0, badData = 1, wrongUsage = 2;
+
+int refused(int status, const std::string& sentence) {
+  complain(sentence);
+  return status;
+}
+
+/// What is wrong with the choice of inputs, if anything.
+std::string inputFault(const ReportOptions& options) {
+  const bool hasTables = !options.fasts.empty() || !options.weights.empty();
+  const int inputs = !options.input.empty() + !options.database.empty() + hasTables;
+  if (inputs > 1) return "expected one of --input, --database, or --fasts and --weights, not several";
+  if (inputs == 0)
+    return "no history given: expected --input FILE.json, --fasts FILE.csv with or without --weights FILE.csv, or "
+           "--database FILE";
+  return {};
+}
+
+tl::expected<History, BadRecord> readTables(const ReportOptions& options, const RunSettings& settings,
+                                            const UUIDGenerator& ids) {
+  History history;
+  if (!options.fasts.empty()) {
+    auto table = host::readTextFile(options.fasts).and_then([&](const std::string& text) {
+      return host::readFastsCsv(text, options.fasts, settings.zone(), ids);
+    });
+    if (!table) return tl::unexpected{std::move(table.error())};
+    history.fasts = std::move(table->fasts);
+    history.endsBeforeStart = std::move(table->endsBeforeStart);
+  }
+  if (!options.weights.empty()) {
+    auto weights = host::readTextFile(options.weights).and_then([&](const std::string& text) {
+      return host::readWeightsCsv(text, options.weights, settings.zone(), settings.weightUnit, ids);
+    });
+    if (!weights) return tl::unexpected{std::move(weights.error())};
+    history.weights = std::move(*weights);
+  }
+  return history;
+}
+
+tl::expected<History, BadRecord> readHistory(const ReportOptions& options, const RunSettings& settings,
+                                             const UUIDGenerator& ids) {
+  if (!options.input.empty())
+    return host::readTextFile(options.input).and_then([&](const std::string& text) {
+      return host::readSnapshot(text, options.input, ids);
+    });
+  return readTables(options, settings, ids);
+}
+
+std::string drawn(const Report& report, const RunSettings& settings) {
+  DashboardSettingsFeature::State flags;
+  if (settings.asJson) return reportJson(report, trends(report), screen(report, settings, flags));
+  flags.showKetosisHours = true;  // a page has room for all seven
+  flags.showDeepKetosisHours = true;
+  return reportText(report, screen(report, settings, flags), settings.weightUnit.value_or(settings.locale.weightUnit()),
+                    screenFormatters(), Paint::forStandardOutput());
+}
+
+}  // namespace
+
+int runReport(const ReportOptions& options) {
+  if (const std::string fault = inputFault(options); !fault.empty()) return refused(wrongUsage, fault);
+  const auto settings = runSettings(options);
+  if (!settings) return refused(wrongUsage, settings.error());
+  const auto clients = runDependencies(*settings);
+  const DependencyScope scope{clients};
+  const auto history = readHistory(options, *settings, *clients->uuid);
+  if (!history) return refused(badData, describe(history.error()));
+  const std::string page = drawn(makeReport(*history, *settings), *settings);
+  if (history->endsBeforeStart) complain(describe(*history->endsBeforeStart));
+  if (const auto fault = writeOutput(page)) return refused(badData, *fault);
+  return done;
+}
+
+}  // namespace mivo::cli

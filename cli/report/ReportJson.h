@@ -1,0 +1,14 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <span>
+#include <string>
+
+#include "cli/report/Report.h"
+
+namespace mivo::cli {
+
+/// {"now", "timeRange", "stats": all fields of the container, "trends": the rows in zone order, "screen": the cards}.
+std::string reportJson(const Report& report, std::span<const ZoneTrendDisplay> trends, std::span<const Card> cards);
+
+}  // namespace mivo::cli
