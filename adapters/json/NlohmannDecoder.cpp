@@ -28,7 +28,7 @@ class Builder final : public nlohmann::json_sax<json> {
 
   bool start_object(std::size_t) override { return open({JSONValue::Object{}}); }
   bool key(std::string& name) override {
-    std::get<JSONValue::Object>(containers.back()->content).emplace_back(std::move(name), JSONValue{});
+    std::get<JSONValue::Object>(containers.back()->content).push_back({std::move(name), JSONValue{}});
     return true;
   }
   bool end_object() override { return close(); }
@@ -45,7 +45,7 @@ class Builder final : public nlohmann::json_sax<json> {
   JSONValue& place() {
     if (containers.empty()) return root;
     auto& content = containers.back()->content;
-    if (auto* members = std::get_if<JSONValue::Object>(&content)) return members->back().second;
+    if (auto* members = std::get_if<JSONValue::Object>(&content)) return members->back().value;
     return std::get<JSONValue::Array>(content).emplace_back();
   }
 

@@ -11,8 +11,8 @@ const JSONValue* JSONValue::member(std::string_view key) const {
   const Object* members = object();
   if (!members) return nullptr;
   const auto latestFirst = std::views::reverse(*members);
-  const auto found = std::ranges::find(latestFirst, key, &Object::value_type::first);
-  return found == latestFirst.end() || found->second.isNull() ? nullptr : &found->second;
+  const auto found = std::ranges::find(latestFirst, key, &Member::name);
+  return found == latestFirst.end() || found->value.isNull() ? nullptr : &found->value;
 }
 
 std::optional<std::int64_t> JSONValue::whole() const {

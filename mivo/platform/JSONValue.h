@@ -16,7 +16,8 @@ namespace mivo {
 /// its members, and the last of equal keys counts.
 struct JSONValue {
   using Array = std::vector<JSONValue>;
-  using Object = std::vector<std::pair<std::string, JSONValue>>;
+  struct Member;
+  using Object = std::vector<Member>;
 
   std::variant<std::monostate, bool, std::int64_t, double, std::string, Array, Object> content;
 
@@ -33,7 +34,12 @@ struct JSONValue {
   bool operator==(const JSONValue&) const;
 };
 
-// Once the type is complete: Clang compares the members on the spot.
+struct JSONValue::Member {
+  std::string name;
+  JSONValue value;
+  bool operator==(const Member&) const = default;
+};
+
 inline bool JSONValue::operator==(const JSONValue&) const = default;
 
 /// A text that is not JSON, or whose JSON is not what was expected; `what()` is one sentence that says where.

@@ -19,7 +19,7 @@ RoadmapFeatureVotingCount RoadmapFeatureVotingCount::decoded(const JSONValue& an
 
 JSONValue RoadmapFeatureVotingCount::encoded() const {
   JSONValue::Object members;
-  if (value) members.emplace_back(valueKey, JSONValue{*value});
+  if (value) members.push_back({valueKey, JSONValue{*value}});
   return {std::move(members)};
 }
 
