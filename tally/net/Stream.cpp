@@ -11,11 +11,10 @@ tcp::socket& Stream::socket() {
 error_code Stream::expectHost(const std::string& host) {
   auto& secure = std::get<Secure>(stream_);
   error_code error;
-  secure.set_verify_mode(ssl::verify_peer, error);
-  if (!error) secure.set_verify_callback(ssl::host_name_verification(host), error);
-  if (error) return error;
+  if (secure.set_verify_mode(ssl::verify_peer, error)) return error;
+  if (secure.set_verify_callback(ssl::host_name_verification(host), error)) return error;
   error_code notAnAddress;
-  asio::ip::make_address(host, notAnAddress);
+  static_cast<void>(asio::ip::make_address(host, notAnAddress));
   // A server name is sent for names only: RFC 6066 has no form for addresses.
   if (notAnAddress && SSL_set_tlsext_host_name(secure.native_handle(), host.c_str()) != 1)
     return asio::error::invalid_argument;
@@ -35,13 +34,13 @@ void Stream::finishSending(std::function<void()> done) {
     return;
   }
   error_code ignored;
-  socket().shutdown(tcp::socket::shutdown_send, ignored);
+  static_cast<void>(socket().shutdown(tcp::socket::shutdown_send, ignored));
   done();
 }
 
 void Stream::close() {
   error_code ignored;
-  socket().close(ignored);
+  static_cast<void>(socket().close(ignored));
 }
 
 }  // namespace mivo::tally

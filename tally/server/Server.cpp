@@ -76,9 +76,8 @@ void Server::add(tcp::socket socket) {
   if (connections_.size() >= options_.mostConnections) makeRoom();
   error_code error;
   const auto peer = socket.remote_endpoint(error);
-  if (!error) socket.set_option(tcp::no_delay{true}, error);
-  if (!error) socket.non_blocking(true, error);
-  if (error) return;  // it is gone already
+  const bool isGone = error || socket.set_option(tcp::no_delay{true}, error) || socket.non_blocking(true, error);
+  if (isGone) return;
   auto stream = certificate_ ? Stream{std::move(socket), *certificate_} : Stream{std::move(socket)};
   connections_.push_back(std::make_shared<Connection>(std::move(stream), workplace_, peer.address()));
   connections_.back()->start(std::prev(connections_.end()));
@@ -132,7 +131,7 @@ void Server::stop() {
     if (error) break;
     add(std::move(socket));
   }
-  acceptor_.close(error);
+  static_cast<void>(acceptor_.close(error));
   const auto now = std::chrono::steady_clock::now();
   for (auto next = connections_.begin(); next != connections_.end();) {
     const auto connection = *next++;

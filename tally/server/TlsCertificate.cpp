@@ -6,8 +6,13 @@
 namespace mivo::tally {
 namespace {
 
-void check(const error_code& error, const std::filesystem::path& file) {
-  if (error) throw std::runtime_error(file.string() + ": " + error.message());
+template <class Body>
+void naming(const std::filesystem::path& file, Body body) {
+  try {
+    body();
+  } catch (const boost::system::system_error& error) {
+    throw std::runtime_error(file.string() + ": " + error.code().message());
+  }
 }
 
 }  // namespace
@@ -18,11 +23,8 @@ std::shared_ptr<ssl::context> loadCertificate(const std::filesystem::path& certi
   context->set_options(ssl::context::no_tlsv1 | ssl::context::no_tlsv1_1 | ssl::context::no_compression);
   // An idle connection then keeps no buffers of OpenSSL's.
   SSL_CTX_set_mode(context->native_handle(), SSL_MODE_RELEASE_BUFFERS);
-  error_code error;
-  context->use_certificate_chain_file(certificate.string(), error);
-  check(error, certificate);
-  context->use_private_key_file(key.string(), ssl::context::pem, error);
-  check(error, key);
+  naming(certificate, [&] { context->use_certificate_chain_file(certificate.string()); });
+  naming(key, [&] { context->use_private_key_file(key.string(), ssl::context::pem); });
   if (SSL_CTX_check_private_key(context->native_handle()) != 1)
     throw std::runtime_error(key.string() + ": does not belong to " + certificate.string());
   return context;
