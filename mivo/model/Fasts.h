@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 #include <optional>
 #include <span>
@@ -18,7 +19,7 @@ struct FinishedFastingDataEntry {
   std::int64_t goalSeconds = 0;  ///< the length that the user set out to fast
 
   /// Seconds from start to end; 0 where it ends before it starts.
-  double duration() const { return end > start ? secondsBetween(start, end) : 0; }
+  double duration() const { return std::max(0.0, secondsBetween(start, end)); }
   bool operator==(const FinishedFastingDataEntry&) const = default;
 };
 

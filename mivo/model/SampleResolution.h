@@ -18,9 +18,12 @@ std::vector<Sample> reducedSampleResolution(std::vector<Sample> samples, TimeRan
   const double bucketSeconds = range == TimeRange::month ? secondsPerDay : 7 * secondsPerDay;
   const auto bucket = [&](const Sample& sample) { return std::floor(secondsSince1970(sample.date) / bucketSeconds); };
   std::size_t kept = 0;
+  double own = samples.empty() ? 0 : bucket(samples.front());
   for (std::size_t index = 0; index < samples.size(); ++index) {
-    if (index + 1 < samples.size() && bucket(samples[index]) == bucket(samples[index + 1])) continue;
-    samples[kept++] = samples[index];
+    const bool isLast = index + 1 == samples.size();
+    const double next = isLast ? own : bucket(samples[index + 1]);
+    if (isLast || next != own) samples[kept++] = samples[index];
+    own = next;
   }
   samples.erase(samples.begin() + static_cast<std::ptrdiff_t>(kept), samples.end());
   return samples;

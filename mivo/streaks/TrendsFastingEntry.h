@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <algorithm>
+
 #include "mivo/model/Date.h"
 #include "mivo/model/Record.h"
 
@@ -12,7 +14,7 @@ struct TrendsFastingEntry {
   double offset = 0;  ///< seconds: how far into its fast the piece begins
 
   /// Seconds from start to end; 0 where it ends before it starts.
-  double duration() const { return end > start ? secondsBetween(start, end) : 0; }
+  double duration() const { return std::max(0.0, secondsBetween(start, end)); }
   bool operator==(const TrendsFastingEntry&) const = default;
 };
 
