@@ -2,6 +2,7 @@
 #pragma once
 
 #include <algorithm>
+#include <cstddef>
 #include <iterator>
 #include <span>
 #include <vector>
@@ -18,8 +19,11 @@ inline Date cutOff(TimeRange range, Date now) { return now - Duration{totalDaysO
 /// The points that are not earlier than a date, in order; O(n).
 template <class Point>
 std::vector<Point> since(Date date, std::span<const Point> points) {
+  const auto isRecent = [date](const Point& point) { return point.date >= date; };
+  const auto first = std::ranges::find_if(points, isRecent);
   std::vector<Point> recent;
-  std::ranges::copy_if(points, std::back_inserter(recent), [date](const Point& point) { return point.date >= date; });
+  recent.reserve(static_cast<std::size_t>(points.end() - first));
+  std::copy_if(first, points.end(), std::back_inserter(recent), isRecent);
   return recent;
 }
 

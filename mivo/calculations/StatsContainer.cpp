@@ -2,10 +2,11 @@
 #include "mivo/calculations/StatsContainer.h"
 
 #include <algorithm>
-#include <functional>
+#include <iterator>
 #include <string>
 #include <vector>
 
+#include "mivo/calculations/CompletedFasts.h"
 #include "mivo/calculations/DateSeries.h"
 #include "mivo/calculations/DayBars.h"
 #include "mivo/calculations/FastingAverages.h"
@@ -27,25 +28,6 @@ using Fast = FinishedFastingDataEntry;
 using Fasts = std::span<const Fast>;
 
 constexpr Duration trendLookBack{90 * secondsPerDay};
-
-std::vector<Fast> finishedFasts(std::span<const FastingDataEntry> fasts) {
-  std::vector<Fast> finished;
-  finished.reserve(fasts.size() + 1);
-  for (const auto& fast : fasts)
-    if (fast.finished) finished.push_back(*fast.finished);
-  return finished;
-}
-
-// With an ongoing fast in order of their starts, without one as they come.
-std::vector<Fast> completedFasts(std::span<const FastingDataEntry> fasts,
-                                 const std::optional<FastingDataEntry>& ongoingFast, Date now) {
-  std::vector<Fast> completed = finishedFasts(fasts);
-  if (!ongoingFast) return completed;
-  sortByStart(completed);
-  const auto place = std::ranges::upper_bound(completed, ongoingFast->start, std::less{}, &Fast::start);
-  completed.insert(place, {ongoingFast->start, now, ongoingFast->goalSeconds});
-  return completed;
-}
 
 bool endsBeforeItStarts(const Fast& fast) { return fast.end < fast.start; }
 
@@ -128,14 +110,14 @@ void StatsContainer::update(std::span<const FastingDataEntry> fasts, const std::
   const auto& currentCalendar = dependency(&Dependencies::currentCalendar);
   const auto streakDays = streakCalendar(calendar, currentCalendar);
 
-  const auto completed = completedFasts(fasts, ongoingFast, now);
+  auto completed = completedFasts(fasts, ongoingFast, now);
   if (!updateNumbers(completed, streakSettings, timeRange, now, *calendar, *streakDays, *currentCalendar)) return;
   writeChartData(*this, completed, timeRange, now, *calendar);
   updateFastingAverages(completed, now);
 }
 
-bool StatsContainer::updateNumbers(Fasts completed, const StreakSettings& streakSettings, TimeRange timeRange, Date now,
-                                   const Calendar& calendar, const Calendar& streakDays,
+bool StatsContainer::updateNumbers(std::vector<Fast>& completed, const StreakSettings& streakSettings,
+                                   TimeRange timeRange, Date now, const Calendar& calendar, const Calendar& streakDays,
                                    const Calendar& currentCalendar) {
   const SummaryTotals totals = summaryTotals(completed);
   totalFasts = totals.totalFasts;
@@ -143,13 +125,15 @@ bool StatsContainer::updateNumbers(Fasts completed, const StreakSettings& streak
   averageFast = totals.averageFast;
   longestFast = totals.longestFast;
 
+  // Averages are summed in the order in which the fasts come; streaks need them in order of their starts.
+  const auto starts = rangeStarts(timeRange, calendar, now);
+  const auto averages =
+      starts ? zoneAverages(completed, *starts, calendar.endOfDay(now).value_or(now)) : ZoneAverages{};
+  sortByStart(completed);
   const StreakLengths lengths = streaks(completed, streakSettings, streakDays, currentCalendar);
   currentStreak = lengths.current;
   maxStreak = lengths.max;
-
-  const auto starts = rangeStarts(timeRange, calendar, now);
   if (!starts) return false;
-  const ZoneAverages averages = zoneAverages(completed, *starts, endOfToday(calendar, now));
   fastingAverages = averages[LegacyFastingZone::fasting];
   eatingAverages = averages[LegacyFastingZone::eating];
   anabolicAverages = averages[LegacyFastingZone::anabolic];

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <optional>
 #include <span>
+#include <vector>
 
 #include "mivo/charts/ScrollChartFeature.h"
 #include "mivo/model/Averages.h"
@@ -72,8 +73,9 @@ struct StatsContainer {
               const StreakSettings& streakSettings, TimeRange timeRange);
 
   /// The totals, streaks and averages, from `totalFasts` to `deepKetosisAverages`; false where the calendar could not
-  /// form the ranges and the averages stayed as they were. No allocation where the fasts are in order of their starts.
-  bool updateNumbers(std::span<const FinishedFastingDataEntry> completedFasts, const StreakSettings& streakSettings,
+  /// form the ranges and the averages stayed as they were. Leaves the fasts in the order of their starts, and needs no
+  /// memory where they are in that order or exactly newest first. Streak days are counted on `streakDays`.
+  bool updateNumbers(std::vector<FinishedFastingDataEntry>& completedFasts, const StreakSettings& streakSettings,
                      TimeRange timeRange, Date now, const Calendar& calendar, const Calendar& streakDays,
                      const Calendar& currentCalendar);
 
