@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <memory>
+
+#include "adapters/icu/DateFormatters.h"
+#include "adapters/icu/UserLocale.h"
+#include "adapters/system/LocalUUIDGenerator.h"
+#include "adapters/time/TimeZone.h"
+#include "adapters/time/ZonedCalendar.h"
+#include "bench/support/Histories.h"
+#include "mivo/platform/Dependencies.h"
+
+namespace bench {
+
+struct FixedClock : mivo::DateGenerator {
+  mivo::Date now() const override { return bench::now; }
+};
+
+/// What the app runs with, in New York, and a clock that stands still.
+inline std::shared_ptr<const mivo::Dependencies> surroundings() {
+  using namespace mivo::adapters;
+  const auto calendar = ZonedCalendar::gregorian(TimeZone::load("America/New_York").value(), 1);
+  auto clients = std::make_shared<mivo::Dependencies>();
+  clients->date = std::make_shared<FixedClock>();
+  clients->uuid = std::make_shared<LocalUUIDGenerator>();
+  clients->calendar = clients->currentCalendar = calendar;
+  clients->dateFormatter = dateFormatter(UserLocale::parse("en_US").value(), *calendar);
+  return clients;
+}
+
+}  // namespace bench
