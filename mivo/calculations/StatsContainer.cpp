@@ -127,8 +127,7 @@ bool StatsContainer::updateNumbers(std::vector<Fast>& completed, const StreakSet
 
   // Averages are summed in the order in which the fasts come; streaks need them in order of their starts.
   const auto starts = rangeStarts(timeRange, calendar, now);
-  const auto averages =
-      starts ? zoneAverages(completed, *starts, calendar.endOfDay(now).value_or(now)) : ZoneAverages{};
+  const auto averages = starts ? zoneAverages(completed, *starts, endOfToday(calendar, now)) : ZoneAverages{};
   sortByStart(completed);
   const StreakLengths lengths = streaks(completed, streakSettings, streakDays, currentCalendar);
   currentStreak = lengths.current;
