@@ -1,6 +1,10 @@
 # Warnings and instrumentation that every target of this build shares; never exported.
 add_library(mivo_warnings INTERFACE)
 target_compile_options(mivo_warnings INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion)
+if(CMAKE_CXX_COMPILER_ID STREQUAL GNU AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
+  # It takes copied variants and optionals for uninitialised as soon as it optimises.
+  target_compile_options(mivo_warnings INTERFACE -Wno-maybe-uninitialized)
+endif()
 if(MIVO_WARNINGS_AS_ERRORS)
   target_compile_options(mivo_warnings INTERFACE -Werror)
 endif()
