@@ -1,7 +1,8 @@
 # Warnings and instrumentation that every target of this build shares; never exported.
 add_library(mivo_warnings INTERFACE)
 target_compile_options(mivo_warnings INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion)
-if(CMAKE_CXX_COMPILER_ID STREQUAL GNU AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
+if(CMAKE_CXX_COMPILER_ID STREQUAL GNU AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13
+   AND (MIVO_SANITIZE OR NOT CMAKE_BUILD_TYPE STREQUAL "Debug"))
   # It takes copied variants and optionals for uninitialised as soon as it optimises.
   target_compile_options(mivo_warnings INTERFACE -Wno-maybe-uninitialized)
 endif()

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "mivo/store/Print.h"
 #include "mivo/store/Store.h"
 
 #include <gmock/gmock.h>
