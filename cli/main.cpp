@@ -1,33 +1,41 @@
 // SPDX-License-Identifier: MIT
+#include <unistd.h>
+
 #include <CLI/CLI.hpp>
+#include <algorithm>
+#include <array>
+#include <cerrno>
 #include <exception>
+#include <filesystem>
 #include <string>
+#include <system_error>
 
 #include "cli/report/ReportCommand.h"
 #include "cli/terminal/StandardOutput.h"
+#include "cli/usage/Usage.h"
 
 namespace mivo::cli {
 namespace {
 
-constexpr int atFault = 1, wrongUsage = 2;
-
-/// Help and version are answers; anything else that the parser throws is a command line that it does not understand.
-int answer(const CLI::App& program, const CLI::ParseError& parsed) {
-  std::string text;
-  if (parsed.get_exit_code() == 0) {
-    std::ostringstream out, unused;
-    program.exit(parsed, out, unused);
-    const auto fault = writeOutput(out.str());
-    if (fault) complain(*fault);
-    return fault ? atFault : 0;
-  }
-  std::string sentence = parsed.what();
-  sentence.resize(std::min(sentence.find('\n'), sentence.size()));
-  complain(sentence + " (mivo report --help tells what can)");
-  return wrongUsage;
+/// Lists a command whose arguments are another program's business.
+const CLI::App* addForeign(CLI::App& program, const char* name, const char* description) {
+  CLI::App* const command = program.add_subcommand(name, description)->prefix_command();
+  command->set_help_flag();  // --help is for that program too
+  return command;
 }
 
-int run(int count, const char* const* arguments) {
+/// The roadmap is a program of its own beside this one: to load the network's libraries alone takes as long as a whole
+/// report.
+int becomeRoadmapProgram(char** arguments) {
+  std::error_code failure;
+  const auto self = std::filesystem::read_symlink("/proc/self/exe", failure);
+  const auto program = self.parent_path() / "mivo-roadmap";
+  ::execv(program.c_str(), arguments);
+  complain(program.string() + ": " + std::generic_category().message(errno));
+  return atFault;
+}
+
+int run(int count, char** arguments) {
   if (const auto fault = closedOutput()) {
     complain(*fault);
     return atFault;
@@ -37,11 +45,16 @@ int run(int count, const char* const* arguments) {
   program.require_subcommand(1);
   ReportOptions reportOptions;
   const CLI::App& report = addReport(program, reportOptions);
+  const std::array foreign{addForeign(program, "roadmap", "List the features that may come, and their votes"),
+                           addForeign(program, "vote", "Vote for a feature of the roadmap"),
+                           addForeign(program, "unvote", "Take a vote back")};
   try {
     program.parse(count, arguments);
   } catch (const CLI::ParseError& parsed) {
-    return answer(program, parsed);
+    return answer(program, parsed, "mivo report --help tells what can");
   }
+  if (std::ranges::any_of(foreign, [](const CLI::App* command) { return command->parsed(); }))
+    return becomeRoadmapProgram(arguments);
   return report.parsed() ? runReport(reportOptions) : wrongUsage;
 }
 
