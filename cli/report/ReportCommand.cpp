@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "cli/report/ReportCommand.h"
 
+#include <filesystem>
 #include <string>
 #include <tl/expected.hpp>
 #include <utility>
@@ -11,6 +12,7 @@
 #include "cli/report/RunSettings.h"
 #include "cli/terminal/Paint.h"
 #include "cli/terminal/StandardOutput.h"
+#include "host/database/Database.h"
 #include "host/history/FastsCsv.h"
 #include "host/history/Snapshot.h"
 #include "host/history/WeightsCsv.h"
@@ -29,14 +31,15 @@ int refused(int status, const std::string& sentence) {
   return status;
 }
 
+bool hasTables(const ReportOptions& options) { return !options.fasts.empty() || !options.weights.empty(); }
+
 /// What is wrong with the choice of inputs, if anything.
 std::string inputFault(const ReportOptions& options) {
-  const bool hasTables = !options.fasts.empty() || !options.weights.empty();
-  const int inputs = !options.input.empty() + !options.database.empty() + hasTables;
+  const int inputs = !options.input.empty() + !options.database.empty() + hasTables(options);
   if (inputs > 1) return "expected one of --input, --database, or --fasts and --weights, not several";
-  if (inputs == 0)
-    return "no history given: expected --input FILE.json, --fasts FILE.csv with or without --weights FILE.csv, or "
-           "--database FILE";
+  if (inputs == 0 && !std::filesystem::exists(host::ownDatabaseFile()))
+    return "no history given, and the app has none here: expected --input FILE.json, --fasts FILE.csv with or without "
+           "--weights FILE.csv, or --database FILE";
   return {};
 }
 
@@ -61,13 +64,21 @@ tl::expected<History, BadRecord> readTables(const ReportOptions& options, const 
   return history;
 }
 
+/// A report makes no database where there is none.
+tl::expected<History, BadRecord> readDatabase(const std::filesystem::path& file) {
+  if (!std::filesystem::is_regular_file(file))
+    return tl::unexpected{BadRecord{.file = file.string(), .reason = "expected a database of the app"}};
+  return host::Database{file}.history();
+}
+
 tl::expected<History, BadRecord> readHistory(const ReportOptions& options, const RunSettings& settings,
                                              const UUIDGenerator& ids) {
   if (!options.input.empty())
     return host::readTextFile(options.input).and_then([&](const std::string& text) {
       return host::readSnapshot(text, options.input, ids);
     });
-  return readTables(options, settings, ids);
+  if (hasTables(options)) return readTables(options, settings, ids);
+  return readDatabase(options.database.empty() ? host::ownDatabaseFile() : std::filesystem::path{options.database});
 }
 
 std::string drawn(const Report& report, const RunSettings& settings) {

@@ -24,7 +24,8 @@ CLI::App& addReport(CLI::App& program, ReportOptions& options) {
   CLI::App& report = *program.add_subcommand("report", "Print every figure of a history of fasts and weights");
   report.footer(examples);
   report.add_option("--input", options.input, "The history: a snapshot in JSON")->type_name("FILE.json");
-  report.add_option("--database", options.database, "The history: a database of the app")->type_name("FILE");
+  report.add_option("--database", options.database, "The history: a database of the app; default: the app's own")
+      ->type_name("FILE");
   report.add_option("--fasts", options.fasts, "The fasts: a table")->type_name("FILE.csv");
   report.add_option("--weights", options.weights, "The weights: a table")->type_name("FILE.csv");
   report.option_defaults()->multi_option_policy(CLI::MultiOptionPolicy::TakeLast);  // over those of a shell's alias

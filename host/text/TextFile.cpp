@@ -2,9 +2,11 @@
 #include "host/text/TextFile.h"
 
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unicode/ustring.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdint>
 #include <system_error>
@@ -15,14 +17,13 @@
 namespace mivo::host {
 namespace {
 
-/// Appends what there is, up to a mebibyte; 0 at the end, negative where it cannot be read.
-ssize_t readSome(const adapters::FileDescriptor& file, std::string& text) {
-  constexpr std::size_t step = std::size_t{1} << 20;
-  const std::size_t before = text.size();
-  text.resize(before + step);
-  const ssize_t count = ::read(file.get(), text.data() + before, step);
-  text.resize(before + static_cast<std::size_t>(count > 0 ? count : 0));
-  return count;
+/// Room for all of a file and the read that finds its end, so that it is read into place at once; for what has no size,
+/// a pipe, a beginning.
+std::size_t firstRoom(const adapters::FileDescriptor& file, std::size_t largest) {
+  constexpr std::size_t beginning = std::size_t{1} << 16;
+  struct stat status{};
+  if (::fstat(file.get(), &status) != 0 || status.st_size <= 0) return beginning;
+  return std::min(static_cast<std::size_t>(status.st_size), largest) + 1;
 }
 
 tl::unexpected<BadRecord> unreadable(const std::string& path) {
@@ -63,17 +64,22 @@ tl::expected<std::string, BadRecord> decodedText(std::string bytes, const std::s
 tl::expected<std::string, BadRecord> readTextFile(const std::string& path, std::size_t largest) {
   const adapters::FileDescriptor file{::open(path.c_str(), O_RDONLY | O_CLOEXEC)};
   if (!file) return unreadable(path);
-  std::string bytes;
+  std::string bytes(firstRoom(file, largest), '\0');
+  std::size_t filled = 0;
   for (;;) {
-    const ssize_t count = readSome(file, bytes);
+    if (filled == bytes.size()) bytes.resize(2 * filled);
+    const ssize_t count = ::read(file.get(), bytes.data() + filled, bytes.size() - filled);
     if (count < 0 && errno == EINTR) continue;
     if (count < 0) return unreadable(path);
-    if (count == 0) return decodedText(std::move(bytes), path);
-    if (bytes.size() > largest) {
+    filled += static_cast<std::size_t>(count);
+    if (count == 0) break;
+    if (filled > largest) {
       const std::string bound = std::to_string(largest >> 20);
       return tl::unexpected{BadRecord{.file = path, .reason = "expected a file of at most " + bound + " MiB"}};
     }
   }
+  bytes.resize(filled);
+  return decodedText(std::move(bytes), path);
 }
 
 }  // namespace mivo::host

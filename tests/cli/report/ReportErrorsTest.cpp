@@ -39,6 +39,8 @@ INSTANTIATE_TEST_SUITE_P(
         ErrorRow{"missing", "", "", "report --input a.json",
                  "mivo: a.json: expected a file that can be read: No such file or directory"},
         ErrorRow{"folder", "", "", "report --input .", "mivo: .: expected a file that can be read: Is a directory"},
+        ErrorRow{"missingDatabase", "", "", "report --database a.sqlite",
+                 "mivo: a.sqlite: expected a database of the app"},
         ErrorRow{"emptySnapshot", "a.json", "", fromSnapshot,
                  "mivo: a.json:1: snapshot: expected an object, found the end of the file"},
         ErrorRow{"emptyTable", "f.csv", "", fromFasts,
@@ -84,7 +86,8 @@ INSTANTIATE_TEST_SUITE_P(
     Usage, ReportErrors,
     testing::Values(
         ErrorRow{"noInput", "", "", "report",
-                 "mivo: no history given: expected --input FILE.json, --fasts FILE.csv with or without --weights "
+                 "mivo: no history given, and the app has none here: expected --input FILE.json, --fasts FILE.csv with "
+                 "or without --weights "
                  "FILE.csv, or --database FILE",
                  wrongUsage},
         ErrorRow{"twoInputs", "", "", someInput + "--fasts f.csv",
