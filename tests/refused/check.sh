@@ -1,6 +1,7 @@
 #!/bin/sh
 # check.sh FILE COMPILER FLAGS...: whether FILE compiles, and with -DFAULT is refused with a message after "// error: ".
 set -eu
+export LC_ALL=C # the messages are English
 file=$1
 shift
 output=$(mktemp)
