@@ -17,8 +17,8 @@ class [[nodiscard]] Subscription {
   /// `kept` is let go when the subscription ends.
   explicit Subscription(std::weak_ptr<bool> active, std::shared_ptr<const void> kept = nullptr)
       : isActive{std::move(active)}, keeps{std::move(kept)} {}
-  Subscription(Subscription&&) = default;
-  Subscription& operator=(Subscription&& other) {
+  Subscription(Subscription&&) noexcept = default;
+  Subscription& operator=(Subscription&& other) noexcept {
     end();
     isActive = std::move(other.isActive);
     keeps = std::move(other.keeps);
