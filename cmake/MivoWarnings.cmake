@@ -6,6 +6,10 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL GNU AND CMAKE_CXX_COMPILER_VERSION VERSION_LES
   # It takes copied variants and optionals for uninitialised as soon as it optimises.
   target_compile_options(mivo_warnings INTERFACE -Wno-maybe-uninitialized)
 endif()
+if(CMAKE_CXX_COMPILER_ID MATCHES Clang)
+  # The stable_sort of GCC 12's library calls what that library deprecates.
+  target_compile_options(mivo_warnings INTERFACE -Wno-deprecated-declarations)
+endif()
 if(MIVO_WARNINGS_AS_ERRORS)
   target_compile_options(mivo_warnings INTERFACE -Werror)
 endif()
