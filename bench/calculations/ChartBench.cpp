@@ -38,11 +38,10 @@ void update(benchmark::State& state, TimeRange range, Order order) {
   const auto whole = [&] { stats.update(records, std::nullopt, {}, range); };
   whole();
   if (!chartsAreRight(stats, fasts(state.range(0)))) return state.SkipWithError("wrong answer, not timed");
-  for (auto _ : state) {
+  measure(state, [&] {
     whole();
-    benchmark::DoNotOptimize(stats);
-  }
-  state.counters["perRecord"] = perRecord(state.range(0));
+    return &stats;
+  });
 }
 
 void chartData(benchmark::State& state, TimeRange range) {
@@ -53,11 +52,10 @@ void chartData(benchmark::State& state, TimeRange range) {
   stats.updateFastingAverages(history, now);
   stats.updateChartData(history, range);
   if (!chartsAreRight(stats, history)) return state.SkipWithError("wrong answer, not timed");
-  for (auto _ : state) {
+  measure(state, [&] {
     stats.updateChartData(history, range);
-    benchmark::DoNotOptimize(stats);
-  }
-  state.counters["perRecord"] = perRecord(state.range(0));
+    return &stats;
+  });
 }
 
 void fastingLine(benchmark::State& state) {
@@ -68,11 +66,10 @@ void fastingLine(benchmark::State& state) {
   stats.updateChartData(history, TimeRange::week);
   stats.updateFastingAverages(history, now);
   if (!chartsAreRight(stats, history)) return state.SkipWithError("wrong answer, not timed");
-  for (auto _ : state) {
+  measure(state, [&] {
     stats.updateFastingAverages(history, now);
-    benchmark::DoNotOptimize(stats);
-  }
-  state.counters["perRecord"] = perRecord(state.range(0));
+    return &stats;
+  });
 }
 
 void sizes(benchmark::internal::Benchmark* rule) { rule->Arg(3'650)->RangeMultiplier(10)->Range(1'000, 1'000'000); }

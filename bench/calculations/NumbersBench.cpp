@@ -81,23 +81,20 @@ void numbers(benchmark::State& state, Order order) {
       stats.maxStreak == obviousStreaks(history, calendar).max &&
       std::abs(stats.averageFast * static_cast<double>(state.range(0)) - mivo::totalDuration(history)) < 1e-3;
   if (!isRight) return state.SkipWithError(wrongAnswer);
-  for (auto _ : state) benchmark::DoNotOptimize(update());
-  state.counters["perRecord"] = perRecord(state.range(0));
+  measure(state, [&] { return update(); });
 }
 
 void copyOfRecords(benchmark::State& state) {
   const auto records = fastRecords(state.range(0));
   if (mivo::completedFasts(records, std::nullopt, now) != sortedFasts(state.range(0)))
     return state.SkipWithError(wrongAnswer);
-  for (auto _ : state) benchmark::DoNotOptimize(mivo::completedFasts(records, std::nullopt, now));
-  state.counters["perRecord"] = perRecord(state.range(0));
+  measure(state, [&] { return mivo::completedFasts(records, std::nullopt, now); });
 }
 
 void totals(benchmark::State& state) {
   const auto history = sortedFasts(state.range(0));
   if (mivo::summaryTotals(history).totalFasts != state.range(0)) return state.SkipWithError(wrongAnswer);
-  for (auto _ : state) benchmark::DoNotOptimize(mivo::summaryTotals(history));
-  state.counters["perRecord"] = perRecord(state.range(0));
+  measure(state, [&] { return mivo::summaryTotals(history); });
 }
 
 void sort(benchmark::State& state, Order order) {
@@ -105,8 +102,7 @@ void sort(benchmark::State& state, Order order) {
   const auto ordered = [&] { return mivo::FastsByStart{history}.list().size(); };
   if (!std::ranges::equal(mivo::FastsByStart{history}.list(), sortedFasts(state.range(0))))
     return state.SkipWithError(wrongAnswer);
-  for (auto _ : state) benchmark::DoNotOptimize(ordered());
-  state.counters["perRecord"] = perRecord(state.range(0));
+  measure(state, [&] { return ordered(); });
 }
 
 void streaks(benchmark::State& state, Order order) {
@@ -115,8 +111,7 @@ void streaks(benchmark::State& state, Order order) {
   const auto history = fasts(state.range(0), order);
   const auto lengths = [&] { return mivo::streaks(history, settings, calendar, calendar); };
   if (lengths() != obviousStreaks(history, calendar)) return state.SkipWithError(wrongAnswer);
-  for (auto _ : state) benchmark::DoNotOptimize(lengths());
-  state.counters["perRecord"] = perRecord(state.range(0));
+  measure(state, [&] { return lengths(); });
 }
 
 void averages(benchmark::State& state, TimeRange range) {
@@ -129,16 +124,14 @@ void averages(benchmark::State& state, TimeRange range) {
   for (std::size_t zone = 2; zone < 7; ++zone) sumOfZones += zones().zones[zone].lastTimeRange;
   const double fasting = zones()[mivo::LegacyFastingZone::fasting].lastTimeRange;
   if (!(fasting > 0 && std::abs(sumOfZones - fasting) < 1e-6)) return state.SkipWithError(wrongAnswer);
-  for (auto _ : state) benchmark::DoNotOptimize(zones());
-  state.counters["perRecord"] = perRecord(state.range(0));
+  measure(state, [&] { return zones(); });
 }
 
 void stretches(benchmark::State& state) {
   const auto history = sortedFasts(state.range(0));
   if (mivo::totalDuration(mivo::unionOfFasts(history)) != obviousUnionSeconds(history))
     return state.SkipWithError(wrongAnswer);
-  for (auto _ : state) benchmark::DoNotOptimize(mivo::unionOfFasts(history));
-  state.counters["perRecord"] = perRecord(state.range(0));
+  measure(state, [&] { return mivo::unionOfFasts(history); });
 }
 
 void sizes(benchmark::internal::Benchmark* rule) { rule->RangeMultiplier(10)->Range(1'000, 1'000'000); }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <benchmark/benchmark.h>
+
 #include <memory>
 
 #include "adapters/icu/DateFormatters.h"
@@ -8,6 +10,7 @@
 #include "adapters/system/LocalUUIDGenerator.h"
 #include "adapters/time/TimeZone.h"
 #include "adapters/time/ZonedCalendar.h"
+#include "bench/support/Floor.h"
 #include "bench/support/Histories.h"
 #include "mivo/platform/Dependencies.h"
 
@@ -27,6 +30,15 @@ inline std::shared_ptr<const mivo::Dependencies> surroundings() {
   clients->calendar = clients->currentCalendar = calendar;
   clients->dateFormatter = dateFormatter(UserLocale::parse("en_US").value(), *calendar);
   return clients;
+}
+
+/// Times a rule whose answer has been checked. It runs once more before that, because the memory of the check is given
+/// back to the system, and waiting for it anew is not what is measured.
+template <class Rule>
+void measure(benchmark::State& state, Rule&& rule) {
+  benchmark::DoNotOptimize(rule());
+  for (auto _ : state) benchmark::DoNotOptimize(rule());
+  state.counters["perRecord"] = perRecord(state.range(0));
 }
 
 }  // namespace bench

@@ -44,8 +44,7 @@ void weightUpdate(benchmark::State& state) {
   const auto stats = StatsContainer::update(samples);
   if (std::abs(stats.weightAvgLogsForWeek->back().value - lastAverage(samples)) > 1e-9)
     return state.SkipWithError("wrong answer, not timed");
-  for (auto _ : state) benchmark::DoNotOptimize(StatsContainer::update(samples));
-  state.counters["perRecord"] = perRecord(state.range(0));
+  measure(state, [&] { return StatsContainer::update(samples); });
 }
 
 void weeklyAverages(benchmark::State& state) {
@@ -53,8 +52,7 @@ void weeklyAverages(benchmark::State& state) {
   const auto samples = weights(state.range(0));
   if (std::abs(mivo::weeklyAverages(samples, *clients->uuid).back().value - lastAverage(samples)) > 1e-9)
     return state.SkipWithError("wrong answer, not timed");
-  for (auto _ : state) benchmark::DoNotOptimize(mivo::weeklyAverages(samples, *clients->uuid));
-  state.counters["perRecord"] = perRecord(state.range(0));
+  measure(state, [&] { return mivo::weeklyAverages(samples, *clients->uuid); });
 }
 
 // A line that loses exactly one kilogram from the first sample to the last.
@@ -65,8 +63,7 @@ void trend(benchmark::State& state) {
     sample.weightInKg = 80 - mivo::secondsBetween(range.lowerBound, sample.date) / range.duration();
   if (std::abs(mivo::weightTrendInKg(samples, range).value_or(0) + 1) > 1e-9)
     return state.SkipWithError("wrong answer, not timed");
-  for (auto _ : state) benchmark::DoNotOptimize(mivo::weightTrendInKg(samples, range));
-  state.counters["perRecord"] = perRecord(state.range(0));
+  measure(state, [&] { return mivo::weightTrendInKg(samples, range); });
 }
 
 void sizes(benchmark::internal::Benchmark* rule) { rule->Arg(3'650)->RangeMultiplier(10)->Range(1'000, 1'000'000); }

@@ -36,15 +36,15 @@ class SlidingSum {
 std::vector<WeightAverageEntry> weeklyAverages(std::span<const BodyWeightSample> samples, const UUIDGenerator& ids) {
   std::vector<UUID> fresh(samples.size());
   ids.fill(fresh);
-  std::vector<WeightAverageEntry> averages;
-  averages.reserve(samples.size());
+  std::vector<WeightAverageEntry> averages(
+      samples.size());  // full size: a call to grow would cost the sum its register
   SlidingSum sum;
   std::size_t first = 0;
   for (std::size_t last = 0; last < samples.size(); ++last) {
     sum.add(samples[last].weightInKg);
     for (; first < last && secondsBetween(samples[first].date, samples[last].date) > windowSeconds; ++first)
       sum.add(-samples[first].weightInKg);
-    averages.push_back({fresh[last], samples[last].date, sum.value() / static_cast<double>(last - first + 1)});
+    averages[last] = {fresh[last], samples[last].date, sum.value() / static_cast<double>(last - first + 1)};
   }
   return averages;
 }
