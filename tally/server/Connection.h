@@ -43,7 +43,8 @@ class Connection : public std::enable_shared_from_this<Connection> {
   void checkDeadline(Instant now);
   /// Closes where nothing is under way; else the next answer says that it is the last.
   void drain(Instant now);
-  bool isWaitingForClient() const { return phase_ == Phase::idle || phase_ == Phase::receiving; }
+  /// In every phase but the one in which the store is asked: a client can be slow at a handshake and at reading too.
+  bool isWaitingForClient() const { return phase_ != Phase::asking; }
   void close();
 
  private:

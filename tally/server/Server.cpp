@@ -86,9 +86,7 @@ void Server::add(tcp::socket socket) {
 // A connection that answers were sent to lately stands behind those that only hold a place.
 void Server::makeRoom() {
   const auto silent = std::ranges::find_if(connections_, [](const auto& each) { return each->isWaitingForClient(); });
-  if (silent != connections_.end()) std::shared_ptr {
-      *silent
-    } -> close();
+  if (silent != connections_.end()) (*silent)->close();
 }
 
 void Server::checkDeadlines() {

@@ -23,6 +23,8 @@ std::shared_ptr<ssl::context> loadCertificate(const std::filesystem::path& certi
   context->set_options(ssl::context::no_tlsv1 | ssl::context::no_tlsv1_1 | ssl::context::no_compression);
   // An idle connection then keeps no buffers of OpenSSL's.
   SSL_CTX_set_mode(context->native_handle(), SSL_MODE_RELEASE_BUFFERS);
+  // OpenSSL would ask the terminal for the passphrase of a key that has one, and the server would wait for it.
+  context->set_password_callback([](std::size_t, ssl::context::password_purpose) { return std::string{}; });
   naming(certificate, [&] { context->use_certificate_chain_file(certificate.string()); });
   naming(key, [&] { context->use_private_key_file(key.string(), ssl::context::pem); });
   if (SSL_CTX_check_private_key(context->native_handle()) != 1)
