@@ -43,8 +43,9 @@ void RedisLink::connect(const tcp::resolver::results_type& endpoints) {
     stream_.emplace(tcp::socket{loop_});
   }
   asio::async_connect(stream_->socket(), endpoints, step([this](const auto&) {  // the endpoint that answered
-                        stream_->socket().set_option(tcp::no_delay{true});
-                        stream_->socket().set_option(asio::socket_base::keep_alive{true});
+                        error_code ignored;  // where it is gone again already, the first read says so
+                        static_cast<void>(stream_->socket().set_option(tcp::no_delay{true}, ignored));
+                        static_cast<void>(stream_->socket().set_option(asio::socket_base::keep_alive{true}, ignored));
                         address_.isSecure ? secure() : logIn();
                       }));
 }
@@ -57,11 +58,13 @@ void RedisLink::secure() {
 void RedisLink::logIn() {
   read();
   std::string commands;
-  if (address_.user.empty() && !address_.password.empty()) appendCommand(commands, {"AUTH", address_.password});
-  if (!address_.user.empty()) appendCommand(commands, {"AUTH", address_.user, address_.password});
+  const bool hasUser = !address_.user.empty();
+  const bool hasLogin = hasUser || !address_.password.empty();
+  if (hasUser) appendCommand(commands, {"AUTH", address_.user, address_.password});
+  if (!hasUser && hasLogin) appendCommand(commands, {"AUTH", address_.password});
   appendCommand(commands, {"SELECT", std::to_string(address_.database)});
   appendCommand(commands, {"GET", redisKeyPrefix});  // fails while Redis still loads its file
-  exchange(std::move(commands), address_.password.empty() ? 2 : 3, [this](const Replies& replies) {
+  exchange(std::move(commands), hasLogin ? 3 : 2, [this](const Replies& replies) {
     for (const auto& reply : replies)
       if (reply.kind == RedisReply::Kind::error) return lose(reply.text);
     std::exchange(ready_, {})();
@@ -90,7 +93,7 @@ void RedisLink::take(std::size_t size) {
   if (replies_.size() > expected_) return lose("an answer that nobody asked for");
   if (expected_ > 0 && replies_.size() == expected_) {
     expected_ = 0;
-    deadline_.cancel();
+    deadline_.expires_at(asio::steady_timer::time_point::max());
     std::exchange(replied_, {})(std::exchange(replies_, {}));
   }
   if (!isClosed_) read();
@@ -99,7 +102,9 @@ void RedisLink::take(std::size_t size) {
 void RedisLink::startDeadline() {
   deadline_.expires_after(longestWait);
   deadline_.async_wait([self = shared_from_this()](error_code error) {
-    if (!error && !self->isClosed_) self->lose("no answer within 5 seconds");
+    // The answer may have come after the time ran out, and before this was called.
+    const bool isOver = !error && self->deadline_.expiry() <= std::chrono::steady_clock::now();
+    if (isOver && !self->isClosed_) self->lose("no answer within 5 seconds");
   });
 }
 
