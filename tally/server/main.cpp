@@ -58,9 +58,7 @@ int run(const ExportOptions& options) {
     if (!std::cout.flush()) throw std::runtime_error("standard output: cannot be written");
     return 0;
   }
-  std::ofstream out{options.to, std::ios::binary};
-  writeCounts(out, counts);
-  if (!out.flush()) throw std::runtime_error(options.to.string() + ": cannot be written");
+  writeCounts(options.to, counts);
   return 0;
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tally/store/Transfer.h"
 
+#include <fstream>
 #include <istream>
 #include <nlohmann/json.hpp>
 #include <optional>
@@ -52,6 +53,20 @@ void writeCounts(std::ostream& out, const Counts& counts) {
     out << "{\"counter\":" << json(counter).dump() << ",\"value\":" << value << "}\n";
 }
 
+void writeCounts(const std::filesystem::path& file, const Counts& counts) {
+  // What is not a file, a pipe say, cannot be replaced by one.
+  const bool isReplaced = !std::filesystem::exists(file) || std::filesystem::is_regular_file(file);
+  const auto target = isReplaced ? std::filesystem::path{file.string() + ".part"} : file;
+  std::ofstream out{target, std::ios::binary};
+  writeCounts(out, counts);
+  out.close();
+  std::error_code error;
+  if (out && isReplaced) std::filesystem::rename(target, file, error);
+  if (out && !error) return;
+  if (isReplaced) std::filesystem::remove(target, error);
+  throw std::runtime_error(file.string() + ": cannot be written");
+}
+
 Counts readCounts(std::istream& in, const std::string& fileName) {
   Counts counts;
   std::string text;
@@ -64,6 +79,7 @@ Counts readCounts(std::istream& in, const std::string& fileName) {
       throw std::runtime_error(fileName + ':' + std::to_string(number) + ": " + error.what());
     }
   }
+  if (in.bad()) throw std::runtime_error(fileName + ": cannot be read to its end");
   return counts;
 }
 

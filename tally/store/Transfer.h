@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 #include <cstdint>
+#include <filesystem>
 #include <iosfwd>
 #include <map>
 #include <string>
@@ -22,6 +23,10 @@ struct ImportPlan {
 
 /// Writes one counter a line, in order of their names: {"counter":"app.example/feature12","value":7}
 void writeCounts(std::ostream& out, const Counts& counts);
+
+/// The same into a file, whose former content, an older backup say, is there until the new one is complete. Throws
+/// std::runtime_error with one sentence.
+void writeCounts(const std::filesystem::path& file, const Counts& counts);
 
 /// Reads what writeCounts wrote. Throws std::runtime_error with file, line and field for a line that is anything else,
 /// or a counter that comes twice.
