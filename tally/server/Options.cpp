@@ -2,6 +2,8 @@
 #include "tally/server/Options.h"
 
 #include <CLI/CLI.hpp>
+#include <algorithm>
+#include <cctype>
 #include <cstdlib>
 #include <iostream>
 #include <stdexcept>
@@ -53,35 +55,49 @@ struct Texts {
 void addFlags(CLI::App& app, ServeOptions& options, Texts& texts) {
   const auto seconds = CLI::Range(1, 3600);
   app.add_option("--listen", texts.listen, "Address and port to answer on; port 0 takes a free one")
-      ->envname("MIVO_TALLY_LISTEN")
-      ->type_name("HOST:PORT");
+      ->type_name("HOST:PORT")
+      ->capture_default_str();
   app.add_option("--store", texts.store, "sqlite:FILE, redis://[USER:PASSWORD@]HOST:PORT/DB, or rediss:// for TLS")
-      ->envname("MIVO_TALLY_STORE")
-      ->type_name("ADDRESS");
-  app.add_option("--roadmap", options.roadmap, "The list served as /data/roadmap-mivo.json")
-      ->envname("MIVO_TALLY_ROADMAP")
-      ->type_name("FILE");
+      ->type_name("ADDRESS")
+      ->capture_default_str();
+  app.add_option("--roadmap", options.roadmap, "The list served as /data/roadmap-mivo.json")->type_name("FILE");
   app.add_option("--certificate", options.certificate, "Certificate chain (PEM); read again on SIGHUP")
-      ->envname("MIVO_TALLY_CERTIFICATE")
       ->type_name("FILE");
-  app.add_option("--key", options.key, "Its private key (PEM)")->envname("MIVO_TALLY_KEY")->type_name("FILE");
+  app.add_option("--key", options.key, "Its private key (PEM)")->type_name("FILE");
   app.add_flag("--allow-plain-http", options.allowPlainHttp, "Answer without TLS beyond this machine");
   app.add_option("--votes-per-minute", options.votesPerMinute, "Votes taken from one address; 0 takes all")
-      ->envname("MIVO_TALLY_VOTES_PER_MINUTE")
       ->type_name("N")
       ->capture_default_str();
   app.add_flag("--trust-forwarded-for", options.trustForwardedFor,
                "Take the client's address from the last entry of X-Forwarded-For");
   app.add_option("--allow-origin", options.allowedOrigins, "A web origin whose pages may vote; repeatable; * for all")
-      ->type_name("ORIGIN");
+      ->type_name("ORIGIN")
+      ->delimiter(',');
   app.add_flag("--log-addresses", options.logAddresses, "Write clients' addresses into the log");
-  app.add_option("--request-seconds", texts.requestSeconds, "Time to send a request")->check(seconds)->type_name("N");
-  app.add_option("--idle-seconds", texts.idleSeconds, "Time between requests")->check(seconds)->type_name("N");
+  app.add_option("--request-seconds", texts.requestSeconds, "Time to send a request, and to take its answer")
+      ->check(seconds)
+      ->type_name("N")
+      ->capture_default_str();
+  app.add_option("--idle-seconds", texts.idleSeconds, "Time between requests")
+      ->check(seconds)
+      ->type_name("N")
+      ->capture_default_str();
   app.add_option("--max-connections", options.mostConnections,
                  "Connections held; beyond, the one that was silent longest is dropped")
       ->check(CLI::Range(1, 1'000'000))
       ->type_name("N")
       ->capture_default_str();
+}
+
+// A service's settings stand in its environment: --votes-per-minute is MIVO_TALLY_VOTES_PER_MINUTE too.
+void addVariables(CLI::App& app) {
+  for (auto* option : app.get_options()) {
+    if (option == app.get_help_ptr()) continue;
+    auto name = "MIVO_TALLY_" + option->get_lnames().front();
+    std::ranges::transform(name, name.begin(),
+                           [](unsigned char c) { return c == '-' ? '_' : static_cast<char>(std::toupper(c)); });
+    option->envname(name);
+  }
 }
 
 ServeOptions finished(ServeOptions options, const Texts& texts) {
@@ -107,6 +123,7 @@ Command parseCommandLine(int argc, const char* const* argv) {
       "mivo-tally: counts votes for the features of a roadmap.\n"
       "Without a command it serves; without flags, on this machine alone, into a SQLite file."};
   addFlags(app, serve, texts);
+  addVariables(app);
   auto* exporting = app.add_subcommand("export", "Write every counter of --store, one JSON object a line");
   exporting->fallthrough()->add_option("--to", exported.to, "Where to; standard output without it")->type_name("FILE");
   auto* importing = app.add_subcommand("import", "Bring counters that export wrote into --store");
