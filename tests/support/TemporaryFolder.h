@@ -19,6 +19,8 @@ class TemporaryFolder {
   TemporaryFolder(const TemporaryFolder&) = delete;
   TemporaryFolder& operator=(const TemporaryFolder&) = delete;
 
+  std::string file(const std::string& name) const { return (path / name).string(); }
+
   std::filesystem::path path;
 };
 

@@ -7,8 +7,8 @@
 #include <cstdio>
 #include <string>
 
+#include "tests/support/TemporaryFolder.h"
 #include "tests/tally_support/TallyServer.h"
-#include "tests/tally_support/TemporaryFolder.h"
 
 namespace mivo::cli {
 namespace {
@@ -35,7 +35,7 @@ class EndToEnd : public testing::Test {
     return {WEXITSTATUS(::pclose(pipe)), output};
   }
 
-  tally::test::TemporaryFolder folder;
+  tests::TemporaryFolder folder;
   tally::test::TallyServer server{"sqlite:" + folder.file("votes.db")};
 };
 

@@ -2,9 +2,9 @@
 #include <gtest/gtest.h>
 #include <sys/resource.h>
 
+#include "tests/support/TemporaryFolder.h"
 #include "tests/tally_support/HttpClient.h"
 #include "tests/tally_support/TallyServer.h"
-#include "tests/tally_support/TemporaryFolder.h"
 
 namespace mivo::tally::test {
 namespace {
@@ -18,7 +18,7 @@ void limitFiles(const ChildProcess& process, rlim_t bytes) {
 }
 
 TEST(FullDisk, refusesVotesAndKeepsWhatWasThere) {
-  const TemporaryFolder folder;
+  const tests::TemporaryFolder folder;
   const auto store = "sqlite:" + folder.file("tally.sqlite");
   {
     TallyServer server{store};

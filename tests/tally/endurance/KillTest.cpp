@@ -4,10 +4,10 @@
 #include <atomic>
 #include <optional>
 
+#include "tests/support/TemporaryFolder.h"
 #include "tests/tally_support/HttpClient.h"
 #include "tests/tally_support/RedisServer.h"
 #include "tests/tally_support/TallyServer.h"
-#include "tests/tally_support/TemporaryFolder.h"
 #include "tests/tally_support/Voters.h"
 
 // Killed in the middle of votes, again and again. A vote whose answer did not arrive may count or not; one that was
@@ -26,7 +26,7 @@ void expectAllKept(std::int64_t count, const Tally& tally) {
 }
 
 TEST(Killed, theServerHasEveryAnsweredVote) {
-  const TemporaryFolder folder;
+  const tests::TemporaryFolder folder;
   const auto store = "sqlite:" + folder.file("tally.sqlite");
   std::optional<TallyServer> server{std::in_place, store};
   std::atomic<std::uint16_t> port = server->port();

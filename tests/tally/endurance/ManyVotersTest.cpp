@@ -2,14 +2,15 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <cstdlib>
 #include <deque>
 #include <map>
 #include <random>
 
+#include "tests/support/TemporaryFolder.h"
 #include "tests/tally_support/HttpClient.h"
 #include "tests/tally_support/RedisServer.h"
 #include "tests/tally_support/TallyServer.h"
-#include "tests/tally_support/TemporaryFolder.h"
 
 namespace mivo::tally::test {
 namespace {
@@ -20,6 +21,8 @@ constexpr std::array<const char*, 3> counters{"app.example/feature1", "app.examp
 
 struct Sums {
   std::map<std::string, std::int64_t> kept;
+  // A store on a disk that is busy for seconds is given up, and its votes may count or not.
+  std::map<std::string, std::int64_t> unknown;
   std::string fault;
 };
 
@@ -33,7 +36,11 @@ Sums voteFrom(std::uint16_t port, unsigned seed) {
       const std::string counter = counters[random() % counters.size()];
       const int delta = random() % 3 == 0 ? -1 : 1;
       const auto answer = client.get("/add/" + counter + "?delta=" + std::to_string(delta));
-      if (answer.status == 200) sums.kept[counter] += delta;
+      if (answer.status == 200) {
+        sums.kept[counter] += delta;
+      } else {
+        ++sums.unknown[counter];
+      }
     }
   } catch (const std::exception& error) {
     sums.fault = error.what();
@@ -48,18 +55,20 @@ void expectNothingLostNorTwice(const std::vector<std::uint16_t>& ports) {
   for (std::size_t i = 0; i < clients; ++i)
     threads.emplace_back([&, i] { sums[i] = voteFrom(ports[i % ports.size()], static_cast<unsigned>(i)); });
   threads.clear();
-  std::map<std::string, std::int64_t> kept;
+  Sums all;
   for (const auto& client : sums) {
     EXPECT_EQ(client.fault, "");
-    for (const auto& [counter, sum] : client.kept) kept[counter] += sum;
+    for (const auto& [counter, sum] : client.kept) all.kept[counter] += sum;
+    for (const auto& [counter, votes] : client.unknown) all.unknown[counter] += votes;
   }
-  ASSERT_EQ(kept.size(), counters.size());
+  ASSERT_EQ(all.kept.size(), counters.size());
   for (const auto port : ports)
-    for (const auto& [counter, sum] : kept) EXPECT_EQ(countOf(HttpClient{port}.get("/get/" + counter)), sum) << counter;
+    for (const auto& [counter, sum] : all.kept)
+      EXPECT_LE(std::abs(countOf(HttpClient{port}.get("/get/" + counter)) - sum), all.unknown[counter]) << counter;
 }
 
 TEST(ManyVoters, withSqlite) {
-  const TemporaryFolder folder;
+  const tests::TemporaryFolder folder;
   const TallyServer server{"sqlite:" + folder.file("tally.sqlite")};
   expectNothingLostNorTwice({server.port()});
 }

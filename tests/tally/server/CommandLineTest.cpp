@@ -4,9 +4,9 @@
 
 #include <fstream>
 
+#include "tests/support/TemporaryFolder.h"
 #include "tests/tally_support/HttpClient.h"
 #include "tests/tally_support/TallyServer.h"
-#include "tests/tally_support/TemporaryFolder.h"
 
 namespace mivo::tally::test {
 namespace {
@@ -41,29 +41,40 @@ INSTANTIATE_TEST_SUITE_P(
             "plainForOthers", {"--listen", "0.0.0.0:0"}, 2, "give --certificate and --key, or --allow-plain-http"},
         CommandRow{"keyAlone", {"--key", "k.pem"}, 2, "--certificate and --key are given together"},
         CommandRow{"noCertificate",
-                   {"--listen", "127.0.0.1:0", "--store", "sqlite:/tmp/mivo-tally-unused/t", "--certificate",
-                    "/no/c.pem", "--key", "/no/k.pem"},
+                   {"--listen", "127.0.0.1:0", "--store", "redis://127.0.0.1:1", "--certificate", "/no/c.pem", "--key",
+                    "/no/k.pem"},
                    1,
                    "/no/c.pem: "},
         CommandRow{"noRoadmap",
-                   {"--listen", "127.0.0.1:0", "--store", "sqlite:/tmp/mivo-tally-unused/t", "--roadmap", "/no/r.json"},
+                   {"--listen", "127.0.0.1:0", "--store", "redis://127.0.0.1:1", "--roadmap", "/no/r.json"},
                    1,
                    "/no/r.json: No such file or directory"},
         CommandRow{"noFolder", {"--store", "sqlite:/proc/no/t.sqlite"}, 1, "/proc/no"},
         CommandRow{"exportOfNothing", {"export", "--store", "sqlite:/no/t.sqlite"}, 1, "/no/t.sqlite: unable to open"},
         CommandRow{"importOfNothing", {"import", "/no/c.jsonl"}, 1, "/no/c.jsonl: cannot be read"},
+        CommandRow{"importOfAFolder", {"import", "/"}, 1, "/: cannot be read to its end"},
         CommandRow{
             "redisAway", {"export", "--store", "redis://127.0.0.1:1"}, 1, "redis://127.0.0.1:1/0: Connection refused"}),
     [](const auto& row) { return std::string{row.param.name}; });
 
+TEST(MivoTally, readsItsFlagsFromTheEnvironmentToo) {
+  ChildProcess process{{"env", "MIVO_TALLY_REQUEST_SECONDS=0", tallyProgram(), "--store", "redis://127.0.0.1:1"}};
+  EXPECT_EQ(process.wait(), 2);
+  EXPECT_THAT(process.output(), testing::HasSubstr("--request-seconds"));
+}
+
 TEST(MivoTally, exportsWhileItServesAndImportsAfterwards) {
-  const TemporaryFolder folder;
+  const tests::TemporaryFolder folder;
   const auto store = "sqlite:" + folder.file("tally.sqlite");
   const auto file = folder.file("counters.jsonl");
   TallyServer server{store};
   HttpClient client{server.port()};
   client.get("/add/app.example/feature12?delta=1");
   EXPECT_EQ((ChildProcess{{tallyProgram(), "export", "--store", store, "--to", file}}.wait()), 0);
+  ChildProcess onAFullDisk{
+      {"sh", "-c", "ulimit -f 0; exec \"$0\" export --store \"$1\" --to \"$2\"", tallyProgram(), store, file}};
+  EXPECT_EQ(onAFullDisk.wait(), 1);
+  EXPECT_THAT(onAFullDisk.output(), testing::HasSubstr(file + ": cannot be written"));
 
   const std::vector<std::string> import{tallyProgram(), "import", file, "--store"};
   const auto importInto = [&](const std::string& address) {

@@ -5,9 +5,9 @@
 #include <fstream>
 #include <random>
 
+#include "tests/support/TemporaryFolder.h"
 #include "tests/tally_support/HttpClient.h"
 #include "tests/tally_support/TallyServer.h"
-#include "tests/tally_support/TemporaryFolder.h"
 
 namespace mivo::tally::test {
 namespace {
@@ -16,7 +16,7 @@ using testing::HasSubstr;
 
 struct Fixture : testing::Test {
   std::string store() const { return "sqlite:" + folder.file("tally.sqlite"); }
-  TemporaryFolder folder;
+  tests::TemporaryFolder folder;
 };
 
 using ServerTest = Fixture;
@@ -50,7 +50,7 @@ void PrintTo(const AnswerRow& row, std::ostream* out) { *out << row.name; }
 class Answers : public testing::TestWithParam<AnswerRow> {
  public:
   static void SetUpTestSuite() {
-    folder_ = std::make_unique<TemporaryFolder>();
+    folder_ = std::make_unique<tests::TemporaryFolder>();
     server_ = std::make_unique<TallyServer>("sqlite:" + folder_->file("tally.sqlite"),
                                             std::vector<std::string>{"--allow-origin", "https://app.example"});
   }
@@ -61,10 +61,10 @@ class Answers : public testing::TestWithParam<AnswerRow> {
   static std::uint16_t port() { return server_->port(); }
 
  private:
-  static std::unique_ptr<TemporaryFolder> folder_;
+  static std::unique_ptr<tests::TemporaryFolder> folder_;
   static std::unique_ptr<TallyServer> server_;
 };
-std::unique_ptr<TemporaryFolder> Answers::folder_;
+std::unique_ptr<tests::TemporaryFolder> Answers::folder_;
 std::unique_ptr<TallyServer> Answers::server_;
 
 TEST_P(Answers, areAsTheRowSaysAndOnlyAVoteCounts) {

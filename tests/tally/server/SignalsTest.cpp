@@ -5,9 +5,9 @@
 #include <csignal>
 #include <fstream>
 
+#include "tests/support/TemporaryFolder.h"
 #include "tests/tally_support/HttpClient.h"
 #include "tests/tally_support/TallyServer.h"
-#include "tests/tally_support/TemporaryFolder.h"
 #include "tests/tally_support/Voters.h"
 
 namespace mivo::tally::test {
@@ -17,7 +17,7 @@ using testing::HasSubstr;
 
 struct Fixture : testing::Test {
   std::string store() const { return "sqlite:" + folder.file("tally.sqlite"); }
-  TemporaryFolder folder;
+  tests::TemporaryFolder folder;
 };
 
 using SignalsTest = Fixture;

@@ -5,10 +5,10 @@
 #include <csignal>
 #include <fstream>
 
+#include "tests/support/TemporaryFolder.h"
 #include "tests/tally_support/Certificate.h"
 #include "tests/tally_support/HttpClient.h"
 #include "tests/tally_support/TallyServer.h"
-#include "tests/tally_support/TemporaryFolder.h"
 
 namespace mivo::tally::test {
 namespace {
@@ -16,14 +16,14 @@ namespace {
 using testing::HasSubstr;
 constexpr auto tls = HttpClient::Security::tls;
 
-CertificateFiles madeIn(const TemporaryFolder& folder) {
+CertificateFiles madeIn(const tests::TemporaryFolder& folder) {
   CertificateFiles files{folder.file("certificate.pem"), folder.file("key.pem")};
   makeCertificate(files, 1);
   return files;
 }
 
 struct Fixture : testing::Test {
-  TemporaryFolder folder;
+  tests::TemporaryFolder folder;
   CertificateFiles files = madeIn(folder);
   TallyServer server{"sqlite:" + folder.file("tally.sqlite"),
                      {"--certificate", files.certificate, "--key", files.key, "--request-seconds", "1"}};
@@ -67,6 +67,17 @@ TEST_F(TlsTest, dropsWhoSpeaksPlainHttpOrNothing) {
   HttpClient silent{server.port()};
   EXPECT_EQ(silent.receiveAll(), "");
   EXPECT_EQ((HttpClient{server.port(), tls}.get("/health").status), 200U);
+}
+
+// Who connects and never greets holds a place as the silent do, and gives way as they do.
+TEST_F(TlsTest, dropsWhoNeverGreetsForWhoDoes) {
+  TallyServer small{
+      "sqlite:" + folder.file("small.sqlite"),
+      {"--certificate", files.certificate, "--key", files.key, "--request-seconds", "60", "--max-connections", "2"}};
+  HttpClient first{small.port()};
+  HttpClient second{small.port()};
+  EXPECT_EQ((HttpClient{small.port(), tls}.get("/health").status), 200U);
+  EXPECT_EQ(first.receiveAll(), "");
 }
 
 }  // namespace

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "PrintedResult.h"
+#include "tests/support/TemporaryFolder.h"
 #include "tests/tally_support/RedisServer.h"
 
 namespace mivo::tally {
@@ -86,7 +87,7 @@ TEST_F(RedisStoreTest, isAwayWithRedisAndComesBackByItself) {
 }
 
 TEST_F(RedisStoreTest, doesNotTrustACertificateOfNobodyKnown) {
-  const test::TemporaryFolder folder;
+  const tests::TemporaryFolder folder;
   const test::CertificateFiles files{folder.file("certificate.pem"), folder.file("key.pem")};
   test::makeCertificate(files, 1);
   const test::RedisServer redis{{.password = {}, .certificate = files}};
@@ -97,7 +98,7 @@ TEST_F(RedisStoreTest, doesNotTrustACertificateOfNobodyKnown) {
 }
 
 TEST_F(RedisStoreTest, countsOverTls) {
-  const test::TemporaryFolder folder;
+  const tests::TemporaryFolder folder;
   const test::CertificateFiles files{folder.file("certificate.pem"), folder.file("key.pem")};
   test::makeCertificate(files, 1);
   const test::RedisServer redis{{.password = "secret", .certificate = files}};

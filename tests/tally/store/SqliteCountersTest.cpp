@@ -9,7 +9,7 @@
 #include "PrintedResult.h"
 #include "tally/store/FileLock.h"
 #include "tally/store/SqliteStore.h"
-#include "tests/tally_support/TemporaryFolder.h"
+#include "tests/support/TemporaryFolder.h"
 
 namespace mivo::tally {
 namespace {
@@ -31,7 +31,7 @@ std::string faultOf(const std::function<void()>& body) {
 }
 
 struct Fixture : testing::Test {
-  test::TemporaryFolder folder;
+  tests::TemporaryFolder folder;
   std::string file = folder.file("tally.sqlite");
   SqliteCounters counters{file, SqliteCounters::Access::readWrite};
 };
@@ -77,9 +77,9 @@ TEST_F(SqliteCountersTest, belongsToOneProcess) {
 }
 
 TEST(SqliteStoreTest, knowsWhatItReadOrCounted) {
-  const test::TemporaryFolder folder;
+  const tests::TemporaryFolder folder;
   asio::io_context loop;
-  SqliteStore store{loop, folder.path() / "new" / "tally.sqlite", [](std::string_view text) { FAIL() << text; }};
+  SqliteStore store{loop, folder.path / "new" / "tally.sqlite", [](std::string_view text) { FAIL() << text; }};
   EXPECT_EQ(store.known("a/feature1"), std::nullopt);
   Results results;
   const auto work = asio::make_work_guard(loop);

@@ -6,8 +6,8 @@
 #include <functional>
 #include <sstream>
 
+#include "tests/support/TemporaryFolder.h"
 #include "tests/tally_support/RedisServer.h"
-#include "tests/tally_support/TemporaryFolder.h"
 
 namespace mivo::tally {
 namespace {
@@ -88,7 +88,7 @@ void expectImports(const StoreAddress& address) {
 }
 
 TEST(ImportCounts, intoSqlite) {
-  const test::TemporaryFolder folder;
+  const tests::TemporaryFolder folder;
   expectImports(SqliteAddress{folder.file("tally.sqlite")});
 }
 
@@ -101,7 +101,7 @@ TEST(ImportCounts, intoRedisWithPassword) {
 }
 
 TEST(ReadStore, doesNotTakeAMissingFileForAnEmptyOne) {
-  const test::TemporaryFolder folder;
+  const tests::TemporaryFolder folder;
   const auto file = folder.file("tally.sqlite");
   EXPECT_EQ(faultOf([&] { readStore(SqliteAddress{file}); }), file + ": unable to open database file");
 }

@@ -54,7 +54,7 @@ void RedisServer::start() {
                                    "--bind",
                                    "127.0.0.1",
                                    "--dir",
-                                   folder_.path().string(),
+                                   folder_.path.string(),
                                    "--appendonly",
                                    "yes",
                                    "--appendfsync",

@@ -2,9 +2,9 @@
 #pragma once
 #include <optional>
 
+#include "tests/support/TemporaryFolder.h"
 #include "tests/tally_support/Certificate.h"
 #include "tests/tally_support/ChildProcess.h"
-#include "tests/tally_support/TemporaryFolder.h"
 
 namespace mivo::tally::test {
 
@@ -29,7 +29,7 @@ class RedisServer {
  private:
   void start();
 
-  TemporaryFolder folder_;
+  tests::TemporaryFolder folder_;
   Setup setup_;
   int port_ = 0;
   std::optional<ChildProcess> process_;
