@@ -40,9 +40,12 @@ bool offersUndo(Step step) {
 
 }  // namespace
 
-AppFeature::State AppFeature::State::make(TimeRange timeRange) {
-  return {.statistics = StatisticsFeature::State::make(StatsContainer::empty(), {}, timeRange),
-          .now = dependency(&Dependencies::date)->now()};
+AppFeature::State AppFeature::State::make(TimeRange timeRange, WeightUnit usualUnit) {
+  State state{.statistics = StatisticsFeature::State::make(StatsContainer::empty(), {}, timeRange),
+              .now = dependency(&Dependencies::date)->now()};
+  state.statistics.goalWeightCardState.weightUnit = usualUnit;
+  state.statistics.addWeightLogState.weightUnit = usualUnit;
+  return state;
 }
 
 const FastRecord* AppFeature::State::runningFast() const {
@@ -59,7 +62,11 @@ auto AppFeature::reduce(State& state, const Action& action) const -> Effect<Acti
 // What the statistics leave to their host.
 auto AppFeature::on(State& state, const Action::statistics& sent) const -> Effect<Action> {
   using Sent = StatisticsFeature::Action;
-  if (std::holds_alternative<Sent::binding>(sent.action) || std::holds_alternative<Sent::onAppear>(sent.action)) {
+  if (std::holds_alternative<Sent::onAppear>(sent.action)) {
+    takeSettings(state);
+    state.statistics.addWeightLogState.logDate = date->now();
+    recompute(state);
+  } else if (std::holds_alternative<Sent::binding>(sent.action)) {
     recompute(state);
   } else if (std::holds_alternative<Sent::didTapFixOverlappingFasts>(sent.action)) {
     state.overlapRepair = overlapRepair(state.fasts->elements(), date->now());
@@ -88,6 +95,8 @@ auto AppFeature::on(State&, const Action::reload&) const -> Effect<Action> {
 
 auto AppFeature::on(State& state, const Action::didLoad& loaded) const -> Effect<Action> {
   take(state, loaded.history.fasts, loaded.history.weights);
+  auto& card = state.statistics.addWeightLogState;
+  if (!loaded.history.weights.empty() && !*card.typedText) card.weightInKg = loaded.history.weights.back().weightInKg;
   recompute(state);
   return {};
 }
@@ -174,6 +183,16 @@ auto AppFeature::on(State& state, const Action::didWrite& written) const -> Effe
   if (offersUndo(written.step)) state.undo = UndoOffer{written.step, inverse(written.change)};
   recompute(state);
   return {};
+}
+
+// Those of the host that the cards show; the module reads its own.
+void AppFeature::takeSettings(State& state) const {
+  auto& goal = state.statistics.goalWeightCardState;
+  goal.goalInKg = goalWeight(*userDefaults);
+  if (const auto unit = weightUnit(*userDefaults)) {
+    goal.weightUnit = *unit;
+    state.statistics.addWeightLogState.weightUnit = *unit;
+  }
 }
 
 // The add-weight card is told of the outcome too: it shows it.

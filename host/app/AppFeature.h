@@ -35,8 +35,8 @@ struct AppFeature {
     Observed<std::optional<UndoOffer>> undo = std::optional<UndoOffer>{};
     Observed<std::string> failure = std::string{};  ///< one sentence, until dismissed
 
-    /// A state before anything was loaded.
-    static State make(TimeRange timeRange);
+    /// A state before anything was loaded; weights are shown in that unit until the user chooses another.
+    static State make(TimeRange timeRange, WeightUnit usualUnit = WeightUnit::kilograms);
     const FastRecord* runningFast() const;
     bool operator==(const State&) const = default;
   };
@@ -134,6 +134,7 @@ struct AppFeature {
   Effect<Action> on(State& state, const Action::didTapUndo& sent) const;
   Effect<Action> on(State& state, const Action::didDismissMessages& sent) const;
   Effect<Action> on(State& state, const Action::didWrite& sent) const;
+  void takeSettings(State& state) const;
   Effect<Action> saveWeight(const State& state) const;
   Effect<Action> write(Step step, HistoryChange change) const;
   void recompute(State& state) const;

@@ -9,7 +9,8 @@ namespace mivo::host {
 namespace {
 
 constexpr std::string_view goalWeightKey = "goalWeightInKg", weightUnitKey = "weightUnit",
-                           goalSecondsKey = "fastGoalSeconds";
+                           goalSecondsKey = "fastGoalSeconds", languageKey = "language",
+                           firstWeekdayKey = "firstWeekday";
 constexpr std::array<std::string_view, 3> unitNames{"kg", "lb", "st"};
 constexpr std::int64_t usualGoalSeconds = 57600;
 
@@ -39,5 +40,19 @@ std::int64_t goalSeconds(const UserDefaults& defaults) {
 }
 
 void setGoalSeconds(const UserDefaults& defaults, std::int64_t seconds) { defaults.setValue(goalSecondsKey, seconds); }
+
+std::string language(const UserDefaults& defaults) { return defaults.text(languageKey, ""); }
+
+void setLanguage(const UserDefaults& defaults, const std::string& tag) { defaults.setValue(languageKey, tag); }
+
+std::optional<int> firstWeekday(const UserDefaults& defaults) {
+  const std::int64_t weekday = defaults.integer(firstWeekdayKey, 0);
+  return weekday >= 1 && weekday <= 7 ? std::optional{static_cast<int>(weekday)} : std::nullopt;
+}
+
+void setFirstWeekday(const UserDefaults& defaults, std::optional<int> weekday) {
+  defaults.setValue(firstWeekdayKey,
+                    weekday ? std::optional<UserDefaults::Value>{std::int64_t{*weekday}} : std::nullopt);
+}
 
 }  // namespace mivo::host

@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <string>
 
 #include "mivo/platform/Formatters.h"
 #include "mivo/platform/UserDefaults.h"
@@ -22,5 +23,13 @@ void setWeightUnit(const UserDefaults& defaults, WeightUnit unit);
 /// How long the next fast is meant to be, in seconds: the last choice, 16 hours at first.
 std::int64_t goalSeconds(const UserDefaults& defaults);
 void setGoalSeconds(const UserDefaults& defaults, std::int64_t seconds);
+
+/// The language tag that the user chose, in force from the next start; empty where the system decides.
+std::string language(const UserDefaults& defaults);
+void setLanguage(const UserDefaults& defaults, const std::string& tag);
+
+/// What weeks begin with, 1 = Sunday to 7 = Saturday; nothing where the locale decides.
+std::optional<int> firstWeekday(const UserDefaults& defaults);
+void setFirstWeekday(const UserDefaults& defaults, std::optional<int> weekday);
 
 }  // namespace mivo::host
