@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: MIT
+#include "AddWeightModel.h"
+
+#include "app/bridge/DateTimeText.h"
+#include "app/bridge/Text.h"
+#include "mivo/platform/Dependencies.h"
+
+namespace mivo::app {
+
+AddWeightModel::AddWeightModel(AddWeightLogFeature::State initial, std::function<void(Action)> sends, QObject* parent)
+    : QObject{parent}, held{std::move(initial)}, send{std::move(sends)} {}
+
+void AddWeightModel::follow(const AddWeightLogFeature::State& newer) {
+  const bool isOther = !(held == newer);
+  held = newer;
+  if (isOther) Q_EMIT changed();
+}
+
+QString AddWeightModel::fieldText() const {
+  return qString(
+      weightFieldText(held, *dependency(&Dependencies::numberFormatter), *dependency(&Dependencies::massFormatter)));
+}
+
+QString AddWeightModel::unit() const {
+  switch (*held.weightUnit) {
+    case WeightUnit::kilograms:
+      return QStringLiteral("kg");
+    case WeightUnit::pounds:
+      return QStringLiteral("lb");
+    case WeightUnit::stones:
+      return QString{};
+  }
+  return {};
+}
+
+QString AddWeightModel::dateText() const { return dateTimeText(held.logDate); }
+
+QString AddWeightModel::problem() const { return qString(problemText(held, *dependency(&Dependencies::texts))); }
+
+}  // namespace mivo::app

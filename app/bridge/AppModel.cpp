@@ -1,0 +1,225 @@
+// SPDX-License-Identifier: MIT
+#include "AppModel.h"
+
+#include <QtCore/QUrl>
+#include <QtCore/QUrlQuery>
+#include <QtGui/QClipboard>
+#include <QtGui/QDesktopServices>
+#include <QtGui/QGuiApplication>
+#include <QtQml/QJSEngine>
+
+#include "app/bridge/Stamps.h"
+#include "app/bridge/Text.h"
+#include "mivo/platform/Dependencies.h"
+#include "mivo/statistics/ComposeScreen.h"
+#include "mivo/statistics/ScreenInput.h"
+#include "mivo/statistics/WeightText.h"
+
+namespace mivo::app {
+namespace {
+
+using Sent = StatisticsFeature::Action;
+using Destination = StatisticsFeature::Destination;
+
+constexpr std::chrono::seconds untilRecomputed{60}, untilLookedForOtherPrograms{2};
+
+AppModel* theApp = nullptr;
+
+QString nameOf(const Presentation<Destination::State>& destination) {
+  if (!destination) return {};
+  if (std::holds_alternative<Destination::State::badges>(*destination)) return QStringLiteral("badges");
+  if (std::holds_alternative<Destination::State::roadmap>(*destination)) return QStringLiteral("roadmap");
+  return QStringLiteral("donations");
+}
+
+}  // namespace
+
+AppModel::AppModel(AppServices given)
+    : services{std::move(given)},
+      store{State::make(TimeRange::week, services.usualWeightUnit), host::AppFeature{.history = services.history},
+            dependency(&Dependencies::mainQueue), dependency(&Dependencies::taskRunner)},
+      fastingBars{store.state().statistics.stats.fastingChartState, chartTexts(),
+                  [this](DayBarsModel::Action action) { sendStatistics(Sent::fastingChartAction{std::move(action)}); }},
+      eatingBars{store.state().statistics.stats.eatingChartState, chartTexts(),
+                 [this](DayBarsModel::Action action) { sendStatistics(Sent::eatingChartAction{std::move(action)}); }},
+      weightEntry{
+          store.state().statistics.addWeightLogState,
+          [this](AddWeightModel::Action action) { sendStatistics(Sent::addWeightLogAction{std::move(action)}); }},
+      runningFast{[this](Action action) { send(std::move(action)); }},
+      badgeSummary{[this](BadgeSummaryFeature::Action action) {
+        using Shown = PresentationAction<Destination::Action>;
+        sendStatistics(Sent::destination{Shown::presented{Destination::Action::badges{std::move(action)}}});
+      }},
+      donationSheet{[this](DonationsFeature::Action action) {
+        using Shown = PresentationAction<Destination::Action>;
+        sendStatistics(Sent::destination{Shown::presented{Destination::Action::donations{std::move(action)}}});
+      }},
+      overlapRepair{[this](Action action) { send(std::move(action)); }} {
+  theApp = this;
+  following = store.observe([this](const State& state) { follow(state); });
+  load();
+  watchTime();
+}
+
+AppModel::~AppModel() { theApp = nullptr; }
+
+AppModel* AppModel::create(QQmlEngine*, QJSEngine*) {
+  QJSEngine::setObjectOwnership(theApp, QJSEngine::CppOwnership);
+  return theApp;
+}
+
+void AppModel::load() {
+  seenVersion = services.history->version();
+  try {
+    send(Action::didLoad{services.history->load()});
+  } catch (const std::exception& error) {
+    send(Action::didFail{error.what()});
+  }
+}
+
+// A running fast moves the figures, and another program may write into the same database.
+void AppModel::watchTime() {
+  connect(&everyMinute, &QTimer::timeout, this, [this] { send(Action::recompute{}); });
+  everyMinute.start(untilRecomputed);
+  connect(&watch, &QTimer::timeout, this, [this] {
+    if (std::exchange(seenVersion, services.history->version()) != seenVersion) send(Action::reload{});
+  });
+  watch.start(untilLookedForOtherPrograms);
+}
+
+void AppModel::say(const std::string& sentence) {
+  if (!sentence.empty()) send(Action::didFail{sentence});
+}
+
+DayBarsModel::Texts AppModel::chartTexts() {
+  const auto& hourMin = dependency(&Dependencies::hourMinDurationUnitFormatter);
+  const auto& hour = dependency(&Dependencies::hourDurationUnitFormatter);
+  return {[dates = dependency(&Dependencies::dateIntervalFormatter)](DateInterval interval) {
+            return qString(dates->string(interval).value_or(""));
+          },
+          [hourMin](double seconds) { return qString(hourMin->string(seconds).value_or("")); },
+          [hour](double hours) { return qString(hour->string(hours * secondsPerHour).value_or("")); }};
+}
+
+void AppModel::follow(const State& state) {
+  const auto& statistics = state.statistics;
+  fastingBars.follow(statistics.stats.fastingChartState);
+  eatingBars.follow(statistics.stats.eatingChartState);
+  if (auto stamps = stampsOf(state); stamps == seen)
+    return;
+  else
+    seen = std::move(stamps);
+  tellTips(state);
+  cards.show(composeScreen(screenInput(statistics), screenFormatters()));
+  weightLine.follow(statistics, state.now);
+  pairLine.follow(statistics, state.now);
+  weightEntry.follow(statistics.addWeightLogState);
+  runningFast.follow(state);
+  overlapRepair.follow(state.overlapRepair);
+  followDestination(statistics);
+  Q_EMIT messagesChanged();
+  Q_EMIT changed();
+}
+
+void AppModel::followDestination(const StatisticsFeature::State& state) {
+  const auto& destination = state.destination;
+  if (destination) {
+    if (const auto* shown = std::get_if<Destination::State::badges>(&*destination))
+      badgeSummary.follow(shown->state, state.streakSettings->countingEntity);
+    if (const auto* shown = std::get_if<Destination::State::donations>(&*destination))
+      donationSheet.follow(shown->state);
+  }
+  const QString name = nameOf(destination);
+  if (name == shownDestination) return;
+  shownDestination = name;
+  if (name == QLatin1String{"roadmap"}) features = std::make_unique<RoadmapModel>();
+  Q_EMIT destinationChanged();
+  if (name == QLatin1String{"donations"}) donationSheet.appear();
+}
+
+void AppModel::tellTips(const State& state) const {
+  const auto finished =
+      std::ranges::count_if(*state.fasts, [](const auto& record) { return record.fast.finished.has_value(); });
+  services.tips->setFacts({.finishedFasts = finished,
+                           .weights = static_cast<std::int64_t>(state.weights->size()),
+                           .hasGoalWeight = state.statistics.goalWeightCardState.goalInKg->has_value()});
+  if (const auto& shown = *state.statistics.currentTipID) services.tips->didShow(*shown);
+}
+
+QString AppModel::destination() const { return shownDestination; }
+
+QString AppModel::goalWeightText() const {
+  const auto& card = store.state().statistics.goalWeightCardState;
+  if (!*card.goalInKg) return {};
+  return qString(weightFieldText(**card.goalInKg, card.weightUnit, *dependency(&Dependencies::numberFormatter),
+                                 *dependency(&Dependencies::massFormatter)));
+}
+
+QString AppModel::failure() const { return qString(store.state().failure); }
+
+QString AppModel::undoText() const {
+  const auto& offer = *store.state().undo;
+  if (!offer) return {};
+  const auto& texts = dependency(&Dependencies::texts);
+  switch (offer->step) {
+    case host::AppFeature::Step::remove:
+      return qString(texts->text("Fast deleted"));
+    case host::AppFeature::Step::removeWeight:
+      return qString(texts->text("Weight deleted"));
+    default:
+      return qString(texts->text("Overlapping fasts fixed"));
+  }
+}
+
+void AppModel::appear() { sendStatistics(Sent::onAppear{}); }
+
+void AppModel::chooseTimeRange(int index) {
+  sendStatistics(Sent::binding{Write<&StatisticsFeature::State::timeRange>{static_cast<TimeRange>(index)}});
+}
+
+void AppModel::dismissTip() {
+  if (const auto& shown = *store.state().statistics.currentTipID) services.tips->dismiss(*shown);
+  seen.clear();
+  follow(store.state());
+}
+
+void AppModel::requestHealthAccess() { sendStatistics(Sent::requestHealthKitAccess{}); }
+
+void AppModel::fixOverlaps() { sendStatistics(Sent::didTapFixOverlappingFasts{}); }
+
+void AppModel::openBadges() { sendStatistics(Sent::didTapOpenBadges{}); }
+
+void AppModel::openRoadmap() { sendStatistics(Sent::didTapOpenRoadmap{}); }
+
+void AppModel::openDonations() { sendStatistics(Sent::didTapOpenDonations{}); }
+
+void AppModel::dismiss() {
+  if (store.state().statistics.destination)
+    sendStatistics(Sent::destination{PresentationAction<Destination::Action>::dismiss{}});
+}
+
+bool AppModel::setGoalWeight(const QString& text) {
+  const auto unit = store.state().statistics.goalWeightCardState.weightUnit;
+  const std::string typed = text.trimmed().toStdString();
+  const auto goal = parseWeight(typed, unit);
+  if (!goal && !typed.empty()) return false;
+  sendStatistics(Sent::goalWeightCardAction{GoalWeightCardFeature::Action::didSetGoal{goal}});
+  return true;
+}
+
+bool AppModel::sendFeedback(const QString& idea, const QString& replyTo) {
+  const QString body = replyTo.trimmed().isEmpty() ? idea : idea + QStringLiteral("\n\n") + replyTo.trimmed();
+  QUrl mail{QStringLiteral("mailto:") + qString(services.feedbackAddress)};
+  QUrlQuery fields;
+  fields.addQueryItem(QStringLiteral("subject"), QStringLiteral("Mivo"));
+  fields.addQueryItem(QStringLiteral("body"), QString::fromUtf8(QUrl::toPercentEncoding(body)));
+  mail.setQuery(fields);
+  if (!services.feedbackAddress.empty() && QDesktopServices::openUrl(mail)) return true;
+  copy(body);
+  say(dependency(&Dependencies::texts)->text("No mail program took your idea. It is on the clipboard now."));
+  return false;
+}
+
+void AppModel::copy(const QString& text) const { QGuiApplication::clipboard()->setText(text); }
+
+}  // namespace mivo::app

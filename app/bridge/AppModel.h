@@ -1,0 +1,150 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QtQml/qqmlregistration.h>
+#include <QtCore/QObject>
+#include <QtCore/QTimer>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "app/bridge/AddWeightModel.h"
+#include "app/bridge/BadgesModel.h"
+#include "app/bridge/DayBarsModel.h"
+#include "app/bridge/DonationsModel.h"
+#include "app/bridge/FastingModel.h"
+#include "app/bridge/PairLineModel.h"
+#include "app/bridge/RepairModel.h"
+#include "app/bridge/RoadmapModel.h"
+#include "app/bridge/ScreenModel.h"
+#include "app/bridge/WeightLineModel.h"
+#include "host/app/AppFeature.h"
+#include "host/tips/Tips.h"
+#include "mivo/store/Store.h"
+
+class QQmlEngine;
+class QJSEngine;
+
+namespace mivo::app {
+
+/// What the app's model stands on, besides the dependencies in force.
+struct AppServices {
+  Client<host::HistoryClient> history;
+  std::shared_ptr<const host::Tips> tips;
+  WeightUnit usualWeightUnit = WeightUnit::kilograms;  ///< in the user's locale
+  std::string feedbackAddress = {};                    ///< of mail; none where nobody reads any
+};
+
+/// The app's store as QML reads and drives it. It looks at the state once after each action and tells each model what
+/// was written; no decision is made here.
+class AppModel : public QObject {
+  Q_OBJECT
+  QML_NAMED_ELEMENT(App)
+  QML_SINGLETON
+  Q_PROPERTY(mivo::app::ScreenModel* screen READ screen CONSTANT)
+  Q_PROPERTY(mivo::app::DayBarsModel* fastingChart READ fastingChart CONSTANT)
+  Q_PROPERTY(mivo::app::DayBarsModel* eatingChart READ eatingChart CONSTANT)
+  Q_PROPERTY(mivo::app::LineChartModel* weightChart READ weightChart CONSTANT)
+  Q_PROPERTY(mivo::app::LineChartModel* weightFastingChart READ weightFastingChart CONSTANT)
+  Q_PROPERTY(mivo::app::AddWeightModel* addWeight READ addWeight CONSTANT)
+  Q_PROPERTY(mivo::app::FastingModel* fasting READ fasting CONSTANT)
+  Q_PROPERTY(mivo::app::BadgesModel* badges READ badges CONSTANT)
+  Q_PROPERTY(mivo::app::DonationsModel* donations READ donations CONSTANT)
+  Q_PROPERTY(mivo::app::RepairModel* repair READ repair CONSTANT)
+  /// Only while the roadmap is shown.
+  Q_PROPERTY(mivo::app::RoadmapModel* roadmap READ roadmap NOTIFY destinationChanged)
+  /// What the statistics present: "badges", "roadmap", "donations", or nothing.
+  Q_PROPERTY(QString destination READ destination NOTIFY destinationChanged)
+  /// The goal weight as it is typed; empty without one.
+  Q_PROPERTY(QString goalWeightText READ goalWeightText NOTIFY changed)
+  /// One sentence about what failed; empty where nothing did.
+  Q_PROPERTY(QString failure READ failure NOTIFY messagesChanged)
+  /// The text of the undo bar; empty without an offer.
+  Q_PROPERTY(QString undoText READ undoText NOTIFY messagesChanged)
+
+ public:
+  using State = host::AppFeature::State;
+  using Action = host::AppFeature::Action;
+
+  /// Loads the history before it returns, so that the first frame is complete.
+  explicit AppModel(AppServices services);
+  ~AppModel() override;
+  static AppModel* create(QQmlEngine*, QJSEngine*);
+
+  ScreenModel* screen() { return &cards; }
+  DayBarsModel* fastingChart() { return &fastingBars; }
+  DayBarsModel* eatingChart() { return &eatingBars; }
+  LineChartModel* weightChart() { return &weightLine; }
+  LineChartModel* weightFastingChart() { return &pairLine; }
+  AddWeightModel* addWeight() { return &weightEntry; }
+  FastingModel* fasting() { return &runningFast; }
+  BadgesModel* badges() { return &badgeSummary; }
+  DonationsModel* donations() { return &donationSheet; }
+  RepairModel* repair() { return &overlapRepair; }
+  RoadmapModel* roadmap() { return features.get(); }
+  QString destination() const;
+  QString goalWeightText() const;
+  QString failure() const;
+  QString undoText() const;
+
+  const State& state() const { return store.state(); }
+  /// A sentence for the user, until dismissed; an empty one says nothing.
+  void say(const std::string& sentence);
+
+  Q_INVOKABLE void appear();
+  Q_INVOKABLE void chooseTimeRange(int index);
+  Q_INVOKABLE void dismissTip();
+  Q_INVOKABLE void requestHealthAccess();
+  Q_INVOKABLE void fixOverlaps();
+  Q_INVOKABLE void openBadges();
+  Q_INVOKABLE void openRoadmap();
+  Q_INVOKABLE void openDonations();
+  /// Closes what the statistics present.
+  Q_INVOKABLE void dismiss();
+  Q_INVOKABLE void undo() { send(Action::didTapUndo{}); }
+  Q_INVOKABLE void dismissMessages() { send(Action::didDismissMessages{}); }
+  /// Sets the goal from a text in the unit that is shown; an empty one takes it away. False where it is no weight.
+  Q_INVOKABLE bool setGoalWeight(const QString& text);
+  /// Hands an idea to the user's mail program, with the address for an answer where they give one. False where no mail
+  /// program takes it: it is on the clipboard then, and `failure` says so.
+  Q_INVOKABLE bool sendFeedback(const QString& idea, const QString& replyTo);
+  Q_INVOKABLE void copy(const QString& text) const;
+
+  void send(Action action) { store.send(std::move(action)); }
+  void sendStatistics(StatisticsFeature::Action action) { send(Action::statistics{std::move(action)}); }
+
+ Q_SIGNALS:
+  void destinationChanged();
+  void messagesChanged();
+  /// Something was written that other screens may show.
+  void changed();
+
+ private:
+  void load();
+  void watchTime();
+  void follow(const State& state);
+  void followDestination(const StatisticsFeature::State& state);
+  void tellTips(const State& state) const;
+  static DayBarsModel::Texts chartTexts();
+
+  AppServices services;
+  std::int64_t seenVersion = 0;
+  Store<host::AppFeature> store;
+  std::vector<Stamp> seen;
+  ScreenModel cards;
+  DayBarsModel fastingBars, eatingBars;
+  WeightLineModel weightLine;
+  PairLineModel pairLine;
+  AddWeightModel weightEntry;
+  FastingModel runningFast;
+  BadgesModel badgeSummary;
+  DonationsModel donationSheet;
+  RepairModel overlapRepair;
+  std::unique_ptr<RoadmapModel> features;
+  QString shownDestination;
+  QTimer everyMinute, watch;
+  Subscription following;
+};
+
+}  // namespace mivo::app

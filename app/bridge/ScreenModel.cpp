@@ -1,0 +1,138 @@
+// SPDX-License-Identifier: MIT
+#include "ScreenModel.h"
+
+#include <algorithm>
+
+namespace mivo::app {
+namespace {
+
+using Kind = CardModel::Kind;
+
+// The kinds of the screen are the module's, but for the trends, whose rows share a card.
+Kind kindOf(CardKind kind) { return static_cast<Kind>(static_cast<int>(kind)); }
+
+template <class Model, class Content>
+void take(std::unique_ptr<CardModel>& model, Kind kind, const Content& content) {
+  if (model)
+    static_cast<Model*>(model.get())->setContent(content);
+  else
+    model = std::make_unique<Model>(kind, content);
+}
+
+// Cards of one group stand beside each other where there is room; -1 stands alone.
+int groupOf(Kind kind) {
+  switch (kind) {
+    case Kind::Donation:
+    case Kind::Roadmap:
+      return 0;
+    case Kind::AddWeight:
+    case Kind::GoalWeight:
+    case Kind::Badges:
+      return 1;
+    case Kind::FastingChart:
+    case Kind::EatingChart:
+      return 2;
+    case Kind::WeightChart:
+    case Kind::WeightFastingChart:
+      return 3;
+    default:
+      return -1;
+  }
+}
+
+}  // namespace
+
+int ScreenModel::rowCount(const QModelIndex& parent) const {
+  return parent.isValid() ? 0 : static_cast<int>(shown.size());
+}
+
+QVariant ScreenModel::data(const QModelIndex& index, int role) const {
+  CardModel* card = shown[static_cast<std::size_t>(index.row())];
+  if (role == KindRole) return QVariant::fromValue(card->kind());
+  return role == CardRole ? QVariant::fromValue(card) : QVariant{};
+}
+
+QHash<int, QByteArray> ScreenModel::roleNames() const { return {{KindRole, "kind"}, {CardRole, "card"}}; }
+
+void ScreenModel::show(const std::vector<Card>& composed) {
+  std::vector<CardModel*> next;
+  std::vector<TrendCard> trends;
+  for (const Card& card : composed) {
+    if (card.kind == CardKind::trend)
+      trends.push_back(std::get<TrendCard>(card.content));
+    else
+      next.push_back(update(kindOf(card.kind), card.content));
+  }
+  if (!trends.empty()) {
+    auto& model = models[Kind::Trends];
+    take<TrendsCardModel>(model, Kind::Trends, trends);
+    next.push_back(model.get());
+  }
+  if (next == shown) return;
+  become(next);
+  std::erase_if(models,
+                [this](const auto& entry) { return std::ranges::find(shown, entry.second.get()) == shown.end(); });
+  Q_EMIT cardsChanged();
+}
+
+// Cards keep their order, so that what stays need not move while others come and go.
+void ScreenModel::become(const std::vector<CardModel*>& next) {
+  for (int row = rowCount(); row-- > 0;) {
+    if (std::ranges::find(next, shown[static_cast<std::size_t>(row)]) != next.end()) continue;
+    beginRemoveRows({}, row, row);
+    shown.erase(shown.begin() + row);
+    endRemoveRows();
+  }
+  for (int row = 0; row < static_cast<int>(next.size()); ++row) {
+    CardModel* card = next[static_cast<std::size_t>(row)];
+    if (row < rowCount() && shown[static_cast<std::size_t>(row)] == card) continue;
+    beginInsertRows({}, row, row);
+    shown.insert(shown.begin() + row, card);
+    endInsertRows();
+  }
+}
+
+TimeRangeCardModel* ScreenModel::timeRange() const {
+  const auto found = models.find(Kind::TimeRange);
+  return found == models.end() ? nullptr : static_cast<TimeRangeCardModel*>(found->second.get());
+}
+
+CardModel* ScreenModel::update(Kind kind, const CardContent& content) {
+  auto& model = models[kind];
+  std::visit(
+      [&]<class Content>(const Content& composed) {
+        if constexpr (std::is_same_v<Content, NoticeCard>)
+          take<NoticeCardModel>(model, kind, composed);
+        else if constexpr (std::is_same_v<Content, SummaryCard>)
+          take<SummaryCardModel>(model, kind, composed);
+        else if constexpr (std::is_same_v<Content, GoalWeightCard>)
+          take<GoalWeightCardModel>(model, kind, composed);
+        else if constexpr (std::is_same_v<Content, BadgesCard>)
+          take<BadgesCardModel>(model, kind, composed);
+        else if constexpr (std::is_same_v<Content, TimeRangeCard>)
+          take<TimeRangeCardModel>(model, kind, composed);
+        else if constexpr (std::is_same_v<Content, DayBarsCard>)
+          take<DayBarsCardModel>(model, kind, composed);
+        else if constexpr (std::is_same_v<Content, WeightChartCard>)
+          take<WeightChartCardModel>(model, kind, composed);
+        else if constexpr (std::is_same_v<Content, WeightFastingChartCard>)
+          take<WeightFastingChartCardModel>(model, kind, composed);
+      },
+      content);
+  return model.get();
+}
+
+int ScreenModel::columnSpan(int place, int columns) const {
+  constexpr int all = 6;
+  if (columns < 2 || place < 0 || place >= rowCount()) return all;
+  const int group = groupOf(shown[static_cast<std::size_t>(place)]->kind());
+  if (group < 0) return all;
+  const auto isOfGroup = [&](const CardModel* card) { return groupOf(card->kind()) == group; };
+  const auto cards = std::ranges::count_if(shown, isOfGroup);
+  const auto before = std::count_if(shown.begin(), shown.begin() + place, isOfGroup);
+  const auto perRow = std::min<std::ptrdiff_t>(cards, columns);
+  const bool isAloneInRow = cards % perRow == 1 && before == cards - 1;
+  return isAloneInRow ? all : all / static_cast<int>(perRow);
+}
+
+}  // namespace mivo::app

@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: MIT
+// A text with another at its trailing side, which drops to the next line where both do not fit.
+import QtQuick
+import Mivo
+
+Item {
+    id: root
+
+    property string title
+    property string detail
+    property TextStyle titleStyle: Theme.bodyStrongText
+    property TextStyle detailStyle: Theme.labelText
+    property color detailColor: Theme.inkSecondary
+    /// Room that something before the title takes.
+    property real indent: 0
+
+    readonly property bool stacked: Theme.textScale >= 1.3 || titleText.implicitWidth + indent + 12 + detailText.implicitWidth > width
+    readonly property alias titleHeight: titleText.height
+
+    implicitHeight: stacked && detail !== "" ? titleText.height + detailText.height : titleText.height
+    height: implicitHeight
+
+    StyledText {
+        id: titleText
+        anchors.left: parent.left
+        anchors.leftMargin: root.indent
+        width: Math.min(implicitWidth, root.width - root.indent)
+        text: root.title
+        style: root.titleStyle
+    }
+
+    StyledText {
+        id: detailText
+        visible: root.detail !== ""
+        anchors.left: root.stacked ? parent.left : undefined
+        anchors.right: root.stacked ? undefined : parent.right
+        y: root.stacked ? titleText.height : titleText.baselineOffset - baselineOffset
+        width: Math.min(implicitWidth, root.width)
+        text: root.detail
+        style: root.detailStyle
+        color: root.detailColor
+    }
+}

@@ -1,0 +1,74 @@
+// SPDX-License-Identifier: MIT
+// Chooses a date and a time: day, hour and minute on three wheels.
+import QtQuick
+import Mivo
+
+Sheet {
+    id: root
+
+    /// Seconds since 1970; what the sheet opens with.
+    property double instant
+
+    signal chosen(instant: double)
+
+    spacing: 16
+
+    onAboutToShow: {
+        choice.instant = root.instant;
+        days.currentIndex = choice.day;
+        hours.currentIndex = choice.hour;
+        minutes.currentIndex = choice.minute;
+    }
+
+    DateTimeChoice { id: choice }
+
+    StyledText {
+        width: parent.width
+        horizontalAlignment: Text.AlignHCenter
+        text: choice.text
+        style: Theme.bodyStrongText
+    }
+
+    // Like a clock, it reads from the left in every language.
+    Row {
+        id: wheels
+        anchors.horizontalCenter: parent.horizontalCenter
+        spacing: 8
+        LayoutMirroring.enabled: false
+
+        Wheel {
+            id: days
+            width: 152
+            model: choice.dayCount
+            textOf: index => choice.dayText(index)
+            accessibleName: Texts.text("Day")
+            onCurrentIndexChanged: choice.day = currentIndex
+        }
+
+        Wheel {
+            id: hours
+            model: 24
+            textOf: index => choice.clockText(index)
+            accessibleName: Texts.text("Hour")
+            onCurrentIndexChanged: choice.hour = currentIndex
+        }
+
+        Wheel {
+            id: minutes
+            model: 60
+            textOf: index => choice.clockText(index)
+            accessibleName: Texts.text("Minute")
+            onCurrentIndexChanged: choice.minute = currentIndex
+        }
+    }
+
+    ActionButton {
+        width: parent.width
+        implicitHeight: Theme.sheetButtonSize
+        text: Texts.text("Done")
+        onClicked: {
+            root.chosen(choice.instant);
+            root.close();
+        }
+    }
+}

@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: MIT
+// A page that slides in over another one from the trailing side. Made when it opens, gone when it has slid out.
+import QtQuick
+import Mivo
+
+FocusScope {
+    id: root
+
+    property bool open: false
+    property alias page: loader.sourceComponent
+
+    readonly property bool mirroredNow: LayoutMirroring.enabled
+    property real progress: open ? 1 : 0
+
+    visible: progress > 0
+    enabled: open
+    onOpenChanged: {
+        if (open)
+            forceActiveFocus();
+    }
+
+    Behavior on progress {
+        NumberAnimation { duration: Theme.pushDuration; easing.type: Easing.OutCubic }
+    }
+
+    Rectangle {
+        width: parent.width
+        height: parent.height
+        x: (root.mirroredNow ? -1 : 1) * (1 - root.progress) * width
+        color: Theme.background
+
+        // Nothing below it is reached.
+        MouseArea {
+            anchors.fill: parent
+            hoverEnabled: true
+            onWheel: wheel => wheel.accepted = true
+        }
+
+        Loader {
+            id: loader
+            anchors.fill: parent
+            active: root.visible
+            focus: true
+        }
+    }
+}

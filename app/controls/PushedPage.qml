@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: MIT
+// A page with a way back and a title above a column that scrolls.
+import QtQuick
+import Mivo
+
+FocusScope {
+    id: root
+
+    property string title
+    property real maxWidth: 720
+    readonly property real contentWidth: column.width
+    default property alias content: column.data
+    property alias spacing: column.spacing
+
+    signal back
+
+    Keys.onEscapePressed: root.back()
+    Keys.onBackPressed: root.back()
+
+    Item {
+        id: bar
+        width: parent.width
+        height: Math.max(Theme.pushBarSize, titleText.height + 8)
+
+        IconButton {
+            id: backButton
+            anchors.left: parent.left
+            anchors.leftMargin: 4
+            anchors.verticalCenter: parent.verticalCenter
+            iconName: "back"
+            turns: true
+            focus: true
+            text: Texts.text("Back")
+            onClicked: root.back()
+        }
+
+        StyledText {
+            id: titleText
+            anchors.centerIn: parent
+            width: Math.min(implicitWidth, parent.width - 2 * (Theme.touchSize + 12))
+            horizontalAlignment: Text.AlignHCenter
+            text: root.title
+            style: Theme.headlineText
+            Accessible.role: Accessible.Heading
+            Accessible.name: text
+        }
+    }
+
+    Flickable {
+        anchors.top: bar.bottom
+        anchors.bottom: parent.bottom
+        width: parent.width
+        contentWidth: width
+        contentHeight: column.height
+        clip: true
+
+        Column {
+            id: column
+            x: Math.max(Theme.pageMargin, (parent.width - root.maxWidth) / 2)
+            width: parent.width - 2 * x
+            topPadding: 8
+            bottomPadding: 24
+            spacing: 12
+        }
+    }
+}

@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: MIT
+// Several lines of text to type.
+import QtQuick
+import Mivo
+
+Rectangle {
+    id: root
+
+    property alias text: edit.text
+    property string accessibleName
+
+    radius: Theme.controlRadius
+    color: Theme.field
+    border.width: edit.activeFocus ? 2 : 0
+    border.color: Theme.focus
+    onActiveFocusChanged: {
+        if (activeFocus)
+            edit.forceActiveFocus();
+    }
+
+    Flickable {
+        id: flick
+        anchors.fill: parent
+        anchors.margins: 12
+        contentWidth: width
+        contentHeight: edit.height
+        clip: true
+        boundsBehavior: Flickable.StopAtBounds
+
+        TextEdit {
+            id: edit
+            width: flick.width
+            height: Math.max(implicitHeight, flick.height)
+            font.family: Theme.textFamily
+            font.pixelSize: Theme.bodyText.size * Theme.textScale
+            color: Theme.ink
+            selectionColor: Theme.fillPressed
+            selectedTextColor: Theme.ink
+            wrapMode: TextEdit.Wrap
+            horizontalAlignment: TextEdit.AlignLeft
+            selectByMouse: true
+            activeFocusOnTab: true
+            Accessible.role: Accessible.EditableText
+            Accessible.multiLine: true
+            Accessible.name: root.accessibleName
+            // Tab leaves the field; a text of an idea needs none.
+            KeyNavigation.priority: KeyNavigation.BeforeItem
+            onCursorRectangleChanged: {
+                if (cursorRectangle.y < flick.contentY)
+                    flick.contentY = cursorRectangle.y;
+                else if (cursorRectangle.y + cursorRectangle.height > flick.contentY + flick.height)
+                    flick.contentY = cursorRectangle.y + cursorRectangle.height - flick.height;
+            }
+        }
+    }
+}

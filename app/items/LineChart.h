@@ -1,0 +1,89 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QtGui/QPainterPath>
+
+#include <vector>
+
+#include "app/bridge/LineChartModel.h"
+#include "app/geometry/LineChartLayout.h"
+#include "app/items/ChartItem.h"
+
+namespace mivo::app {
+
+/// One line with an area under it, or two with marks of their own. Only what is visible is painted.
+class LineChart : public ChartItem {
+  Q_OBJECT
+  QML_ELEMENT
+  Q_PROPERTY(mivo::app::LineChartModel* model READ model WRITE setModel NOTIFY modelChanged REQUIRED)
+  Q_PROPERTY(qreal scroll READ scroll WRITE setScroll NOTIFY scrollChanged)
+  Q_PROPERTY(qreal contentWidth READ contentWidth NOTIFY layoutChanged)
+  Q_PROPERTY(qreal plotWidth READ plotWidth NOTIFY layoutChanged)
+  /// The colours of the lines, first to last: fill, text, and the mark on the other theme's surface.
+  Q_PROPERTY(QList<QColor> fills MEMBER fills NOTIFY appearanceChanged)
+  Q_PROPERTY(QList<QColor> textColors MEMBER textColors NOTIFY appearanceChanged)
+  Q_PROPERTY(QList<QColor> inverseFills MEMBER inverseFills NOTIFY appearanceChanged)
+  /// 0 to 1: from the axis before the last scroll to the present one.
+  Q_PROPERTY(qreal axisShift READ axisShift WRITE setAxisShift NOTIFY axisShiftChanged)
+
+ public:
+  explicit LineChart(QQuickItem* parent = nullptr);
+
+  LineChartModel* model() const { return shown; }
+  void setModel(LineChartModel* model);
+  qreal scroll() const { return offset; }
+  void setScroll(qreal scroll);
+  qreal contentWidth() const;
+  qreal plotWidth() const;
+  qreal axisShift() const { return shift; }
+  void setAxisShift(qreal value);
+
+  Q_INVOKABLE qreal maxScroll() const { return contentWidth() - plotWidth(); }
+  /// Selects what is nearest to a point of the item.
+  Q_INVOKABLE void touch(qreal x);
+  Q_INVOKABLE void clearSelection();
+  /// Steps through the points, from the latest one where none is selected, and scrolls it into view.
+  Q_INVOKABLE void moveSelection(int points);
+  Q_INVOKABLE void selectEnd(bool latest);
+
+  void paint(QPainter* painter) override;
+
+ Q_SIGNALS:
+  void modelChanged();
+  void scrollChanged();
+  void layoutChanged();
+  void axisShiftChanged();
+  /// The axis has another range than before: animate axisShift from 0 to 1.
+  void axisMoved();
+  void scrollWanted(qreal scroll);
+
+ protected:
+  void geometryChange(const QRectF& newGeometry, const QRectF& oldGeometry) override;
+
+ private:
+  void dataChanged();
+  void updateAxis(bool animated);
+  DateInterval visible() const;
+  LinePlot plot() const;
+  std::vector<LinePoint> selectable() const;
+  void selectDate(Date date);
+
+  void paintLines(QPainter* painter, const LinePlot& plot) const;
+  void paintLabels(QPainter* painter, const LinePlot& plot) const;
+  void paintLine(QPainter* painter, const LinePlot& plot, std::size_t index) const;
+  void paintGutter(QPainter* painter, const LinePlot& plot) const;
+  void paintSelection(QPainter* painter, const LinePlot& plot) const;
+  void paintAnnotation(QPainter* painter, const LinePlot& plot, const LineChartModel::Annotation& annotation,
+                       double ruleX) const;
+  qreal annotationContents(const LineChartModel::Annotation& annotation) const;
+  void paintMark(QPainter* painter, QPointF at, std::size_t line, qreal radius, bool isFilled, qreal stroke,
+                 const QColor& color, const QColor& surface) const;
+
+  LineChartModel* shown = nullptr;
+  qreal offset = 0;
+  qreal shift = 1;
+  ValueAxis axis, axisBefore;
+  QList<QColor> fills, textColors, inverseFills;
+};
+
+}  // namespace mivo::app

@@ -1,0 +1,80 @@
+// SPDX-License-Identifier: MIT
+#include "ZoneRing.h"
+
+#include <QtGui/QPainter>
+
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+
+#include "mivo/model/LegacyFastingZone.h"
+
+namespace mivo::app {
+namespace {
+
+constexpr qreal box = 300, radius = 118, stroke = 20, gap = 2.2, labelRadius = 140;
+constexpr qreal handleRadius = 9, haloRadius = 14;
+
+}  // namespace
+
+ZoneRing::ZoneRing(QQuickItem* parent) : QQuickPaintedItem{parent} {
+  setImplicitSize(box, box);
+  setAntialiasing(true);
+  connect(this, &ZoneRing::changed, this, [this] { update(); });
+}
+
+QList<ZoneRing::Segment> ZoneRing::segments() const {
+  if (!running) return {{0, spanSeconds, eatingFill, eatingTint}};
+  QList<Segment> all;
+  for (std::size_t zone = 0; zone < zoneBounds.size(); ++zone) {
+    const qreal from = zoneBounds[zone];
+    const qreal to = zone + 1 < zoneBounds.size() ? std::min(zoneBounds[zone + 1], spanSeconds) : spanSeconds;
+    const auto place = static_cast<qsizetype>(zone);
+    if (from < to) all.append({from, to, fills.value(place), tints.value(place)});
+  }
+  return all;
+}
+
+// From the top clockwise, in every layout.
+QPointF ZoneRing::onRing(qreal at, qreal distance) const {
+  const qreal angle = at / spanSeconds * 2 * std::numbers::pi;
+  return {box / 2 + distance * std::sin(angle), box / 2 - distance * std::cos(angle)};
+}
+
+void ZoneRing::paintArc(QPainter* painter, qreal from, qreal to, const QColor& color) const {
+  if (to <= from) return;
+  const qreal degrees = 360 / spanSeconds;
+  painter->setPen(QPen{color, stroke, Qt::SolidLine, Qt::FlatCap});
+  painter->drawArc(QRectF{box / 2 - radius, box / 2 - radius, 2 * radius, 2 * radius},
+                   static_cast<int>(std::lround((90 - from * degrees) * 16)),
+                   static_cast<int>(std::lround(-(to - from) * degrees * 16)));
+}
+
+void ZoneRing::paint(QPainter* painter) {
+  painter->setRenderHint(QPainter::Antialiasing);
+  painter->scale(width() / box, height() / box);
+  const auto all = segments();
+  const qreal gapSeconds = all.size() > 1 ? gap / (2 * std::numbers::pi * radius) * spanSeconds : 0;
+  const qreal present = std::clamp(seconds, 0.0, spanSeconds);
+  for (const auto& [from, to, fill, tint] : all) {
+    const qreal first = from + gapSeconds, last = to - gapSeconds;
+    paintArc(painter, std::max(first, present), last, tint);
+    paintArc(painter, first, std::min(last, present), fill);
+  }
+  painter->setFont(axisFont);
+  painter->setPen(inkTertiary);
+  const QFontMetricsF metrics{axisFont};
+  for (qsizetype index = 1; running && index < all.size(); ++index) {
+    const QString hours = QString::number(std::lround(all[index].from / secondsPerHour));
+    const QPointF at = onRing(all[index].from, labelRadius);
+    painter->drawText(QPointF{at.x() - metrics.horizontalAdvance(hours) / 2, at.y() + metrics.capHeight() / 2}, hours);
+  }
+  const QPointF head = onRing(present, radius);
+  painter->setPen(Qt::NoPen);
+  painter->setBrush(card);
+  painter->drawEllipse(head, haloRadius, haloRadius);
+  painter->setBrush(ink);
+  painter->drawEllipse(head, handleRadius, handleRadius);
+}
+
+}  // namespace mivo::app

@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QtQml/qqmlregistration.h>
+#include <QtGui/QColor>
+#include <QtGui/QFont>
+#include <QtQuick/QQuickPaintedItem>
+
+namespace mivo::app {
+
+/// The ring of a running fast: one segment a zone, filled as far as the fast has come. Without a fast, one ring of the
+/// eating window.
+class ZoneRing : public QQuickPaintedItem {
+  Q_OBJECT
+  QML_ELEMENT
+  Q_PROPERTY(qreal seconds MEMBER seconds NOTIFY changed)
+  Q_PROPERTY(qreal spanSeconds MEMBER spanSeconds NOTIFY changed)
+  Q_PROPERTY(bool running MEMBER running NOTIFY changed)
+  Q_PROPERTY(QList<QColor> fills MEMBER fills NOTIFY changed)
+  Q_PROPERTY(QList<QColor> tints MEMBER tints NOTIFY changed)
+  Q_PROPERTY(QColor eatingFill MEMBER eatingFill NOTIFY changed)
+  Q_PROPERTY(QColor eatingTint MEMBER eatingTint NOTIFY changed)
+  Q_PROPERTY(QColor ink MEMBER ink NOTIFY changed)
+  Q_PROPERTY(QColor inkTertiary MEMBER inkTertiary NOTIFY changed)
+  Q_PROPERTY(QColor card MEMBER card NOTIFY changed)
+  Q_PROPERTY(QFont axisFont MEMBER axisFont NOTIFY changed)
+
+ public:
+  explicit ZoneRing(QQuickItem* parent = nullptr);
+  void paint(QPainter* painter) override;
+
+ Q_SIGNALS:
+  void changed();
+
+ private:
+  struct Segment {
+    qreal from, to;  // seconds
+    QColor fill, tint;
+  };
+  QList<Segment> segments() const;
+  void paintArc(QPainter* painter, qreal from, qreal to, const QColor& color) const;
+  QPointF onRing(qreal seconds, qreal radius) const;
+
+  qreal seconds = 0, spanSeconds = 57600;
+  bool running = false;
+  QList<QColor> fills, tints;
+  QColor eatingFill, eatingTint, ink, inkTertiary, card;
+  QFont axisFont;
+};
+
+}  // namespace mivo::app

@@ -1,0 +1,137 @@
+// SPDX-License-Identifier: MIT
+// One family of badges: the best one, how far the next is, and those around it. A tap opens the list of all.
+import QtQuick
+import Mivo
+
+TappableCard {
+    id: root
+
+    required property badgeFamily family
+    required property int kind
+
+    text: family.title + ": " + family.count + ", " + family.remaining
+
+    contentItem: Column {
+        spacing: 12
+
+        Item {
+            width: parent.width
+            height: Math.max(head.height, all.height)
+
+            StyledText {
+                id: head
+                anchors.left: parent.left
+                text: root.family.title
+                style: Theme.headlineText
+            }
+
+            StyledText {
+                id: all
+                anchors.right: chevron.left
+                anchors.rightMargin: 4
+                anchors.verticalCenter: parent.verticalCenter
+                text: root.family.allLabel
+                style: Theme.labelText
+                color: Theme.inkSecondary
+            }
+
+            Icon {
+                id: chevron
+                anchors.right: parent.right
+                anchors.verticalCenter: parent.verticalCenter
+                width: 20
+                height: 20
+                name: "chevron"
+                color: Theme.inkTertiary
+                mirrored: root.mirrored
+            }
+        }
+
+        Item {
+            width: parent.width
+            height: Math.max(120, facts.height)
+
+            Badge {
+                id: best
+                anchors.left: parent.left
+                anchors.verticalCenter: parent.verticalCenter
+                width: 120
+                height: 120
+                family: root.kind
+                threshold: root.family.present.threshold
+                count: root.family.present.earned ? root.family.present.threshold : 0
+                number: root.family.present.number
+                dark: Theme.dark
+            }
+
+            Column {
+                id: facts
+                anchors.left: best.right
+                anchors.leftMargin: 16
+                anchors.right: parent.right
+                anchors.verticalCenter: parent.verticalCenter
+                spacing: 2
+
+                StyledNumber {
+                    anchors.left: parent.left
+                    text: root.family.count
+                    style: implicitFits ? Theme.numberLargeText : Theme.numberText
+                    readonly property bool implicitFits: wideCount.implicitWidth <= facts.width
+
+                    StyledNumber {
+                        id: wideCount
+                        visible: false
+                        text: root.family.count
+                        style: Theme.numberLargeText
+                    }
+                }
+
+                StyledText {
+                    width: parent.width
+                    text: root.family.countLabel
+                    style: Theme.labelText
+                    color: Theme.inkSecondary
+                }
+
+                Item { width: 1; height: 8 }
+
+                ProgressTrack {
+                    width: parent.width
+                    fraction: root.family.fraction
+                }
+
+                Item { width: 1; height: 6 }
+
+                StyledText {
+                    width: parent.width
+                    text: root.family.remaining
+                    style: Theme.labelText
+                    color: Theme.inkSecondary
+                }
+            }
+        }
+
+        Row {
+            id: row
+            width: parent.width
+            topPadding: 4
+            spacing: (width - 5 * 56) / 4
+
+            Repeater {
+                model: root.family.around
+
+                delegate: Badge {
+                    required property badgeEntry modelData
+
+                    width: Math.min(56, row.width / 5)
+                    height: width
+                    family: root.kind
+                    threshold: modelData.threshold
+                    count: modelData.earned ? modelData.threshold : 0
+                    number: modelData.number
+                    dark: Theme.dark
+                }
+            }
+        }
+    }
+}

@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: MIT
+// A feature that is not there yet.
+import QtQuick
+import Mivo
+
+Card {
+    id: root
+
+    Item {
+        width: parent.width
+        height: 76
+
+        Repeater {
+            model: [0.36, 0.66, 0.46]
+
+            delegate: Rectangle {
+                required property int index
+                required property real modelData
+
+                anchors.left: parent.left
+                y: 8 + index * 24
+                width: parent.width * modelData
+                height: 12
+                radius: 6
+                color: Theme.fill
+            }
+        }
+
+        Rectangle {
+            anchors.right: parent.right
+            width: Theme.voteWidthSize
+            height: Theme.voteHeightSize
+            radius: Theme.controlRadius
+            color: Theme.fill
+        }
+    }
+}

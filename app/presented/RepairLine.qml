@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: MIT
+// One fast of the repair: as it is, struck through, and as it would be.
+import QtQuick
+import Mivo
+
+Item {
+    id: root
+
+    required property int index
+    required property repairRow modelData
+
+    implicitHeight: texts.height
+    Accessible.role: Accessible.StaticText
+    Accessible.name: modelData.date + ", " + modelData.kind + ": " + modelData.before + ", " + modelData.after
+
+    Rectangle {
+        visible: root.index > 0
+        x: 12
+        width: parent.width - 12
+        height: Theme.hairlineSize
+        color: Theme.hairline
+    }
+
+    Column {
+        id: texts
+        x: 12
+        width: parent.width - 24
+        topPadding: 12
+        bottomPadding: 12
+
+        CardHeadLine {
+            width: parent.width
+            title: root.modelData.date
+            detail: root.modelData.kind
+        }
+
+        StyledText {
+            width: parent.width
+            text: root.modelData.before
+            style: Theme.labelText
+            color: Theme.inkSecondary
+            font.strikeout: true
+        }
+
+        StyledText {
+            width: parent.width
+            text: root.modelData.after
+        }
+    }
+}

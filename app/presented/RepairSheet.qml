@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: MIT
+// What would become of fasts that overlap, for the user to agree to.
+import QtQuick
+import Mivo
+
+Sheet {
+    id: root
+
+    title: Texts.text("Fix overlapping fasts")
+    spacing: 16
+
+    StyledText {
+        width: parent.width
+        text: App.repair.summary
+        color: Theme.inkSecondary
+    }
+
+    Rectangle {
+        width: parent.width
+        height: list.height
+        radius: Theme.controlRadius
+        color: Theme.field
+
+        Column {
+            id: list
+            width: parent.width
+
+            Repeater {
+                model: App.repair.rows
+
+                delegate: RepairLine { width: list.width }
+            }
+        }
+    }
+
+    Column {
+        width: parent.width
+        spacing: 4
+
+        ActionButton {
+            width: parent.width
+            implicitHeight: Theme.sheetButtonSize
+            text: App.repair.buttonText
+            onClicked: App.repair.confirm()
+        }
+
+        ActionButton {
+            width: parent.width
+            implicitHeight: Theme.sheetButtonSize
+            kind: ActionButton.Plain
+            text: Texts.text("Not now")
+            onClicked: root.close()
+        }
+    }
+}

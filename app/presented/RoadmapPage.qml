@@ -1,0 +1,116 @@
+// SPDX-License-Identifier: MIT
+// What may come: features with their votes, by state.
+import QtQuick
+import Mivo
+
+PushedPage {
+    id: root
+
+    property RoadmapModel roadmap: null
+
+    signal feedbackWanted
+
+    title: Texts.text("Roadmap")
+
+    Flow {
+        width: parent.width
+        spacing: 8
+        visible: root.roadmap !== null && root.roadmap.filters.length > 1
+
+        Repeater {
+            model: root.roadmap ? root.roadmap.filters : []
+
+            delegate: Chip {
+                required property int index
+                required property string modelData
+
+                text: modelData
+                chosen: root.roadmap !== null && root.roadmap.filter === index
+                onClicked: root.roadmap.choose(index)
+            }
+        }
+    }
+
+    StyledText {
+        width: parent.width
+        visible: text !== ""
+        text: root.roadmap ? root.roadmap.unsentVote : ""
+        style: Theme.labelText
+        color: Theme.danger
+        Accessible.role: Accessible.AlertMessage
+        Accessible.name: text
+    }
+
+    Repeater {
+        model: waited.passed && root.roadmap && root.roadmap.loading ? 4 : 0
+
+        delegate: LoadingCard { width: root.contentWidth }
+    }
+
+    Card {
+        width: parent.width
+        visible: root.roadmap !== null && (root.roadmap.failed || root.roadmap.empty)
+        padding: 24
+        spacing: 12
+
+        Item {
+            width: parent.width
+            height: 56
+
+            IconTile {
+                anchors.horizontalCenter: parent.horizontalCenter
+                width: 56
+                height: 56
+                radius: 16
+                name: root.roadmap && root.roadmap.failed ? "cloudOff" : "inbox"
+            }
+        }
+
+        StyledText {
+            width: parent.width
+            horizontalAlignment: Text.AlignHCenter
+            text: root.roadmap && root.roadmap.failed ? Texts.text("The roadmap could not be loaded.") : Texts.text("Nothing is planned at the moment.")
+            style: Theme.headlineText
+        }
+
+        StyledText {
+            width: parent.width
+            visible: root.roadmap !== null && root.roadmap.failed
+            horizontalAlignment: Text.AlignHCenter
+            text: Texts.text("Check the connection and try again.")
+            color: Theme.inkSecondary
+        }
+
+        ActionButton {
+            width: parent.width
+            visible: root.roadmap !== null && root.roadmap.failed
+            text: Texts.text("Try again")
+            onClicked: root.roadmap.tryAgain()
+        }
+    }
+
+    Repeater {
+        model: root.roadmap
+
+        delegate: RoadmapCard {
+            width: root.contentWidth
+            onVoteTapped: root.roadmap.vote(featureID)
+        }
+    }
+
+    ActionButton {
+        width: parent.width
+        kind: ActionButton.Secondary
+        text: root.roadmap ? root.roadmap.footer : ""
+        onClicked: root.feedbackWanted()
+    }
+
+    // What loads at once never shows that it loads.
+    Timer {
+        id: waited
+        property bool passed: false
+        interval: 300
+        running: true
+        onTriggered: passed = true
+    }
+}

@@ -1,0 +1,191 @@
+// SPDX-License-Identifier: MIT
+#include "app/program/Environment.h"
+
+#include <cstdlib>
+#include <random>
+#include <system_error>
+#include <utility>
+
+#include "adapters/curl/CurlURLSession.h"
+#include "adapters/icu/Calendars.h"
+#include "adapters/icu/LocaleFormatters.h"
+#include "adapters/icu/UserLocale.h"
+#include "adapters/json/NlohmannDecoder.h"
+#include "adapters/locale/MessageCatalogue.h"
+#include "adapters/system/FileUserDefaults.h"
+#include "adapters/system/LocalRandomNumberGenerator.h"
+#include "adapters/system/LocalUUIDGenerator.h"
+#include "adapters/system/StandardErrorReporter.h"
+#include "adapters/system/SystemClock.h"
+#include "adapters/system/ThreadPool.h"
+#include "adapters/system/UserDirectories.h"
+#include "adapters/time/TimeZoneNames.h"
+#include "app/bridge/QtLinkOpener.h"
+#include "app/bridge/QtMainQueue.h"
+#include "app/program/OwnClock.h"
+#include "host/app/Settings.h"
+#include "host/dates/DateText.h"
+#include "host/donations/DonationList.h"
+#include "host/health/StoredHealthClient.h"
+#include "host/history/FieldRules.h"
+#include "host/history/Snapshot.h"
+#include "host/text/TextFile.h"
+
+namespace mivo::app {
+namespace {
+
+namespace fs = std::filesystem;
+
+template <class Value>
+using Read = tl::expected<Value, std::string>;
+
+tl::unexpected<std::string> wrong(const std::string& option, const std::string& sentence) {
+  return tl::unexpected{option + ": " + sentence};
+}
+
+Read<std::shared_ptr<const adapters::TimeZone>> timeZone(const std::string& name) {
+  if (!name.empty()) {
+    auto zone = adapters::TimeZone::load(name);
+    return zone ? std::move(zone) : wrong("--time-zone", zone.error());
+  }
+  const auto systems = adapters::systemTimeZoneName();
+  if (!systems) return tl::unexpected{systems.error()};
+  return adapters::TimeZone::load(*systems);
+}
+
+// What the command line says goes before what the user chose, and that before what the system is set to.
+Read<adapters::UserLocale> userLocale(const std::string& asked, const UserDefaults& defaults) {
+  if (!asked.empty()) {
+    auto parsed = adapters::UserLocale::parse(asked);
+    return parsed ? std::move(parsed) : wrong("--locale", parsed.error());
+  }
+  const auto chosen = adapters::UserLocale::parse(host::language(defaults));
+  return chosen ? *chosen : adapters::UserLocale::system();
+}
+
+Read<Client<DateGenerator>> clock(const Options& options, const adapters::TimeZone& zone) {
+  if (options.now.empty()) return std::make_shared<adapters::SystemClock>();
+  const auto date = host::parseDateText(options.now);
+  const auto instant = date && date->hasTime ? host::instant(*date, zone) : std::nullopt;
+  if (!instant)
+    return wrong("--now", std::string{host::expectedDate} + ", found \"" + host::quotable(options.now) + '"');
+  return std::make_shared<OwnClock>(*instant, !options.picture.empty());
+}
+
+bool isWrittenFromTheRight(const std::string& tag) {
+  const std::string language = tag.substr(0, tag.find('-'));
+  for (const char* one : {"ar", "fa", "he", "ur", "ps", "sd", "ug", "yi", "ckb", "dv"})
+    if (language == one) return true;
+  return false;
+}
+
+void addSystem(Dependencies& clients, const fs::path& settings) {
+  clients.uuid = std::make_shared<adapters::LocalUUIDGenerator>();
+  clients.random = std::make_shared<adapters::LocalRandomNumberGenerator>();
+  clients.userDefaults = std::make_shared<adapters::FileUserDefaults>(settings / "app.json");
+  clients.appGroupUserDefaults = std::make_shared<adapters::FileUserDefaults>(settings / "group.json");
+  clients.issueReporter = std::make_shared<adapters::StandardErrorReporter>();
+  clients.jsonDecoder = std::make_shared<adapters::NlohmannDecoder>();
+  clients.urlSession = std::make_shared<adapters::CurlURLSession>();
+  clients.links = std::make_shared<QtLinkOpener>();
+  clients.mainQueue = std::make_shared<QtMainQueue>();
+  clients.taskRunner = std::make_shared<adapters::ThreadPool>();
+  clients.healthKitClient = std::make_shared<host::StoredHealthClient>(clients.userDefaults);
+}
+
+Read<WeightUnit> addPlaceAndTime(Dependencies& clients, const Options& options) {
+  const auto zone = timeZone(options.timeZone);
+  if (!zone) return tl::unexpected{zone.error()};
+  const auto locale = userLocale(options.locale, *clients.userDefaults);
+  if (!locale) return tl::unexpected{locale.error()};
+  const auto date = clock(options, **zone);
+  if (!date) return tl::unexpected{date.error()};
+  const int weekday = host::firstWeekday(*clients.userDefaults).value_or(locale->firstWeekday());
+  const auto calendar = adapters::makeCalendar("gregorian", *zone, weekday);
+  if (!calendar) return tl::unexpected{calendar.error()};
+  clients.date = *date;
+  clients.calendar = clients.currentCalendar = *calendar;
+  clients.languageTag = locale->tag();
+  clients.texts = std::make_shared<adapters::MessageCatalogue>(locale->tag());
+  adapters::makeFormatters(*locale, **calendar).fill(clients);
+  return locale->weightUnit();
+}
+
+void addServers(Dependencies& clients, const Options& options) {
+  const std::string server = options.tally.substr(0, options.tally.find_last_not_of('/') + 1);
+  clients.servers = {.tally = server, .roadmap = server};
+  clients.bundleIdentifier = options.namespaceName;
+  if (options.donations.empty()) return;
+  clients.donations = std::make_shared<host::DonationList>(
+      options.donations, host::DonationList::Tools{.session = clients.urlSession,
+                                                   .decoder = clients.jsonDecoder,
+                                                   .texts = clients.texts,
+                                                   .languageTag = clients.languageTag});
+}
+
+Read<std::monostate> fill(host::Database& database, const std::string& file, const UUIDGenerator& ids) {
+  const auto text = host::readTextFile(file);
+  if (!text) return tl::unexpected{describe(text.error())};
+  auto history = host::readSnapshot(*text, file, ids);
+  if (!history) return tl::unexpected{describe(history.error())};
+  host::HistoryChange change;
+  change.addedFasts = std::move(history->fasts);
+  change.addedWeights = std::move(history->weights);
+  database.apply(change);
+  return std::monostate{};
+}
+
+Read<std::monostate> open(Environment& environment, const Options& options) {
+  const fs::path file = environment.sampleFolder   ? environment.sampleFolder->path() / "mivo.sqlite"
+                        : options.database.empty() ? host::ownDatabaseFile()
+                                                   : fs::path{options.database};
+  auto [database, setAside] = host::openOrSetAside(file);
+  if (setAside)
+    environment.notice = filledIn(environment.dependencies->texts->text(
+                                      "Your history was damaged and was put aside as {1}. A new one was begun."),
+                                  {setAside->string()});
+  if (environment.sampleFolder) {
+    const auto filled = fill(database, options.sample, *environment.dependencies->uuid);
+    if (!filled) return filled;
+  }
+  environment.history = std::make_shared<host::DatabaseHistory>(std::move(database));
+  return std::monostate{};
+}
+
+}  // namespace
+
+SampleFolder::SampleFolder() {
+  std::string pattern = (fs::temp_directory_path() / "mivo-sample-XXXXXX").string();
+  if (!::mkdtemp(pattern.data()))
+    throw std::system_error{errno, std::generic_category(), "no folder for the sample in " + pattern};
+  folder = pattern;
+}
+
+SampleFolder::~SampleFolder() {
+  std::error_code ignored;
+  fs::remove_all(folder, ignored);
+}
+
+tl::expected<Environment, std::string> makeEnvironment(const Options& options) {
+  try {
+    Environment environment;
+    if (!options.sample.empty()) environment.sampleFolder = std::make_unique<SampleFolder>();
+    const auto clients = std::make_shared<Dependencies>();
+    addSystem(*clients,
+              environment.sampleFolder ? environment.sampleFolder->path() : adapters::configurationDirectory());
+    const auto unit = addPlaceAndTime(*clients, options);
+    if (!unit) return tl::unexpected{unit.error()};
+    environment.usualWeightUnit = *unit;
+    addServers(*clients, options);
+    environment.tips = std::make_shared<const host::Tips>(clients->userDefaults);
+    clients->tips = environment.tips;
+    environment.rightToLeft = isWrittenFromTheRight(clients->languageTag);
+    environment.dependencies = clients;
+    if (const auto opened = open(environment, options); !opened) return tl::unexpected{opened.error()};
+    return environment;
+  } catch (const std::exception& error) {
+    return tl::unexpected{std::string{error.what()}};
+  }
+}
+
+}  // namespace mivo::app

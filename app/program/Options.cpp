@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: MIT
+#include "app/program/Options.h"
+
+#include <CLI/CLI.hpp>
+
+namespace mivo::app {
+namespace {
+
+constexpr const char* examples =
+    "Examples:\n"
+    "  mivo-app\n"
+    "  mivo-app --sample data/one-year.json --now 2026-03-01T12:00:00Z\n"
+    "  mivo-app --render statistics.png --size 1280x800 --scale 2 --dark\n";
+
+void addRecords(CLI::App& program, Options& options) {
+  auto* database = program.add_option("--database", options.database, "The history; default: your own");
+  database->type_name("FILE");
+  program.add_option("--sample", options.sample, "Shows a snapshot and keeps nothing of what is done to it")
+      ->type_name("FILE.json")
+      ->excludes(database);
+  program.add_option("--locale", options.locale, "Language and region: de-DE; default: the system's")->type_name("TAG");
+  program.add_option("--now", options.now, "The time at which the program starts: 2026-03-01T12:00:00Z")
+      ->type_name("DATE");
+  program.add_option("--time-zone", options.timeZone, "Default: the system's")->type_name("ZONE");
+  program.add_option("--tally", options.tally, "The server of the roadmap and its votes")
+      ->type_name("URL")
+      ->capture_default_str();
+  program.add_option("--donations", options.donations, "The list of ways to give")->type_name("URL|FILE");
+  program.add_option("--feedback", options.feedback, "Where ideas are sent to")->type_name("ADDRESS");
+  program.add_option("--namespace", options.namespaceName, "Under which votes are counted")
+      ->type_name("NAME")
+      ->capture_default_str();
+}
+
+void addLook(CLI::App& program, Options& options) {
+  auto* picture = program.add_option("--render", options.picture, "Draws the window into a picture and ends");
+  picture->type_name("FILE.png");
+  program.add_option("--size", options.size, "Of the window, in points")->type_name("WxH")->capture_default_str();
+  program.add_option("--scale", options.scale, "Pixels of the picture to a point")->check(CLI::Range(0.5, 4.0));
+  program.add_flag("--whole", options.whole, "Draws the whole column, however high")->needs(picture);
+  auto* dark = program.add_flag("--dark", options.dark);
+  program.add_flag("--light", options.light)->excludes(dark);
+  program.add_flag("--mirrored", options.mirrored, "Lays out from right to left");
+  program.add_option("--text-scale", options.textScale, "0.85 to 2")->check(CLI::Range(0.85, 2.0));
+  program.add_option("--tab", options.tab, "What is shown first")
+      ->check(CLI::IsMember({"fasting", "statistics", "settings"}))
+      ->capture_default_str();
+  program.add_option("--screen", options.screen, "What is open over the statistics")
+      ->check(CLI::IsMember({"badges", "milestones", "streaks", "roadmap", "feedback", "donations", "overlaps",
+                             "goalWeight", "date", "table"}));
+}
+
+}  // namespace
+
+void addOptions(CLI::App& program, Options& options) {
+  program.footer(examples);
+  addRecords(program, options);
+  addLook(program, options);
+}
+
+}  // namespace mivo::app

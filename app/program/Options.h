@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <CLI/App.hpp>
+#include <optional>
+#include <string>
+
+namespace mivo::app {
+
+/// What stands after `mivo-app`, as it was typed.
+struct Options {
+  std::string database = {};  ///< a file; the user's own without one
+  std::string sample = {};    ///< a snapshot, shown from a database and settings of its own that go with the program
+  std::string locale = {}, now = {}, timeZone = {};
+  std::string tally = "http://127.0.0.1:8787", donations = {}, namespaceName = "mivo";
+  std::string feedback = {};  ///< a mail address
+  std::string picture = {};   ///< the file to draw the window into, instead of showing it
+  std::string size = "390x844";
+  double scale = 1;
+  bool dark = false, light = false, mirrored = false, whole = false;
+  std::optional<double> textScale = {};
+  std::string tab = "statistics";
+  std::string screen = {};  ///< what is open on the statistics tab
+};
+
+/// Lists them for the parser and for --help.
+void addOptions(CLI::App& program, Options& options);
+
+}  // namespace mivo::app

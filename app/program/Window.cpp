@@ -1,0 +1,80 @@
+// SPDX-License-Identifier: MIT
+#include "app/program/Window.h"
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QElapsedTimer>
+#include <QtCore/QVariant>
+#include <QtQml/QQmlExtensionPlugin>
+#include <QtQuick/QQuickItem>
+#include <QtQuick/QQuickWindow>
+
+Q_IMPORT_QML_PLUGIN(MivoPlugin)
+
+namespace mivo::app {
+namespace {
+
+constexpr int stillAfterMilliseconds = 60, drawnAtLastAfterMilliseconds = 5000;
+
+std::optional<Appearance::Mode> modeOf(const Options& options) {
+  if (options.dark) return Appearance::Mode::Dark;
+  if (options.light || !options.picture.empty()) return Appearance::Mode::Light;
+  return std::nullopt;
+}
+
+// Runs events until no frame was asked for in a while.
+void settle(QQuickWindow& window) {
+  QElapsedTimer sinceFrame, sinceBegin;
+  sinceFrame.start();
+  sinceBegin.start();
+  const auto drawn = QObject::connect(&window, &QQuickWindow::frameSwapped, [&] { sinceFrame.restart(); });
+  while (sinceFrame.elapsed() < stillAfterMilliseconds && sinceBegin.elapsed() < drawnAtLastAfterMilliseconds)
+    QCoreApplication::processEvents(QEventLoop::AllEvents, stillAfterMilliseconds / 4);
+  QObject::disconnect(drawn);
+}
+
+}  // namespace
+
+std::optional<QSize> sizeOf(const std::string& text) {
+  const auto parts = QString::fromStdString(text).split(QLatin1Char{'x'});
+  if (parts.size() != 2) return std::nullopt;
+  const QSize size{parts[0].toInt(), parts[1].toInt()};
+  constexpr QSize least{320, 240}, most{8000, 8000};
+  const bool isFit = size.expandedTo(least) == size && size.boundedTo(most) == size;
+  return isFit ? std::optional{size} : std::nullopt;
+}
+
+AppWindow::AppWindow(const Environment& environment, const Options& options, QSize size)
+    : app{{.history = environment.history,
+           .tips = environment.tips,
+           .usualWeightUnit = environment.usualWeightUnit,
+           .feedbackAddress = options.feedback}} {
+  look.setOverride({.mode = modeOf(options),
+                    .textScale = options.textScale ? std::optional<qreal>{*options.textScale} : std::nullopt,
+                    .still = !options.picture.empty()});
+  app.say(environment.notice);
+  engine.addImportPath(QStringLiteral("qrc:/"));
+  engine.setInitialProperties({{QStringLiteral("width"), size.width()},
+                               {QStringLiteral("height"), size.height()},
+                               {QStringLiteral("tab"), QString::fromStdString(options.tab)},
+                               {QStringLiteral("screen"), QString::fromStdString(options.screen)}});
+  engine.load(QUrl{QStringLiteral("qrc:/Mivo/Main.qml")});
+}
+
+AppWindow::~AppWindow() = default;
+
+QQuickWindow* AppWindow::window() const {
+  return engine.rootObjects().isEmpty() ? nullptr : qobject_cast<QQuickWindow*>(engine.rootObjects().constFirst());
+}
+
+std::optional<std::string> drawInto(AppWindow& shown, const Options& options) {
+  QQuickWindow& window = *shown.window();
+  settle(window);
+  if (options.whole) {
+    window.setHeight(window.property("wholeHeight").toInt());
+    settle(window);
+  }
+  if (window.grabWindow().save(QString::fromStdString(options.picture))) return std::nullopt;
+  return options.picture + ": the picture could not be written";
+}
+
+}  // namespace mivo::app

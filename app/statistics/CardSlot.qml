@@ -1,0 +1,97 @@
+// SPDX-License-Identifier: MIT
+// The card of one kind, made when it comes on screen.
+import QtQuick
+import Mivo
+
+Item {
+    id: root
+
+    required property int index
+    required property int kind
+    required property CardModel card
+    /// How many cards of the page fit beside each other.
+    property int columns: 1
+    readonly property bool wide: columns === 3
+    readonly property int span: App.screen.count > 0 ? App.screen.columnSpan(index, columns) : 6
+    readonly property bool beside: span < 6
+    /// Where the cards begin in the page.
+    property real pageTop: 0
+
+    signal startWanted
+    signal settingsWanted
+    signal goalWanted
+    signal dateWanted
+    signal tableWanted(chart: ChartTable, title: string)
+    signal pickerMade(picker: TimeRangePicker)
+
+    implicitHeight: loader.item ? (loader.item as Item).implicitHeight : 0
+
+    Loader {
+        id: loader
+        width: parent.width
+        height: parent.height
+        // On wide windows the picker stands in the title row.
+        active: !(root.wide && root.kind === CardModel.TimeRange)
+        sourceComponent: {
+            switch (root.kind) {
+            case CardModel.Tip:
+                return tip;
+            case CardModel.Start:
+                return start;
+            case CardModel.Configure:
+                return configure;
+            case CardModel.Summary:
+                return summary;
+            case CardModel.OverlappingFasts:
+                return overlap;
+            case CardModel.Donation:
+                return donation;
+            case CardModel.Roadmap:
+                return roadmap;
+            case CardModel.HealthData:
+                return health;
+            case CardModel.AddWeight:
+                return addWeight;
+            case CardModel.GoalWeight:
+                return goalWeight;
+            case CardModel.Badges:
+                return badges;
+            case CardModel.TimeRange:
+                return timeRange;
+            case CardModel.FastingChart:
+                return fastingChart;
+            case CardModel.EatingChart:
+                return eatingChart;
+            case CardModel.WeightChart:
+                return weightChart;
+            case CardModel.WeightFastingChart:
+                return weightFastingChart;
+            default:
+                return trends;
+            }
+        }
+    }
+
+    Component { id: tip; TipCard { card: root.card as NoticeCardModel; onDismissed: App.dismissTip() } }
+    Component { id: start; StartCard { card: root.card as NoticeCardModel; onStartTapped: root.startWanted() } }
+    Component { id: configure; ConfigureCard { card: root.card as NoticeCardModel; onSettingsTapped: root.settingsWanted() } }
+    Component { id: summary; SummaryCard { card: root.card as SummaryCardModel; wide: root.wide } }
+    Component { id: overlap; NoticeCard { card: root.card as NoticeCardModel; iconName: "warning"; isCaution: true; onTapped: App.fixOverlaps() } }
+    Component { id: donation; TileCard { card: root.card as NoticeCardModel; iconName: "heart"; onClicked: App.openDonations() } }
+    Component { id: roadmap; TileCard { card: root.card as NoticeCardModel; iconName: "feedback"; onClicked: App.openRoadmap() } }
+    Component { id: health; NoticeCard { card: root.card as NoticeCardModel; iconName: "health"; onTapped: App.requestHealthAccess() } }
+    Component { id: addWeight; AddWeightCard { card: root.card as NoticeCardModel; entry: App.addWeight; inRow: root.span === 2; onDateTapped: root.dateWanted() } }
+    Component { id: goalWeight; GoalWeightCard { card: root.card as GoalWeightCardModel; onGoalTapped: root.goalWanted() } }
+    Component { id: badges; BadgesCard { card: root.card as BadgesCardModel; onClicked: App.openBadges() } }
+    Component { id: timeRange; TimeRangePicker {
+            card: root.card as TimeRangeCardModel
+            slotTop: root.y + root.pageTop
+            onChosen: index => App.chooseTimeRange(index)
+            Component.onCompleted: root.pickerMade(this)
+        } }
+    Component { id: fastingChart; DayBarsCard { card: root.card as DayBarsCardModel; chart: App.fastingChart; accent: Theme.fasting; chartHeight: 200; onTableWanted: root.tableWanted(App.fastingChart, card.title) } }
+    Component { id: eatingChart; DayBarsCard { card: root.card as DayBarsCardModel; chart: App.eatingChart; accent: Theme.eating; chartHeight: root.beside ? 200 : 160; onTableWanted: root.tableWanted(App.eatingChart, card.title) } }
+    Component { id: weightChart; WeightChartCard { card: root.card as WeightChartCardModel; chart: App.weightChart; wide: root.wide; onTableWanted: root.tableWanted(App.weightChart, card.title) } }
+    Component { id: weightFastingChart; WeightFastingCard { card: root.card as WeightFastingChartCardModel; chart: App.weightFastingChart; wide: root.wide; onTableWanted: root.tableWanted(App.weightFastingChart, card.title) } }
+    Component { id: trends; TrendsCard { card: root.card as TrendsCardModel; wide: root.wide } }
+}

@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: MIT
+// What a chart offers besides looking at it.
+import QtQuick
+import Mivo
+
+Sheet {
+    id: root
+
+    /// The selected value in words; empty without one.
+    property string value
+
+    signal tableWanted
+
+    title: root.value === "" ? Texts.text("Chart") : root.value
+    spacing: 8
+
+    ActionButton {
+        width: parent.width
+        visible: root.value !== ""
+        kind: ActionButton.Secondary
+        text: Texts.text("Copy value")
+        onClicked: {
+            App.copy(root.value);
+            root.close();
+        }
+    }
+
+    ActionButton {
+        width: parent.width
+        kind: ActionButton.Secondary
+        text: Texts.text("Show as table")
+        onClicked: {
+            root.close();
+            root.tableWanted();
+        }
+    }
+}

@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: MIT
+// A chart without data: three lines, and what to do.
+import QtQuick
+import Mivo
+
+Item {
+    id: root
+
+    property string text
+
+    implicitHeight: 110
+
+    Repeater {
+        model: 3
+
+        delegate: Rectangle {
+            required property int index
+
+            y: 12 + index * 36
+            width: root.width
+            height: Theme.hairlineSize
+            color: index === 2 ? Theme.gridlineStrong : Theme.gridline
+        }
+    }
+
+    Rectangle {
+        anchors.centerIn: label
+        width: label.width + 24
+        height: label.height
+        color: Theme.card
+    }
+
+    StyledText {
+        id: label
+        anchors.horizontalCenter: parent.horizontalCenter
+        y: 48 - height / 2
+        width: Math.min(implicitWidth, root.width - 48)
+        horizontalAlignment: Text.AlignHCenter
+        text: root.text
+        style: Theme.labelText
+        color: Theme.inkSecondary
+    }
+}

@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: MIT
+// Something to know and one thing to do: overlapping fasts, access to health data.
+import QtQuick
+import Mivo
+
+Card {
+    id: root
+
+    required property NoticeCardModel card
+    property string iconName
+    property bool isCaution: false
+
+    signal tapped
+
+    spacing: 12
+
+    Item {
+        width: parent.width
+        implicitHeight: Math.max(Theme.tileSize, texts.implicitHeight)
+
+        IconTile {
+            id: tile
+            name: root.iconName
+            color: root.isCaution ? Theme.cautionFill : Theme.fill
+            iconColor: root.isCaution ? Theme.caution : Theme.ink
+        }
+
+        Column {
+            id: texts
+            anchors.left: tile.right
+            anchors.leftMargin: 12
+            anchors.right: parent.right
+            spacing: 2
+
+            StyledText {
+                width: parent.width
+                text: root.card.title
+                style: Theme.headlineText
+            }
+
+            StyledText {
+                width: parent.width
+                text: root.card.text
+            }
+        }
+    }
+
+    ActionButton {
+        width: parent.width
+        kind: root.isCaution ? ActionButton.Secondary : ActionButton.Primary
+        text: root.card.button
+        onClicked: root.tapped()
+    }
+}

@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: MIT
+// Before the first fast.
+import QtQuick
+import Mivo
+
+Card {
+    id: root
+
+    required property NoticeCardModel card
+
+    signal startTapped
+
+    padding: 24
+    spacing: 20
+
+    Item {
+        width: parent.width
+        height: 104
+
+        StartRing {
+            anchors.horizontalCenter: parent.horizontalCenter
+            y: 8
+            width: 96
+            height: 96
+        }
+    }
+
+    StyledText {
+        width: parent.width
+        horizontalAlignment: Text.AlignHCenter
+        text: root.card.text
+        style: Theme.headlineText
+        font.weight: 500
+    }
+
+    ActionButton {
+        width: parent.width
+        kind: ActionButton.Data
+        iconName: "play"
+        text: Texts.text("Start fast")
+        onClicked: root.startTapped()
+    }
+}

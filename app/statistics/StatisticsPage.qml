@@ -1,0 +1,137 @@
+// SPDX-License-Identifier: MIT
+// The statistics tab: a column of cards that scrolls; on wide windows rows of cards.
+import QtQuick
+import Mivo
+
+FocusScope {
+    id: root
+
+    readonly property int columns: width >= Theme.sideBarWidth - Theme.sideBarSize ? 3 : width >= Theme.twoColumnsWidth ? 2 : 1
+    readonly property bool wide: columns === 3
+    readonly property int margin: wide ? Theme.pageMarginWide : Theme.pageMargin
+    /// What the page needs to be seen whole.
+    readonly property real wholeHeight: flick.contentHeight
+
+    /// The picker of the range, where it is one of the cards.
+    property TimeRangePicker picker: null
+    readonly property real pickerTop: picker ? picker.controlTop : 0
+    readonly property bool pickerSticks: !wide && picker !== null && flick.contentY > pickerTop - 8
+
+    signal startWanted
+    signal settingsWanted
+    signal goalWanted
+    signal dateWanted
+    signal tableWanted(chart: ChartTable, title: string)
+
+    Flickable {
+        id: flick
+        anchors.fill: parent
+        contentWidth: width
+        contentHeight: column.y + column.height + root.margin
+        boundsBehavior: Flickable.DragOverBounds
+
+        // The keyboard leaves when the column is scrolled.
+        onMovementStarted: {
+            Qt.inputMethod.hide();
+            if (root.Window.activeFocusItem instanceof TextInput)
+                root.forceActiveFocus();
+        }
+
+        Column {
+            id: column
+            x: Math.max(root.margin, (root.width - Theme.contentMaxWidth) / 2)
+            width: root.width - 2 * x
+
+            Item {
+                width: parent.width
+                height: Math.max(Theme.titleBarSize, title.height + 24)
+
+                StyledText {
+                    id: title
+                    anchors.left: parent.left
+                    anchors.verticalCenter: parent.verticalCenter
+                    text: Texts.text("Statistics")
+                    style: root.wide ? Theme.titleWideText : Theme.titleText
+                    Accessible.role: Accessible.Heading
+                    Accessible.name: text
+                }
+
+                Loader {
+                    anchors.right: parent.right
+                    anchors.verticalCenter: parent.verticalCenter
+                    active: root.wide && App.screen.timeRange !== null
+                    sourceComponent: TimeRangeRow {
+                        card: App.screen.timeRange
+                        maxWidth: column.width - title.width - 24
+                        onChosen: index => App.chooseTimeRange(index)
+                    }
+                }
+            }
+
+            CardGrid {
+                id: grid
+                width: parent.width
+                height: implicitHeight
+                gap: root.wide ? Theme.cardGapWide : Theme.cardGap
+                mirrored: LayoutMirroring.enabled
+
+                Repeater {
+                    model: App.screen
+
+                    delegate: CardSlot {
+                        columns: root.columns
+                        pageTop: grid.y
+                        onStartWanted: root.startWanted()
+                        onSettingsWanted: root.settingsWanted()
+                        onGoalWanted: root.goalWanted()
+                        onDateWanted: root.dateWanted()
+                        onTableWanted: (chart, name) => root.tableWanted(chart, name)
+                        onPickerMade: made => root.picker = made
+                    }
+                }
+            }
+        }
+    }
+
+    // Stands in for the picker once that has gone under the top edge.
+    Rectangle {
+        visible: root.pickerSticks
+        width: parent.width
+        height: Math.max(Theme.stickyRangeSize, sticky.height + 16)
+        color: Theme.background
+
+        Rectangle {
+            anchors.bottom: parent.bottom
+            width: parent.width
+            height: Theme.hairlineSize
+            color: Theme.hairline
+        }
+
+        SegmentedControl {
+            id: sticky
+            anchors.centerIn: parent
+            width: column.width
+            options: App.screen.timeRange ? App.screen.timeRange.options : [""]
+            currentIndex: App.screen.timeRange ? App.screen.timeRange.selectedIndex : 0
+            accessibleName: App.screen.timeRange ? App.screen.timeRange.title : ""
+            onChosen: index => App.chooseTimeRange(index)
+        }
+    }
+
+    // Scrolls so that what the keyboard has reached is seen.
+    Connections {
+        target: root.Window.window
+
+        function onActiveFocusItemChanged() {
+            const item = root.Window.activeFocusItem;
+            if (!item || !InputMode.keyboard || !root.activeFocus)
+                return;
+            const top = item.mapToItem(flick.contentItem, 0, 0).y;
+            const above = root.pickerSticks ? Theme.stickyRangeSize : 0;
+            if (top - 16 - above < flick.contentY)
+                flick.contentY = Math.max(0, top - 16 - above);
+            else if (top + item.height + 16 > flick.contentY + flick.height)
+                flick.contentY = Math.min(flick.contentHeight - flick.height, top + item.height + 16 - flick.height);
+        }
+    }
+}

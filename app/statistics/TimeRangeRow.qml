@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: MIT
+// The range of trends and charts in the title row of wide windows.
+import QtQuick
+import Mivo
+
+Row {
+    id: root
+
+    required property TimeRangeCardModel card
+    property real maxWidth: 480
+
+    signal chosen(int index)
+
+    spacing: 16
+    layoutDirection: LayoutMirroring.enabled ? Qt.RightToLeft : Qt.LeftToRight
+
+    Column {
+        anchors.verticalCenter: parent.verticalCenter
+
+        StyledText {
+            anchors.right: parent.right
+            width: Math.min(implicitWidth, root.maxWidth - 288)
+            horizontalAlignment: Text.AlignRight
+            text: root.card.title
+            style: Theme.bodyStrongText
+            Accessible.role: Accessible.Heading
+            Accessible.name: text
+        }
+
+        StyledText {
+            anchors.right: parent.right
+            width: Math.min(implicitWidth, root.maxWidth - 288)
+            horizontalAlignment: Text.AlignRight
+            text: root.card.prompt
+            style: Theme.labelText
+            color: Theme.inkSecondary
+        }
+    }
+
+    SegmentedControl {
+        anchors.verticalCenter: parent.verticalCenter
+        width: 272
+        options: root.card.options
+        currentIndex: root.card.selectedIndex
+        accessibleName: root.card.title
+        onChosen: index => root.chosen(index)
+    }
+}

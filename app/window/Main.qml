@@ -1,0 +1,201 @@
+// SPDX-License-Identifier: MIT
+// The window: a page with tabs below, or beside it where there is room, and what is presented over it.
+import QtQuick
+import QtQuick.Window
+import Mivo
+
+Window {
+    id: root
+
+    property string tab: "statistics"
+    /// What is open over the statistics when the window appears.
+    property string screen
+    readonly property bool side: width >= Theme.sideBarWidth
+    readonly property list<string> tabs: ["fasting", "statistics", "settings"]
+    readonly property list<string> names: [Texts.text("Fasting"), Texts.text("Statistics"), Texts.text("Settings")]
+    /// What the window needs to show the statistics whole.
+    readonly property real wholeHeight: statistics.wholeHeight + (side ? 0 : Theme.tabBarSize)
+
+    width: 390
+    height: 844
+    minimumWidth: 320
+    minimumHeight: 480
+    visible: true
+    title: "Mivo"
+    color: Theme.background
+    LayoutMirroring.enabled: Qt.application.layoutDirection === Qt.RightToLeft
+    LayoutMirroring.childrenInherit: true
+
+    Component.onCompleted: openScreen()
+
+    function openScreen() {
+        switch (screen) {
+        case "badges":
+            return App.openBadges();
+        case "milestones":
+            App.openBadges();
+            return App.badges.openMilestones();
+        case "streaks":
+            App.openBadges();
+            return App.badges.openStreaks();
+        case "roadmap":
+            return App.openRoadmap();
+        case "feedback":
+            App.openRoadmap();
+            return feedback.open();
+        case "donations":
+            return App.openDonations();
+        case "overlaps":
+            return App.fixOverlaps();
+        case "goalWeight":
+            return goalWeight.open();
+        case "date":
+            return weightDate.open();
+        case "table":
+            return showTable(App.fastingChart, names[0]);
+        }
+    }
+
+    function showTable(chart: ChartTable, title: string) {
+        table.table = chart;
+        table.title = title;
+        table.open();
+    }
+
+    Item {
+        id: pages
+        anchors.fill: parent
+        anchors.leftMargin: root.side ? Theme.sideBarSize : 0
+
+        Item {
+            anchors.fill: parent
+            anchors.bottomMargin: root.side ? 0 : Theme.tabBarSize
+            enabled: App.destination === "" || App.destination === "donations"
+
+            Loader {
+                anchors.fill: parent
+                visible: root.tab === "fasting"
+                active: visible || status === Loader.Ready
+                focus: visible
+                sourceComponent: FastingPage {}
+            }
+
+            StatisticsPage {
+                id: statistics
+                anchors.fill: parent
+                visible: root.tab === "statistics"
+                focus: visible
+                onStartWanted: {
+                    App.fasting.start();
+                    root.tab = "fasting";
+                }
+                onSettingsWanted: root.tab = "settings"
+                onGoalWanted: goalWeight.open()
+                onDateWanted: weightDate.open()
+                onTableWanted: (chart, name) => root.showTable(chart, name)
+                // What was changed on other tabs is seen on return.
+                onVisibleChanged: {
+                    if (visible)
+                        App.appear();
+                }
+                Component.onCompleted: App.appear()
+            }
+
+            Loader {
+                anchors.fill: parent
+                visible: root.tab === "settings"
+                active: visible || status === Loader.Ready
+                focus: visible
+                sourceComponent: SettingsPage {}
+            }
+        }
+
+        TabBar {
+            visible: !root.side
+            anchors.bottom: parent.bottom
+            width: parent.width
+            height: Theme.tabBarSize
+            tabs: root.tabs
+            names: root.names
+            chosen: root.tab
+            onTapped: tab => root.choose(tab)
+        }
+
+        PushLayer {
+            anchors.fill: parent
+            open: App.destination === "badges"
+            page: BadgesPage { onBack: App.dismiss() }
+        }
+
+        PushLayer {
+            anchors.fill: parent
+            open: App.destination === "roadmap"
+            page: RoadmapPage {
+                roadmap: App.roadmap
+                onBack: App.dismiss()
+                onFeedbackWanted: feedback.open()
+            }
+        }
+
+        MessageBar {
+            anchors.left: parent.left
+            anchors.right: parent.right
+            anchors.bottom: parent.bottom
+            anchors.margins: Theme.pageMargin
+            anchors.bottomMargin: Theme.pageMargin + (root.side ? 0 : Theme.tabBarSize)
+        }
+    }
+
+    SideBar {
+        visible: root.side
+        anchors.left: parent.left
+        width: Theme.sideBarSize
+        height: parent.height
+        tabs: root.tabs
+        names: root.names
+        chosen: root.tab
+        onTapped: tab => root.choose(tab)
+    }
+
+    function choose(wanted: string) {
+        App.dismiss();
+        tab = wanted;
+    }
+
+    DonationsSheet {
+        id: donations
+        readonly property bool wanted: App.destination === "donations"
+        onWantedChanged: wanted ? open() : close()
+        onAboutToHide: {
+            if (wanted)
+                App.dismiss();
+        }
+    }
+
+    RepairSheet {
+        id: repair
+        readonly property bool wanted: App.repair.proposed
+        onWantedChanged: wanted ? open() : close()
+        onAboutToHide: {
+            if (wanted)
+                App.repair.cancel();
+        }
+    }
+
+    FeedbackSheet { id: feedback }
+
+    GoalWeightSheet { id: goalWeight }
+
+    TableSheet { id: table }
+
+    DateTimeSheet {
+        id: weightDate
+        title: Texts.text("Date and time")
+        instant: App.addWeight.instant
+        onChosen: instant => App.addWeight.changeDate(instant)
+    }
+
+    Binding { target: Theme; property: "dark"; value: Appearance.dark }
+    Binding { target: Theme; property: "textScale"; value: Appearance.textScale }
+    Binding { target: Theme; property: "reducedMotion"; value: Appearance.reducedMotion }
+}
