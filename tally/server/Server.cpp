@@ -121,7 +121,6 @@ void Server::reload() {
 }
 
 void Server::stop() {
-  log_.event("stopping", "finishing what is in flight");
   isStopping_ = true;
   error_code error;
   for (;;) {  // those the system has connected already were promised an answer
@@ -130,6 +129,7 @@ void Server::stop() {
     add(std::move(socket));
   }
   static_cast<void>(acceptor_.close(error));
+  log_.event("stopping", "finishing what is in flight");
   const auto now = std::chrono::steady_clock::now();
   for (auto next = connections_.begin(); next != connections_.end();) {
     const auto connection = *next++;

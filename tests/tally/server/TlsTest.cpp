@@ -25,8 +25,7 @@ CertificateFiles madeIn(const tests::TemporaryFolder& folder) {
 struct Fixture : testing::Test {
   tests::TemporaryFolder folder;
   CertificateFiles files = madeIn(folder);
-  TallyServer server{"sqlite:" + folder.file("tally.sqlite"),
-                     {"--certificate", files.certificate, "--key", files.key, "--request-seconds", "1"}};
+  TallyServer server{"sqlite:" + folder.file("tally.sqlite"), {"--certificate", files.certificate, "--key", files.key}};
 };
 
 using TlsTest = Fixture;
@@ -61,12 +60,14 @@ TEST_F(TlsTest, aBrokenCertificateChangesNothing) {
 }
 
 TEST_F(TlsTest, dropsWhoSpeaksPlainHttpOrNothing) {
-  HttpClient plain{server.port()};
+  TallyServer hasty{"sqlite:" + folder.file("hasty.sqlite"),
+                    {"--certificate", files.certificate, "--key", files.key, "--request-seconds", "2"}};
+  HttpClient plain{hasty.port()};
   plain.send("GET /health HTTP/1.1\r\nHost: h\r\n\r\n");
   EXPECT_EQ(plain.receiveAll().find("HTTP/1.1 200"), std::string::npos);
-  HttpClient silent{server.port()};
+  HttpClient silent{hasty.port()};
   EXPECT_EQ(silent.receiveAll(), "");
-  EXPECT_EQ((HttpClient{server.port(), tls}.get("/health").status), 200U);
+  EXPECT_EQ((HttpClient{hasty.port(), tls}.get("/health").status), 200U);
 }
 
 // Who connects and never greets holds a place as the silent do, and gives way as they do.
