@@ -36,7 +36,8 @@ class Appearance : public QObject {
     bool still = false;  ///< nothing moves
   };
 
-  explicit Appearance(QObject* parent = nullptr);
+  /// QML gets the one that the program made; a constructor without arguments would be taken before `create`.
+  explicit Appearance(QObject* parent);
   static Appearance* create(QQmlEngine*, QJSEngine*);
 
   Mode mode() const;

@@ -32,8 +32,9 @@ Item {
     StyledText {
         id: detailText
         visible: root.detail !== ""
-        anchors.left: root.stacked ? parent.left : undefined
-        anchors.right: root.stacked ? undefined : parent.right
+        readonly property real fromLeading: root.stacked ? 0 : root.width - width
+
+        x: LayoutMirroring.enabled ? root.width - width - fromLeading : fromLeading
         y: root.stacked ? titleText.height : titleText.baselineOffset - baselineOffset
         width: Math.min(implicitWidth, root.width)
         text: root.detail

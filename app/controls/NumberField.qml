@@ -16,7 +16,7 @@ Rectangle {
     signal decreased
     signal accepted
 
-    implicitHeight: Theme.fieldSize
+    implicitHeight: Math.max(Theme.fieldSize, input.implicitHeight + 16)
     radius: Theme.controlRadius
     color: Theme.field
     border.width: hasProblem || input.activeFocus ? 2 : 0
@@ -35,11 +35,12 @@ Rectangle {
     Row {
         anchors.centerIn: parent
         spacing: 4
+        LayoutMirroring.enabled: false // a number and its unit
 
         TextInput {
             id: input
             font.family: Theme.displayFamily
-            font.pixelSize: 22
+            font.pixelSize: Theme.numberSmallText.size * Theme.textScale
             font.weight: 600
             color: Theme.ink
             selectByMouse: true

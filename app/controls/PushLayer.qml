@@ -11,6 +11,8 @@ FocusScope {
 
     readonly property bool mirroredNow: LayoutMirroring.enabled
     property real progress: open ? 1 : 0
+    /// Nothing of what lies below can be seen.
+    readonly property bool covers: progress === 1
 
     visible: progress > 0
     enabled: open

@@ -44,8 +44,9 @@ Rectangle {
     }
 
     StyledText {
-        anchors.fill: input
-        verticalAlignment: Text.AlignVCenter
+        anchors.left: input.left
+        anchors.right: input.right
+        anchors.verticalCenter: parent.verticalCenter
         visible: input.text === "" && !input.preeditText
         text: root.placeholder
         color: Theme.inkTertiary

@@ -10,7 +10,7 @@
 namespace mivo::app {
 namespace {
 
-constexpr double gutter = 32, aboveBarArea = 14, belowBarArea = 36;
+constexpr double aboveBarArea = 14, belowBarArea = 36;
 constexpr double barInset = 7, stubHeight = 3;
 constexpr double popupLineBelowBaseline = 14, popupPointer = 6, popupUsualBody = 30, roomAtTheSides = 8;
 constexpr double mostHourLines = 3.6;
@@ -18,8 +18,9 @@ constexpr std::array<double, 12> hourSteps{1, 2, 4, 8, 12, 24, 40, 50, 100, 200,
 
 }  // namespace
 
-DayBarsLayout DayBarsLayout::make(Size size, ChartTimeUnit unit, std::size_t barCount) {
-  DayBarsLayout layout{.plotWidth = std::max(0.0, size.width - gutter), .height = size.height, .barCount = barCount};
+DayBarsLayout DayBarsLayout::make(Size size, ChartTimeUnit unit, std::size_t barCount, double gutter) {
+  DayBarsLayout layout{
+      .plotWidth = std::max(0.0, size.width - gutter), .height = size.height, .barCount = barCount, .gutter = gutter};
   layout.frameWidth = barWidth(layout.plotWidth, unit);
   layout.visibleColumns = std::max(1, static_cast<int>((layout.plotWidth + 1) / (layout.frameWidth + 1)));
   layout.pitch = layout.plotWidth / layout.visibleColumns;
@@ -78,7 +79,7 @@ PopupShape popupShape(const DayBarsLayout& layout, const PopupPlace& place, doub
   shape.pointsDown = !place.isInsideBar;
   shape.pointerX = place.barMiddle;
   const double least = roomAtTheSides - leadingRoom;
-  const double most = layout.plotWidth + gutter + trailingRoom - roomAtTheSides - place.width;
+  const double most = layout.plotWidth + layout.gutter + trailingRoom - roomAtTheSides - place.width;
   const double x = std::clamp(place.xOffset, least, std::max(least, most));
   // The offset is the top edge of the whole shape: of the body, or of the pointer that stands on it.
   const double y = line + place.yOffset + (place.isInsideBar ? popupPointer : -growth);

@@ -21,8 +21,12 @@ struct DayBarsLayout {
   double pitch = 0;        ///< from one column to the next
   std::size_t barCount = 0;
 
+  double gutter = usualGutter;
+
+  static constexpr double usualGutter = 32;
+
   /// A layout for an item of that size, gutter included.
-  static DayBarsLayout make(Size size, ChartTimeUnit unit, std::size_t barCount);
+  static DayBarsLayout make(Size size, ChartTimeUnit unit, std::size_t barCount, double gutter = usualGutter);
 
   double baseline() const;
   double barArea() const;

@@ -6,6 +6,7 @@
 #include <QtGui/QPainterPath>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 namespace mivo::app {
@@ -90,11 +91,20 @@ void DayBars::geometryChange(const QRectF& newGeometry, const QRectF& oldGeometr
   if (shown) shown->send(DayBarsModel::Action::didUpdateSize{{layout.plotWidth, layout.height}});
 }
 
+// Wide enough for the widest label that charts of this unit have, so that both charts share their columns.
+qreal DayBars::gutterWidth() const {
+  constexpr std::array<double, 3> mostHours{24, 120, 500};
+  const auto unit = static_cast<std::size_t>(*shown->state().chartTimeUnit);
+  const qreal label = numberWidth(shown->texts().hours(mostHours[unit]), axisFont);
+  return std::max(DayBarsLayout::usualGutter, std::ceil(label + labelDistance));
+}
+
 // What stands at the trailing edge stays there, whether bars come in or the window changes its size.
 void DayBars::relayout() {
   if (!shown) return;
   const auto& state = shown->state();
-  const DayBarsLayout next = DayBarsLayout::make({innerWidth(), height()}, state.chartTimeUnit, state.data->size());
+  const DayBarsLayout next =
+      DayBarsLayout::make({innerWidth(), height()}, state.chartTimeUnit, state.data->size(), gutterWidth());
   const bool isOther = next.barCount != layout.barCount || next.pitch != layout.pitch || next.height != layout.height;
   const qreal barsBeyond = layout.pitch > 0 ? std::round((layout.maxScroll() - offset) / layout.pitch) : 0;
   layout = next;

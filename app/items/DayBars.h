@@ -62,6 +62,7 @@ class DayBars : public ChartItem {
 
  private:
   void relayout();
+  qreal gutterWidth() const;
   void reportVisibleBars();
   std::optional<std::size_t> selectedBar() const;
   void select(std::size_t bar);

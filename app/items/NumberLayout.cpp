@@ -23,7 +23,8 @@ std::vector<NumberRun> split(const QString& text) {
       isFresh = true;
       continue;
     }
-    const bool isUnit = isLetter(character);
+    // A point or comma behind letters is theirs: "16 Std., 38 Min."
+    const bool isUnit = isLetter(character) || (!isFresh && character.isPunct() && runs.back().isUnit);
     if (isFresh || runs.back().isUnit != isUnit) runs.push_back({{}, isUnit, 0, 0});
     runs.back().text += character;
     isFresh = false;

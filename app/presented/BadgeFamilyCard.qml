@@ -75,8 +75,7 @@ TappableCard {
                 StyledNumber {
                     anchors.left: parent.left
                     text: root.family.count
-                    style: implicitFits ? Theme.numberLargeText : Theme.numberText
-                    readonly property bool implicitFits: wideCount.implicitWidth <= facts.width
+                    style: wideCount.implicitWidth <= facts.width ? Theme.numberLargeText : Theme.numberText
 
                     StyledNumber {
                         id: wideCount

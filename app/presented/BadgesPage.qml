@@ -10,6 +10,7 @@ FocusScope {
 
     PushedPage {
         anchors.fill: parent
+        visible: !list.covers
         focus: true
         title: Texts.text("Badges")
         onBack: root.back()
@@ -30,6 +31,7 @@ FocusScope {
     }
 
     PushLayer {
+        id: list
         anchors.fill: parent
         open: App.badges.list !== ""
         page: BadgeListPage {

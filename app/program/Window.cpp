@@ -13,7 +13,7 @@ Q_IMPORT_QML_PLUGIN(MivoPlugin)
 namespace mivo::app {
 namespace {
 
-constexpr int stillAfterMilliseconds = 60, drawnAtLastAfterMilliseconds = 5000;
+constexpr int drawnAtLastAfterMilliseconds = 5000;
 
 std::optional<Appearance::Mode> modeOf(const Options& options) {
   if (options.dark) return Appearance::Mode::Dark;
@@ -21,18 +21,17 @@ std::optional<Appearance::Mode> modeOf(const Options& options) {
   return std::nullopt;
 }
 
-// Runs events until no frame was asked for in a while.
-void settle(QQuickWindow& window) {
+}  // namespace
+
+void settle(QQuickWindow& window, int stillMilliseconds) {
   QElapsedTimer sinceFrame, sinceBegin;
   sinceFrame.start();
   sinceBegin.start();
   const auto drawn = QObject::connect(&window, &QQuickWindow::frameSwapped, [&] { sinceFrame.restart(); });
-  while (sinceFrame.elapsed() < stillAfterMilliseconds && sinceBegin.elapsed() < drawnAtLastAfterMilliseconds)
-    QCoreApplication::processEvents(QEventLoop::AllEvents, stillAfterMilliseconds / 4);
+  while (sinceFrame.elapsed() < stillMilliseconds && sinceBegin.elapsed() < drawnAtLastAfterMilliseconds)
+    QCoreApplication::processEvents(QEventLoop::AllEvents, stillMilliseconds / 4);
   QObject::disconnect(drawn);
 }
-
-}  // namespace
 
 std::optional<QSize> sizeOf(const std::string& text) {
   const auto parts = QString::fromStdString(text).split(QLatin1Char{'x'});
@@ -44,7 +43,8 @@ std::optional<QSize> sizeOf(const std::string& text) {
 }
 
 AppWindow::AppWindow(const Environment& environment, const Options& options, QSize size)
-    : app{{.history = environment.history,
+    : look{nullptr},
+      app{{.history = environment.history,
            .tips = environment.tips,
            .usualWeightUnit = environment.usualWeightUnit,
            .feedbackAddress = options.feedback}} {

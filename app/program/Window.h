@@ -35,6 +35,9 @@ class AppWindow {
   QQmlApplicationEngine engine;
 };
 
+/// Runs events until no frame was asked for in so long.
+void settle(QQuickWindow& window, int stillMilliseconds = 60);
+
 /// Draws the window, once it stands still, into a file. Returns a sentence where that fails.
 std::optional<std::string> drawInto(AppWindow& shown, const Options& options);
 

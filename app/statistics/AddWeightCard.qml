@@ -22,6 +22,7 @@ Card {
 
         CardHead {
             id: head
+            anchors.left: parent.left
             width: root.stacked ? parent.width : parent.width - dateButton.width - 8
             title: root.card.title
         }
@@ -44,7 +45,7 @@ Card {
         rowSpacing: 10
 
         NumberField {
-            width: root.stacked ? parent.width : parent.width - 88 - 12
+            width: root.stacked ? parent.width : parent.width - save.width - 12
             text: root.entry.fieldText
             unit: root.entry.unit
             hasProblem: root.entry.problem !== ""
@@ -64,9 +65,10 @@ Card {
         }
 
         ActionButton {
-            width: root.stacked ? parent.width : 88
-            leftPadding: 4
-            rightPadding: 4
+            id: save
+            width: root.stacked ? parent.width : Math.max(88, implicitWidth)
+            leftPadding: 14
+            rightPadding: 14
             text: root.card.button
             enabled: !root.entry.saving
             onClicked: root.entry.save()

@@ -14,6 +14,10 @@ Item {
     property color fill
     property color textOnFill
 
+    /// Of the column that the labels stand in.
+    property real labelWidth: Theme.capsuleLabelSize
+    readonly property real wantedLabelWidth: labelText.implicitWidth + 8
+
     // From this text size on the label stands above, and the bar takes the full width.
     readonly property bool stacked: Theme.textScale >= 1.3
     readonly property real capsuleHeight: Math.max(Theme.capsuleSize, valueText.implicitHeight + 8)
@@ -26,7 +30,7 @@ Item {
         id: labelText
         anchors.left: parent.left
         y: root.stacked ? 0 : (parent.height - height) / 2
-        width: root.stacked ? parent.width : Theme.capsuleLabelSize
+        width: root.stacked ? parent.width : root.labelWidth
         text: root.label
         style: Theme.labelText
         color: Theme.inkSecondary
@@ -38,7 +42,7 @@ Item {
     Item {
         id: track
         anchors.left: parent.left
-        anchors.leftMargin: root.stacked ? 0 : Theme.capsuleLabelSize
+        anchors.leftMargin: root.stacked ? 0 : root.labelWidth
         anchors.right: parent.right
         anchors.bottom: parent.bottom
         height: root.capsuleHeight
@@ -56,32 +60,45 @@ Item {
             }
         }
 
-        Row {
+        // It stands inside at the bar's end, or behind it. What is too wide for its bar goes behind too, while there is room.
+        Item {
             id: texts
-            anchors.verticalCenter: parent.verticalCenter
-            anchors.right: root.inside ? bar.right : undefined
-            anchors.rightMargin: 11
-            anchors.left: root.inside ? undefined : bar.right
-            anchors.leftMargin: root.fraction > 0 ? 8 : 0
-            spacing: 3
+            readonly property bool fitsInside: row.width + 2 * 11 <= bar.width
+            readonly property bool fitsBehind: bar.width + 8 + row.width <= track.width
+            readonly property bool inside: root.inside && (fitsInside || (!fitsBehind && !root.stacked))
+            /// Large text that fits neither way stands beside the label.
+            readonly property bool above: root.stacked && !fitsBehind && !(root.inside && fitsInside)
+            readonly property real fromLeading: above ? track.width - row.width : inside ? Math.max(11, bar.width - 11 - row.width) : Math.min(bar.width + (root.fraction > 0 ? 8 : 0), track.width - row.width)
 
-            StyledText {
-                id: valueText
-                text: root.value
-                style: Theme.valueText
-                color: root.inside ? root.textOnFill : Theme.ink
-                wrapMode: Text.NoWrap
-                Accessible.ignored: true
-            }
+            x: root.LayoutMirroring.enabled ? track.width - fromLeading - width : fromLeading
+            y: above ? -height - 2 : (parent.height - height) / 2
+            width: row.width
+            height: row.height
 
-            StyledText {
-                anchors.baseline: valueText.baseline
-                text: root.perDay
-                style: Theme.captionText
-                font.weight: 500
-                color: valueText.color
-                wrapMode: Text.NoWrap
-                Accessible.ignored: true
+            // Number and unit read from the left in every layout.
+            Row {
+                id: row
+                LayoutMirroring.enabled: false
+                spacing: 3
+
+                StyledText {
+                    id: valueText
+                    text: root.value
+                    style: Theme.valueText
+                    color: texts.inside ? root.textOnFill : Theme.ink
+                    wrapMode: Text.NoWrap
+                    Accessible.ignored: true
+                }
+
+                StyledText {
+                    anchors.baseline: valueText.baseline
+                    text: root.perDay
+                    style: Theme.captionText
+                    font.weight: 500
+                    color: valueText.color
+                    wrapMode: Text.NoWrap
+                    Accessible.ignored: true
+                }
             }
         }
     }

@@ -3,103 +3,119 @@
 import QtQuick
 import Mivo
 
-Card {
+Rectangle {
     id: root
 
     required property GoalWeightCardModel card
 
     signal goalTapped
 
-    // Where the card is stretched to its neighbours' height, track and trend stand at the bottom.
-    readonly property real slack: Math.max(0, height - implicitHeight)
+    readonly property int padding: Theme.cardPadding
 
-    spacing: 8
+    color: Theme.card
+    radius: Theme.cardRadius
+    implicitHeight: figures.height + 8 + way.height + 2 * padding
 
-    CardHead {
-        width: parent.width
-        title: root.card.title
-        detail: root.card.remaining
-    }
+    Column {
+        id: figures
+        x: root.padding
+        y: root.padding
+        width: parent.width - 2 * x
+        spacing: 8
 
-    Item {
-        width: parent.width
-        implicitHeight: Math.max(current.implicitHeight, goal.implicitHeight)
-        visible: root.card.current !== "" || root.card.goal !== ""
-
-        SummaryFigure {
-            id: current
-            anchors.left: parent.left
-            width: parent.width / 2
-            visible: root.card.current !== ""
-            value: root.card.current
-            label: root.card.currentLabel
+        CardHead {
+            width: parent.width
+            title: root.card.title
+            detail: root.card.remaining
         }
 
-        SummaryFigure {
-            id: goal
-            anchors.right: parent.right
-            width: parent.width / 2
-            visible: root.card.goal !== ""
-            trailing: true
-            value: root.card.goal
-            label: root.card.goalLabel
+        Item {
+            width: parent.width
+            height: Math.max(current.height, goal.height)
+            visible: root.card.current !== "" || root.card.goal !== ""
 
-            TapHandler {
-                onTapped: root.goalTapped()
+            SummaryFigure {
+                id: current
+                anchors.left: parent.left
+                width: parent.width / 2 - 4
+                height: implicitHeight
+                visible: root.card.current !== ""
+                value: root.card.current
+                label: root.card.currentLabel
+            }
+
+            SummaryFigure {
+                id: goal
+                anchors.right: parent.right
+                width: parent.width / 2 - 4
+                height: implicitHeight
+                visible: root.card.goal !== ""
+                trailing: true
+                value: root.card.goal
+                label: root.card.goalLabel
+
+                TapHandler {
+                    onTapped: root.goalTapped()
+                }
             }
         }
     }
 
-    Item {
-        width: 1
-        height: root.slack
-        visible: root.slack > 0
-    }
+    // Beside higher cards it keeps to the bottom.
+    Column {
+        id: way
+        x: root.padding
+        width: parent.width - 2 * x
+        anchors.bottom: parent.bottom
+        anchors.bottomMargin: root.padding
+        spacing: 8
 
-    Item {
-        width: parent.width
-        height: 14
-        visible: root.card.fraction >= 0
-
-        ProgressTrack {
-            anchors.verticalCenter: parent.verticalCenter
+        Item {
             width: parent.width
-            height: 6
-            color: Theme.weight.tint
-            done: Theme.weight.fill
-            fraction: root.card.fraction
+            height: 14
+            visible: root.card.fraction >= 0
+
+            ProgressTrack {
+                anchors.verticalCenter: parent.verticalCenter
+                width: parent.width
+                height: 6
+                color: Theme.weight.tint
+                done: Theme.weight.fill
+                fraction: root.card.fraction
+            }
+
+            Rectangle {
+                readonly property real place: Math.min(1, root.card.fraction) * (parent.width - 14)
+
+                x: (LayoutMirroring.enabled ? parent.width - 14 - place : place) - 3
+                y: -3
+                width: 20
+                height: 20
+                radius: 10
+                antialiasing: true
+                color: Theme.weight.fill
+                border.width: 3
+                border.color: Theme.card
+            }
         }
 
-        Rectangle {
-            readonly property real place: root.card.fraction * (parent.width - 14)
-
-            x: (LayoutMirroring.enabled ? parent.width - 14 - place : place) - 3
-            y: -3
-            width: 20
-            height: 20
-            radius: 10
-            antialiasing: true
-            color: Theme.weight.fill
-            border.width: 3
-            border.color: Theme.card
+        StyledText {
+            width: parent.width
+            visible: text !== ""
+            textFormat: Text.StyledText
+            text: (root.card.trendFigure === "" ? "" : "<b><font color='" + Theme.ink + "'>" + root.card.trendFigure + "</font></b>") + root.card.trendRest
+            style: Theme.labelText
+            color: Theme.inkSecondary
+            Accessible.role: Accessible.StaticText
+            Accessible.name: root.card.trendFigure + root.card.trendRest
         }
-    }
 
-    StyledText {
-        width: parent.width
-        visible: text !== ""
-        textFormat: Text.StyledText
-        text: (root.card.trendFigure === "" ? "" : "<b><font color='" + Theme.ink + "'>" + root.card.trendFigure + "</font></b>") + root.card.trendRest
-        Accessible.name: root.card.trendFigure + root.card.trendRest
-        style: Theme.labelText
-        color: Theme.inkSecondary
-    }
-
-    ActionButton {
-        width: parent.width
-        visible: text !== ""
-        kind: ActionButton.Secondary
-        text: root.card.button
-        onClicked: root.goalTapped()
+        ActionButton {
+            width: parent.width
+            visible: text !== ""
+            kind: ActionButton.Secondary
+            text: root.card.button
+            onClicked: root.goalTapped()
+        }
     }
 }

@@ -20,6 +20,7 @@ Card {
 
         IconTile {
             id: tile
+            anchors.left: parent.left
             name: root.iconName
             color: root.isCaution ? Theme.cautionFill : Theme.fill
             iconColor: root.isCaution ? Theme.caution : Theme.ink

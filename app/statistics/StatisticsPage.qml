@@ -6,8 +6,9 @@ import Mivo
 FocusScope {
     id: root
 
-    readonly property int columns: width >= Theme.sideBarWidth - Theme.sideBarSize ? 3 : width >= Theme.twoColumnsWidth ? 2 : 1
-    readonly property bool wide: columns === 3
+    /// The window has room for a side bar beside the page.
+    property bool wide: false
+    readonly property int columns: wide ? 3 : width >= Theme.twoColumnsWidth ? 2 : 1
     readonly property int margin: wide ? Theme.pageMarginWide : Theme.pageMargin
     /// What the page needs to be seen whole.
     readonly property real wholeHeight: flick.contentHeight

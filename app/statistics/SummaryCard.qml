@@ -31,15 +31,13 @@ Card {
                 required property int index
                 required property string modelData
 
-                // The first row is the larger one.
-                readonly property list<TextStyle> large: [Theme.numberLargeText, Theme.numberText, Theme.numberSmallText]
-                readonly property list<TextStyle> small: [Theme.numberSmallText, Theme.numberRowText]
-                readonly property list<TextStyle> middle: [Theme.numberText, Theme.numberSmallText, Theme.numberRowText]
-
                 width: (grid.width - (root.columns - 1) * grid.spacing) / root.columns
                 value: modelData
                 label: root.card.labels[index]
-                styles: root.wide ? middle : index < 2 ? large : small
+                // The first row is the larger one.
+                largest: root.wide ? Theme.numberText : index < 2 ? Theme.numberLargeText : Theme.numberSmallText
+                middle: !root.wide && index < 2 ? Theme.numberText : root.wide ? Theme.numberSmallText : Theme.numberRowText
+                smallest: !root.wide && index < 2 ? Theme.numberSmallText : Theme.numberRowText
             }
         }
     }

@@ -8,32 +8,30 @@ Item {
 
     property string value
     property string label
-    /// The sizes that it may have, the largest first.
-    property list<TextStyle> styles: [Theme.numberText, Theme.numberSmallText, Theme.numberRowText]
+    /// The sizes that it may have.
+    property TextStyle largest: Theme.numberText
+    property TextStyle middle: Theme.numberSmallText
+    property TextStyle smallest: Theme.numberRowText
     property bool trailing: false
 
-    readonly property int fitting: {
-        for (let size = 0; size < styles.length - 1; ++size)
-            if (measures.itemAt(size) && measures.itemAt(size).implicitWidth <= width)
-                return size;
-        return styles.length - 1;
-    }
+    readonly property TextStyle fitting: inLargest.implicitWidth <= width ? largest : inMiddle.implicitWidth <= width ? middle : smallest
 
     implicitHeight: number.height + 2 + caption.height
     Accessible.role: Accessible.StaticText
     Accessible.name: label + ": " + value
 
-    Repeater {
-        id: measures
-        model: root.styles.length
+    StyledNumber {
+        id: inLargest
+        visible: false
+        text: root.value
+        style: root.largest
+    }
 
-        delegate: StyledNumber {
-            required property int index
-
-            visible: false
-            text: root.value
-            style: root.styles[index]
-        }
+    StyledNumber {
+        id: inMiddle
+        visible: false
+        text: root.value
+        style: root.middle
     }
 
     StyledNumber {
@@ -41,7 +39,7 @@ Item {
         anchors.left: root.trailing ? undefined : parent.left
         anchors.right: root.trailing ? parent.right : undefined
         text: root.value
-        style: root.styles[root.fitting]
+        style: root.fitting
         Accessible.ignored: true
     }
 

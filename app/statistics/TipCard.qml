@@ -15,6 +15,7 @@ Card {
 
         IconTile {
             id: tile
+            anchors.left: parent.left
             name: "bulb"
         }
 

@@ -7,6 +7,7 @@ Column {
     id: root
 
     required property trendRow modelData
+    readonly property real labelWidth: Math.max(Theme.capsuleLabelSize, thisCapsule.wantedLabelWidth, lastCapsule.wantedLabelWidth)
     readonly property Accent accent: Theme.accentOf(modelData.zone)
 
     CardHead {
@@ -28,7 +29,9 @@ Column {
     Item { width: 1; height: 8 }
 
     Capsule {
+        id: thisCapsule
         width: parent.width
+        labelWidth: root.labelWidth
         label: root.modelData.thisLabel
         value: root.modelData.thisAverage
         perDay: root.modelData.perDay
@@ -41,7 +44,9 @@ Column {
     Item { width: 1; height: 6 }
 
     Capsule {
+        id: lastCapsule
         width: parent.width
+        labelWidth: root.labelWidth
         label: root.modelData.lastLabel
         value: root.modelData.lastAverage
         perDay: root.modelData.perDay

@@ -23,6 +23,7 @@ Card {
     }
 
     Row {
+        anchors.left: parent.left
         visible: !root.chart.isEmpty && root.card.averageLabel !== ""
         spacing: 8
 

@@ -26,7 +26,7 @@ Card {
 
         Flow {
             width: parent.width
-            spacing: 12
+            spacing: 4
             visible: !root.chart.isEmpty
 
             Repeater {
@@ -38,6 +38,7 @@ Card {
                     required property string modelData
 
                     spacing: 8
+                    rightPadding: 8
 
                     LegendMark {
                         anchors.verticalCenter: parent.verticalCenter

@@ -26,10 +26,15 @@ Window {
     LayoutMirroring.enabled: Qt.application.layoutDirection === Qt.RightToLeft
     LayoutMirroring.childrenInherit: true
 
-    Component.onCompleted: openScreen()
+    Component.onCompleted: present(screen)
 
-    function openScreen() {
-        switch (screen) {
+    /// Opens one of the screens by its name, in place of what is open; none for an empty name.
+    function present(name: string) {
+        App.dismiss();
+        App.repair.cancel();
+        for (const sheet of [feedback, goalWeight, table, weightDate])
+            sheet.close();
+        switch (name) {
         case "badges":
             return App.openBadges();
         case "milestones":
@@ -70,6 +75,7 @@ Window {
         Item {
             anchors.fill: parent
             anchors.bottomMargin: root.side ? 0 : Theme.tabBarSize
+            visible: !badgesLayer.covers && !roadmapLayer.covers
             enabled: App.destination === "" || App.destination === "donations"
 
             Loader {
@@ -84,6 +90,7 @@ Window {
                 id: statistics
                 anchors.fill: parent
                 visible: root.tab === "statistics"
+                wide: root.side
                 focus: visible
                 onStartWanted: {
                     App.fasting.start();
@@ -111,7 +118,7 @@ Window {
         }
 
         TabBar {
-            visible: !root.side
+            visible: !root.side && !badgesLayer.covers && !roadmapLayer.covers
             anchors.bottom: parent.bottom
             width: parent.width
             height: Theme.tabBarSize
@@ -122,12 +129,14 @@ Window {
         }
 
         PushLayer {
+            id: badgesLayer
             anchors.fill: parent
             open: App.destination === "badges"
             page: BadgesPage { onBack: App.dismiss() }
         }
 
         PushLayer {
+            id: roadmapLayer
             anchors.fill: parent
             open: App.destination === "roadmap"
             page: RoadmapPage {

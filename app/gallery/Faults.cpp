@@ -1,0 +1,155 @@
+// SPDX-License-Identifier: MIT
+#include "Faults.h"
+
+#include <QtCore/QHash>
+#include <QtGui/QFont>
+#include <QtGui/QGlyphRun>
+#include <QtGui/QImage>
+#include <QtGui/QTextLayout>
+#include <QtQuick/QQuickItem>
+#include <QtQuick/QQuickWindow>
+
+#include <cmath>
+
+namespace mivo::app {
+namespace {
+
+constexpr qreal tolerance = 1;  // points; glyphs are placed between pixels
+constexpr double leastContrast = 4.5, leastContrastOfLargeText = 3;
+constexpr int largeText = 24, largeBoldText = 19;
+
+struct ShownText {
+  QQuickItem* item;
+  QQuickItem* card;  // none for a text that stands on the page
+  QRectF place;      // of its glyphs, in the window
+  bool isOnTop;      // nothing modal lies over it
+};
+
+bool isCard(const QQuickItem* item) {
+  const QByteArray name = item->metaObject()->className();
+  return name.startsWith("Card_") || name.startsWith("TappableCard") || name.contains("Card_QMLTYPE");
+}
+
+bool isOverlay(const QQuickItem* item) { return item->inherits("QQuickOverlay"); }
+
+QRectF glyphPlace(const QQuickItem* text) {
+  const qreal contentWidth = text->property("contentWidth").toReal(),
+              contentHeight = text->property("contentHeight").toReal();
+  const int alignment = text->property("effectiveHorizontalAlignment").toInt();
+  const qreal x = alignment & Qt::AlignHCenter ? (text->width() - contentWidth) / 2
+                  : alignment & Qt::AlignRight ? text->width() - contentWidth
+                                               : 0;
+  return text->mapRectToScene({x, 0, contentWidth, contentHeight});
+}
+
+// All texts below an item that can be seen at all.
+void collect(QQuickItem* item, QQuickItem* card, bool isOnTop, QList<ShownText>& texts) {
+  if (!item->isVisible() || item->opacity() < 1) return;
+  if (isCard(item)) card = item;
+  if (item->inherits("QQuickText") && !item->property("text").toString().isEmpty())
+    texts.append({item, card, glyphPlace(item), isOnTop});
+  for (QQuickItem* child : item->childItems()) collect(child, card, isOnTop, texts);
+}
+
+bool hasMissingGlyph(const QQuickItem* text) {
+  QTextLayout layout{text->property("text").toString(), text->property("font").value<QFont>()};
+  layout.beginLayout();
+  layout.createLine();
+  layout.endLayout();
+  for (const QGlyphRun& run : layout.glyphRuns())
+    if (run.glyphIndexes().contains(0)) return true;
+  return false;
+}
+
+double luminance(const QColor& color) {
+  const auto linear = [](double channel) {
+    return channel <= 0.04045 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
+  };
+  return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
+}
+
+double contrast(const QColor& one, const QColor& other) {
+  const double high = std::max(luminance(one), luminance(other)), low = std::min(luminance(one), luminance(other));
+  return (high + 0.05) / (low + 0.05);
+}
+
+// What most pixels behind a text show.
+QColor surface(const QImage& picture, const QRect& place) {
+  QHash<QRgb, int> counts;
+  for (int y = place.top(); y <= place.bottom(); ++y)
+    for (int x = place.left(); x <= place.right(); ++x) ++counts[picture.pixel(x, y)];
+  QRgb most = 0;
+  for (auto entry = counts.cbegin(); entry != counts.cend(); ++entry)
+    if (entry.value() > counts.value(most)) most = entry.key();
+  return QColor{most};
+}
+
+// Whether a view that scrolls hides a part of it.
+bool isPartlyHidden(const ShownText& text) {
+  for (const QQuickItem* above = text.item->parentItem(); above; above = above->parentItem())
+    if (above->clip() && !above->mapRectToScene({0, 0, above->width(), above->height()}).contains(text.place))
+      return true;
+  return false;
+}
+
+bool isFaint(const ShownText& text, const QImage& picture) {
+  const qreal ratio = picture.devicePixelRatio();
+  const QRect place = QRectF{text.place.topLeft() * ratio, text.place.size() * ratio}.toAlignedRect();
+  if (!text.isOnTop || isPartlyHidden(text) || !text.item->isEnabled() || place.isEmpty() ||
+      !picture.rect().contains(place))
+    return false;
+  const QFont font = text.item->property("font").value<QFont>();
+  const bool isLarge =
+      font.pixelSize() >= largeText || (font.pixelSize() >= largeBoldText && font.weight() >= QFont::Bold);
+  const double found = contrast(text.item->property("color").value<QColor>(), surface(picture, place));
+  return found < (isLarge ? leastContrastOfLargeText : leastContrast);
+}
+
+QString faultOf(const ShownText& text, const QQuickWindow& window, const QImage& picture) {
+  const QQuickItem* item = text.item;
+  if (item->property("truncated").toBool() || item->property("contentWidth").toReal() > item->width() + tolerance ||
+      item->property("contentHeight").toReal() > item->height() + tolerance)
+    return QStringLiteral("is cut off");
+  const QRectF outer =
+      text.card ? text.card->mapRectToScene({0, 0, text.card->width(), text.card->height()}) : QRectF{};
+  const QRectF room = outer.adjusted(-tolerance, -tolerance, tolerance, tolerance);
+  if (text.card && !room.contains(text.place)) return QStringLiteral("is outside its card");
+  if (text.place.left() < -tolerance || text.place.right() > window.width() + tolerance)
+    return QStringLiteral("is outside the window");
+  if (hasMissingGlyph(item)) return QStringLiteral("has a glyph that no font has");
+  if (isFaint(text, picture)) return QStringLiteral("is too faint");
+  return {};
+}
+
+QStringList overlaps(const QList<ShownText>& texts) {
+  QStringList faults;
+  for (qsizetype one = 0; one < texts.size(); ++one)
+    for (qsizetype other = one + 1; other < texts.size(); ++other) {
+      if (!texts[one].card || texts[one].card != texts[other].card) continue;
+      const QRectF both = texts[one].place & texts[other].place;
+      if (both.width() > tolerance && both.height() > 2 * tolerance)
+        faults.append(
+            QStringLiteral("\"%1\" lies over \"%2\"")
+                .arg(texts[one].item->property("text").toString(), texts[other].item->property("text").toString()));
+    }
+  return faults;
+}
+
+}  // namespace
+
+QStringList faultsOf(QQuickWindow& window) {
+  const QImage picture = window.grabWindow();
+  QList<ShownText> texts;
+  QList<QQuickItem*> overlays;
+  for (QQuickItem* child : window.contentItem()->childItems())
+    if (isOverlay(child) && child->isVisible() && !child->childItems().isEmpty()) overlays.append(child);
+  for (QQuickItem* child : window.contentItem()->childItems())
+    collect(child, nullptr, overlays.isEmpty() || overlays.contains(child), texts);
+  QStringList faults = overlaps(texts);
+  for (const ShownText& text : texts)
+    if (const QString fault = faultOf(text, window, picture); !fault.isEmpty())
+      faults.append(QStringLiteral("\"%1\" %2").arg(text.item->property("text").toString(), fault));
+  return faults;
+}
+
+}  // namespace mivo::app

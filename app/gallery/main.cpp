@@ -1,0 +1,159 @@
+// SPDX-License-Identifier: MIT
+// Draws every screen in every size, appearance, language and with every kind of history, or only measures them.
+#include <QtCore/QDir>
+#include <QtGui/QGuiApplication>
+#include <QtQuick/QQuickWindow>
+
+#include <CLI/CLI.hpp>
+#include <fstream>
+#include <iostream>
+
+#include "app/gallery/Faults.h"
+#include "app/program/Environment.h"
+#include "app/program/Options.h"
+#include "app/program/Window.h"
+
+namespace mivo::app {
+namespace {
+
+struct Size {
+  const char* name;
+  QSize size;
+};
+constexpr std::array<Size, 4> sizes{
+    {{"360x640", {360, 640}}, {"390x844", {390, 844}}, {"768x1024", {768, 1024}}, {"1280x800", {1280, 800}}}};
+
+struct Language {
+  const char *name, *locale;
+  bool mirrored;
+};
+constexpr std::array<Language, 3> languages{
+    {{"english", "en-GB", false}, {"german", "de-DE", false}, {"mirrored", "en-US", true}}};
+
+struct History {
+  const char *name, *snapshot;  // the snapshot itself; empty for the shipped ten years
+};
+constexpr std::array<History, 4> histories{{
+    {"none", R"({"version":1,"fasts":[],"weights":[]})"},
+    {"one", R"({"version":1,"fasts":[{"start":"2026-02-27T19:00:00Z","end":"2026-02-28T11:30:00Z"}],
+                "weights":[{"date":"2026-02-28T07:00:00Z","weightInKg":72.4}]})"},
+    {"overlapping", R"({"version":1,"fasts":[{"start":"2026-02-25T19:00:00Z","end":"2026-02-26T12:00:00Z"},
+                {"start":"2026-02-26T11:00:00Z","end":"2026-02-27T03:00:00Z"},
+                {"start":"2026-02-27T19:00:00Z","end":"2026-02-28T12:00:00Z"},
+                {"start":"2026-02-27T19:05:00Z","end":"2026-02-28T12:10:00Z"},
+                {"start":"2026-02-28T19:00:00Z","end":null}],"weights":[]})"},
+    {"ten-years", ""},
+}};
+
+constexpr std::array<const char*, 11> screens{"",          "badges",   "milestones", "streaks", "roadmap", "feedback",
+                                              "donations", "overlaps", "goalWeight", "date",    "table"};
+
+struct Wanted {
+  std::string folder;  // none only measures
+  double scale = 1;
+  std::string data = "data";
+};
+
+Options optionsFor(const Wanted& wanted, const History& history, const Language& language, const QDir& scratch) {
+  Options options;
+  options.now = "2026-03-01T12:00:00Z";
+  options.timeZone = "Europe/Berlin";
+  options.locale = language.locale;
+  options.donations = wanted.data + "/donations.json";
+  options.tally = "http://127.0.0.1:9";  // nobody listens: the roadmap says that it is offline
+  options.picture = "-";                 // a clock that stands still, and no motion
+  options.sample = wanted.data + "/ten-years.json";
+  if (*history.snapshot) {
+    options.sample = scratch.filePath(QStringLiteral("history.json")).toStdString();
+    std::ofstream{options.sample} << history.snapshot;
+  }
+  return options;
+}
+
+struct Shown {
+  AppWindow& app;
+  QString name;  // "german-one"
+};
+
+int drawScreens(const Shown& shown, const Wanted& wanted, const Size& size, Appearance::Mode mode) {
+  QQuickWindow& window = *shown.app.window();
+  int faulty = 0;
+  shown.app.appearance().setOverride({.mode = mode, .textScale = std::nullopt, .still = true});
+  for (const char* screen : screens) {
+    window.resize(size.size);
+    QMetaObject::invokeMethod(&window, "present", Q_ARG(QString, QString::fromLatin1(screen)));
+    settle(window, 40);
+    const QString name =
+        QStringLiteral("%1-%2-%3-%4")
+            .arg(QLatin1String{*screen ? screen : "statistics"}, QLatin1String{size.name},
+                 mode == Appearance::Mode::Dark ? QStringLiteral("dark") : QStringLiteral("light"), shown.name);
+    if (!wanted.folder.empty())
+      window.grabWindow().save(QString::fromStdString(wanted.folder) + QLatin1Char{'/'} + name +
+                               QStringLiteral(".png"));
+    if (!*screen) window.setHeight(window.property("wholeHeight").toInt());
+    if (!*screen) settle(window, 40);
+    for (const QString& fault : faultsOf(window)) {
+      std::cout << name.toStdString() << ": " << fault.toStdString() << '\n';
+      ++faulty;
+    }
+  }
+  return faulty;
+}
+
+int drawAll(const Wanted& wanted) {
+  QDir scratch{QDir::temp().filePath(QStringLiteral("mivo-gallery-%1").arg(QCoreApplication::applicationPid()))};
+  scratch.mkpath(QStringLiteral("."));
+  int faulty = 0, drawn = 0;
+  for (const Language& language : languages)
+    for (const History& history : histories) {
+      const Options options = optionsFor(wanted, history, language, scratch);
+      const auto environment = makeEnvironment(options);
+      if (!environment) throw std::runtime_error{environment.error()};
+      const DependencyScope scope{environment->dependencies};
+      QGuiApplication::setLayoutDirection(language.mirrored ? Qt::RightToLeft : Qt::LeftToRight);
+      AppWindow app{*environment, options, sizes[0].size};
+      if (!app.window()) throw std::runtime_error{"the window could not be made"};
+      for (const Size& size : sizes)
+        for (const auto mode : {Appearance::Mode::Light, Appearance::Mode::Dark}) {
+          // In the dark only colours differ, so one language tells.
+          const bool isOnlyMeasured = wanted.folder.empty();
+          if (isOnlyMeasured && mode == Appearance::Mode::Dark && &language != &languages[0]) continue;
+          faulty +=
+              drawScreens({app, QStringLiteral("%1-%2").arg(QLatin1String{language.name}, QLatin1String{history.name})},
+                          wanted, size, mode);
+          drawn += static_cast<int>(screens.size());
+        }
+    }
+  scratch.removeRecursively();
+  std::cout << drawn << " pictures, " << faulty << " faults\n";
+  return faulty == 0 ? 0 : 1;
+}
+
+int run(int count, char** arguments) {
+  CLI::App program{"Every screen of the app, drawn and measured.", "mivo-gallery"};
+  Wanted wanted;
+  program.add_option("--out", wanted.folder, "The folder for the pictures; without one they are only measured")
+      ->type_name("FOLDER");
+  program.add_option("--scale", wanted.scale, "Pixels of a picture to a point")->check(CLI::Range(0.5, 4.0));
+  program.add_option("--data", wanted.data, "Where the sample histories are")->type_name("FOLDER");
+  CLI11_PARSE(program, count, arguments);
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  if (wanted.scale != 1) qputenv("QT_SCALE_FACTOR", QByteArray::number(wanted.scale));
+  QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
+  int qtCount = 1;
+  const QGuiApplication application{qtCount, arguments};
+  if (!wanted.folder.empty()) QDir{}.mkpath(QString::fromStdString(wanted.folder));
+  return drawAll(wanted);
+}
+
+}  // namespace
+}  // namespace mivo::app
+
+int main(int count, char** arguments) {
+  try {
+    return mivo::app::run(count, arguments);
+  } catch (const std::exception& error) {
+    std::cerr << "mivo-gallery: " << error.what() << '\n';
+    return 1;
+  }
+}
