@@ -10,6 +10,7 @@
 #include <string>
 #include <system_error>
 
+#include "cli/records/RecordOptions.h"
 #include "cli/report/ReportCommand.h"
 #include "cli/terminal/StandardOutput.h"
 #include "cli/usage/Usage.h"
@@ -35,6 +36,17 @@ int becomeRoadmapProgram(char** arguments) {
   return atFault;
 }
 
+/// "mivo weight add --help tells what can": of the command that was asked for, or of the first thing that people want.
+std::string hint(const CLI::App& program) {
+  std::string name = "mivo";
+  const CLI::App* command = &program;
+  while (!command->get_subcommands().empty()) {
+    command = command->get_subcommands().front();
+    name += ' ' + command->get_name();
+  }
+  return name + " --help tells what can";
+}
+
 int run(int count, char** arguments) {
   if (const auto fault = closedOutput()) {
     complain(*fault);
@@ -45,16 +57,20 @@ int run(int count, char** arguments) {
   program.require_subcommand(1);
   ReportOptions reportOptions;
   const CLI::App& report = addReport(program, reportOptions);
+  RecordOptions recordOptions;
+  const auto recordCommands = addRecordCommands(program, recordOptions);
   const std::array foreign{addForeign(program, "roadmap", "List the features that may come, and their votes"),
                            addForeign(program, "vote", "Vote for a feature of the roadmap"),
                            addForeign(program, "unvote", "Take a vote back")};
   try {
     program.parse(count, arguments);
   } catch (const CLI::ParseError& parsed) {
-    return answer(program, parsed, "mivo report --help tells what can");
+    return answer(program, parsed, hint(program).c_str());
   }
   if (std::ranges::any_of(foreign, [](const CLI::App* command) { return command->parsed(); }))
     return becomeRoadmapProgram(arguments);
+  for (const auto& [command, runCommand] : recordCommands)
+    if (command->parsed()) return runCommand(recordOptions);
   return report.parsed() ? runReport(reportOptions) : wrongUsage;
 }
 

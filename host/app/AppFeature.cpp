@@ -21,12 +21,6 @@ const FastRecord* find(const List<FastRecord>& fasts, UUID id) {
   return found == fasts.end() ? nullptr : &*found;
 }
 
-HistoryChange adding(FastRecord record) {
-  HistoryChange change;
-  change.addedFasts.push_back(std::move(record));
-  return change;
-}
-
 void take(State& state, std::vector<FastRecord> fasts, std::vector<BodyWeightSample> weights) {
   state.statistics.fasts = List<FastingDataEntry>{entries(fasts)};
   state.fasts = List<FastRecord>{std::move(fasts)};
@@ -118,35 +112,25 @@ auto AppFeature::on(State&, const Action::didTapStart& tapped) const -> Effect<A
 auto AppFeature::on(State& state, const Action::didTapStop& tapped) const -> Effect<Action> {
   const FastRecord* running = state.runningFast();
   if (!running) return {};
-  const FastingDataEntry& fast = running->fast;
-  HistoryChange change = adding({finishedFast(fast.id, fast.start, tapped.end, fast.goalSeconds), running->note});
-  change.removedFasts = {*running};
-  return write(Step::stop, std::move(change));
+  return write(Step::stop, replacing(*running, stopped(*running, tapped.end)));
 }
 
 auto AppFeature::on(State& state, const Action::didSaveFast& saved) const -> Effect<Action> {
-  HistoryChange change = adding(saved.record);
   const FastRecord* before = find(state.fasts, saved.record.fast.id);
-  if (!before) return write(Step::add, std::move(change));
+  if (!before) return write(Step::add, adding(saved.record));
   if (*before == saved.record) return {};
-  change.removedFasts = {*before};
-  return write(Step::edit, std::move(change));
+  return write(Step::edit, replacing(*before, saved.record));
 }
 
 auto AppFeature::on(State& state, const Action::didDeleteFast& deleted) const -> Effect<Action> {
   const FastRecord* record = find(state.fasts, deleted.id);
-  if (!record) return {};
-  HistoryChange change;
-  change.removedFasts = {*record};
-  return write(Step::remove, std::move(change));
+  return record ? write(Step::remove, removing(*record)) : Effect<Action>{};
 }
 
 auto AppFeature::on(State& state, const Action::didDeleteWeight& deleted) const -> Effect<Action> {
   const auto sample = std::ranges::find(*state.weights, deleted.id, &BodyWeightSample::id);
   if (sample == state.weights->end()) return {};
-  HistoryChange change;
-  change.removedWeights = {*sample};
-  return write(Step::removeWeight, std::move(change));
+  return write(Step::removeWeight, removing(*sample));
 }
 
 auto AppFeature::on(State& state, const Action::didConfirmOverlapRepair&) const -> Effect<Action> {
@@ -199,8 +183,6 @@ void AppFeature::takeSettings(State& state) const {
 auto AppFeature::saveWeight(const State& state) const -> Effect<Action> {
   const auto& pending = *state.statistics.addWeightLogState.pendingSample;
   if (!pending) return {};
-  HistoryChange change;
-  change.addedWeights = {*pending};
   return Effect<Action>::run(
       [](const Send<Action>& send, std::stop_token, const Client<HistoryClient>& client, const HistoryChange& written) {
         using Card = AddWeightLogFeature::Action;
@@ -215,7 +197,7 @@ auto AppFeature::saveWeight(const State& state) const -> Effect<Action> {
         send(Action::didWrite{Step::addWeight, written});
         answer(Card::didSave{});
       },
-      history, std::move(change));
+      history, adding(*pending));
 }
 
 auto AppFeature::write(Step step, HistoryChange change) const -> Effect<Action> {

@@ -22,6 +22,28 @@ void apply(const std::vector<Record>& removed, const std::vector<Record>& added,
 
 }  // namespace
 
+HistoryChange adding(FastRecord record) {
+  HistoryChange change;
+  change.addedFasts.push_back(std::move(record));
+  return change;
+}
+
+HistoryChange removing(FastRecord record) { return inverse(adding(std::move(record))); }
+
+HistoryChange replacing(FastRecord before, FastRecord after) {
+  HistoryChange change = adding(std::move(after));
+  change.removedFasts.push_back(std::move(before));
+  return change;
+}
+
+HistoryChange adding(const BodyWeightSample& sample) {
+  HistoryChange change;
+  change.addedWeights.push_back(sample);
+  return change;
+}
+
+HistoryChange removing(const BodyWeightSample& sample) { return inverse(adding(sample)); }
+
 HistoryChange inverse(HistoryChange change) {
   std::swap(change.removedFasts, change.addedFasts);
   std::swap(change.removedWeights, change.addedWeights);

@@ -16,6 +16,14 @@ struct HistoryChange {
   bool operator==(const HistoryChange&) const = default;
 };
 
+// The steps that users take most.
+HistoryChange adding(FastRecord record);
+HistoryChange removing(FastRecord record);
+/// `after` has the id of `before`.
+HistoryChange replacing(FastRecord before, FastRecord after);
+HistoryChange adding(const BodyWeightSample& sample);
+HistoryChange removing(const BodyWeightSample& sample);
+
 /// The change that undoes `change`.
 HistoryChange inverse(HistoryChange change);
 

@@ -42,7 +42,6 @@ constexpr std::array<HeaderName<Role>, 20> headerNames{{{"start", Role::start},
                                                         {"notes", Role::note}}};
 
 constexpr std::string_view expectedGoal = "expected hours, 0 or more";
-constexpr double largestGoalHours = 87'660'000;  // ten thousand years
 
 class FastsReader {
  public:

@@ -16,6 +16,9 @@ namespace mivo::host {
 /// The goal of a fast whose record names none: 16 hours.
 inline constexpr std::int64_t defaultGoalSeconds = 57600;
 
+/// Ten thousand years.
+inline constexpr double largestGoalHours = 87'660'000;
+
 /// Heavier ones are a slipped decimal sign or grams.
 inline constexpr double largestWeightInKg = 1000;
 

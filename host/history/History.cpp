@@ -5,6 +5,12 @@
 
 namespace mivo::host {
 
+FastRecord stopped(FastRecord running, Date end) {
+  const auto& [id, start, goalSeconds, finished] = running.fast;
+  running.fast = finishedFast(id, start, end, goalSeconds);
+  return running;
+}
+
 std::string describe(const KeptOddity& oddity) {
   const std::int64_t others = oddity.count - 1;
   const std::string sentence = describe(oddity.first) + "; kept";

@@ -19,6 +19,9 @@ struct FastRecord {
   bool operator==(const FastRecord&) const = default;
 };
 
+/// The record of a fast that was still running, as it is once it has ended.
+FastRecord stopped(FastRecord running, Date end);
+
 /// What was kept although it looks wrong: the first such record, and how many there are.
 struct KeptOddity {
   BadRecord first;

@@ -10,6 +10,7 @@
 #include "host/history/FieldRules.h"
 #include "host/history/Header.h"
 #include "host/history/History.h"
+#include "host/history/WeightText.h"
 
 namespace mivo::host {
 namespace {
@@ -44,27 +45,6 @@ constexpr std::array<HeaderName<Role>, 28> headerNames{{{"date", Role::date},
                                                         {"bodymass", Role::weight},
                                                         {"bodymass(kg)", Role::weight},
                                                         {"value", Role::weight}}};
-
-struct UnitName {
-  std::string_view name;
-  WeightUnit unit;
-};
-constexpr std::array<UnitName, 5> unitNames{{{"kg", WeightUnit::kilograms},
-                                             {"lb", WeightUnit::pounds},
-                                             {"lbs", WeightUnit::pounds},
-                                             {"pounds", WeightUnit::pounds},
-                                             {"st", WeightUnit::stones}}};
-
-/// The unit that a header or a cell ends with, and what stands before it.
-std::pair<std::string_view, std::optional<WeightUnit>> splitUnit(std::string_view text) {
-  for (const auto& [name, unit] : unitNames) {
-    if (!text.ends_with(name)) continue;
-    text.remove_suffix(name.size());
-    while (text.ends_with(' ')) text.remove_suffix(1);
-    return {text, unit};
-  }
-  return {text, std::nullopt};
-}
 
 bool saysNotWeighed(std::string_view cell) { return cell.empty() || cell == "NA" || cell == "--" || cell == "null"; }
 

@@ -3,7 +3,7 @@
 
 #include <ostream>
 
-#include "MivoProcess.h"
+#include "tests/cli_support/MivoProcess.h"
 
 namespace mivo::cli {
 namespace {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <gtest/gtest.h>
 
-#include "MivoProcess.h"
+#include "tests/cli_support/MivoProcess.h"
 
 namespace mivo::cli {
 namespace {

@@ -3,8 +3,8 @@
 
 #include <sstream>
 
-#include "MivoProcess.h"
 #include "cli/terminal/TextWidth.h"
+#include "tests/cli_support/MivoProcess.h"
 
 namespace mivo::cli {
 namespace {

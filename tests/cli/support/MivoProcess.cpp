@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "MivoProcess.h"
+#include "tests/cli_support/MivoProcess.h"
 
 #include <stdlib.h>
 #include <sys/wait.h>
@@ -19,7 +19,7 @@ std::string contents(const std::filesystem::path& file) {
 }  // namespace
 
 Workplace::Workplace() {
-  std::string pattern = std::filesystem::temp_directory_path() / "mivo-report-XXXXXX";
+  std::string pattern = std::filesystem::temp_directory_path() / "mivo-cli-XXXXXX";
   if (!::mkdtemp(pattern.data())) throw std::runtime_error{"no folder for the test"};
   folder = pattern;
 }
@@ -36,7 +36,7 @@ void Workplace::write(const std::string& file, std::string_view content) const {
 Ran Workplace::run(const std::string& arguments, const std::string& redirection, const std::string& environment) const {
   const std::string command = "cd '" + folder.string() +
                               "' && unset LANGUAGE LC_MESSAGES COLUMNS && : >output && export TZ=UTC LC_ALL=C "
-                              "HOME=\"$PWD\" XDG_DATA_HOME=\"$PWD\" NO_COLOR=1 " +
+                              "HOME=\"$PWD\" XDG_DATA_HOME=\"$PWD\" XDG_CONFIG_HOME=\"$PWD\" NO_COLOR=1 " +
                               environment + " && " MIVO_PROGRAM " " + arguments + " 2>errors " + redirection;
   const int waited = ::system(command.c_str());
   return {WIFEXITED(waited) ? WEXITSTATUS(waited) : -1, contents(folder / "output"), contents(folder / "errors")};

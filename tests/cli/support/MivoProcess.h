@@ -21,6 +21,7 @@ class Workplace {
   Workplace(const Workplace&) = delete;
   Workplace& operator=(const Workplace&) = delete;
 
+  std::filesystem::path file(const std::string& name) const { return folder / name; }
   void write(const std::string& file, std::string_view content) const;
 
   /// Runs `mivo` with arguments as a shell reads them, in English, in UTC and without colour, whatever the machine's

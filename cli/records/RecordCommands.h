@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "cli/records/RecordOptions.h"
+
+namespace mivo::cli {
+
+// The commands that keep the history. Each does one thing, which is on disk before it is said, and returns the exit
+// status: 0; 1 where the records or the database stand against it; 2 where the command line does. With other than 0,
+// one line is on standard error and nothing was changed.
+
+int runStart(const RecordOptions& options);
+int runStop(const RecordOptions& options);
+int runAdd(const RecordOptions& options);
+int runEdit(const RecordOptions& options);
+int runRemove(const RecordOptions& options);
+int runList(const RecordOptions& options);
+int runWeightAdd(const RecordOptions& options);
+int runWeightList(const RecordOptions& options);
+int runWeightRemove(const RecordOptions& options);
+
+}  // namespace mivo::cli

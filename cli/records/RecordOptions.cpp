@@ -1,0 +1,126 @@
+// SPDX-License-Identifier: MIT
+#include "cli/records/RecordOptions.h"
+
+#include "cli/records/RecordCommands.h"
+
+namespace mivo::cli {
+namespace {
+
+constexpr const char* fastExamples = R"(Examples:
+  mivo start
+  mivo start --at "2026-02-28 20:04" --goal-hours 18
+  mivo stop
+  mivo add "2026-02-27 20:00" "2026-02-28 12:00" --note "no breakfast"
+  mivo edit 3f9a --end 2026-02-28T12:30:00+01:00
+  mivo remove 3f9a
+  mivo list
+
+A date without an offset is in --time-zone. An ID is what mivo list shows, or more of it.
+
+Exit status: 0 done and on disk, 1 the records or the database stood against it, 2 the command line did.)";
+
+constexpr const char* weightExamples = R"(Examples:
+  mivo weight add 81.4
+  mivo weight add 179lb --at "2026-03-01 07:05"
+  mivo weight add "12st 11lb"
+  mivo weight list
+  mivo weight remove 77c0)";
+
+class Commands {
+ public:
+  Commands(CLI::App& program, RecordOptions& typed) : options{typed}, parent{&program} {}
+
+  CLI::App& add(const char* name, const char* description, int (*run)(const RecordOptions&)) {
+    CLI::App& command = group(*parent, name, description);
+    command.option_defaults()->multi_option_policy(CLI::MultiOptionPolicy::TakeLast);  // over those of a shell's alias
+    command.add_option("--database", options.database, "The history; default: the app's own")->type_name("FILE");
+    command.add_option("--locale", options.locale, "The language and its forms: de-DE; default: the system's")
+        ->type_name("TAG");
+    command
+        .add_option("--time-zone", options.timeZone, "Of dates without an offset: Europe/Berlin; default: the system's")
+        ->type_name("ZONE");
+    commands.push_back({&command, run});
+    return command;
+  }
+
+  CLI::App& group(CLI::App& program, const char* name, const char* description) {
+    CLI::App& command = *program.add_subcommand(name, description);
+    command.footer(examples);
+    return command;
+  }
+
+  void inside(CLI::App& group, const char* footer) {
+    parent = &group;
+    examples = footer;
+  }
+
+  void date(CLI::App& command, const char* name, std::optional<std::string>& text, const char* description) const {
+    command.add_option(name, text, description)->type_name("DATE");
+  }
+
+  void goalAndNote(CLI::App& command, const char* goalDescription) const {
+    command.add_option("--goal-hours", options.goalHours, goalDescription)->type_name("H");
+    command.add_option("--note", options.note, "A note to keep with it")->type_name("TEXT");
+  }
+
+  void id(CLI::App& command) const {
+    command.add_option("ID", options.id, "Its id, or as much of it as no other has")->required();
+  }
+
+  void format(CLI::App& command) const {
+    command.add_option("--format", options.format, "text or json")->type_name("FORMAT")->capture_default_str();
+  }
+
+  RecordOptions& options;
+  std::vector<RecordCommand> commands;
+
+ private:
+  CLI::App* parent;
+  const char* examples = fastExamples;
+};
+
+constexpr const char* usualGoal = "How long it is meant to be; default: the app's setting";
+
+void addFastCommands(Commands& to) {
+  RecordOptions& options = to.options;
+  CLI::App& start = to.add("start", "Start a fast", runStart);
+  to.date(start, "--at", options.at, "When it began; default: now");
+  to.goalAndNote(start, usualGoal);
+  CLI::App& stop = to.add("stop", "Stop the fast that is running", runStop);
+  to.date(stop, "--at", options.at, "When it ended; default: now");
+  CLI::App& add = to.add("add", "Add a fast that has ended", runAdd);
+  add.add_option("START", options.start, "When it began")->required();
+  add.add_option("END", options.end, "When it ended")->required();
+  to.goalAndNote(add, usualGoal);
+  CLI::App& edit = to.add("edit", "Change a fast", runEdit);
+  to.id(edit);
+  to.date(edit, "--start", options.start, "When it began");
+  CLI::Option* const running = edit.add_flag("--running", options.isRunning, "It has not ended after all");
+  edit.add_option("--end", options.end, "When it ended")->type_name("DATE")->excludes(running);
+  to.goalAndNote(edit, "How long it was meant to be");
+  to.id(to.add("remove", "Remove a fast", runRemove));
+  to.format(to.add("list", "List the fasts, the latest last", runList));
+}
+
+void addWeightCommands(CLI::App& program, Commands& to) {
+  CLI::App& weight = to.group(program, "weight", "Add, list and remove weights");
+  weight.require_subcommand(1);
+  weight.footer(weightExamples);
+  to.inside(weight, weightExamples);
+  CLI::App& add = to.add("add", "Add a weight", runWeightAdd);
+  add.add_option("WEIGHT", to.options.weight, "81.4, 81.4kg, 179lb or \"12st 11lb\"")->required();
+  to.date(add, "--at", to.options.at, "When it was weighed; default: now");
+  to.format(to.add("list", "List the weights, the latest last", runWeightList));
+  to.id(to.add("remove", "Remove a weight", runWeightRemove));
+}
+
+}  // namespace
+
+std::vector<RecordCommand> addRecordCommands(CLI::App& program, RecordOptions& options) {
+  Commands commands{program, options};
+  addFastCommands(commands);
+  addWeightCommands(program, commands);
+  return commands.commands;
+}
+
+}  // namespace mivo::cli

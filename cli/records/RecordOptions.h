@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <CLI/App.hpp>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace mivo::cli {
+
+/// What stands after a command that keeps the history, as it was typed; empty or missing where it was not.
+struct RecordOptions {
+  std::string id, weight;
+  std::optional<std::string> at, start, end, goalHours, note;
+  bool isRunning = false;
+  std::string database, locale, timeZone, format = "text";
+};
+
+/// A command and what runs it; the answer is the exit status.
+struct RecordCommand {
+  const CLI::App* parsed;
+  int (*run)(const RecordOptions& options);
+};
+
+/// Adds the commands. `options` must outlive the parsing.
+std::vector<RecordCommand> addRecordCommands(CLI::App& program, RecordOptions& options);
+
+}  // namespace mivo::cli

@@ -1,0 +1,142 @@
+// SPDX-License-Identifier: MIT
+#include "cli/records/RecordRun.h"
+
+#include <array>
+#include <chrono>
+#include <cmath>
+#include <cstdio>
+#include <utility>
+
+#include "adapters/locale/MessageCatalogue.h"
+#include "adapters/system/FileUserDefaults.h"
+#include "adapters/system/SystemClock.h"
+#include "adapters/system/UserDirectories.h"
+#include "cli/options/OptionValues.h"
+#include "cli/terminal/StandardOutput.h"
+#include "cli/usage/Usage.h"
+#include "host/app/Settings.h"
+#include "host/history/FieldRules.h"
+#include "host/history/Header.h"
+#include "host/text/BadRecord.h"
+
+namespace mivo::cli {
+namespace {
+
+template <class Value>
+Value orRefused(Read<Value> read) {
+  if (!read) throw Refused{wrongUsage, read.error()};
+  return std::move(*read);
+}
+
+}  // namespace
+
+RecordRun::RecordRun(const RecordOptions& typedIn)
+    : options{typedIn},
+      locale{orRefused(readLocale(options.locale))},
+      zone{orRefused(readTimeZone(options.timeZone))},
+      formatters{adapters::makeFormatters(locale, *adapters::ZonedCalendar::gregorian(zone, locale.firstWeekday()))},
+      texts{std::make_shared<adapters::MessageCatalogue>(locale.tag())},
+      now{adapters::SystemClock{}.now()} {}
+
+std::filesystem::path RecordRun::file() const {
+  return options.database.empty() ? host::ownDatabaseFile() : std::filesystem::path{options.database};
+}
+
+host::Database RecordRun::open() const {
+  auto opened = host::openOrSetAside(file());
+  if (opened.setAside)
+    complain(file().string() + ": the database is damaged; it is kept as " + opened.setAside->string() +
+             ", and a new one was begun");
+  return std::move(opened.database);
+}
+
+host::History RecordRun::history() const {
+  if (std::filesystem::is_regular_file(file())) return host::Database{file()}.history();
+  if (options.database.empty()) return {};
+  throw Refused{atFault, host::describe({.file = file().string(), .reason = "expected a database of the app"})};
+}
+
+Date RecordRun::date(std::string_view name, const std::string& text) const {
+  return orRefused(readDate(name, text, *zone));
+}
+
+Date RecordRun::dateOrNow(std::string_view name, const std::optional<std::string>& text) const {
+  return text ? date(name, *text) : now;
+}
+
+std::int64_t RecordRun::goalSeconds(std::int64_t fallback) const {
+  if (!options.goalHours) return fallback;
+  const auto hours = host::decimalNumber(*options.goalHours, true);
+  if (!hours || *hours < 0 || *hours > host::largestGoalHours)
+    throw Refused{
+        wrongUsage,
+        wrong("--goal-hours", "expected hours from 0 to 87660000, as in 16 or 16.5", *options.goalHours).value()};
+  return std::llround(*hours * secondsPerHour);
+}
+
+WeightUnit RecordRun::weightUnit() const {
+  return host::weightUnit(adapters::FileUserDefaults{adapters::appDefaultsFile()}).value_or(locale.weightUnit());
+}
+
+std::string RecordRun::typed(Date date) const {
+  const auto wall = zone->wallTime(adapters::wholeSecond(date));
+  const auto day = std::chrono::floor<std::chrono::days>(wall);
+  const std::chrono::year_month_day fields{day};
+  const std::chrono::hh_mm_ss time{wall - day};
+  std::array<char, 40> text;
+  std::snprintf(text.data(), text.size(), "%04d-%02u-%02u %02d:%02d", static_cast<int>(fields.year()),
+                static_cast<unsigned>(fields.month()), static_cast<unsigned>(fields.day()),
+                static_cast<int>(time.hours().count()), static_cast<int>(time.minutes().count()));
+  return text.data();
+}
+
+void RecordRun::refuse(host::RecordFault fault) const {
+  using enum host::RecordFault;
+  const std::string upToNow = " up to now, " + typed(now) + "; is the clock right?";
+  switch (fault) {
+    case startInFuture:
+      throw Refused{atFault, "the fast would start in the future: expected a time" + upToNow};
+    case endInFuture:
+      throw Refused{atFault, "the fast would end in the future: expected a time" + upToNow};
+    case dateInFuture:
+      throw Refused{atFault, "the weight would be of the future: expected a time" + upToNow};
+    case endBeforeStart:
+      throw Refused{atFault, "the fast would end before it starts: expected an end after the start"};
+    case noteTooLong:
+      throw Refused{wrongUsage, "--note: " + std::string{host::expectedNote}};
+    case goalOutOfRange:
+    case startOutOfRange:
+    case endOutOfRange:
+    case dateOutOfRange:
+      throw Refused{wrongUsage, std::string{host::expectedDate}};
+    case weightOutOfRange:
+      throw Refused{wrongUsage, wrong("WEIGHT", host::expectedWeight, options.weight).value()};
+  }
+  throw Refused{atFault, "the record cannot be kept"};
+}
+
+int runRecordCommand(const RecordOptions& options, const std::function<std::string(const RecordRun&)>& command) {
+  try {
+    const auto fault = writeOutput(command(RecordRun{options}));
+    if (fault) complain(*fault);
+    return fault ? atFault : 0;
+  } catch (const Refused& refused) {
+    complain(refused.what());
+    return refused.status;
+  }
+}
+
+std::size_t placeOf(const RecordRun& run, const ShortIDs& ids, std::string_view kind) {
+  const std::string& typed = run.options.id;
+  if (!canBeginID(typed))
+    throw Refused{wrongUsage,
+                  wrong("ID", "expected the beginning of an id, digits and the letters a to f", typed).value()};
+  const auto found = ids.beginningWith(typed);
+  if (found.size() == 1) return found.front();
+  const std::string beginning = "an id that begins with \"" + host::quotable(typed) + '"';
+  if (found.empty()) throw Refused{atFault, "no " + std::string{kind} + " has " + beginning};
+  throw Refused{atFault, std::to_string(found.size()) + ' ' + std::string{kind} + "s have " + beginning +
+                             ": expected more of it"};
+}
+
+}  // namespace mivo::cli

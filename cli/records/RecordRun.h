@@ -1,0 +1,77 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+
+#include "adapters/icu/LocaleFormatters.h"
+#include "adapters/icu/UserLocale.h"
+#include "adapters/time/TimeZone.h"
+#include "cli/records/RecordOptions.h"
+#include "cli/records/ShortIDs.h"
+#include "host/database/Database.h"
+#include "host/history/RecordFault.h"
+#include "mivo/platform/TextLookup.h"
+
+namespace mivo::cli {
+
+/// A command that was not done, with the sentence for it and the exit status.
+struct Refused : std::runtime_error {
+  Refused(int exitStatus, const std::string& sentence) : runtime_error{sentence}, status{exitStatus} {}
+  int status;
+};
+
+/// What a run of such a command has at hand. Members throw Refused or host::DatabaseError.
+class RecordRun {
+ public:
+  /// Reads the locale and the zone; opens no file.
+  explicit RecordRun(const RecordOptions& typed);
+
+  const RecordOptions& options;
+  const adapters::UserLocale locale;
+  const std::shared_ptr<const adapters::TimeZone> zone;
+  const adapters::LocaleFormatters formatters;
+  const std::shared_ptr<const TextLookup> texts;
+  const Date now;
+
+  /// The database, for a change. One that is missing is made; a damaged one is kept aside, which is said.
+  host::Database open() const;
+  /// The records. Nothing is made where there is no file: no records where that is the app's own, refused otherwise.
+  host::History history() const;
+
+  /// What an option says, or now without it.
+  Date dateOrNow(std::string_view name, const std::optional<std::string>& text) const;
+  Date date(std::string_view name, const std::string& text) const;
+  /// What `--goal-hours` says, in seconds; or the fallback without it.
+  std::int64_t goalSeconds(std::int64_t fallback) const;
+
+  /// Refuses a record that cannot be kept. A fault that it had before an edit is left in peace.
+  template <class Record>
+  void check(const Record& record, const std::optional<Record>& before = {}) const {
+    const auto fault = host::recordFault(record, now);
+    if (fault && (!before || host::recordFault(*before, now) != fault)) refuse(*fault);
+  }
+
+  /// What the user chose in the app, or what people weigh themselves in where they live.
+  WeightUnit weightUnit() const;
+
+  /// "2026-02-28 20:04", as it can be typed in.
+  std::string typed(Date date) const;
+
+ private:
+  [[noreturn]] void refuse(host::RecordFault fault) const;
+  std::filesystem::path file() const;
+};
+
+/// Runs a command and turns what it throws into a line on standard error. What it returns is printed.
+int runRecordCommand(const RecordOptions& options, const std::function<std::string(const RecordRun&)>& command);
+
+/// The record whose id begins as `options.id`. `kind` names what is looked for: "fast".
+std::size_t placeOf(const RecordRun& run, const ShortIDs& ids, std::string_view kind);
+
+}  // namespace mivo::cli

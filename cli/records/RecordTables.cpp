@@ -1,0 +1,167 @@
+// SPDX-License-Identifier: MIT
+#include "cli/records/RecordTables.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstddef>
+#include <utility>
+#include <vector>
+
+#include "cli/terminal/Paint.h"
+#include "cli/terminal/TextWidth.h"
+#include "host/overlaps/OverlappingFasts.h"
+
+namespace mivo::cli {
+namespace {
+
+constexpr int pageWidth = 80;
+constexpr std::string_view gap = "  ";
+
+std::string dateText(Date date, const RecordRun& run) {
+  return run.formatters.dateFormatter->string(date, "yMMMdjm").value_or("");
+}
+
+std::string durationText(double seconds, const RecordRun& run) {
+  return run.formatters.hourMinDurationUnitFormatter->string(seconds).value_or("");
+}
+
+std::string goalText(std::int64_t goalSeconds, const RecordRun& run) {
+  const auto seconds = static_cast<double>(goalSeconds);
+  const bool isWhole = std::fmod(seconds, secondsPerHour) == 0;
+  return (isWhole ? run.formatters.hourDurationUnitFormatter : run.formatters.hourMinDurationUnitFormatter)
+      ->string(seconds)
+      .value_or("");
+}
+
+double length(const FastingDataEntry& fast, Date now) {
+  return fast.finished ? fast.finished->duration() : std::max(0.0, secondsBetween(fast.start, now));
+}
+
+std::string weightText(double weightInKg, const RecordRun& run) {
+  return run.formatters.massFormatter->string(weightInKg, run.weightUnit());
+}
+
+/// A note's first line, cut to a width.
+std::string shortened(const std::string& note, int width) {
+  const std::string first = note.substr(0, note.find_first_of("\r\n"));
+  if (first.size() == note.size() && columns(first) <= width) return first;
+  std::size_t end = first.size();
+  while (end > 0 && columns(std::string_view{first}.substr(0, end)) > width - 1) {
+    do --end;
+    while (end > 0 && (static_cast<unsigned char>(first[end]) & 0xC0) == 0x80);  // inside a character
+  }
+  return width > 0 ? first.substr(0, end) + "…" : "";
+}
+
+/// Cells under headings, each column as wide as its widest.
+class Table {
+ public:
+  enum class Side { left, right };
+  using Row = std::vector<std::string>;
+
+  Table(Row headings, std::vector<Side> alignment) : rows{std::move(headings)}, sides{std::move(alignment)} {}
+
+  void add(Row row) { rows.push_back(std::move(row)); }
+
+  /// The last column is the free one: it takes what is left of the page.
+  std::string text(const Paint& paint) const {
+    const std::vector<int> widths = columnWidths();
+    std::string page;
+    for (std::size_t index = 0; index < rows.size(); ++index) {
+      const std::string line = lineOf(rows[index], widths);
+      page += paint(index == 0 ? Ink::faint : Ink::plain, line.substr(0, line.find_last_not_of(' ') + 1)) + '\n';
+    }
+    return page;
+  }
+
+ private:
+  std::vector<int> columnWidths() const {
+    std::vector<int> widths(sides.size());
+    for (const Row& row : rows)
+      for (std::size_t column = 0; column < row.size(); ++column)
+        widths[column] = std::max(widths[column], columns(row[column]));
+    return widths;
+  }
+
+  std::string lineOf(const Row& row, const std::vector<int>& widths) const {
+    std::string line;
+    int used = 0;
+    for (std::size_t column = 0; column + 1 < row.size(); ++column) {
+      line +=
+          sides[column] == Side::right ? paddedLeft(row[column], widths[column]) : padded(row[column], widths[column]);
+      line += gap;
+      used += widths[column] + static_cast<int>(gap.size());
+    }
+    return line + shortened(row.back(), pageWidth - used);
+  }
+
+  std::vector<Row> rows;
+  std::vector<Side> sides;
+};
+
+template <class Records, class ID>
+ShortIDs shortIDs(const Records& records, ID idOf) {
+  std::vector<UUID> ids;
+  ids.reserve(records.size());
+  for (const auto& record : records) ids.push_back(idOf(record));
+  return ShortIDs{ids};
+}
+
+}  // namespace
+
+std::string described(const host::FastRecord& record, const ShortIDs& ids, const RecordRun& run) {
+  const FastingDataEntry& fast = record.fast;
+  const TextLookup& texts = *run.texts;
+  const std::string id = ids.text(fast.id), start = dateText(fast.start, run), goal = goalText(fast.goalSeconds, run);
+  if (!fast.finished) return id + std::string{gap} + filledIn(texts.text("since {1}, goal {2}"), {start, goal});
+  return id + std::string{gap} +
+         filledIn(texts.text("{1} to {2}, {3}, goal {4}"),
+                  {start, dateText(fast.finished->end, run), durationText(fast.finished->duration(), run), goal});
+}
+
+std::string described(const BodyWeightSample& sample, const ShortIDs& ids, const RecordRun& run) {
+  return ids.text(sample.id) + std::string{gap} + weightText(sample.weightInKg, run) + ", " +
+         dateText(sample.date, run);
+}
+
+std::string fastTable(const std::vector<host::FastRecord>& fasts, const RecordRun& run) {
+  using enum Table::Side;
+  const TextLookup& texts = *run.texts;
+  if (fasts.empty()) return texts.text("No fasts yet.") + '\n';
+  Table table{
+      {"ID", texts.text("Start"), texts.text("End"), texts.text("Length"), texts.text("Goal"), "", texts.text("Note")},
+      {left, right, right, right, right, left, left}};
+  const ShortIDs ids = idsOf(fasts);
+  const std::vector<bool> overlapping = host::overlappingFasts(fasts, run.now);
+  for (std::size_t index = 0; index < fasts.size(); ++index) {
+    const auto& [fast, note] = fasts[index];
+    const std::string end = fast.finished ? dateText(fast.finished->end, run) : texts.text("running");
+    table.add({ids.text(fast.id), dateText(fast.start, run), end, durationText(length(fast, run.now), run),
+               goalText(fast.goalSeconds, run), overlapping[index] ? "!" : "", note});
+  }
+  std::string page = table.text(Paint::forStandardOutput());
+  if (std::ranges::find(overlapping, true) != overlapping.end())
+    page += "\n! " + texts.text("overlaps another fast") + '\n';
+  return page;
+}
+
+std::string weightTable(const std::vector<BodyWeightSample>& weights, const RecordRun& run) {
+  using enum Table::Side;
+  const TextLookup& texts = *run.texts;
+  if (weights.empty()) return texts.text("No weights yet.") + '\n';
+  Table table{{"ID", texts.text("Date"), texts.text("Weight"), ""}, {left, right, right, left}};
+  const ShortIDs ids = idsOf(weights);
+  for (const BodyWeightSample& sample : weights)
+    table.add({ids.text(sample.id), dateText(sample.date, run), weightText(sample.weightInKg, run), ""});
+  return table.text(Paint::forStandardOutput());
+}
+
+ShortIDs idsOf(const std::vector<host::FastRecord>& fasts) {
+  return shortIDs(fasts, [](const host::FastRecord& record) { return record.fast.id; });
+}
+
+ShortIDs idsOf(const std::vector<BodyWeightSample>& weights) {
+  return shortIDs(weights, [](const BodyWeightSample& sample) { return sample.id; });
+}
+
+}  // namespace mivo::cli

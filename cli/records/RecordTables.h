@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+
+#include "cli/records/RecordRun.h"
+#include "cli/records/ShortIDs.h"
+#include "host/history/History.h"
+
+namespace mivo::cli {
+
+/// "3f9a  Feb 28, 2026, 8:04 PM to Mar 1, 2026, 12:46 PM, 16h 42m, goal 16h"
+std::string described(const host::FastRecord& record, const ShortIDs& ids, const RecordRun& run);
+
+/// "77c0  81.4 kg, Mar 1, 2026, 7:05 AM"
+std::string described(const BodyWeightSample& sample, const ShortIDs& ids, const RecordRun& run);
+
+/// A line a record, for a terminal of 80 columns, with a heading; what is wider than that is only the note, which is
+/// cut. Records in their order.
+std::string fastTable(const std::vector<host::FastRecord>& fasts, const RecordRun& run);
+std::string weightTable(const std::vector<BodyWeightSample>& weights, const RecordRun& run);
+
+ShortIDs idsOf(const std::vector<host::FastRecord>& fasts);
+ShortIDs idsOf(const std::vector<BodyWeightSample>& weights);
+
+}  // namespace mivo::cli

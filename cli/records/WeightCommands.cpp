@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: MIT
+#include "adapters/system/LocalUUIDGenerator.h"
+#include "cli/options/OptionValues.h"
+#include "cli/records/RecordCommands.h"
+#include "cli/records/RecordRun.h"
+#include "cli/records/RecordTables.h"
+#include "cli/usage/Usage.h"
+#include "host/history/FieldRules.h"
+#include "host/history/Snapshot.h"
+#include "host/history/WeightText.h"
+
+namespace mivo::cli {
+namespace {
+
+std::string answer(const RecordRun& run, std::string_view pattern, const BodyWeightSample& sample,
+                   const std::vector<BodyWeightSample>& all) {
+  return filledIn(run.texts->text(pattern), {described(sample, idsOf(all), run)}) + '\n';
+}
+
+std::string add(const RecordRun& run) {
+  const auto weightInKg = host::parseWeight(run.options.weight, WeightUnit::kilograms);
+  if (!weightInKg)
+    throw Refused{
+        wrongUsage,
+        wrong("WEIGHT", "expected a weight as in 81.4, 81.4kg, 179lb or \"12st 11lb\"", run.options.weight).value()};
+  const BodyWeightSample sample{adapters::LocalUUIDGenerator{}.next(), run.dateOrNow("--at", run.options.at),
+                                *weightInKg};
+  run.check(sample);
+  host::Database database = run.open();
+  database.apply(host::adding(sample));
+  return answer(run, translatable("Added {1}"), sample, database.history().weights);
+}
+
+std::string remove(const RecordRun& run) {
+  host::Database database = run.open();
+  const auto weights = database.history().weights;
+  const BodyWeightSample sample = weights[placeOf(run, idsOf(weights), "weight")];
+  database.apply(host::removing(sample));
+  return answer(run, translatable("Removed {1}"), sample, weights);
+}
+
+std::string list(const RecordRun& run) {
+  const auto asJson = readFormat(run.options.format);
+  if (!asJson) throw Refused{wrongUsage, asJson.error()};
+  host::History history = run.history();
+  history.fasts.clear();
+  return *asJson ? writeSnapshot(history) : weightTable(history.weights, run);
+}
+
+}  // namespace
+
+int runWeightAdd(const RecordOptions& options) { return runRecordCommand(options, add); }
+int runWeightList(const RecordOptions& options) { return runRecordCommand(options, list); }
+int runWeightRemove(const RecordOptions& options) { return runRecordCommand(options, remove); }
+
+}  // namespace mivo::cli

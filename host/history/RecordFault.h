@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <optional>
+
+#include "host/history/History.h"
+
+namespace mivo::host {
+
+/// Why a record that a user enters cannot be kept.
+enum class RecordFault {
+  startOutOfRange,  ///< outside the years 1 to 9999
+  startInFuture,
+  endOutOfRange,
+  endBeforeStart,
+  endInFuture,
+  goalOutOfRange,  ///< negative, or more than `largestGoalHours`
+  noteTooLong,     ///< or not UTF-8
+  dateOutOfRange,  ///< of a weighing
+  dateInFuture,
+  weightOutOfRange,  ///< not above 0, or more than `largestWeightInKg`
+};
+
+/// The first fault of a record, if it has one. Nobody records what has not happened yet, so a date after `now` is one:
+/// it is a slip of the pen, or the clock is wrong. Files may bring such dates; only what is typed in is held to this.
+std::optional<RecordFault> recordFault(const FastRecord& record, Date now);
+std::optional<RecordFault> recordFault(const BodyWeightSample& sample, Date now);
+
+}  // namespace mivo::host

@@ -1,0 +1,121 @@
+// SPDX-License-Identifier: MIT
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "host/database/Database.h"
+#include "tests/cli_support/MivoProcess.h"
+
+namespace mivo::cli {
+namespace {
+
+constexpr int badData = 1, wrongUsage = 2;
+
+/// One fast that ended, one that runs, one weight; the fasts' ids begin with 11 and 12, the weight's with 21.
+host::HistoryChange someRecords() {
+  const Date start = dateSince1970(1772222400);  // 2026-02-27 20:00 UTC
+  host::HistoryChange change;
+  change.addedFasts = {{finishedFast({0x1100000000004000, 1}, start, start + Duration{57600}, 57600), ""},
+                       {ongoingFast({0x1200000000004000, 2}, start + Duration{86400}, 57600), ""}};
+  change.addedWeights = {{{0x2100000000004000, 3}, start, 81.4}};
+  return change;
+}
+
+struct ErrorRow {
+  const char* name;
+  std::string arguments, errors;
+  int status = badData;
+};
+void PrintTo(const ErrorRow& row, std::ostream* out) { *out << row.name; }
+class RecordErrors : public testing::TestWithParam<ErrorRow> {};
+
+TEST_P(RecordErrors, areOneSentenceAndChangeNothing) {
+  const Workplace place;
+  host::Database{place.file("d")}.apply(someRecords());
+  const auto before = host::Database{place.file("d")}.history();
+  const Ran ran = place.run(GetParam().arguments + " --database d");
+  EXPECT_THAT(ran.errors, testing::MatchesRegex("mivo: " + GetParam().errors + "\n"));
+  EXPECT_EQ(ran.status, GetParam().status);
+  EXPECT_EQ(ran.output, "");
+  EXPECT_EQ(host::Database{place.file("d")}.history(), before);
+}
+
+const std::string now = "2[0-9-]+ [0-9:]+";
+const std::string notADate = "expected a date and time of the years 1 to 9999, as in 2026-03-01T12:00:00Z, found ";
+
+INSTANTIATE_TEST_SUITE_P(
+    Data, RecordErrors,
+    testing::Values(
+        ErrorRow{"secondFast", "start",
+                 "a fast is running since 2026-02-28 20:00: expected mivo stop before another one starts"},
+        ErrorRow{"stopBeforeStart", "stop --at 2026-02-28T19:00Z",
+                 "the fast is running since 2026-02-28 20:00, after 2026-02-28 19:00: expected a time since then"},
+        ErrorRow{"stopInFuture", "stop --at 2526-02-28T19:00Z",
+                 "the fast would end in the future: expected a time up to now, " + now + "; is the clock right\\?"},
+        ErrorRow{"startInFuture", "start --at 2526-02-28T19:00Z",
+                 "the fast would start in the future: expected a time up to now, " + now + "; is the clock right\\?"},
+        ErrorRow{"weightInFuture", "weight add 81 --at 2526-02-28T19:00Z",
+                 "the weight would be of the future: expected a time up to now, " + now + "; is the clock right\\?"},
+        ErrorRow{"endBeforeStart", "add 2026-02-02T00:00Z 2026-02-01T00:00Z",
+                 "the fast would end before it starts: expected an end after the start"},
+        ErrorRow{"editedEndBeforeStart", "edit 11 --end 2026-02-27T19:00Z",
+                 "the fast would end before it starts: expected an end after the start"},
+        ErrorRow{"secondRunningByEdit", "edit 11 --running",
+                 "another fast is running since 2026-02-28 20:00: expected mivo stop before this one runs on"},
+        ErrorRow{"unknownID", "remove 13", "no fast has an id that begins with \"13\""},
+        ErrorRow{"unknownWeight", "weight remove 11", "no weight has an id that begins with \"11\""},
+        ErrorRow{"ambiguousID", "remove 1", "2 fasts have an id that begins with \"1\": expected more of it"}),
+    [](const auto& row) { return std::string{row.param.name}; });
+
+INSTANTIATE_TEST_SUITE_P(
+    Usage, RecordErrors,
+    testing::Values(
+        ErrorRow{"noDate", "start --at noon", "--at: " + notADate + "\"noon\"", wrongUsage},
+        ErrorRow{"dayAlone", "stop --at 2026-03-01", "--at: " + notADate + "\"2026-03-01\"", wrongUsage},
+        ErrorRow{"yearTooLate", "add 2026-02-02T00:00Z 10000-01-01T00:00Z",
+                 "END: " + notADate + "\"10000-01-01T00:00Z\"", wrongUsage},
+        ErrorRow{"noSuchDay", "edit 11 --start '2026-02-30 12:00'", "--start: " + notADate + "\"2026-02-30 12:00\"",
+                 wrongUsage},
+        ErrorRow{"negativeGoal", "edit 11 --goal-hours=-1",
+                 "--goal-hours: expected hours from 0 to 87660000, as in 16 or 16.5, found \"-1\"", wrongUsage},
+        ErrorRow{"nothingToChange", "edit 11",
+                 "nothing to change: expected --start, --end, --running, --goal-hours or --note", wrongUsage},
+        ErrorRow{"noID", "remove last",
+                 "ID: expected the beginning of an id, digits and the letters a to f, found \"last\"", wrongUsage},
+        ErrorRow{"noWeight", "weight add heavy",
+                 "WEIGHT: expected a weight as in 81.4, 81.4kg, 179lb or \"12st 11lb\", found \"heavy\"", wrongUsage},
+        ErrorRow{"tooManyPounds", "weight add '12st 14lb'",
+                 "WEIGHT: expected a weight as in 81.4, 81.4kg, 179lb or \"12st 11lb\", found \"12st 14lb\"",
+                 wrongUsage},
+        ErrorRow{"grams", "weight add 81400", "WEIGHT: expected kilograms above 0 and at most 1000, found \"81400\"",
+                 wrongUsage},
+        ErrorRow{"badNote", "edit 11 --note \"$(printf '\\377')\"",
+                 "--note: expected UTF-8 text of at most 65536 bytes", wrongUsage},
+        ErrorRow{"format", "list --format xml", "--format: expected text or json, found \"xml\"", wrongUsage},
+        ErrorRow{"zone", "list --time-zone Europe/Berln",
+                 "--time-zone: unknown time zone \"Europe/Berln\": did you mean Europe/Berlin\\?", wrongUsage},
+        ErrorRow{"unknownOption", "weight add 81 --kg", ".*--kg.*\\(mivo weight add --help tells what can\\)",
+                 wrongUsage},
+        ErrorRow{"noCommandOfWeight", "weight", ".*\\(mivo weight --help tells what can\\)", wrongUsage}),
+    [](const auto& row) { return std::string{row.param.name}; });
+
+TEST(RecordErrors, aClockThatWasSetBackLosesNothing) {
+  const Workplace place;
+  host::HistoryChange change;
+  change.addedFasts = {{ongoingFast({1, 1}, dateSince1970(16e9), 57600), ""}};  // of the year 2477
+  host::Database{place.file("d")}.apply(change);
+  const Ran ran = place.run("stop --database d");
+  EXPECT_EQ(ran.status, badData);
+  EXPECT_THAT(ran.errors, testing::MatchesRegex("mivo: the fast is running since 2477-.*, after " + now +
+                                                ": expected a time since then; was the clock set back\\?\n"));
+  EXPECT_EQ(place.run("edit 0000 --note 'clock was wrong' --database d").status, 0);
+  EXPECT_EQ(host::Database{place.file("d")}.history().fasts[0].fast.start, dateSince1970(16e9));
+}
+
+TEST(RecordErrors, nameAFileThatIsNoDatabase) {
+  const Workplace place;
+  EXPECT_EQ(place.run("list --database none.sqlite").errors, "mivo: none.sqlite: expected a database of the app\n");
+  EXPECT_THAT(place.run("start --database /proc/none/d").errors, testing::HasSubstr("/proc/none"));
+}
+
+}  // namespace
+}  // namespace mivo::cli
