@@ -21,6 +21,11 @@ std::string dateText(Date date, const RecordRun& run) {
   return run.formatters.dateFormatter->string(date, "yMMMdjm").value_or("");
 }
 
+/// In digits: whole histories are read in columns.
+std::string shortDateText(Date date, const RecordRun& run) {
+  return run.formatters.dateFormatter->string(date, "yMdjm").value_or("");
+}
+
 std::string durationText(double seconds, const RecordRun& run) {
   return run.formatters.hourMinDurationUnitFormatter->string(seconds).value_or("");
 }
@@ -135,8 +140,8 @@ std::string fastTable(const std::vector<host::FastRecord>& fasts, const RecordRu
   const std::vector<bool> overlapping = host::overlappingFasts(fasts, run.now);
   for (std::size_t index = 0; index < fasts.size(); ++index) {
     const auto& [fast, note] = fasts[index];
-    const std::string end = fast.finished ? dateText(fast.finished->end, run) : texts.text("running");
-    table.add({ids.text(fast.id), dateText(fast.start, run), end, durationText(length(fast, run.now), run),
+    const std::string end = fast.finished ? shortDateText(fast.finished->end, run) : texts.text("running");
+    table.add({ids.text(fast.id), shortDateText(fast.start, run), end, durationText(length(fast, run.now), run),
                goalText(fast.goalSeconds, run), overlapping[index] ? "!" : "", note});
   }
   std::string page = table.text(Paint::forStandardOutput());
@@ -152,7 +157,7 @@ std::string weightTable(const std::vector<BodyWeightSample>& weights, const Reco
   Table table{{"ID", texts.text("Date"), texts.text("Weight"), ""}, {left, right, right, left}};
   const ShortIDs ids = idsOf(weights);
   for (const BodyWeightSample& sample : weights)
-    table.add({ids.text(sample.id), dateText(sample.date, run), weightText(sample.weightInKg, run), ""});
+    table.add({ids.text(sample.id), shortDateText(sample.date, run), weightText(sample.weightInKg, run), ""});
   return table.text(Paint::forStandardOutput());
 }
 
