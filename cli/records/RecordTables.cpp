@@ -134,15 +134,15 @@ std::string fastTable(const std::vector<host::FastRecord>& fasts, const RecordRu
   const TextLookup& texts = *run.texts;
   if (fasts.empty()) return texts.text("No fasts yet.") + '\n';
   Table table{
-      {"ID", texts.text("Start"), texts.text("End"), texts.text("Length"), texts.text("Goal"), "", texts.text("Note")},
-      {left, right, right, right, right, left, left}};
+      {"ID", texts.text("Start"), texts.text("End"), texts.text("Length"), texts.text("Goal"), texts.text("Note")},
+      {left, right, right, right, right, left}};
   const ShortIDs ids = idsOf(fasts);
   const std::vector<bool> overlapping = host::overlappingFasts(fasts, run.now);
   for (std::size_t index = 0; index < fasts.size(); ++index) {
     const auto& [fast, note] = fasts[index];
     const std::string end = fast.finished ? shortDateText(fast.finished->end, run) : texts.text("running");
     table.add({ids.text(fast.id), shortDateText(fast.start, run), end, durationText(length(fast, run.now), run),
-               goalText(fast.goalSeconds, run), overlapping[index] ? "!" : "", note});
+               goalText(fast.goalSeconds, run), (overlapping[index] ? "! " : "") + note});
   }
   std::string page = table.text(Paint::forStandardOutput());
   if (std::ranges::find(overlapping, true) != overlapping.end())

@@ -32,14 +32,14 @@ TEST(RecordList, standsInColumns) {
   auto records = someRecords();
   records.addedFasts.pop_back();  // its length is another every minute
   EXPECT_EQ(list("list --locale en-DE --time-zone Europe/Berlin", records).output,
-            "ID                Start                End    Length  Goal     Note\n"
-            "1a00  27/02/2026, 21:00  28/02/2026, 13:00    16h 0m   16h  !  no breakfast\n"
-            "1b00  28/02/2026, 12:00  04/03/2026, 21:45  105h 45m   18h  !  two…\n"
+            "ID                Start                End    Length  Goal  Note\n"
+            "1a00  27/02/2026, 21:00  28/02/2026, 13:00    16h 0m   16h  ! no breakfast\n"
+            "1b00  28/02/2026, 12:00  04/03/2026, 21:45  105h 45m   18h  ! two…\n"
             "\n! overlaps another fast\n");
   EXPECT_EQ(list("weight list --locale en-DE --time-zone Europe/Berlin").output,
             "ID                 Date    Weight\n"
-            "2a00  27/02/2026, 21:00   81.4 kg\n"
-            "2b00  28/02/2026, 21:00  101.3 kg\n");
+            "2a00  27/02/2026, 21:00   81,4 kg\n"
+            "2b00  28/02/2026, 21:00  101,3 kg\n");
 }
 
 TEST(RecordList, fits80ColumnsInEveryLanguage) {
