@@ -16,9 +16,16 @@ FocusScope {
 
     visible: progress > 0
     enabled: open
+    /// What had the keys before it opened gets them back.
+    property Item before: null
+
     onOpenChanged: {
-        if (open)
+        if (open) {
+            before = Window.activeFocusItem;
             forceActiveFocus();
+        } else if (before) {
+            Qt.callLater(before.forceActiveFocus);
+        }
     }
 
     Behavior on progress {
@@ -43,6 +50,8 @@ FocusScope {
             anchors.fill: parent
             active: root.visible
             focus: true
+            // The keys are the page's from its first moment on: Escape goes back.
+            onLoaded: (item as Item).forceActiveFocus()
         }
     }
 }
