@@ -228,12 +228,12 @@ TEST_F(VoteClient, oddButValidNamesAreSentAsTheyAre) {
 }
 
 TEST_F(VoteClient, featuresAreAskedBesideEachOther) {
-  constexpr int count = 6;
+  constexpr std::size_t count = 6;
   serve([](const std::string& target) { return tests::ok("{\"value\": " + target.substr(target.size() - 1) + "}"); });
   std::vector<std::int64_t> counts(count);
   {
     std::vector<std::jthread> threads;
-    for (int number = 0; number < count; ++number)
+    for (std::size_t number = 0; number < count; ++number)
       threads.emplace_back([&, number] {
         const DependencyScope own{dependencies};
         counts[number] = voter.fetch({std::to_string(number), "", "", ""}, {});

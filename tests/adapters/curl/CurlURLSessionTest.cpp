@@ -129,8 +129,8 @@ TEST_F(CurlURLSessionTest, stopsWhileItWaits) {
 }
 
 TEST_F(CurlURLSessionTest, threadsAskBesideEachOther) {
-  constexpr int count = 8;
-  std::latch allAsked{count};
+  constexpr std::size_t count = 8;
+  std::latch allAsked{static_cast<std::ptrdiff_t>(count)};
   const HttpServer meeting{[&](const std::string& target) {
     allAsked.arrive_and_wait();
     return tests::ok(target);
@@ -139,12 +139,12 @@ TEST_F(CurlURLSessionTest, threadsAskBesideEachOther) {
   {
     const CurlURLSession patient;
     std::vector<std::jthread> threads;
-    for (int thread = 0; thread < count; ++thread)
+    for (std::size_t thread = 0; thread < count; ++thread)
       threads.emplace_back(
           [&, thread] { answers[thread] = patient.data(meeting.address() + "/" + std::to_string(thread), {}); });
     threads.clear();
   }
-  for (int thread = 0; thread < count; ++thread) EXPECT_EQ(answers[thread], "/" + std::to_string(thread));
+  for (std::size_t thread = 0; thread < count; ++thread) EXPECT_EQ(answers[thread], "/" + std::to_string(thread));
 }
 
 class CurlCertificates : public testing::Test {

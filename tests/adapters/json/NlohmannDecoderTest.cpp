@@ -72,7 +72,7 @@ TEST(NlohmannDecoder, refusesWhatIsNotOneText) {
 }
 
 TEST(NlohmannDecoder, refusesWhatIsNestedTooDeeply) {
-  const auto nested = [](int levels) { return std::string(levels, '[') + std::string(levels, ']'); };
+  const auto nested = [](std::size_t levels) { return std::string(levels, '[') + std::string(levels, ']'); };
   EXPECT_NO_THROW(NlohmannDecoder{}.decoded(nested(64)));
   EXPECT_THROW(NlohmannDecoder{}.decoded(nested(65)), DecodingError);
   EXPECT_THROW(NlohmannDecoder{}.decoded(std::string(1'000'000, '[')), DecodingError);

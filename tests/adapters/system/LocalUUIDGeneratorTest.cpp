@@ -19,14 +19,14 @@ TEST(LocalUUIDGenerator, makesVersion4WithTheRestRandom) {
   for (const UUID& id : ids) {
     EXPECT_EQ(text(id)[14], '4');
     EXPECT_NE(std::string{"89AB"}.find(text(id)[19]), std::string::npos);
-    for (int bit = 0; bit < 64; ++bit) {
+    for (std::size_t bit = 0; bit < 64; ++bit) {
       highOnes[bit] += static_cast<int>(id.high >> bit & 1);
       lowOnes[bit] += static_cast<int>(id.low >> bit & 1);
     }
   }
   // A fair coin thrown 4096 times is off by 8 standard deviations once in 10^15 runs.
   const auto isFair = [](int ones) { return std::abs(ones - count / 2) < 8 * 32; };
-  for (int bit = 0; bit < 64; ++bit) {
+  for (std::size_t bit = 0; bit < 64; ++bit) {
     if (bit < 12 || bit > 15) {
       EXPECT_TRUE(isFair(highOnes[bit])) << bit << ": " << highOnes[bit];
     }

@@ -44,8 +44,6 @@ TEST_P(BadLines, areNamedWithTheirField) {
   EXPECT_EQ(faultOf([&] { readCounts(in, "c.jsonl"); }), GetParam().fault);
 }
 
-constexpr auto good = R"({"counter":"a/feature1","value":7})";
-
 INSTANTIATE_TEST_SUITE_P(
     Rows, BadLines,
     testing::Values(BadLineRow{"notJson", "\nfeature1 7", "c.jsonl:2: expected an object with counter and value"},
