@@ -3,8 +3,9 @@ add_library(mivo_warnings INTERFACE)
 target_compile_options(mivo_warnings INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion)
 if(CMAKE_CXX_COMPILER_ID STREQUAL GNU AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13
    AND (MIVO_SANITIZE OR NOT CMAKE_BUILD_TYPE STREQUAL "Debug"))
-  # It takes copied variants and optionals for uninitialised as soon as it optimises.
-  target_compile_options(mivo_warnings INTERFACE -Wno-maybe-uninitialized)
+  # As soon as it optimises it takes copied variants and optionals for uninitialised, and `"a" + text` for a copy onto
+  # itself.
+  target_compile_options(mivo_warnings INTERFACE -Wno-maybe-uninitialized -Wno-restrict)
 endif()
 if(CMAKE_CXX_COMPILER_ID MATCHES Clang)
   # The stable_sort of GCC 12's library calls what that library deprecates.
