@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: MIT
+#include <sys/mman.h>
+
+#include <cstddef>
+#include <cstdint>
+#include <cstdlib>
+#include <new>
+
+// Takes large blocks in pages of 2 MiB where the kernel has them. A million fasts fill 350 MB over a run, and 86,000
+// pages of 4 KiB cost more than all that is done with their contents: 1.9 s instead of 0.5 s.
+
+namespace {
+
+constexpr std::size_t largePage = std::size_t{1} << 21;
+
+void* block(std::size_t size) {
+  if (size < 2 * largePage || size > PTRDIFF_MAX) return std::malloc(size > 0 ? size : 1);
+  const std::size_t wholePages = (size + largePage - 1) / largePage * largePage;
+  void* const memory = std::aligned_alloc(largePage, wholePages);
+  if (memory) ::madvise(memory, wholePages, MADV_HUGEPAGE);  // a hint: without it the block is as good
+  return memory;
+}
+
+}  // namespace
+
+void* operator new(std::size_t size) {
+  for (;;) {
+    if (void* const memory = block(size)) return memory;
+    const std::new_handler handler = std::get_new_handler();
+    if (!handler) throw std::bad_alloc{};
+    handler();
+  }
+}
+
+void operator delete(void* memory) noexcept { std::free(memory); }
+void operator delete(void* memory, std::size_t) noexcept { std::free(memory); }
