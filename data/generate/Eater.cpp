@@ -68,7 +68,11 @@ sys_seconds Eater::start(local_days day) {
 seconds Eater::length(local_days day) {
   const seconds goal = habits[current].goal;
   if (dice.oneIn(330)) return hours{72} + minutes{dice.between(-90, 300)};
-  if (dice.oneIn(55)) return (dice.oneIn(3) ? hours{36} : hours{24}) + minutes{dice.between(-60, 150)};
+  if (dice.oneIn(55)) {
+    const minutes scatter{
+        dice.between(-60, 150)};  // drawn in a statement of its own: compilers order operands differently
+    return (dice.oneIn(3) ? hours{36} : hours{24}) + scatter;
+  }
   if (dice.oneIn(11)) return goal - minutes{dice.between(50, 290)};  // broken off
   const seconds usual = goal + minutes{42} + seconds{dice.bell(seconds{minutes{35}}.count())};
   return isWeekendNight(day) ? usual - minutes{50} : usual;

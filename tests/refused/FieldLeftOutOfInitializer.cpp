@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // error: use of deleted function
-// error: call to deleted constructor of 'Observed
+// error: call to deleted constructor of
 #include "mivo/store/Observed.h"
 
 struct Stats {

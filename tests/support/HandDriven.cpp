@@ -54,6 +54,12 @@ void HandDrivenQueue::advance(Duration time) const {
   passed = until;
 }
 
+void HandDrivenQueue::clear() const {
+  const std::scoped_lock lock{mutex};
+  works.clear();
+  delayed.clear();
+}
+
 void HandDrivenTasks::runAll() const {
   while (!tasks.empty()) {
     const auto task = std::move(tasks.front());

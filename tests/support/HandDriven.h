@@ -27,6 +27,7 @@ class HandDrivenQueue final : public MainQueue {
   void runAll() const;
   /// Lets time pass: posts the delayed work that is due by then, and runs all.
   void advance(Duration time) const;
+  void clear() const;
 
  private:
   struct Delayed {
@@ -47,6 +48,7 @@ class HandDrivenTasks final : public TaskRunner {
 
   std::size_t count() const { return tasks.size(); }
   void runAll() const;
+  void clear() const { tasks.clear(); }
 
  private:
   mutable std::deque<std::function<void()>> tasks;

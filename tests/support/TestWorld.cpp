@@ -16,4 +16,9 @@ TestWorld::TestWorld() {
   dependencies.issueReporter = std::make_shared<FailingIssues>();
 }
 
+TestWorld::~TestWorld() {
+  queue->clear();
+  tasks->clear();
+}
+
 }  // namespace mivo::tests

@@ -24,6 +24,8 @@ struct FailingIssues : IssueReporter {
 /// program with a sentence.
 struct TestWorld {
   TestWorld();
+  /// Lets go of what never ran: it may hold the dependencies, which hold the queue and the tasks.
+  ~TestWorld();
   DependencyScope enter() const { return DependencyScope{std::make_shared<const Dependencies>(dependencies)}; }
 
   Dependencies dependencies = fixedDependencies();
