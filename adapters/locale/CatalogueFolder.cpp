@@ -22,7 +22,7 @@ fs::path catalogueFolder() {
 fs::path catalogueFolder(const fs::path& programFolder) {
   for (fs::path above = programFolder;; above = above.parent_path()) {
     std::error_code unreadable;
-    const fs::path folder = above / "share" / "locale";
+    fs::path folder = above / "share" / "locale";
     if (fs::exists(folder / oneCatalogue, unreadable)) return folder;
     if (above == above.parent_path()) return {};
   }

@@ -133,8 +133,8 @@ struct FileUserDefaults::Scope {
   }
 };
 
-FileUserDefaults::FileUserDefaults(fs::path file) : scope{std::make_unique<Scope>()} {
-  scope->file = fs::absolute(std::move(file));
+FileUserDefaults::FileUserDefaults(const fs::path& file) : scope{std::make_unique<Scope>()} {
+  scope->file = fs::absolute(file);
 }
 
 FileUserDefaults::~FileUserDefaults() = default;

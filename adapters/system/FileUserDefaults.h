@@ -19,7 +19,7 @@ namespace mivo::adapters {
 /// Thread: any. Cost: a value costs one look at the file's date, a write two waits for the disk.
 class FileUserDefaults final : public UserDefaults {
  public:
-  explicit FileUserDefaults(std::filesystem::path file);
+  explicit FileUserDefaults(const std::filesystem::path& file);
   ~FileUserDefaults() override;
 
   std::optional<Value> value(std::string_view key) const override;

@@ -54,6 +54,7 @@ struct CountedFeature {
 std::vector<CountedFeature> countedFeatures(const std::vector<RoadmapFeature>& features, const FeatureVoter& voter,
                                             const RoadmapVotes& own) {
   std::vector<CountedFeature> counted;
+  counted.reserve(features.size());
   for (const RoadmapFeature& feature : features) counted.push_back({feature, own.isVoted(feature.id)});
   std::latch remaining{static_cast<std::ptrdiff_t>(counted.size())};
   const adapters::ThreadPool threads{8};

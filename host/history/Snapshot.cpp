@@ -117,8 +117,9 @@ class SnapshotReader {
       fail(tokenHere(), "expected UTF-8 text");
       return tl::unexpected{std::move(*fault)};
     }
-    const char* const end = text.data() + text.size();
-    Json::sax_parse(TrackedCharacter{text.data(), reached}, TrackedCharacter{end, reached}, this);
+    const char* const begin = text.data();
+    const char* const end = begin + text.size();
+    Json::sax_parse(TrackedCharacter{begin, reached}, TrackedCharacter{end, reached}, this);
     if (fault) return tl::unexpected{std::move(*fault)};
     sortByDate(history.weights);
     return std::move(history);

@@ -30,6 +30,7 @@ std::vector<RoadmapFeature> loadedFeatures(const RoadmapConfiguration& configura
 
 List<RoadmapRow> rowsOf(const std::vector<RoadmapFeature>& features, const RoadmapVotes& votes) {
   std::vector<RoadmapRow> rows;
+  rows.reserve(features.size());
   for (const RoadmapFeature& feature : features)
     rows.push_back({.feature = feature, .isVoted = votes.isVoted(feature.id)});
   return rows;

@@ -13,7 +13,7 @@ constexpr std::chrono::seconds longestWait{5};
 
 template <class Next>
 auto RedisLink::step(Next next) {
-  return [self = shared_from_this(), next = std::move(next)](error_code error, auto... results) {
+  return [self = shared_from_this(), next = std::move(next)](error_code error, const auto&... results) {
     if (self->isClosed_) return;
     if (error == asio::error::eof) return self->lose("it closed the connection");
     if (error) return self->lose(error.message());

@@ -50,7 +50,7 @@ class RedisLink : public std::enable_shared_from_this<RedisLink> {
   asio::steady_timer deadline_;
   std::optional<Stream> stream_;
   RedisReplyReader reader_;
-  std::array<char, 16 * 1024> bytes_{};
+  std::array<char, std::size_t{16} * 1024> bytes_{};
   std::string commands_;
   Replies replies_;
   std::size_t expected_ = 0;
