@@ -53,8 +53,7 @@ class RecordRun {
   /// Refuses a record that cannot be kept. A fault that it had before an edit is left in peace.
   template <class Record>
   void check(const Record& record, const std::optional<Record>& before = {}) const {
-    const auto fault = host::recordFault(record, now);
-    if (fault && (!before || host::recordFault(*before, now) != fault)) refuse(*fault);
+    if (const auto fault = host::recordFault(record, before, now)) refuse(*fault);
   }
 
   /// What the user chose in the app, or what people weigh themselves in where they live.

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "host/app/FaultText.h"
 #include "host/app/Settings.h"
 #include "host/overlaps/OverlapRepair.h"
 #include "mivo/calculations/StatsContainer.h"
@@ -105,20 +106,26 @@ auto AppFeature::on(State& state, const Action::recompute&) const -> Effect<Acti
   return {};
 }
 
-auto AppFeature::on(State&, const Action::didTapStart& tapped) const -> Effect<Action> {
-  return write(Step::start, adding({mivo::ongoingFast(uuid->next(), tapped.start, tapped.goalSeconds), {}}));
+auto AppFeature::on(State& state, const Action::didTapStart& tapped) const -> Effect<Action> {
+  FastRecord begun{mivo::ongoingFast(uuid->next(), tapped.start, tapped.goalSeconds), {}};
+  if (auto sentence = refusal(state, begun)) return refuse(state, std::move(*sentence));
+  return write(Step::start, adding(std::move(begun)));
 }
 
 auto AppFeature::on(State& state, const Action::didTapStop& tapped) const -> Effect<Action> {
   const FastRecord* running = state.runningFast();
   if (!running) return {};
-  return write(Step::stop, replacing(*running, stopped(*running, tapped.end)));
+  FastRecord ended = stopped(*running, tapped.end);
+  if (auto sentence = refusal(state, ended)) return refuse(state, std::move(*sentence));
+  return write(Step::stop, replacing(*running, std::move(ended)));
 }
 
 auto AppFeature::on(State& state, const Action::didSaveFast& saved) const -> Effect<Action> {
   const FastRecord* before = find(state.fasts, saved.record.fast.id);
+  if (before && *before == saved.record) return {};
+  if (auto sentence = refusal(state, saved.record, before ? std::optional{*before} : std::nullopt))
+    return refuse(state, std::move(*sentence));
   if (!before) return write(Step::add, adding(saved.record));
-  if (*before == saved.record) return {};
   return write(Step::edit, replacing(*before, saved.record));
 }
 
@@ -147,13 +154,28 @@ auto AppFeature::on(State& state, const Action::didCancelOverlapRepair&) const -
 
 auto AppFeature::on(State& state, const Action::didTapUndo&) const -> Effect<Action> {
   if (!*state.undo) return {};
-  HistoryChange change = (*state.undo)->change;
+  UndoOffer offer = **state.undo;
   state.undo = std::nullopt;
-  return write(Step::undo, std::move(change));
+  return Effect<Action>::run(
+      [](const Send<Action>& send, std::stop_token, const Client<HistoryClient>& client, const UndoOffer& offered) {
+        try {
+          client->apply(offered.change);
+        } catch (const std::exception& error) {
+          return send(Action::didFailToUndo{offered, error.what()});
+        }
+        send(Action::didWrite{Step::undo, offered.change});
+      },
+      history, std::move(offer));
+}
+
+auto AppFeature::on(State& state, const Action::didFailToUndo& failed) const -> Effect<Action> {
+  state.undo = failed.offer;
+  state.failure = failed.sentence;
+  return {};
 }
 
 auto AppFeature::on(State& state, const Action::didDismissMessages&) const -> Effect<Action> {
-  state.undo = std::nullopt;
+  if (state.failure->empty()) state.undo = std::nullopt;
   state.failure = std::string{};
   return {};
 }
@@ -214,15 +236,32 @@ auto AppFeature::write(Step step, HistoryChange change) const -> Effect<Action> 
       history, step, std::move(change));
 }
 
+// A running fast whose start lies ahead, because the clock was set back, cannot be stopped: it is kept as it is.
+std::optional<std::string> AppFeature::refusal(const State& state, const FastRecord& record,
+                                               const std::optional<FastRecord>& before) const {
+  const FastRecord* running = state.runningFast();
+  if (!record.fast.finished && running && running->fast.id != record.fast.id)
+    return texts->text("A fast is running already.");
+  const auto fault = recordFault(record, before, date->now());
+  return fault ? std::optional{faultText(*fault, *texts)} : std::nullopt;
+}
+
+Effect<Action> AppFeature::refuse(State& state, std::string sentence) const {
+  state.failure = std::move(sentence);
+  return {};
+}
+
 void AppFeature::recompute(State& state) const {
   auto& screen = state.statistics;
+  const Date present = date->now();
   const FastRecord* running = state.runningFast();
-  const auto ongoing = running ? std::optional{running->fast} : std::nullopt;
+  // One that lies ahead, because the clock was set back, has not begun for the statistics.
+  const auto ongoing = running && running->fast.start <= present ? std::optional{running->fast} : std::nullopt;
   StatsContainer fresh = screen.stats.copy();
   fresh.update(*screen.fasts, ongoing, screen.streakSettings, screen.timeRange);
   screen.updateFastingChart(fresh);
   screen.updateWeightChart(StatsContainer::update(*state.weights));
-  state.now = date->now();
+  state.now = present;
 }
 
 }  // namespace mivo::host

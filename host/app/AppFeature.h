@@ -15,7 +15,8 @@ namespace mivo::host {
 /// The whole app without a screen: owns the fasts and weights, keeps them in the database, and recomputes the
 /// statistics whenever they, the settings or the time change.
 ///
-/// A record appears in the state once it is on disk, never before. What fails is said in `failure` and changes nothing.
+/// A record appears in the state once it is on disk, never before. What fails is said in `failure` and changes nothing;
+/// nor does what no record can be (a `RecordFault`, a second running fast), whichever screen sends it.
 struct AppFeature {
   /// What the user did, for the texts of undo and failure.
   enum class Step { start, stop, edit, add, remove, addWeight, removeWeight, repairOverlaps, undo };
@@ -93,6 +94,13 @@ struct AppFeature {
     struct didTapUndo {
       bool operator==(const didTapUndo&) const = default;
     };
+    /// What was not undone can still be.
+    struct didFailToUndo {
+      UndoOffer offer;
+      std::string sentence;
+      bool operator==(const didFailToUndo&) const = default;
+    };
+    /// The failure, and without one the offer to undo.
     struct didDismissMessages {
       bool operator==(const didDismissMessages&) const = default;
     };
@@ -106,7 +114,7 @@ struct AppFeature {
                   std::variant<Cases::statistics, Cases::reload, Cases::didLoad, Cases::didFail, Cases::recompute,
                                Cases::didTapStart, Cases::didTapStop, Cases::didSaveFast, Cases::didDeleteFast,
                                Cases::didDeleteWeight, Cases::didConfirmOverlapRepair, Cases::didCancelOverlapRepair,
-                               Cases::didTapUndo, Cases::didDismissMessages, Cases::didWrite> {
+                               Cases::didTapUndo, Cases::didFailToUndo, Cases::didDismissMessages, Cases::didWrite> {
     using variant::variant;
   };
 
@@ -114,6 +122,7 @@ struct AppFeature {
   Client<DateGenerator> date = dependency(&Dependencies::date);
   Client<UUIDGenerator> uuid = dependency(&Dependencies::uuid);
   Client<UserDefaults> userDefaults = dependency(&Dependencies::userDefaults);
+  Client<TextLookup> texts = dependency(&Dependencies::texts);
   StatisticsFeature statistics = {};
 
   Effect<Action> reduce(State& state, const Action& action) const;
@@ -132,11 +141,15 @@ struct AppFeature {
   Effect<Action> on(State& state, const Action::didConfirmOverlapRepair& sent) const;
   Effect<Action> on(State& state, const Action::didCancelOverlapRepair& sent) const;
   Effect<Action> on(State& state, const Action::didTapUndo& sent) const;
+  Effect<Action> on(State& state, const Action::didFailToUndo& sent) const;
   Effect<Action> on(State& state, const Action::didDismissMessages& sent) const;
   Effect<Action> on(State& state, const Action::didWrite& sent) const;
   void takeSettings(State& state) const;
   Effect<Action> saveWeight(const State& state) const;
   Effect<Action> write(Step step, HistoryChange change) const;
+  std::optional<std::string> refusal(const State& state, const FastRecord& record,
+                                     const std::optional<FastRecord>& before = {}) const;
+  Effect<Action> refuse(State& state, std::string sentence) const;
   void recompute(State& state) const;
 };
 

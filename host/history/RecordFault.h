@@ -26,4 +26,11 @@ enum class RecordFault {
 std::optional<RecordFault> recordFault(const FastRecord& record, Date now);
 std::optional<RecordFault> recordFault(const BodyWeightSample& sample, Date now);
 
+/// The same for an edit of `before`, where there is one: a fault that the record had already is left in peace.
+template <class Record>
+std::optional<RecordFault> recordFault(const Record& record, const std::optional<Record>& before, Date now) {
+  const auto fault = recordFault(record, now);
+  return fault && before && recordFault(*before, now) == fault ? std::nullopt : fault;
+}
+
 }  // namespace mivo::host

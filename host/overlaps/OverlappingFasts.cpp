@@ -7,21 +7,31 @@
 
 namespace mivo::host {
 
-std::vector<bool> overlappingFasts(const std::vector<FastRecord>& fasts, Date now) {
+std::vector<std::optional<std::size_t>> overlapPartners(const std::vector<FastRecord>& fasts, Date now) {
   const auto startOf = [](const FastRecord& record) { return record.fast.start; };
   assert(std::ranges::is_sorted(fasts, {}, startOf));
-  std::vector<bool> overlapping(fasts.size());
+  std::vector<std::optional<std::size_t>> partners(fasts.size());
   std::size_t furthest = fasts.size();  // the one before that ends last
   Date furthestEnd = firstDate;
   for (std::size_t index = 0; index < fasts.size(); ++index) {
     const Date start = startOf(fasts[index]);
     const Date end = fasts[index].fast.finished ? fasts[index].fast.finished->end : now;
     if (end <= start) continue;
-    if (furthest < fasts.size() && start < furthestEnd) overlapping[furthest] = overlapping[index] = true;
+    if (furthest < fasts.size() && start < furthestEnd) {
+      partners[index] = furthest;
+      if (!partners[furthest]) partners[furthest] = index;
+    }
     if (furthest < fasts.size() && end <= furthestEnd) continue;
     furthest = index;
     furthestEnd = end;
   }
+  return partners;
+}
+
+std::vector<bool> overlappingFasts(const std::vector<FastRecord>& fasts, Date now) {
+  const auto partners = overlapPartners(fasts, now);
+  std::vector<bool> overlapping(fasts.size());
+  for (std::size_t index = 0; index < fasts.size(); ++index) overlapping[index] = partners[index].has_value();
   return overlapping;
 }
 

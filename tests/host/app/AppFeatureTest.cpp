@@ -116,8 +116,71 @@ TEST_F(AppFeatureTest, savesAWeightAndTellsItsCard) {
   EXPECT_EQ(*state().statistics.stats.currentWeightInKg, 72.4);
 }
 
-TEST_F(AppFeatureTest, changesNothingWhereWritingFails) {
+struct RefusedRow {
+  const char* name;
+  Action action;
+  const char* failure;
+};
+
+TEST_F(AppFeatureTest, writesNothingThatIsNoRecord) {
+  send(Action::didSaveFast{fast(1, -40, -24)});
   send(Action::didTapStart{at(-3), 57600});
+  const auto before = onDisk();
+  const FastRecord second{mivo::ongoingFast({7, 9}, at(-2), 57600), ""};
+  for (const RefusedRow& row : {
+           RefusedRow{"secondStart", Action::didTapStart{at(0), 57600}, "A fast is running already."},
+           RefusedRow{"secondRunning", Action::didSaveFast{second}, "A fast is running already."},
+           RefusedRow{"endBeforeStart", Action::didSaveFast{fast(2, -4, -5)}, "The end is before the start."},
+           RefusedRow{"editedToEndBeforeStart", Action::didSaveFast{fast(1, -4, -5)}, "The end is before the start."},
+           RefusedRow{"endInFuture", Action::didSaveFast{fast(2, -4, 1)},
+                      "The end is in the future. Is the clock right?"},
+           RefusedRow{"startInFuture", Action::didSaveFast{fast(2, 1, 2)},
+                      "The start is in the future. Is the clock right?"},
+           RefusedRow{"stoppedBeforeItsStart", Action::didTapStop{at(-4)}, "The end is before the start."},
+           RefusedRow{"longNote", Action::didSaveFast{fast(2, -4, -3, std::string(70'000, 'a'))},
+                      "Write a shorter note."},
+       }) {
+    send(row.action);
+    EXPECT_EQ(*state().failure, row.failure) << row.name;
+    EXPECT_EQ(onDisk(), before) << row.name;
+    EXPECT_EQ(state().fasts->elements(), before) << row.name;
+    send(Action::didDismissMessages{});
+  }
+}
+
+TEST_F(AppFeatureTest, keepsARunningFastWhenTheClockIsSetBack) {
+  send(Action::didTapStart{at(0), 57600});
+  world.clock->date = at(-2);
+  send(Action::didTapStop{at(0)});
+  EXPECT_EQ(*state().failure, "The start is in the future. Is the clock right?");
+  ASSERT_NE(state().runningFast(), nullptr);
+
+  FastRecord edited = *state().runningFast();
+  edited.fast.goalSeconds = 72000;
+  send(Action::didSaveFast{edited});
+  EXPECT_THAT(onDisk(), ElementsAre(edited)) << "what was wrong before the edit is no fault of it";
+}
+
+TEST_F(AppFeatureTest, keepsTheOfferWhereUndoingFails) {
+  send(Action::didSaveFast{fast(1, -40, -24)});
+  send(Action::didDeleteFast{{7, 1}});
+  const auto offer = *state().undo;
+  Database{file}.apply(adding(fast(1, -30, -20)));  // another program took the id
+  send(Action::didTapUndo{});
+  EXPECT_THAT(*state().failure, HasSubstr("a record cannot be added"));
+  EXPECT_EQ(*state().undo, offer);
+  send(Action::didDismissMessages{});
+  EXPECT_THAT(*state().failure, IsEmpty());
+  EXPECT_EQ(*state().undo, offer);
+
+  Database{file}.apply(removing(fast(1, -30, -20)));
+  send(Action::didTapUndo{});
+  EXPECT_THAT(onDisk(), ElementsAre(fast(1, -40, -24)));
+  EXPECT_EQ(*state().undo, std::nullopt);
+}
+
+TEST_F(AppFeatureTest, changesNothingWhereWritingFails) {
+  Database{file}.apply(adding({mivo::ongoingFast({7, 9}, at(-3), 57600), ""}));  // by another program
   const AppFeature::State before = state();
   send(Action::didTapStart{at(-2), 57600});
   EXPECT_THAT(*state().failure, HasSubstr("another fast is running already"));

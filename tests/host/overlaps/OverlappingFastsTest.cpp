@@ -32,6 +32,11 @@ RC_GTEST_PROP(OverlappingFasts, areThoseThatShareTimeWithAnyOther, (const std::v
     for (std::size_t other = 0; other < fasts.size(); ++other)
       if (one != other && shareTime(fasts[one], fasts[other], at(40))) expected[one] = true;
   RC_ASSERT(overlappingFasts(fasts, at(40)) == expected);
+  const auto partners = overlapPartners(fasts, at(40));
+  for (std::size_t one = 0; one < fasts.size(); ++one) {
+    RC_ASSERT(partners[one].has_value() == expected[one]);
+    if (partners[one]) RC_ASSERT(partners[one] != one && shareTime(fasts[one], fasts[*partners[one]], at(40)));
+  }
 }
 
 }  // namespace
