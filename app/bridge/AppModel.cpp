@@ -164,6 +164,8 @@ QString AppModel::undoText() const {
   switch (offer->step) {
     case host::AppFeature::Step::remove:
       return qString(texts->text("Fast deleted"));
+    case host::AppFeature::Step::stop:
+      return qString(texts->text("Fast ended"));
     case host::AppFeature::Step::removeWeight:
       return qString(texts->text("Weight deleted"));
     default:

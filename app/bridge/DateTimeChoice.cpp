@@ -13,17 +13,13 @@
 namespace mivo::app {
 namespace {
 
-constexpr int yearsBack = 3, daysAhead = 1, dayTotal = yearsBack * 366 + daysAhead + 1, lastDay = dayTotal - 1;
+constexpr int yearsBack = 100, daysAhead = 1, dayTotal = yearsBack * 366 + daysAhead + 1, lastDay = dayTotal - 1;
 constexpr int hoursADay = 24, minutesAnHour = 60;
 constexpr double secondsPerMinute = 60;
 constexpr std::array<double, 5> clockChanges{0, secondsPerHour, -secondsPerHour, secondsPerHour / 2,
                                              -secondsPerHour / 2};
 
 const Calendar& calendar() { return *dependency(&Dependencies::calendar); }
-
-std::string formatted(Date date, std::string_view skeleton) {
-  return dependency(&Dependencies::dateFormatter)->string(date, skeleton).value_or("");
-}
 
 Date presentDate() { return dependency(&Dependencies::date)->now(); }
 
@@ -87,7 +83,7 @@ QString DateTimeChoice::text() const { return dateTimeText(Date{Duration{instant
 
 QString DateTimeChoice::dayText(int day) const {
   const auto start = startOf(day);
-  return start ? qString(formatted(*start, "EEEdMMM")) : QString{};
+  return start ? qString(app::dayText(*start)) : QString{};
 }
 
 QString DateTimeChoice::clockText(int number) const {

@@ -2,119 +2,220 @@
 #include "FastingModel.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 #include "app/bridge/DateTimeText.h"
+#include "app/bridge/GoalTime.h"
 #include "app/bridge/Text.h"
+#include "host/app/FaultText.h"
 #include "host/app/Settings.h"
+#include "host/overlaps/OverlappingFasts.h"
 #include "mivo/platform/Dependencies.h"
 
 namespace mivo::app {
 namespace {
 
+constexpr double secondsPerMinute = 60, ringStep = 10;
+constexpr double leastGapOfMarks = 0.055;  // of the ring: about as wide as "16h"
+
 Date presentDate() { return dependency(&Dependencies::date)->now(); }
 
-QString clockText(double seconds) {
-  const auto whole = static_cast<long long>(std::max(0.0, seconds));
-  return QStringLiteral("%1:%2:%3")
-      .arg(whole / 3600)
-      .arg(whole / 60 % 60, 2, 10, QLatin1Char{'0'})
-      .arg(whole % 60, 2, 10, QLatin1Char{'0'});
+std::string number(long long value, bool hasTwoDigits) {
+  const auto& numbers = *dependency(&Dependencies::numberFormatter);
+  const std::string text = numbers.string(std::int64_t{value});
+  return hasTwoDigits && value < 10 ? numbers.string(std::int64_t{0}) + text : text;
 }
 
-QString durationText(double seconds) {
-  return qString(dependency(&Dependencies::hourMinDurationUnitFormatter)->string(seconds).value_or(""));
+QString timerText(double seconds) {
+  const auto whole = static_cast<long long>(seconds);
+  return qString(number(whole / 3600, false) + ':' + number(whole / 60 % 60, true) + ':' + number(whole % 60, true));
+}
+
+QString filled(const std::string& pattern, std::initializer_list<std::string_view> arguments) {
+  return qString(filledIn(pattern, arguments));
+}
+
+std::optional<FinishedFastingDataEntry> endedLast(const List<host::FastRecord>& fasts) {
+  std::optional<FinishedFastingDataEntry> last;
+  for (const auto& record : fasts)
+    if (record.fast.finished && (!last || record.fast.finished->end >= last->end)) last = record.fast.finished;
+  return last;
+}
+
+// The fast that the running one overlaps.
+QString overlapText(const List<host::FastRecord>& fasts, Date now) {
+  const auto partners = host::overlapPartners(fasts.elements(), now);
+  for (std::size_t place = 0; place < partners.size(); ++place)
+    if (!fasts[place].fast.finished && partners[place])
+      return filled(dependency(&Dependencies::texts)->text("Overlaps the fast of {1}"),
+                    {dayText(fasts[*partners[place]].fast.start)});
+  return {};
 }
 
 }  // namespace
 
 FastingModel::FastingModel(std::function<void(Action)> sends, QObject* parent)
-    : QObject{parent}, send{std::move(sends)} {
-  timer.setInterval(1000);
+    : QObject{parent}, send{std::move(sends)}, ended{send}, edited{send} {
+  timer.setSingleShot(true);
   timer.setTimerType(Qt::PreciseTimer);
-  connect(&timer, &QTimer::timeout, this, &FastingModel::ticked);
-  timer.start();
+  connect(&timer, &QTimer::timeout, this, &FastingModel::tick);
 }
 
 void FastingModel::follow(const host::AppFeature::State& state) {
+  ended.follow(state);
+  edited.follow(state);
   const host::FastRecord* present = state.runningFast();
-  const auto next = present ? std::optional{*present} : std::nullopt;
-  std::optional<Date> end;
-  for (const auto& record : *state.fasts)
-    if (record.fast.finished) end = std::max(end.value_or(record.fast.finished->end), record.fast.finished->end);
-  if (next == running && end == lastEnd) return;
-  running = next;
-  lastEnd = end;
+  running = present ? std::optional{*present} : std::nullopt;
+  last = endedLast(*state.fasts);
+  nextGoalSeconds = host::goalSeconds(*dependency(&Dependencies::userDefaults));
+  overlap = running ? overlapText(*state.fasts, presentDate()) : QString{};
   Q_EMIT changed();
+  tick();
+}
+
+void FastingModel::setWatched(bool seen) {
+  if (std::exchange(watched, seen) == seen) return;
+  Q_EMIT watchedChanged();
+  tick();
+}
+
+void FastingModel::tick() {
   Q_EMIT ticked();
+  waitForTheNextTick();
 }
 
-qreal FastingModel::seconds() const {
-  if (running) return secondsBetween(running->fast.start, presentDate());
-  return lastEnd ? secondsBetween(*lastEnd, presentDate()) : 0;
+// At the next whole second of what is shown; at the next whole minute where no seconds are seen.
+void FastingModel::waitForTheNextTick() {
+  timer.stop();
+  if (!running && !(watched && last)) return;
+  const double step = watched ? 1 : secondsPerMinute;
+  const double passed = secondsBetween(running ? running->fast.start : last->end, presentDate());
+  const double rest = step - (passed - std::floor(passed / step) * step);
+  timer.start(static_cast<int>(std::ceil(rest * 1000)) + 1);
 }
 
-std::int64_t FastingModel::goalSeconds() const {
-  return running ? running->fast.goalSeconds : host::goalSeconds(*dependency(&Dependencies::userDefaults));
+// Whole seconds, so that what has passed and what is left add up. None before the start.
+double FastingModel::seconds() const {
+  if (!running && !last) return 0;
+  return std::max(0.0, std::floor(secondsBetween(running ? running->fast.start : last->end, presentDate())));
+}
+
+qreal FastingModel::ringSeconds() const { return std::floor(seconds() / ringStep) * ringStep; }
+
+qreal FastingModel::goalSeconds() const {
+  return static_cast<qreal>(running ? running->fast.goalSeconds : nextGoalSeconds);
 }
 
 // The goal; past it the end of the present zone, and then day by day.
 qreal FastingModel::spanSeconds() const {
-  const auto goal = static_cast<double>(goalSeconds());
-  if (!running) return std::max(secondsPerHour, secondsPerDay - goal);
+  const qreal goal = goalSeconds();
+  if (isEating()) return std::max(secondsPerHour, secondsPerDay - goal);
   double span = std::max(goal, secondsPerHour);
-  for (const double bound : {24 * secondsPerHour, 72 * secondsPerHour})
+  for (const double bound : {zoneBounds[3], zoneBounds[4]})
     if (seconds() > span) span = std::max(span, bound);
-  while (seconds() > span) span += secondsPerDay;
+  if (seconds() > span) span += std::ceil((seconds() - span) / secondsPerDay) * secondsPerDay;
   return span;
 }
 
-LegacyFastingZone FastingModel::presentZone() const {
-  if (!running) return LegacyFastingZone::eating;
-  const auto begun = std::ranges::count_if(zoneBounds, [this](double bound) { return bound <= seconds(); });
-  const auto first = static_cast<std::ptrdiff_t>(LegacyFastingZone::anabolic);
-  return allFastingZones[static_cast<std::size_t>(first + std::max<std::ptrdiff_t>(0, begun - 1))];
+// The end of the ring is always named, the borders of zones where there is room.
+QList<qreal> FastingModel::marks() const {
+  const qreal span = spanSeconds(), gap = leastGapOfMarks * span;
+  if (isEating()) return {span / 2, span};
+  QList<qreal> places;
+  for (const double bound : zoneBounds)
+    if (bound > (places.isEmpty() ? 0 : places.constLast()) + gap && bound + gap < span) places.append(bound);
+  places.append(span);
+  return places;
 }
 
-QString FastingModel::elapsed() const { return running || lastEnd ? clockText(seconds()) : QString{}; }
-
-QString FastingModel::duration() const { return durationText(seconds()); }
-
-QString FastingModel::zone() const { return QString::fromUtf8(caseName(presentZone()).data()); }
-
-QString FastingModel::zoneName() const {
-  return qString(dependency(&Dependencies::texts)->text(displayString(presentZone())));
+QStringList FastingModel::markTexts() const {
+  QStringList texts;
+  for (const qreal place : marks()) texts.append(app::goalText(place));
+  return texts;
 }
+
+QString FastingModel::elapsed() const { return running || last ? timerText(seconds()) : QString{}; }
 
 QString FastingModel::goalText() const {
-  if (!running) return {};
-  const double left = static_cast<double>(goalSeconds()) - seconds();
-  const auto& texts = dependency(&Dependencies::texts);
-  const std::string pattern = left > 0 ? texts->text("{1} to your goal") : texts->text("{1} past your goal");
-  return qString(filledIn(pattern, {durationText(std::abs(left)).toStdString()}));
+  const auto& texts = *dependency(&Dependencies::texts);
+  if (!running) return last ? qString(texts.text("since your last fast")) : QString{};
+  const double left = goalSeconds() - seconds();
+  const std::string pattern = left > 0 ? texts.text("{1} to your goal") : texts.text("{1} past your goal");
+  return filled(pattern, {durationText(std::abs(left)).toStdString()});
 }
 
-QString FastingModel::startedText() const {
+QString FastingModel::warning() const {
   if (!running) return {};
-  return dateTimeText(running->fast.start);
+  if (running->fast.start <= presentDate()) return overlap;
+  const auto& texts = *dependency(&Dependencies::texts);
+  return qString(texts.text("This fast begins in the future. Check the clock, or change when it started."));
 }
 
-QString FastingModel::goalLength() const { return durationText(static_cast<double>(goalSeconds())); }
+QString FastingModel::startedText() const { return running ? dateTimeText(running->fast.start) : QString{}; }
 
-void FastingModel::start() { send(Action::didTapStart{presentDate(), goalSeconds()}); }
+QString FastingModel::goal() const {
+  const std::string length = app::goalText(goalSeconds()).toStdString();
+  if (!running) return qString(length);
+  const auto& texts = *dependency(&Dependencies::texts);
+  const Date end = running->fast.start + Duration{goalSeconds()};
+  switch (daysFromToday(end)) {
+    case -1:
+      return filled(texts.text("{1}, yesterday {2}"), {length, clockText(end)});
+    case 0:
+      return filled(texts.text("{1}, today {2}"), {length, clockText(end)});
+    case 1:
+      return filled(texts.text("{1}, tomorrow {2}"), {length, clockText(end)});
+    default:
+      return filled("{1}, {2}", {length, fixedDateTimeText(end).toStdString()});
+  }
+}
+
+QString FastingModel::lastFast() const { return last ? durationText(last->duration()) : QString{}; }
+
+void FastingModel::start() { send(Action::didTapStart{presentDate(), nextGoalSeconds}); }
 
 void FastingModel::stop() { send(Action::didTapStop{presentDate()}); }
 
-void FastingModel::changeGoal(int hours) {
-  const std::int64_t seconds = std::int64_t{hours} * 3600;
-  host::setGoalSeconds(*dependency(&Dependencies::userDefaults), seconds);
+host::FastRecord FastingModel::withStart(double instant) const {
+  host::FastRecord changedRecord = *running;
+  changedRecord.fast.start = keepingSeconds(running->fast.start, instant);
+  return changedRecord;
+}
+
+QString FastingModel::startProblem(double instant) const {
+  if (!running) return {};
+  const auto fault = recordFault(withStart(instant), presentDate());
+  return fault ? qString(faultText(*fault, *dependency(&Dependencies::texts))) : QString{};
+}
+
+void FastingModel::changeStart(double instant) {
+  if (running) send(Action::didSaveFast{withStart(instant)});
+}
+
+void FastingModel::changeGoal(double seconds) {
+  const auto goal = static_cast<std::int64_t>(std::llround(seconds));
+  host::setGoalSeconds(*dependency(&Dependencies::userDefaults), goal);
+  nextGoalSeconds = goal;
   if (running) {
-    host::FastRecord edited = *running;
-    edited.fast.goalSeconds = seconds;
-    send(Action::didSaveFast{std::move(edited)});
+    host::FastRecord record = *running;
+    record.fast.goalSeconds = goal;
+    send(Action::didSaveFast{std::move(record)});
   }
   Q_EMIT changed();
-  Q_EMIT ticked();
+  tick();
 }
+
+void FastingModel::edit(int row) {
+  if (const auto record = ended.record(row)) edited.edit(*record);
+}
+
+void FastingModel::add() { edited.add(nextGoalSeconds); }
+
+QString FastingModel::hoursText(double seconds) const { return app::goalText(seconds); }
+
+QString FastingModel::typedGoal(double seconds) const { return goalTimeText(seconds); }
+
+double FastingModel::parsedGoal(const QString& text) const { return parseGoalTime(text).value_or(0); }
 
 }  // namespace mivo::app

@@ -9,18 +9,26 @@ Sheet {
     /// Seconds since 1970; what the sheet opens with.
     property double instant
 
+    /// What is wrong with a date, in a sentence that the sheet says before it takes it; nothing where it can be taken.
+    property var problemOf: instant => ""
+    property string problem
+
     signal chosen(instant: double)
 
     spacing: 16
 
     onAboutToShow: {
+        problem = "";
         choice.instant = root.instant;
         days.currentIndex = choice.day;
         hours.currentIndex = choice.hour;
         minutes.currentIndex = choice.minute;
     }
 
-    DateTimeChoice { id: choice }
+    DateTimeChoice {
+        id: choice
+        onChanged: root.problem = ""
+    }
 
     StyledText {
         width: parent.width
@@ -62,11 +70,25 @@ Sheet {
         }
     }
 
+    StyledText {
+        visible: text !== ""
+        width: parent.width
+        horizontalAlignment: Text.AlignHCenter
+        text: root.problem
+        style: Theme.captionText
+        color: Theme.danger
+        Accessible.role: Accessible.AlertMessage
+        Accessible.name: text
+    }
+
     ActionButton {
         width: parent.width
         implicitHeight: Theme.sheetButtonSize
         text: Texts.text("Done")
         onClicked: {
+            root.problem = root.problemOf(choice.instant);
+            if (root.problem !== "")
+                return;
             root.chosen(choice.instant);
             root.close();
         }

@@ -7,13 +7,17 @@ NumberText {
     id: root
 
     property TextStyle style: Theme.numberText
+    /// Below the user's text scale where a number stops growing earlier.
+    property real scaleLimit: 2
+
+    readonly property real usedScale: Math.min(Theme.textScale, scaleLimit)
 
     font.family: style.family
-    font.pixelSize: style.size * Theme.textScale
+    font.pixelSize: style.size * root.usedScale
     font.weight: style.weight
-    font.letterSpacing: style.spacing * Theme.textScale
-    unitSize: style.unit * Theme.textScale
-    lineHeight: style.line * Theme.textScale
+    font.letterSpacing: style.spacing * root.usedScale
+    unitSize: style.unit * root.usedScale
+    lineHeight: style.line * root.usedScale
     color: Theme.ink
     Accessible.role: Accessible.StaticText
     Accessible.name: text

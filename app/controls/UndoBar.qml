@@ -9,6 +9,8 @@ Rectangle {
     property string text
     property string action
     property string icon: "undo"
+    /// Goes away by itself.
+    property bool passing: true
     readonly property bool shown: text !== ""
 
     signal undone
@@ -34,7 +36,7 @@ Rectangle {
 
     Timer {
         interval: Theme.snackbarDuration
-        running: root.shown && !button.activeFocus
+        running: root.passing && root.shown && !button.activeFocus
         onTriggered: root.expired()
     }
 

@@ -1,26 +1,63 @@
 // SPDX-License-Identifier: MIT
-// A label over a value on a card.
+// A label over a value, which a tap may change.
 import QtQuick
+import QtQuick.Templates as T
 import Mivo
 
-Card {
+T.AbstractButton {
     id: root
 
     property string label
     property string value
+    property bool editable: true
 
-    spacing: 2
+    implicitHeight: contentItem.implicitHeight + topPadding + bottomPadding
+    padding: 12
+    topPadding: 10
+    bottomPadding: 10
+    enabled: editable
+    focusPolicy: Qt.StrongFocus
+    text: label + ", " + value
+    Accessible.role: editable ? Accessible.Button : Accessible.StaticText
+    Accessible.name: text
 
-    StyledText {
-        width: parent.width
-        text: root.label
-        style: Theme.labelText
-        color: Theme.inkSecondary
+    background: Rectangle {
+        radius: Theme.controlRadius
+        color: root.down ? Theme.fillPressed : Theme.field
+
+        FocusRing { target: root }
     }
 
-    StyledText {
-        width: parent.width
-        text: root.value
-        style: Theme.bodyStrongText
+    contentItem: Item {
+        implicitHeight: texts.height
+
+        Column {
+            id: texts
+            width: parent.width
+            spacing: 2
+
+            StyledText {
+                width: parent.width - (root.editable ? 22 : 0)
+                text: root.label
+                style: Theme.labelText
+                color: Theme.inkSecondary
+            }
+
+            StyledText {
+                width: parent.width
+                text: root.value
+                style: Theme.bodyStrongText
+            }
+        }
+
+        Icon {
+            visible: root.editable
+            anchors.right: parent.right
+            y: (Theme.labelText.line * Theme.textScale - height) / 2
+            width: 16
+            height: 16
+            name: "pencil"
+            color: Theme.inkSecondary
+        }
     }
 }

@@ -1,113 +1,142 @@
 // SPDX-License-Identifier: MIT
-// The fast that runs: a ring through its zones, how long, and the button that starts or ends it.
+// The fasting tab: the fast that runs or the eating window, and below it, or beside it where there is room, the history.
 import QtQuick
+import QtQuick.Window
 import Mivo
 
-Flickable {
+FocusScope {
     id: root
 
-    contentWidth: width
-    contentHeight: column.height + Theme.pageMargin
+    /// The window has room for a side bar beside the page.
+    property bool wide: false
+    readonly property bool twoColumns: width >= 700
+    readonly property real margin: wide ? Theme.pageMarginWide : Theme.pageMargin
+    readonly property real gap: wide ? Theme.cardGapWide : Theme.cardGap
+    readonly property real contentWidth: Math.min(width - 2 * margin, twoColumns ? Theme.contentMaxWidth : 520)
+    readonly property real contentX: (width - contentWidth) / 2
+    readonly property real columnWidth: twoColumns ? (contentWidth - gap) / 2 : contentWidth
 
-    Column {
-        id: column
-        x: Math.max(Theme.pageMargin, (root.width - 480) / 2)
-        width: root.width - 2 * x
-        topPadding: 16
-        spacing: 16
-
-        StyledText {
-            width: parent.width
-            text: Texts.text("Fasting")
-            style: Theme.titleText
-            Accessible.role: Accessible.Heading
-            Accessible.name: text
+    /// Opens one of the sheets by its name, in place of what is open; none for an empty name.
+    function present(name: string) {
+        for (const sheet of [fast, goal, started, menu])
+            sheet.close();
+        switch (name) {
+        case "editFast":
+            return edit(0);
+        case "addFast":
+            return add();
+        case "fastGoal":
+            return goal.open();
+        case "fastStart":
+            return started.open();
+        case "fastMenu":
+            return offer(0);
         }
+    }
+
+    function edit(row: int) {
+        App.fasting.edit(row);
+        fast.open();
+    }
+
+    function add() {
+        App.fasting.add();
+        fast.open();
+    }
+
+    function offer(row: int) {
+        menu.row = row;
+        menu.open();
+    }
+
+    Binding {
+        target: App.fasting
+        property: "watched"
+        value: root.visible && root.Window.visibility !== Window.Hidden && root.Window.visibility !== Window.Minimized
+    }
+
+    Component {
+        id: timer
+
+        Column {
+            spacing: 0
+
+            PageTitle {
+                width: parent.width
+                wide: root.wide
+                text: Texts.text("Fasting")
+            }
+
+            FastCard {
+                width: parent.width
+                onStartedWanted: started.open()
+                onGoalWanted: goal.open()
+            }
+
+            Item {
+                width: parent.width
+                height: 24
+            }
+        }
+    }
+
+    Component {
+        id: historyTitleSpace
 
         Item {
-            width: parent.width
-            height: 300
-
-            ZoneRing {
-                id: ring
-                anchors.horizontalCenter: parent.horizontalCenter
-                width: 300
-                height: 300
-                seconds: App.fasting.seconds
-                spanSeconds: App.fasting.spanSeconds
-                running: App.fasting.running
-                fills: [Theme.anabolic.fill, Theme.catabolic.fill, Theme.fatBurning.fill, Theme.ketosis.fill, Theme.deepKetosis.fill]
-                tints: [Theme.anabolic.tint, Theme.catabolic.tint, Theme.fatBurning.tint, Theme.ketosis.tint, Theme.deepKetosis.tint]
-                eatingFill: Theme.eating.fill
-                eatingTint: Theme.eating.tint
-                ink: Theme.ink
-                inkTertiary: Theme.inkTertiary
-                card: Theme.background
-                axisFont: Theme.fontOf(Theme.axisText)
-            }
-
-            Column {
-                anchors.centerIn: ring
-                spacing: 4
-
-                Row {
-                    anchors.horizontalCenter: parent.horizontalCenter
-                    spacing: 8
-
-                    Swatch {
-                        anchors.verticalCenter: parent.verticalCenter
-                        color: Theme.accentOf(App.fasting.zone).fill
-                    }
-
-                    StyledText {
-                        text: App.fasting.zoneName
-                        style: Theme.bodyStrongText
-                        wrapMode: Text.NoWrap
-                    }
-                }
-
-                StyledNumber {
-                    anchors.horizontalCenter: parent.horizontalCenter
-                    text: App.fasting.elapsed
-                    style: Theme.timerText
-                    evenDigits: true
-                }
-
-                StyledText {
-                    anchors.horizontalCenter: parent.horizontalCenter
-                    text: App.fasting.goalText
-                    style: Theme.labelText
-                    color: Theme.inkSecondary
-                    wrapMode: Text.NoWrap
-                }
-            }
+            height: Theme.titleBarSize - 60
         }
+    }
 
-        Row {
+    Flickable {
+        id: side
+        visible: root.twoColumns
+        x: root.LayoutMirroring.enabled ? root.width - width - root.contentX : root.contentX
+        width: root.columnWidth
+        height: parent.height
+        contentWidth: width
+        contentHeight: sideColumn.height
+        boundsBehavior: Flickable.DragOverBounds
+
+        Loader {
+            id: sideColumn
+            active: root.twoColumns
             width: parent.width
-            spacing: 12
-
-            FactTile {
-                width: (parent.width - 12) / 2
-                visible: App.fasting.running
-                label: Texts.text("Started")
-                value: App.fasting.startedText
-            }
-
-            FactTile {
-                width: App.fasting.running ? (parent.width - 12) / 2 : parent.width
-                label: Texts.text("Goal")
-                value: App.fasting.goalLength
-            }
+            sourceComponent: timer
         }
+    }
 
-        ActionButton {
-            width: parent.width
-            large: true
-            kind: App.fasting.running ? ActionButton.Primary : ActionButton.Data
-            iconName: App.fasting.running ? "stop" : "play"
-            text: App.fasting.running ? Texts.text("Stop fast") : Texts.text("Start fast")
-            onClicked: App.fasting.running ? App.fasting.stop() : App.fasting.start()
-        }
+    HistoryList {
+        id: history
+        readonly property real fromLeading: root.twoColumns ? root.contentX + root.columnWidth + root.gap : 0
+
+        x: root.LayoutMirroring.enabled ? 0 : fromLeading
+        width: parent.width - fromLeading
+        height: parent.height
+        rowX: root.twoColumns ? (root.LayoutMirroring.enabled ? root.contentX : 0) : root.contentX
+        rowWidth: root.columnWidth
+        above: root.twoColumns ? historyTitleSpace : timer
+        onAddWanted: root.add()
+        onEditWanted: row => root.edit(row)
+        onMenuWanted: row => root.offer(row)
+    }
+
+    FastSheet { id: fast }
+
+    FastGoalSheet { id: goal }
+
+    DateTimeSheet {
+        id: started
+        title: Texts.text("Started")
+        instant: App.fasting.started
+        problemOf: instant => App.fasting.startProblem(instant)
+        onChosen: instant => App.fasting.changeStart(instant)
+    }
+
+    FastMenu {
+        id: menu
+        title: Texts.text("Fast")
+        onEditWanted: root.edit(row)
+        onRemoveWanted: history.remove(row)
     }
 }

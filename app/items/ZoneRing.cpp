@@ -50,6 +50,17 @@ void ZoneRing::paintArc(QPainter* painter, qreal from, qreal to, const QColor& c
                    static_cast<int>(std::lround(-(to - from) * degrees * 16)));
 }
 
+void ZoneRing::paintMarks(QPainter* painter) const {
+  painter->setFont(axisFont);
+  painter->setPen(markInk);
+  const QFontMetricsF metrics{axisFont};
+  for (qsizetype index = 0; index < std::min(marks.size(), markTexts.size()); ++index) {
+    const QPointF at = onRing(marks[index], labelRadius);
+    const qreal x = at.x() - metrics.horizontalAdvance(markTexts[index]) / 2;
+    painter->drawText(QPointF{x, at.y() + metrics.capHeight() / 2}, markTexts[index]);
+  }
+}
+
 void ZoneRing::paint(QPainter* painter) {
   painter->setRenderHint(QPainter::Antialiasing);
   painter->scale(width() / box, height() / box);
@@ -61,14 +72,7 @@ void ZoneRing::paint(QPainter* painter) {
     paintArc(painter, std::max(first, present), last, tint);
     paintArc(painter, first, std::min(last, present), fill);
   }
-  painter->setFont(axisFont);
-  painter->setPen(inkTertiary);
-  const QFontMetricsF metrics{axisFont};
-  for (qsizetype index = 1; running && index < all.size(); ++index) {
-    const QString hours = QString::number(std::lround(all[index].from / secondsPerHour));
-    const QPointF at = onRing(all[index].from, labelRadius);
-    painter->drawText(QPointF{at.x() - metrics.horizontalAdvance(hours) / 2, at.y() + metrics.capHeight() / 2}, hours);
-  }
+  paintMarks(painter);
   const QPointF head = onRing(present, radius);
   painter->setPen(Qt::NoPen);
   painter->setBrush(card);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QtQml/qqmlregistration.h>
+#include <QtCore/QStringList>
 #include <QtGui/QColor>
 #include <QtGui/QFont>
 #include <QtQuick/QQuickPaintedItem>
@@ -15,13 +16,16 @@ class ZoneRing : public QQuickPaintedItem {
   QML_ELEMENT
   Q_PROPERTY(qreal seconds MEMBER seconds NOTIFY changed)
   Q_PROPERTY(qreal spanSeconds MEMBER spanSeconds NOTIFY changed)
+  /// Where it names hours, in seconds, and what it says there.
+  Q_PROPERTY(QList<qreal> marks MEMBER marks NOTIFY changed)
+  Q_PROPERTY(QStringList markTexts MEMBER markTexts NOTIFY changed)
   Q_PROPERTY(bool running MEMBER running NOTIFY changed)
   Q_PROPERTY(QList<QColor> fills MEMBER fills NOTIFY changed)
   Q_PROPERTY(QList<QColor> tints MEMBER tints NOTIFY changed)
   Q_PROPERTY(QColor eatingFill MEMBER eatingFill NOTIFY changed)
   Q_PROPERTY(QColor eatingTint MEMBER eatingTint NOTIFY changed)
   Q_PROPERTY(QColor ink MEMBER ink NOTIFY changed)
-  Q_PROPERTY(QColor inkTertiary MEMBER inkTertiary NOTIFY changed)
+  Q_PROPERTY(QColor markInk MEMBER markInk NOTIFY changed)
   Q_PROPERTY(QColor card MEMBER card NOTIFY changed)
   Q_PROPERTY(QFont axisFont MEMBER axisFont NOTIFY changed)
 
@@ -38,13 +42,16 @@ class ZoneRing : public QQuickPaintedItem {
     QColor fill, tint;
   };
   QList<Segment> segments() const;
+  void paintMarks(QPainter* painter) const;
   void paintArc(QPainter* painter, qreal from, qreal to, const QColor& color) const;
   QPointF onRing(qreal seconds, qreal radius) const;
 
   qreal seconds = 0, spanSeconds = 57600;
   bool running = false;
+  QList<qreal> marks;
+  QStringList markTexts;
   QList<QColor> fills, tints;
-  QColor eatingFill, eatingTint, ink, inkTertiary, card;
+  QColor eatingFill, eatingTint, ink, markInk, card;
   QFont axisFont;
 };
 

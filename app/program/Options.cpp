@@ -45,9 +45,10 @@ void addLook(CLI::App& program, Options& options) {
   program.add_option("--tab", options.tab, "What is shown first")
       ->check(CLI::IsMember({"fasting", "statistics", "settings"}))
       ->capture_default_str();
-  program.add_option("--screen", options.screen, "What is open over the statistics")
+  program.add_option("--screen", options.screen, "What is open over it")
       ->check(CLI::IsMember({"badges", "milestones", "streaks", "roadmap", "feedback", "donations", "overlaps",
-                             "goalWeight", "date", "table"}));
+                             "goalWeight", "date", "table", "fasting", "editFast", "addFast", "fastGoal", "fastStart",
+                             "fastMenu"}));
 }
 
 }  // namespace

@@ -20,7 +20,7 @@ struct Options {
   bool dark = false, light = false, mirrored = false, whole = false;
   std::optional<double> textScale = {};
   std::string tab = "statistics";
-  std::string screen = {};  ///< what is open on the statistics tab
+  std::string screen = {};  ///< what is open over the tab
 };
 
 /// Lists them for the parser and for --help.

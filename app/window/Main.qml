@@ -8,7 +8,7 @@ Window {
     id: root
 
     property string tab: "statistics"
-    /// What is open over the statistics when the window appears.
+    /// What is open over the page when the window appears.
     property string screen
     readonly property bool side: width >= Theme.sideBarWidth
     readonly property list<string> tabs: ["fasting", "statistics", "settings"]
@@ -30,6 +30,11 @@ Window {
 
     /// Opens one of the screens by its name, in place of what is open; none for an empty name.
     function present(name: string) {
+        const isOfFasting = ["fasting", "editFast", "addFast", "fastGoal", "fastStart", "fastMenu"].includes(name);
+        if (isOfFasting)
+            tab = "fasting";
+        if (fasting.item)
+            (fasting.item as FastingPage).present(name);
         App.dismiss();
         App.repair.cancel();
         for (const sheet of [feedback, goalWeight, table, weightDate])
@@ -79,11 +84,12 @@ Window {
             enabled: App.destination === "" || App.destination === "donations"
 
             Loader {
+                id: fasting
                 anchors.fill: parent
                 visible: root.tab === "fasting"
                 active: visible || status === Loader.Ready
                 focus: visible
-                sourceComponent: FastingPage {}
+                sourceComponent: FastingPage { wide: root.side }
             }
 
             StatisticsPage {

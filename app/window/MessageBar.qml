@@ -1,12 +1,17 @@
 // SPDX-License-Identifier: MIT
-// What was done and can be taken back, or what failed.
+// What failed, until the user has read it; else what was done and can be taken back.
 import QtQuick
 import Mivo
 
 UndoBar {
-    text: App.undoText !== "" ? App.undoText : App.failure
-    action: App.undoText !== "" ? Texts.text("Undo") : Texts.text("OK")
-    icon: App.undoText !== "" ? "undo" : ""
-    onUndone: App.undoText !== "" ? App.undo() : App.dismissMessages()
+    id: root
+
+    readonly property bool failed: App.failure !== ""
+
+    text: failed ? App.failure : App.undoText
+    action: failed ? Texts.text("OK") : Texts.text("Undo")
+    icon: failed ? "" : "undo"
+    passing: !failed
+    onUndone: failed ? App.dismissMessages() : App.undo()
     onExpired: App.dismissMessages()
 }

@@ -28,9 +28,10 @@ void take(State& state, std::vector<FastRecord> fasts, std::vector<BodyWeightSam
   state.weights = List<BodyWeightSample>{std::move(weights)};
 }
 
-// Only what takes records away is worth an offer; the rest can be edited where it stands.
+// What takes records away is worth an offer, and so is the stop, since no edit makes a fast run on; the rest can be
+// edited where it stands.
 bool offersUndo(Step step) {
-  return step == Step::remove || step == Step::removeWeight || step == Step::repairOverlaps;
+  return step == Step::stop || step == Step::remove || step == Step::removeWeight || step == Step::repairOverlaps;
 }
 
 }  // namespace

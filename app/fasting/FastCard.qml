@@ -1,0 +1,85 @@
+// SPDX-License-Identifier: MIT
+// The fast that runs, or the eating window: the ring, the time in each zone, what can be changed, and the button that
+// starts or ends it.
+import QtQuick
+import Mivo
+
+Card {
+    id: root
+
+    readonly property bool stacked: Theme.textScale >= 1.3
+    readonly property real tileWidth: stacked || !second.visible ? width - 2 * padding : (width - 2 * padding - 12) / 2
+
+    signal startedWanted
+    signal goalWanted
+
+    spacing: 0
+
+    Item {
+        width: parent.width
+        height: ring.height - 4
+
+        TimerRing {
+            id: ring
+            anchors.horizontalCenter: parent.horizontalCenter
+            y: -4
+        }
+    }
+
+    ZoneTimes {
+        visible: App.fasting.running
+        width: parent.width
+        topPadding: 8
+        zones: App.fasting.zones
+    }
+
+    CautionLine {
+        visible: text !== ""
+        width: parent.width
+        height: implicitHeight + 12
+        y: 12
+        text: App.fasting.warning
+    }
+
+    Item {
+        width: parent.width
+        height: 16
+    }
+
+    Flow {
+        width: parent.width
+        spacing: 12
+
+        FactTile {
+            width: root.tileWidth
+            visible: App.fasting.running || App.fasting.eating
+            height: root.stacked ? implicitHeight : Math.max(implicitHeight, second.implicitHeight)
+            label: App.fasting.running ? Texts.text("Started") : Texts.text("Last fast")
+            value: App.fasting.running ? App.fasting.startedText : App.fasting.lastFast
+            editable: App.fasting.running
+            onClicked: root.startedWanted()
+        }
+
+        FactTile {
+            id: second
+            width: App.fasting.running || App.fasting.eating ? root.tileWidth : parent.width
+            label: Texts.text("Goal")
+            value: App.fasting.goal
+            onClicked: root.goalWanted()
+        }
+    }
+
+    Item {
+        width: parent.width
+        height: 12
+    }
+
+    ActionButton {
+        width: parent.width
+        large: true
+        kind: App.fasting.running ? ActionButton.Secondary : ActionButton.Data
+        iconName: App.fasting.running ? "stop" : "play"
+        text: App.fasting.running ? Texts.text("Stop fast") : Texts.text("Start fast")
+        onClicked: App.fasting.running ? App.fasting.stop() : App.fasting.start()
+    }
+}

@@ -1,0 +1,96 @@
+// SPDX-License-Identifier: MIT
+// How long a fast is meant to be: the usual lengths, or one that is typed.
+import QtQuick
+import Mivo
+
+Column {
+    id: root
+
+    property real seconds
+    property string problem
+    readonly property list<int> hours: [16, 18, 20, 24]
+    property bool labelled: true
+    property bool custom: false
+    /// What is typed is no length.
+    property bool unread: false
+
+    signal chosen(seconds: real)
+
+    spacing: 8
+
+    /// Shows a goal as it is before anything is chosen.
+    function begin(goal: real) {
+        custom = !hours.includes(goal / 3600);
+        field.text = App.fasting.typedGoal(goal);
+        unread = false;
+    }
+
+    function read() {
+        const goal = App.fasting.parsedGoal(field.text);
+        unread = goal === 0;
+        if (!unread)
+            chosen(goal);
+    }
+
+    StyledText {
+        visible: root.labelled
+        width: parent.width
+        text: Texts.text("Goal")
+        style: Theme.labelText
+        color: Theme.inkSecondary
+    }
+
+    Flow {
+        width: parent.width
+        spacing: 8
+
+        Repeater {
+            model: root.hours
+
+            delegate: Chip {
+                required property int modelData
+
+                text: App.fasting.hoursText(modelData * 3600)
+                chosen: !root.custom && root.seconds === modelData * 3600
+                onClicked: {
+                    root.custom = false;
+                    root.unread = false;
+                    root.chosen(modelData * 3600);
+                }
+            }
+        }
+
+        Chip {
+            text: Texts.text("Custom")
+            chosen: root.custom
+            onClicked: {
+                root.custom = true;
+                field.text = App.fasting.typedGoal(root.seconds);
+                field.forceActiveFocus();
+            }
+        }
+    }
+
+    TextField {
+        id: field
+        visible: root.custom
+        width: parent.width
+        hasProblem: root.unread || root.problem !== ""
+        accessibleName: Texts.text("Goal in hours")
+        placeholder: Texts.text("Goal in hours")
+        onTextChanged: {
+            if (root.custom && activeFocus)
+                root.read();
+        }
+    }
+
+    StyledText {
+        visible: text !== ""
+        width: parent.width
+        text: root.custom && root.unread ? Texts.text("Type hours, such as 17 or 16:30.") : root.problem
+        style: Theme.captionText
+        color: Theme.danger
+        Accessible.role: Accessible.AlertMessage
+        Accessible.name: text
+    }
+}

@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: MIT
+// Whether a fast reached its goal: a disc with a tick, or a ring filled as far as it went.
+import QtQuick
+import QtQuick.Shapes
+import Mivo
+
+Item {
+    id: root
+
+    property real fraction: 0
+    readonly property bool reached: fraction >= 1
+
+    implicitWidth: 20
+    implicitHeight: 20
+    Accessible.ignored: true
+
+    Rectangle {
+        anchors.fill: parent
+        visible: root.reached
+        radius: height / 2
+        color: Theme.fasting.fill
+
+        Icon {
+            anchors.centerIn: parent
+            width: 14
+            height: 14
+            name: "check"
+            color: Theme.fasting.textOnFill
+        }
+    }
+
+    Rectangle {
+        anchors.fill: parent
+        anchors.margins: 1
+        visible: !root.reached
+        radius: height / 2
+        color: "transparent"
+        border.width: 2
+        border.color: Theme.fasting.tint
+    }
+
+    Shape {
+        anchors.fill: parent
+        visible: !root.reached
+
+        ShapePath {
+            strokeColor: Theme.fasting.fill
+            strokeWidth: 2
+            fillColor: "transparent"
+
+            PathAngleArc {
+                centerX: 10
+                centerY: 10
+                radiusX: 8
+                radiusY: 8
+                startAngle: -90
+                sweepAngle: 360 * root.fraction
+            }
+        }
+    }
+}

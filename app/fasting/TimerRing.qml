@@ -1,0 +1,84 @@
+// SPDX-License-Identifier: MIT
+// The ring of the running fast or of the eating window, and inside it what it shows.
+import QtQuick
+import Mivo
+
+Item {
+    id: root
+
+    readonly property bool begun: App.fasting.running || App.fasting.eating
+    /// Of what stands inside the ring, whatever the size of texts.
+    readonly property real room: 180
+    readonly property real textLimit: 1.4
+
+    implicitWidth: 300
+    implicitHeight: 300
+
+    ZoneRing {
+        anchors.fill: parent
+        seconds: App.fasting.seconds
+        spanSeconds: App.fasting.spanSeconds
+        marks: App.fasting.marks
+        markTexts: App.fasting.markTexts
+        running: !App.fasting.eating
+        fills: Theme.zoneFills
+        tints: Theme.zoneTints
+        eatingFill: Theme.eating.fill
+        eatingTint: Theme.eating.tint
+        ink: Theme.ink
+        markInk: Theme.inkSecondary
+        card: Theme.card
+        axisFont: Theme.fontOf(Theme.axisStrongText)
+    }
+
+    Column {
+        anchors.centerIn: parent
+        width: root.room
+        spacing: 4
+
+        Row {
+            visible: root.begun
+            anchors.horizontalCenter: parent.horizontalCenter
+            spacing: 8
+
+            Swatch {
+                anchors.verticalCenter: parent.verticalCenter
+                color: Theme.accentOf(App.fasting.zone).fill
+            }
+
+            StyledText {
+                text: App.fasting.zoneName
+                style: Theme.bodyStrongText
+                scaleLimit: root.textLimit
+                wrapMode: Text.NoWrap
+            }
+        }
+
+        StyledNumber {
+            visible: root.begun
+            anchors.horizontalCenter: parent.horizontalCenter
+            text: App.fasting.elapsed
+            style: Theme.timerText
+            scaleLimit: text.length > 8 ? 0.95 : 1.2
+            evenDigits: true
+        }
+
+        StyledText {
+            visible: !root.begun
+            width: parent.width
+            horizontalAlignment: Text.AlignHCenter
+            text: Texts.text("Your first fast")
+            style: Theme.headlineText
+            scaleLimit: root.textLimit
+        }
+
+        StyledText {
+            width: parent.width
+            horizontalAlignment: Text.AlignHCenter
+            text: root.begun ? App.fasting.goalText : Texts.text("Start it when you have eaten your last meal.")
+            style: Theme.labelText
+            color: Theme.inkSecondary
+            scaleLimit: root.textLimit
+        }
+    }
+}

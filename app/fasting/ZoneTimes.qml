@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: MIT
+// How long a fast was in each zone: names over times, spread over the width.
+import QtQuick
+import Mivo
+
+Grid {
+    id: root
+
+    required property list<zoneTime> zones
+
+    columns: Theme.textScale >= 1.6 ? 1 : Theme.textScale >= 1.3 ? 2 : Math.max(1, Math.min(3, zones.length))
+    rowSpacing: 12
+    horizontalItemAlignment: Grid.AlignLeft
+
+    Repeater {
+        model: root.zones
+
+        delegate: ZoneTimeItem {
+            width: root.width / root.columns
+            place: root.columns === 1 || index % root.columns === 0 ? ZoneTimeItem.Leading : index % root.columns === root.columns - 1 ? ZoneTimeItem.Trailing : ZoneTimeItem.Middle
+        }
+    }
+}
