@@ -9,8 +9,9 @@ Sheet {
     /// Seconds since 1970; what the sheet opens with.
     property double instant
 
-    /// What is wrong with a date, in a sentence that the sheet says before it takes it; nothing where it can be taken.
-    property var problemOf: instant => ""
+    /// What the wheels say now.
+    readonly property double current: choice.instant
+    /// What is wrong with that, in a sentence; it cannot be chosen as long as there is one.
     property string problem
 
     signal chosen(instant: double)
@@ -18,17 +19,13 @@ Sheet {
     spacing: 16
 
     onAboutToShow: {
-        problem = "";
         choice.instant = root.instant;
         days.currentIndex = choice.day;
         hours.currentIndex = choice.hour;
         minutes.currentIndex = choice.minute;
     }
 
-    DateTimeChoice {
-        id: choice
-        onChanged: root.problem = ""
-    }
+    DateTimeChoice { id: choice }
 
     StyledText {
         width: parent.width
@@ -84,11 +81,9 @@ Sheet {
     ActionButton {
         width: parent.width
         implicitHeight: Theme.sheetButtonSize
+        enabled: root.problem === ""
         text: Texts.text("Done")
         onClicked: {
-            root.problem = root.problemOf(choice.instant);
-            if (root.problem !== "")
-                return;
             root.chosen(choice.instant);
             root.close();
         }

@@ -13,8 +13,10 @@ T.AbstractButton {
     property bool editable: true
     property bool isFirst: false
 
-    implicitHeight: contentItem.implicitHeight
-    padding: 0
+    implicitHeight: contentItem.implicitHeight + topPadding + bottomPadding
+    padding: 12
+    topPadding: 13
+    bottomPadding: 13
     enabled: editable
     focusPolicy: Qt.StrongFocus
     text: label + ", " + value
@@ -36,50 +38,40 @@ T.AbstractButton {
             color: Theme.hairline
         }
 
-        FocusRing { target: root }
-    }
-
-    contentItem: Item {
-        implicitHeight: column.height
-
-        Column {
-            id: column
-            anchors.left: parent.left
-            anchors.leftMargin: 12
-            width: parent.width - 24
-            topPadding: 13
-            bottomPadding: 13
-            spacing: 4
-
-            CardHeadLine {
-                width: parent.width - (root.editable ? 26 : 0)
-                title: root.label
-                detail: root.value
-                titleStyle: Theme.bodyText
-                detailStyle: Theme.bodyStrongText
-                detailColor: Theme.ink
-            }
-
-            StyledText {
-                visible: root.problem !== ""
-                width: parent.width
-                text: root.problem
-                style: Theme.captionText
-                color: Theme.danger
-                Accessible.role: Accessible.AlertMessage
-                Accessible.name: text
-            }
-        }
-
         Icon {
             visible: root.editable
             anchors.right: parent.right
             anchors.rightMargin: 12
-            y: 15
+            y: root.topPadding + (Theme.bodyText.line * Theme.textScale - height) / 2
             width: 18
             height: 18
             name: "updown"
             color: Theme.inkSecondary
+        }
+
+        FocusRing { target: root }
+    }
+
+    contentItem: Column {
+        spacing: 4
+
+        CardHeadLine {
+            width: parent.width - (root.editable ? 26 : 0)
+            title: root.label
+            detail: root.value
+            titleStyle: Theme.bodyText
+            detailStyle: Theme.bodyStrongText
+            detailColor: Theme.ink
+        }
+
+        StyledText {
+            visible: root.problem !== ""
+            width: parent.width
+            text: root.problem
+            style: Theme.captionText
+            color: Theme.danger
+            Accessible.role: Accessible.AlertMessage
+            Accessible.name: text
         }
     }
 }

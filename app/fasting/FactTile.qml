@@ -25,39 +25,34 @@ T.AbstractButton {
         radius: Theme.controlRadius
         color: root.down ? Theme.fillPressed : Theme.field
 
-        FocusRing { target: root }
-    }
-
-    contentItem: Item {
-        implicitHeight: texts.height
-
-        Column {
-            id: texts
-            width: parent.width
-            spacing: 2
-
-            StyledText {
-                width: parent.width - (root.editable ? 22 : 0)
-                text: root.label
-                style: Theme.labelText
-                color: Theme.inkSecondary
-            }
-
-            StyledText {
-                width: parent.width
-                text: root.value
-                style: Theme.bodyStrongText
-            }
-        }
-
         Icon {
             visible: root.editable
             anchors.right: parent.right
-            y: (Theme.labelText.line * Theme.textScale - height) / 2
+            anchors.rightMargin: root.padding
+            y: root.topPadding + (Theme.labelText.line * Theme.textScale - height) / 2
             width: 16
             height: 16
             name: "pencil"
             color: Theme.inkSecondary
+        }
+
+        FocusRing { target: root }
+    }
+
+    contentItem: Column {
+        spacing: 2
+
+        StyledText {
+            width: parent.width - (root.editable ? 22 : 0)
+            text: root.label
+            style: Theme.labelText
+            color: Theme.inkSecondary
+        }
+
+        StyledText {
+            width: parent.width
+            text: root.value
+            style: Theme.bodyStrongText
         }
     }
 }

@@ -8,7 +8,7 @@ FocusScope {
     id: root
 
     /// The window has room for a side bar beside the page.
-    property bool wide: false
+    readonly property bool wide: Window.width >= Theme.sideBarWidth
     readonly property bool twoColumns: width >= 700
     readonly property real margin: wide ? Theme.pageMarginWide : Theme.pageMargin
     readonly property real gap: wide ? Theme.cardGapWide : Theme.cardGap
@@ -55,39 +55,6 @@ FocusScope {
         value: root.visible && root.Window.visibility !== Window.Hidden && root.Window.visibility !== Window.Minimized
     }
 
-    Component {
-        id: timer
-
-        Column {
-            spacing: 0
-
-            PageTitle {
-                width: parent.width
-                wide: root.wide
-                text: Texts.text("Fasting")
-            }
-
-            FastCard {
-                width: parent.width
-                onStartedWanted: started.open()
-                onGoalWanted: goal.open()
-            }
-
-            Item {
-                width: parent.width
-                height: 24
-            }
-        }
-    }
-
-    Component {
-        id: historyTitleSpace
-
-        Item {
-            height: Theme.titleBarSize - 60
-        }
-    }
-
     Flickable {
         id: side
         visible: root.twoColumns
@@ -98,11 +65,12 @@ FocusScope {
         contentHeight: sideColumn.height
         boundsBehavior: Flickable.DragOverBounds
 
-        Loader {
+        FastTop {
             id: sideColumn
-            active: root.twoColumns
             width: parent.width
-            sourceComponent: timer
+            bottomPadding: root.margin
+            onStartedWanted: started.open()
+            onGoalWanted: goal.open()
         }
     }
 
@@ -115,10 +83,12 @@ FocusScope {
         height: parent.height
         rowX: root.twoColumns ? (root.LayoutMirroring.enabled ? root.contentX : 0) : root.contentX
         rowWidth: root.columnWidth
-        above: root.twoColumns ? historyTitleSpace : timer
+        whole: !root.twoColumns
         onAddWanted: root.add()
         onEditWanted: row => root.edit(row)
         onMenuWanted: row => root.offer(row)
+        onStartedWanted: started.open()
+        onGoalWanted: goal.open()
     }
 
     FastSheet { id: fast }
@@ -129,7 +99,7 @@ FocusScope {
         id: started
         title: Texts.text("Started")
         instant: App.fasting.started
-        problemOf: instant => App.fasting.startProblem(instant)
+        problem: visible ? App.fasting.startProblem(current) : ""
         onChosen: instant => App.fasting.changeStart(instant)
     }
 
@@ -137,6 +107,6 @@ FocusScope {
         id: menu
         title: Texts.text("Fast")
         onEditWanted: root.edit(row)
-        onRemoveWanted: history.remove(row)
+        onRemoveWanted: App.fasting.history.remove(row)
     }
 }

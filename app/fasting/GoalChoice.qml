@@ -8,7 +8,7 @@ Column {
 
     property real seconds
     property string problem
-    readonly property list<int> hours: [16, 18, 20, 24]
+    readonly property real pickedHours: custom ? 0 : seconds / 3600
     property bool labelled: true
     property bool custom: false
     /// What is typed is no length.
@@ -20,9 +20,16 @@ Column {
 
     /// Shows a goal as it is before anything is chosen.
     function begin(goal: real) {
-        custom = !hours.includes(goal / 3600);
+        const hours = goal / 3600;
+        custom = hours !== 16 && hours !== 18 && hours !== 20 && hours !== 24;
         field.text = App.fasting.typedGoal(goal);
         unread = false;
+    }
+
+    function pick(goal: real) {
+        custom = false;
+        unread = false;
+        chosen(goal);
     }
 
     function read() {
@@ -44,20 +51,28 @@ Column {
         width: parent.width
         spacing: 8
 
-        Repeater {
-            model: root.hours
+        GoalChip {
+            hours: 16
+            chosen: root.pickedHours === 16
+            onPicked: seconds => root.pick(seconds)
+        }
 
-            delegate: Chip {
-                required property int modelData
+        GoalChip {
+            hours: 18
+            chosen: root.pickedHours === 18
+            onPicked: seconds => root.pick(seconds)
+        }
 
-                text: App.fasting.hoursText(modelData * 3600)
-                chosen: !root.custom && root.seconds === modelData * 3600
-                onClicked: {
-                    root.custom = false;
-                    root.unread = false;
-                    root.chosen(modelData * 3600);
-                }
-            }
+        GoalChip {
+            hours: 20
+            chosen: root.pickedHours === 20
+            onPicked: seconds => root.pick(seconds)
+        }
+
+        GoalChip {
+            hours: 24
+            chosen: root.pickedHours === 24
+            onPicked: seconds => root.pick(seconds)
         }
 
         Chip {

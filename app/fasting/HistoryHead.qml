@@ -1,36 +1,76 @@
 // SPDX-License-Identifier: MIT
-// The headline of the history, and what adds a fast to it.
+// What stands above the rows of the history. For the keyboard all rows are one stop, at its foot.
 import QtQuick
 import Mivo
 
 Item {
     id: root
 
-    signal addWanted
+    readonly property HistoryView list: ListView.view as HistoryView
+    readonly property bool whole: list !== null && list.whole
+    property real before: 0
 
-    implicitHeight: Math.max(add.height, headline.height)
-
-    StyledText {
-        id: headline
-        anchors.left: parent.left
-        anchors.right: add.left
-        anchors.verticalCenter: parent.verticalCenter
-        text: Texts.text("History")
-        style: Theme.sectionText
-        Accessible.role: Accessible.Heading
-        Accessible.name: text
+    width: list ? list.width : 0
+    height: column.height
+    // It grows upwards from the rows; who sees it wants its top to stay.
+    onHeightChanged: {
+        if (list && list.contentY < 0)
+            list.contentY -= height - before;
+        before = height;
     }
 
-    ActionButton {
-        id: add
-        anchors.right: parent.right
-        anchors.rightMargin: -rightPadding
-        anchors.verticalCenter: parent.verticalCenter
-        leftPadding: 12
-        rightPadding: 12
-        kind: ActionButton.Plain
-        iconName: "plus"
-        text: Texts.text("Add fast")
-        onClicked: root.addWanted()
+    Column {
+        id: column
+        x: root.list ? root.list.rowX : 0
+        width: root.list ? root.list.rowWidth : 0
+
+        FastTop {
+            width: parent.width
+            visible: root.whole
+            onStartedWanted: root.list.startedWanted()
+            onGoalWanted: root.list.goalWanted()
+        }
+
+        Item {
+            width: parent.width
+            height: root.whole ? 24 : Theme.titleBarSize - Theme.buttonSize - 12
+        }
+
+        HistoryTitle {
+            width: parent.width
+            height: implicitHeight + 12
+            onAddWanted: root.list.addWanted()
+        }
+
+        Card {
+            width: parent.width
+            visible: root.list !== null && root.list.count === 0
+
+            StyledText {
+                width: parent.width
+                text: Texts.text("The fasts that have ended are listed here. Those of earlier days can be added.")
+                color: Theme.inkSecondary
+            }
+        }
+    }
+
+    // Stands for the rows, where Tab comes to them.
+    Item {
+        id: keys
+
+        readonly property HistoryRow row: root.list ? root.list.currentItem as HistoryRow : null
+
+        anchors.bottom: parent.bottom
+        width: parent.width
+        activeFocusOnTab: root.list !== null && root.list.count > 0
+        Accessible.role: Accessible.List
+        Accessible.name: Texts.text("History") + (row ? ", " + row.spoken : "")
+        Accessible.focusable: true
+        onActiveFocusChanged: {
+            root.list.keyed = activeFocus;
+            if (activeFocus)
+                root.list.step(root.list.currentIndex);
+        }
+        Keys.onPressed: event => root.list.keyPressed(event)
     }
 }

@@ -16,25 +16,20 @@ Item {
     required property real seconds
     required property real goalFraction
 
-    property real scaleSeconds
-    property bool isLast: false
-    /// The keyboard acts on it.
-    property bool marked: false
-
+    readonly property HistoryView list: ListView.view as HistoryView
+    readonly property bool isLast: list !== null && index === list.count - 1
     readonly property bool stacked: Theme.textScale >= 1.3
     readonly property real padding: Theme.cardPadding
     readonly property real inner: width - 2 * padding
 
-    signal tapped
-    signal menuWanted
-    signal removed
-
+    x: list ? list.rowX : 0
+    width: list ? list.rowWidth : 0
     implicitHeight: mark.y + mark.height + (overlap === "" ? 0 : caution.height + 8) + 12
     clip: content.x !== 0
     Accessible.role: Accessible.ListItem
     Accessible.name: spoken
     Accessible.focusable: true
-    Accessible.onPressAction: root.tapped()
+    Accessible.onPressAction: root.list.editWanted(root.index)
 
     RowSurface {
         anchors.fill: parent
@@ -124,7 +119,7 @@ Item {
             width: root.inner - mark.width - 8
             height: 6
             seconds: root.seconds
-            spanSeconds: root.scaleSeconds
+            spanSeconds: App.fasting.history.scaleSeconds
             fills: Theme.zoneFills
             mirrored: LayoutMirroring.enabled
         }
@@ -152,18 +147,18 @@ Item {
     FocusRing {
         target: root
         anchors.margins: 2
-        visible: root.marked
+        visible: InputMode.keyboard && root.list !== null && root.list.keyed && root.list.currentIndex === root.index
     }
 
     TapHandler {
         id: tap
-        onTapped: root.tapped()
-        onLongPressed: root.menuWanted()
+        onTapped: root.list.editWanted(root.index)
+        onLongPressed: root.list.menuWanted(root.index)
     }
 
     TapHandler {
         acceptedButtons: Qt.RightButton
-        onTapped: root.menuWanted()
+        onTapped: root.list.menuWanted(root.index)
     }
 
     DragHandler {
@@ -178,7 +173,7 @@ Item {
                 return;
             }
             content.x = content.x > 0 ? root.width : -root.width;
-            root.removed();
+            root.list.removeWanted(root.index);
             back.start();
         }
     }

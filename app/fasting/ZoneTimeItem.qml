@@ -6,14 +6,15 @@ import Mivo
 Item {
     id: root
 
-    enum Place { Leading, Middle, Trailing }
-
     required property int index
     required property zoneTime modelData
-    property int place: ZoneTimeItem.Leading
+    readonly property Grid grid: parent as Grid
+    readonly property int columns: grid ? grid.columns : 1
     readonly property real rest: width - texts.width
-    readonly property real fromLeading: place === ZoneTimeItem.Leading ? 0 : place === ZoneTimeItem.Middle ? rest / 2 : rest
+    // The first column stands at the leading edge, the last one at the trailing edge.
+    readonly property real fromLeading: columns > 1 ? rest * (index % columns) / (columns - 1) : 0
 
+    width: grid ? grid.width / columns : 0
     implicitHeight: texts.height
     Accessible.role: Accessible.StaticText
     Accessible.name: modelData.name + ", " + modelData.duration

@@ -15,9 +15,6 @@ Grid {
     Repeater {
         model: root.zones
 
-        delegate: ZoneTimeItem {
-            width: root.width / root.columns
-            place: root.columns === 1 || index % root.columns === 0 ? ZoneTimeItem.Leading : index % root.columns === root.columns - 1 ? ZoneTimeItem.Trailing : ZoneTimeItem.Middle
-        }
+        delegate: ZoneTimeItem {}
     }
 }

@@ -30,16 +30,21 @@ Window {
 
     /// Opens one of the screens by its name, in place of what is open; none for an empty name.
     function present(name: string) {
-        const isOfFasting = ["fasting", "editFast", "addFast", "fastGoal", "fastStart", "fastMenu"].includes(name);
-        if (isOfFasting)
-            tab = "fasting";
         if (fasting.item)
-            (fasting.item as FastingPage).present(name);
+            (fasting.item as FastingPage).present("");
         App.dismiss();
         App.repair.cancel();
         for (const sheet of [feedback, goalWeight, table, weightDate])
             sheet.close();
         switch (name) {
+        case "fasting":
+        case "editFast":
+        case "addFast":
+        case "fastGoal":
+        case "fastStart":
+        case "fastMenu":
+            tab = "fasting";
+            return (fasting.item as FastingPage).present(name);
         case "badges":
             return App.openBadges();
         case "milestones":
@@ -89,7 +94,7 @@ Window {
                 visible: root.tab === "fasting"
                 active: visible || status === Loader.Ready
                 focus: visible
-                sourceComponent: FastingPage { wide: root.side }
+                sourceComponent: FastingPage {}
             }
 
             StatisticsPage {

@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: MIT
+// What the rows and the head of the history know of the list that they stand in.
+import QtQuick
+import Mivo
+
+ListView {
+    id: root
+
+    /// Where rows begin and how wide they are.
+    property real rowX: Theme.pageMargin
+    property real rowWidth: width - 2 * rowX
+    /// The running fast stands above the rows.
+    property bool whole: true
+    /// The keyboard is at the rows.
+    property bool keyed: false
+
+    signal addWanted
+    signal editWanted(row: int)
+    signal menuWanted(row: int)
+    signal removeWanted(row: int)
+    signal startedWanted
+    signal goalWanted
+
+    function step(to: int) {
+        currentIndex = Math.max(0, Math.min(count - 1, to));
+        positionViewAtIndex(currentIndex, ListView.Contain);
+    }
+
+    function keyPressed(event: KeyEvent) {
+        event.accepted = true;
+        switch (event.key) {
+        case Qt.Key_Up:
+            return step(currentIndex - 1);
+        case Qt.Key_Down:
+            return step(currentIndex + 1);
+        case Qt.Key_PageUp:
+            return step(currentIndex - 6);
+        case Qt.Key_PageDown:
+            return step(currentIndex + 6);
+        case Qt.Key_Home:
+            return step(0);
+        case Qt.Key_End:
+            return step(count - 1);
+        case Qt.Key_Return:
+        case Qt.Key_Enter:
+        case Qt.Key_Space:
+            return editWanted(currentIndex);
+        case Qt.Key_Delete:
+        case Qt.Key_Backspace:
+            return removeWanted(currentIndex);
+        case Qt.Key_Menu:
+            return menuWanted(currentIndex);
+        }
+        event.accepted = false;
+    }
+}
