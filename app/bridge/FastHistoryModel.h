@@ -52,6 +52,8 @@ class FastHistoryModel : public QAbstractListModel {
   int rowOf(UUID id) const;
 
   Q_INVOKABLE void remove(int row);
+  /// All that a row says, in words.
+  Q_INVOKABLE QString spokenText(int row) const { return data(index(row), Spoken).toString(); }
 
  Q_SIGNALS:
   void countChanged();

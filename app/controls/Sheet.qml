@@ -4,6 +4,7 @@
 import QtQuick
 import QtQuick.Controls
 import QtQuick.Templates as T
+import QtQuick.Window
 import Mivo
 
 T.Popup {
@@ -14,6 +15,15 @@ T.Popup {
 
     readonly property bool wide: parent && parent.width >= Theme.twoColumnsWidth
     readonly property real roomAbove: 48
+    /// What had the keys before it opened gets them back, where nothing else has taken them.
+    property Item before: null
+
+    onAboutToShow: before = parent.Window.activeFocusItem
+    onClosed: {
+        const present = parent.Window.activeFocusItem;
+        if (before && before.visible && (!present || present === parent.Window.contentItem))
+            before.forceActiveFocus();
+    }
 
     parent: Overlay.overlay
     spacing: 12

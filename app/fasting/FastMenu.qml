@@ -7,19 +7,26 @@ Sheet {
     id: root
 
     property int row: -1
+    property bool edits: false
 
     signal editWanted
     signal removeWanted
 
     spacing: 8
+    onAboutToShow: edits = false
+    // The keys are back at the row by then, and come back there again.
+    onClosed: {
+        if (edits)
+            editWanted();
+    }
 
     ActionButton {
         width: parent.width
         kind: ActionButton.Secondary
         text: Texts.text("Edit fast")
         onClicked: {
+            root.edits = true;
             root.close();
-            root.editWanted();
         }
     }
 

@@ -13,6 +13,7 @@ Column {
     property bool custom: false
     /// What is typed is no length.
     property bool unread: false
+    property bool filling: false
 
     signal chosen(seconds: real)
 
@@ -22,7 +23,13 @@ Column {
     function begin(goal: real) {
         const hours = goal / 3600;
         custom = hours !== 16 && hours !== 18 && hours !== 20 && hours !== 24;
+        fill(goal);
+    }
+
+    function fill(goal: real) {
+        filling = true;
         field.text = App.fasting.typedGoal(goal);
+        filling = false;
         unread = false;
     }
 
@@ -80,7 +87,7 @@ Column {
             chosen: root.custom
             onClicked: {
                 root.custom = true;
-                field.text = App.fasting.typedGoal(root.seconds);
+                root.fill(root.seconds);
                 field.forceActiveFocus();
             }
         }
@@ -94,7 +101,7 @@ Column {
         accessibleName: Texts.text("Goal in hours")
         placeholder: Texts.text("Goal in hours")
         onTextChanged: {
-            if (root.custom && activeFocus)
+            if (root.custom && !root.filling)
                 root.read();
         }
     }

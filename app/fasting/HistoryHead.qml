@@ -58,18 +58,16 @@ Item {
     Item {
         id: keys
 
-        readonly property HistoryRow row: root.list ? root.list.currentItem as HistoryRow : null
-
         anchors.bottom: parent.bottom
         width: parent.width
         activeFocusOnTab: root.list !== null && root.list.count > 0
         Accessible.role: Accessible.List
-        Accessible.name: Texts.text("History") + (row ? ", " + row.spoken : "")
+        Accessible.name: Texts.text("History") + (activeFocusOnTab ? ", " + App.fasting.history.spokenText(root.list.keyedRow) : "")
         Accessible.focusable: true
         onActiveFocusChanged: {
             root.list.keyed = activeFocus;
             if (activeFocus)
-                root.list.step(root.list.currentIndex);
+                root.list.step(root.list.keyedRow);
         }
         Keys.onPressed: event => root.list.keyPressed(event)
     }

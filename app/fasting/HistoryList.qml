@@ -18,7 +18,6 @@ HistoryView {
     // The next row takes the place of one that goes, for the keyboard too.
     onRemoveWanted: row => App.fasting.history.remove(row)
     onCountChanged: {
-        if (keyed && count > 0 && currentIndex < 0)
-            step(0);
+        keyedRow = Math.max(0, Math.min(count - 1, keyedRow));
     }
 }

@@ -147,7 +147,7 @@ Item {
     FocusRing {
         target: root
         anchors.margins: 2
-        visible: InputMode.keyboard && root.list !== null && root.list.keyed && root.list.currentIndex === root.index
+        visible: InputMode.keyboard && root.list !== null && root.list.keyed && root.list.keyedRow === root.index
     }
 
     TapHandler {

@@ -11,8 +11,9 @@ ListView {
     property real rowWidth: width - 2 * rowX
     /// The running fast stands above the rows.
     property bool whole: true
-    /// The keyboard is at the rows.
+    /// The keyboard is at the rows, and at which of them. The list's own current item would take the focus.
     property bool keyed: false
+    property int keyedRow: 0
 
     signal addWanted
     signal editWanted(row: int)
@@ -22,21 +23,21 @@ ListView {
     signal goalWanted
 
     function step(to: int) {
-        currentIndex = Math.max(0, Math.min(count - 1, to));
-        positionViewAtIndex(currentIndex, ListView.Contain);
+        keyedRow = Math.max(0, Math.min(count - 1, to));
+        positionViewAtIndex(keyedRow, ListView.Contain);
     }
 
     function keyPressed(event: KeyEvent) {
         event.accepted = true;
         switch (event.key) {
         case Qt.Key_Up:
-            return step(currentIndex - 1);
+            return step(keyedRow - 1);
         case Qt.Key_Down:
-            return step(currentIndex + 1);
+            return step(keyedRow + 1);
         case Qt.Key_PageUp:
-            return step(currentIndex - 6);
+            return step(keyedRow - 6);
         case Qt.Key_PageDown:
-            return step(currentIndex + 6);
+            return step(keyedRow + 6);
         case Qt.Key_Home:
             return step(0);
         case Qt.Key_End:
@@ -44,12 +45,12 @@ ListView {
         case Qt.Key_Return:
         case Qt.Key_Enter:
         case Qt.Key_Space:
-            return editWanted(currentIndex);
+            return editWanted(keyedRow);
         case Qt.Key_Delete:
         case Qt.Key_Backspace:
-            return removeWanted(currentIndex);
+            return removeWanted(keyedRow);
         case Qt.Key_Menu:
-            return menuWanted(currentIndex);
+            return menuWanted(keyedRow);
         }
         event.accepted = false;
     }

@@ -1,0 +1,271 @@
+// SPDX-License-Identifier: MIT
+// The fasting tab, driven with clicks and keys.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <QtTest/QTest>
+#include <fstream>
+
+#include "host/database/HistoryChange.h"
+#include "tests/app/ShownApp.h"
+#include "tests/support/TemporaryFolder.h"
+
+namespace mivo::app {
+namespace {
+
+using testing::HasSubstr;
+
+constexpr const char* none = R"({"version":1,"fasts":[],"weights":[]})";
+constexpr const char* three = R"({"version":1,"fasts":[
+    {"start":"2026-02-25T19:00:00Z","end":"2026-02-26T12:00:00Z"},
+    {"start":"2026-02-26T19:00:00Z","end":"2026-02-27T10:00:00Z"},
+    {"start":"2026-02-27T19:00:30Z","end":"2026-02-28T12:00:00Z","note":"slept well"}],"weights":[]})";
+constexpr const char* overlapping = R"({"version":1,"fasts":[
+    {"start":"2026-02-25T19:00:00Z","end":"2026-02-26T12:00:00Z"},
+    {"start":"2026-02-26T11:00:00Z","end":"2026-02-27T03:00:00Z"}],"weights":[]})";
+constexpr const char* begunTomorrow = R"({"version":1,"fasts":[{"start":"2026-03-02T12:00:00Z","end":null}]})";
+
+/// The app on its fasting tab, high enough to show it whole.
+class Fasting : public testing::Test {
+ protected:
+  void show(const char* snapshot) {
+    const std::string sample = (folder.path / "sample.json").string();
+    std::ofstream{sample} << snapshot;
+    open(ShownApp::optionsFor(sample));
+  }
+
+  void open(Options options) {
+    options.tab = "fasting";
+    app.reset();
+    app = std::make_unique<ShownApp>(options, QSize{390, 1400});
+  }
+
+  void click(const QString& button) {
+    QQuickItem* item = app->button(button);
+    ASSERT_NE(item, nullptr) << button.toStdString();
+    app->click(item);
+  }
+
+  /// A tile or a line of a sheet, known by its label.
+  void clickField(const QString& label) {
+    QQuickItem* item = app->find([&label](const QQuickItem* one) {
+      return one->property("label").toString() == label && one->inherits("QQuickAbstractButton");
+    });
+    ASSERT_NE(item, nullptr) << label.toStdString();
+    app->click(item);
+  }
+
+  void clickRow(int row) {
+    QQuickItem* item = rowItem(row);
+    ASSERT_NE(item, nullptr);
+    app->click(item);
+  }
+
+  QQuickItem* rowItem(int row) {
+    return app->find([row](const QQuickItem* one) {
+      return QByteArray{one->metaObject()->className()}.startsWith("HistoryRow") && one->property("index") == row;
+    });
+  }
+
+  /// Turns a wheel of the open sheet and takes what it says.
+  void turn(const QString& name, int steps) {
+    QQuickItem* wheel = app->find([&name](const QQuickItem* one) {
+      return one->inherits("QQuickTumbler") && one->property("accessibleName").toString() == name;
+    });
+    ASSERT_NE(wheel, nullptr);
+    wheel->forceActiveFocus();
+    for (int turned = 0; turned < std::abs(steps); ++turned) app->key(steps < 0 ? Qt::Key_Up : Qt::Key_Down);
+    click("Done");
+  }
+
+  std::vector<host::FastRecord> onDisk() { return app->environment.history->load().fasts; }
+  bool eventuallyHas(std::size_t count) {
+    const bool has = eventually([&] { return app->state().fasts->size() == count; });
+    settle(app->window());
+    return has && onDisk().size() == count;
+  }
+
+  tests::TemporaryFolder folder;
+  std::unique_ptr<ShownApp> app;
+};
+
+TEST_F(Fasting, recordsAFastAndTheFiguresMove) {
+  show(none);
+  EXPECT_NE(app->text("Your first fast"), nullptr);
+  click("Start fast");
+  ASSERT_TRUE(eventually([&] { return app->state().runningFast() != nullptr; }));
+  settle(app->window());
+  EXPECT_EQ(app->model().fasting()->elapsed(), "0:00:00");
+
+  clickField("Started");
+  turn("Hour", -3);
+  ASSERT_TRUE(eventually([&] { return app->model().fasting()->elapsed() == QLatin1String{"3:00:00"}; }));
+  EXPECT_EQ(app->statistics().stats.totalHours, 3);
+  clickField("Goal");
+  click("18h");
+  click("Save");
+  EXPECT_TRUE(eventually([&] { return app->state().runningFast()->fast.goalSeconds == 18 * 3600; }));
+  EXPECT_EQ(app->model().fasting()->goalText(), "15h 0m to your goal");
+
+  click("Stop fast");
+  ASSERT_TRUE(eventually([&] { return app->state().runningFast() == nullptr; }));
+  settle(app->window());
+  EXPECT_EQ(app->statistics().stats.totalFasts, 1);
+  EXPECT_NE(app->text("since your last fast"), nullptr);
+  EXPECT_NE(rowItem(0), nullptr);
+  ASSERT_EQ(onDisk().size(), 1U);
+  EXPECT_EQ(onDisk()[0].fast.finished->duration(), 3 * secondsPerHour);
+
+  click("Undo");
+  EXPECT_TRUE(eventually([&] { return app->state().runningFast() != nullptr; })) << "stopped by mistake";
+}
+
+TEST_F(Fasting, editsAFastAndKeepsWhatWasNotTouched) {
+  show(three);
+  const host::FastRecord before = onDisk()[2];
+  clickRow(0);
+  EXPECT_NE(app->text("Edit fast"), nullptr);
+  clickField("Start");
+  click("Done");
+  clickField("End");
+  turn("Hour", -2);
+  click("Custom");
+  QTest::keyClick(&app->window(), Qt::Key_A, Qt::ControlModifier);
+  app->type("17:30");
+  click("Save");
+  ASSERT_TRUE(eventually([&] { return onDisk()[2] != before; }));
+  host::FastRecord expected = before;
+  expected.fast =
+      finishedFast(before.fast.id, before.fast.start, before.fast.finished->end - Duration{2 * secondsPerHour}, 63000);
+  EXPECT_EQ(onDisk()[2], expected) << "the start keeps its seconds";
+  settle(app->window());
+  EXPECT_EQ(app->text("Edit fast"), nullptr) << "the sheet closes";
+  EXPECT_NE(app->text("17h 30m goal"), nullptr);
+}
+
+TEST_F(Fasting, removesAtOnceAndBringsBack) {
+  show(three);
+  const auto before = onDisk();
+  clickRow(1);
+  click("Delete fast");
+  ASSERT_TRUE(eventuallyHas(2));
+  click("Undo");
+  ASSERT_TRUE(eventuallyHas(3));
+
+  const QQuickItem* row = rowItem(0);
+  const QPoint from = row->mapToScene({300, 40}).toPoint();
+  QTest::mousePress(&app->window(), Qt::LeftButton, Qt::NoModifier, from);
+  for (int moved = 20; moved <= 260; moved += 20) QTest::mouseMove(&app->window(), from - QPoint{moved, 0}, 5);
+  QTest::mouseRelease(&app->window(), Qt::LeftButton, Qt::NoModifier, from - QPoint{260, 0});
+  ASSERT_TRUE(eventuallyHas(2));
+  EXPECT_EQ(onDisk()[1], before[1]);
+  click("Undo");
+  ASSERT_TRUE(eventuallyHas(3));
+  EXPECT_EQ(onDisk(), before);
+
+  QTest::mouseClick(&app->window(), Qt::RightButton, Qt::NoModifier, rowItem(2)->mapToScene({100, 40}).toPoint());
+  settle(app->window());
+  click("Delete fast");
+  ASSERT_TRUE(eventuallyHas(2));
+  EXPECT_EQ(onDisk()[0], before[1]);
+}
+
+TEST_F(Fasting, addsAPastFastAndRefusesAFutureOne) {
+  show(none);
+  click("Add fast");
+  clickField("End");
+  turn("Hour", 1);
+  EXPECT_NE(app->text("The end is in the future. Is the clock right?"), nullptr);
+  click("Save");
+  EXPECT_TRUE(onDisk().empty());
+
+  clickField("End");
+  turn("Day", -1);
+  EXPECT_NE(app->text("The end is before the start."), nullptr);
+  click("Save");
+  EXPECT_TRUE(onDisk().empty());
+
+  clickField("Start");
+  turn("Day", -1);
+  click("Save");
+  ASSERT_TRUE(eventuallyHas(1));
+  EXPECT_LT(onDisk()[0].fast.start, onDisk()[0].fast.finished->end);
+  EXPECT_EQ(app->statistics().stats.totalFasts, 1);
+}
+
+TEST_F(Fasting, marksFastsThatOverlap) {
+  show(overlapping);
+  EXPECT_NE(app->text("Overlaps the fast of Thu, 26 Feb"), nullptr);
+  EXPECT_NE(app->text("Overlaps the fast of Wed, 25 Feb"), nullptr);
+  clickRow(0);
+  click("Delete fast");
+  ASSERT_TRUE(eventuallyHas(1));
+  EXPECT_EQ(app->text("Overlaps the fast of Thu, 26 Feb"), nullptr);
+}
+
+TEST_F(Fasting, isDrivenByTheKeyboardAlone) {
+  show(three);
+  const auto before = onDisk();
+  QQuickItem* list =
+      app->find([](const QQuickItem* one) { return QByteArray{one->metaObject()->className()}.startsWith("History"); });
+  ASSERT_NE(list, nullptr);
+  for (int tabs = 0; tabs < 20 && !list->property("keyed").toBool(); ++tabs) app->key(Qt::Key_Tab);
+  ASSERT_TRUE(list->property("keyed").toBool());
+  EXPECT_EQ(list->property("keyedRow"), 0);
+
+  app->key(Qt::Key_Down);
+  app->key(Qt::Key_Return);
+  EXPECT_NE(app->text("Edit fast"), nullptr);
+  app->key(Qt::Key_Escape);
+  EXPECT_EQ(app->text("Edit fast"), nullptr);
+  ASSERT_TRUE(list->property("keyed").toBool()) << "the keys come back to the rows";
+  app->key(Qt::Key_Delete);
+  ASSERT_TRUE(eventuallyHas(2));
+  EXPECT_EQ(onDisk()[1], before[2]);
+  app->key(Qt::Key_End);
+  app->key(Qt::Key_Delete);
+  ASSERT_TRUE(eventuallyHas(1));
+  EXPECT_EQ(onDisk()[0], before[2]);
+}
+
+TEST_F(Fasting, saysWhatFailedUntilItIsDismissed) {
+  show(none);
+  app->environment.history->apply(host::adding({mivo::ongoingFast({7, 9}, dateSince1970(0), 57600), ""}));
+  click("Start fast");
+  ASSERT_TRUE(eventually([&] { return !app->model().failure().isEmpty(); }));
+  settle(app->window());
+  EXPECT_THAT(app->model().failure().toStdString(), HasSubstr("another fast is running already"));
+  EXPECT_NE(app->text(app->model().failure()), nullptr);
+  click("OK");
+  EXPECT_EQ(app->model().failure(), "");
+}
+
+TEST_F(Fasting, losesNothingWhenTheClockWasSetBack) {
+  show(begunTomorrow);
+  EXPECT_EQ(app->model().fasting()->elapsed(), "0:00:00");
+  EXPECT_NE(app->text("This fast begins in the future. Check the clock, or change when it started."), nullptr);
+  click("Stop fast");
+  EXPECT_NE(app->text("The start is in the future. Is the clock right?"), nullptr);
+  EXPECT_EQ(onDisk().size(), 1U);
+  EXPECT_FALSE(onDisk()[0].fast.finished);
+}
+
+TEST_F(Fasting, findsEverythingAfterARestart) {
+  qputenv("XDG_CONFIG_HOME", QByteArray::fromStdString(folder.path.string()));
+  Options options = ShownApp::optionsFor("");
+  options.database = (folder.path / "mivo.sqlite").string();
+  open(options);
+  clickField("Goal");
+  click("20h");
+  click("Save");
+  click("Start fast");
+  ASSERT_TRUE(eventually([&] { return app->state().runningFast() != nullptr; }));
+  options.now = "2026-03-01T15:30:05Z";
+  open(options);
+  EXPECT_EQ(app->model().fasting()->elapsed(), "3:30:05");
+  EXPECT_EQ(app->state().runningFast()->fast.goalSeconds, 20 * 3600);
+  EXPECT_EQ(app->statistics().stats.totalHours, 3);
+}
+
+}  // namespace
+}  // namespace mivo::app
