@@ -56,6 +56,7 @@ T.AbstractButton {
         spacing: 4
 
         CardHeadLine {
+            anchors.left: parent.left
             width: parent.width - (root.editable ? 26 : 0)
             title: root.label
             detail: root.value

@@ -43,6 +43,7 @@ T.AbstractButton {
         spacing: 2
 
         StyledText {
+            anchors.left: parent.left
             width: parent.width - (root.editable ? 22 : 0)
             text: root.label
             style: Theme.labelText

@@ -21,6 +21,7 @@ Card {
 
         TimerRing {
             id: ring
+            width: Math.min(implicitWidth, root.width - 8)
             anchors.horizontalCenter: parent.horizontalCenter
             y: -4
         }

@@ -22,15 +22,15 @@ FocusScope {
             sheet.close();
         switch (name) {
         case "editFast":
-            return edit(0);
+            return App.fasting.history.count > 0 ? edit(0) : undefined;
         case "addFast":
             return add();
         case "fastGoal":
             return goal.open();
         case "fastStart":
-            return started.open();
+            return App.fasting.running ? started.open() : undefined;
         case "fastMenu":
-            return offer(0);
+            return App.fasting.history.count > 0 ? offer(0) : undefined;
         }
     }
 

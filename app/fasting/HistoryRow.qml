@@ -74,6 +74,7 @@ Item {
             y: 12
 
             StyledText {
+                anchors.left: parent.left
                 text: root.date
                 style: Theme.bodyStrongText
                 wrapMode: Text.NoWrap

@@ -8,11 +8,12 @@ Item {
 
     readonly property bool begun: App.fasting.running || App.fasting.eating
     /// Of what stands inside the ring, whatever the size of texts.
-    readonly property real room: 180
-    readonly property real textLimit: 1.4
+    readonly property real room: 180 * fit
+    readonly property real textLimit: 1.4 * fit
+    readonly property real fit: width / 300
 
     implicitWidth: 300
-    implicitHeight: 300
+    height: width
 
     ZoneRing {
         anchors.fill: parent
@@ -59,7 +60,7 @@ Item {
             anchors.horizontalCenter: parent.horizontalCenter
             text: App.fasting.elapsed
             style: Theme.timerText
-            scaleLimit: text.length > 8 ? 0.95 : 1.2
+            scaleLimit: (text.length > 8 ? 0.95 : 1.1) * root.fit
             evenDigits: true
         }
 

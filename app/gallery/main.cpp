@@ -45,8 +45,9 @@ constexpr std::array<History, 4> histories{{
     {"ten-years", ""},
 }};
 
-constexpr std::array<const char*, 11> screens{"",          "badges",   "milestones", "streaks", "roadmap", "feedback",
-                                              "donations", "overlaps", "goalWeight", "date",    "table"};
+constexpr std::array<const char*, 16> screens{"statistics", "badges",   "milestones", "streaks",  "roadmap", "feedback",
+                                              "donations",  "overlaps", "goalWeight", "date",     "table",   "fasting",
+                                              "editFast",   "addFast",  "fastGoal",   "fastStart"};
 
 struct Wanted {
   std::string folder;  // none only measures
@@ -80,18 +81,19 @@ int drawScreens(const Shown& shown, const Wanted& wanted, const Size& size, Appe
   int faulty = 0;
   shown.app.appearance().setOverride({.mode = mode, .textScale = std::nullopt, .still = true});
   for (const char* screen : screens) {
+    const bool isColumn = std::string_view{screen} == "statistics";
     window.resize(size.size);
     QMetaObject::invokeMethod(&window, "present", Q_ARG(QString, QString::fromLatin1(screen)));
     settle(window, 40);
     const QString name =
         QStringLiteral("%1-%2-%3-%4")
-            .arg(QLatin1String{*screen ? screen : "statistics"}, QLatin1String{size.name},
+            .arg(QLatin1String{screen}, QLatin1String{size.name},
                  mode == Appearance::Mode::Dark ? QStringLiteral("dark") : QStringLiteral("light"), shown.name);
     if (!wanted.folder.empty())
       window.grabWindow().save(QString::fromStdString(wanted.folder) + QLatin1Char{'/'} + name +
                                QStringLiteral(".png"));
-    if (!*screen) window.setHeight(window.property("wholeHeight").toInt());
-    if (!*screen) settle(window, 40);
+    if (isColumn) window.setHeight(window.property("wholeHeight").toInt());
+    if (isColumn) settle(window, 40);
     for (const QString& fault : faultsOf(window)) {
       std::cout << name.toStdString() << ": " << fault.toStdString() << '\n';
       ++faulty;

@@ -47,8 +47,8 @@ void addLook(CLI::App& program, Options& options) {
       ->capture_default_str();
   program.add_option("--screen", options.screen, "What is open over it")
       ->check(CLI::IsMember({"badges", "milestones", "streaks", "roadmap", "feedback", "donations", "overlaps",
-                             "goalWeight", "date", "table", "fasting", "editFast", "addFast", "fastGoal", "fastStart",
-                             "fastMenu"}));
+                             "goalWeight", "date", "table", "statistics", "fasting", "editFast", "addFast", "fastGoal",
+                             "fastStart", "fastMenu"}));
 }
 
 }  // namespace

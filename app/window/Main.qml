@@ -37,6 +37,9 @@ Window {
         for (const sheet of [feedback, goalWeight, table, weightDate])
             sheet.close();
         switch (name) {
+        case "statistics":
+            tab = "statistics";
+            return;
         case "fasting":
         case "editFast":
         case "addFast":
