@@ -82,6 +82,8 @@ void FastingModel::setWatched(bool seen) {
 
 void FastingModel::tick() {
   Q_EMIT ticked();
+  const auto zones = running ? zoneTimes(seconds()) : QList<ZoneTime>{};
+  if (std::exchange(shownZones, zones) != zones) Q_EMIT zonesChanged();
   waitForTheNextTick();
 }
 

@@ -40,7 +40,7 @@ class FastingModel : public QObject {
   /// What is wrong with the running fast, in a sentence: it begins in the future, or overlaps another one.
   Q_PROPERTY(QString warning READ warning NOTIFY ticked)
   /// How long the running fast was in each zone.
-  Q_PROPERTY(QList<mivo::app::ZoneTime> zones READ zones NOTIFY ticked)
+  Q_PROPERTY(QList<mivo::app::ZoneTime> zones MEMBER shownZones NOTIFY zonesChanged)
   /// "Today, 20:14"
   Q_PROPERTY(QString startedText READ startedText NOTIFY ticked)
   Q_PROPERTY(double started READ started NOTIFY changed)
@@ -73,7 +73,6 @@ class FastingModel : public QObject {
   QString presentZoneName() const { return zoneName(presentZone()); }
   QString goalText() const;
   QString warning() const;
-  QList<ZoneTime> zones() const { return running ? zoneTimes(seconds()) : QList<ZoneTime>{}; }
   QString startedText() const;
   double started() const { return running ? secondsSince1970(running->fast.start) : 0; }
   QString goal() const;
@@ -106,6 +105,7 @@ class FastingModel : public QObject {
   void changed();
   void ticked();
   void watchedChanged();
+  void zonesChanged();
 
  private:
   double seconds() const;
@@ -121,6 +121,7 @@ class FastingModel : public QObject {
   FastHistoryModel ended;
   FastDraftModel edited;
   QString overlap;
+  QList<ZoneTime> shownZones;
   bool watched = false;
   QTimer timer;
 };

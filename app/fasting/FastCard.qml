@@ -21,7 +21,8 @@ Card {
 
         TimerRing {
             id: ring
-            width: Math.min(implicitWidth, root.width - 8)
+            width: root.width - 8
+            height: Math.min(implicitHeight, width)
             anchors.horizontalCenter: parent.horizontalCenter
             y: -4
         }
@@ -34,12 +35,17 @@ Card {
         zones: App.fasting.zones
     }
 
-    CautionLine {
-        visible: text !== ""
+    Item {
+        visible: caution.text !== ""
         width: parent.width
-        height: implicitHeight + 12
-        y: 12
-        text: App.fasting.warning
+        height: caution.height + 12
+
+        CautionLine {
+            id: caution
+            anchors.bottom: parent.bottom
+            width: parent.width
+            text: App.fasting.warning
+        }
     }
 
     Item {

@@ -10,10 +10,10 @@ Item {
     /// Of what stands inside the ring, whatever the size of texts.
     readonly property real room: 180 * fit
     readonly property real textLimit: 1.4 * fit
-    readonly property real fit: width / 300
+    readonly property real fit: height / 300
 
     implicitWidth: 300
-    height: width
+    implicitHeight: 300
 
     ZoneRing {
         anchors.fill: parent
@@ -48,10 +48,10 @@ Item {
             }
 
             StyledText {
+                width: Math.min(implicitWidth, root.room - 50)
                 text: App.fasting.zoneName
                 style: Theme.bodyStrongText
                 scaleLimit: root.textLimit
-                wrapMode: Text.NoWrap
             }
         }
 
@@ -60,7 +60,7 @@ Item {
             anchors.horizontalCenter: parent.horizontalCenter
             text: App.fasting.elapsed
             style: Theme.timerText
-            scaleLimit: (text.length > 8 ? 0.95 : 1.1) * root.fit
+            scaleLimit: (text.length > 8 ? 0.88 : 1.1) * root.fit
             evenDigits: true
         }
 

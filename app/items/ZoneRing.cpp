@@ -12,7 +12,7 @@
 namespace mivo::app {
 namespace {
 
-constexpr qreal box = 300, radius = 118, stroke = 20, gap = 2.2, labelRadius = 140;
+constexpr qreal box = 300, radius = 118, stroke = 20, gap = 2.2, labelRadius = 140, usualLabel = 20;
 constexpr qreal handleRadius = 9, haloRadius = 14;
 
 }  // namespace
@@ -55,15 +55,21 @@ void ZoneRing::paintMarks(QPainter* painter) const {
   painter->setPen(markInk);
   const QFontMetricsF metrics{axisFont};
   for (qsizetype index = 0; index < std::min(marks.size(), markTexts.size()); ++index) {
+    const qreal advance = metrics.horizontalAdvance(markTexts[index]);
     const QPointF at = onRing(marks[index], labelRadius);
-    const qreal x = at.x() - metrics.horizontalAdvance(markTexts[index]) / 2;
+    // Wide ones move outwards where they stand beside the ring, as far as there is room.
+    const qreal aside = (at.x() - box / 2) / labelRadius * std::max(0.0, advance - usualLabel) / 2;
+    const qreal room = (width() * box / height() - box) / 2;
+    const qreal x = std::clamp(at.x() + aside - advance / 2, -room, std::max(-room, box + room - advance));
     painter->drawText(QPointF{x, at.y() + metrics.capHeight() / 2}, markTexts[index]);
   }
 }
 
 void ZoneRing::paint(QPainter* painter) {
   painter->setRenderHint(QPainter::Antialiasing);
-  painter->scale(width() / box, height() / box);
+  const qreal scale = height() / box;
+  painter->translate((width() - box * scale) / 2, 0);
+  painter->scale(scale, scale);
   const auto all = segments();
   const qreal gapSeconds = all.size() > 1 ? gap / (2 * std::numbers::pi * radius) * spanSeconds : 0;
   const qreal present = std::clamp(seconds, 0.0, spanSeconds);

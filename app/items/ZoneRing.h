@@ -10,7 +10,7 @@
 namespace mivo::app {
 
 /// The ring of a running fast: one segment a zone, filled as far as the fast has come. Without a fast, one ring of the
-/// eating window.
+/// eating window. It is as large as its height; what is wider is room for the hours beside it.
 class ZoneRing : public QQuickPaintedItem {
   Q_OBJECT
   QML_ELEMENT
