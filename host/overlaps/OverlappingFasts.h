@@ -10,8 +10,8 @@
 
 namespace mivo::host {
 
-/// For each of the fasts the place of one that it shares time with, in the same order; nothing where it shares time with
-/// none. Rules as for `overlappingFasts`. O(n).
+/// For each of the fasts the place of one that it shares time with, in the same order; nothing where it shares time
+/// with none. Rules as for `overlappingFasts`. O(n).
 std::vector<std::optional<std::size_t>> overlapPartners(const std::vector<FastRecord>& fasts, Date now);
 
 /// Which of the fasts share time with another one, in the same order. A fast that is still running counts as ending
