@@ -91,6 +91,10 @@ FocusScope {
         onGoalWanted: goal.open()
     }
 
+    FocusFollower { view: side }
+
+    FocusFollower { view: history }
+
     FastSheet { id: fast }
 
     FastGoalSheet { id: goal }

@@ -119,20 +119,8 @@ FocusScope {
         }
     }
 
-    // Scrolls so that what the keyboard has reached is seen.
-    Connections {
-        target: root.Window.window
-
-        function onActiveFocusItemChanged() {
-            const item = root.Window.activeFocusItem;
-            if (!item || !InputMode.keyboard || !root.activeFocus)
-                return;
-            const top = item.mapToItem(flick.contentItem, 0, 0).y;
-            const above = root.pickerSticks ? Theme.stickyRangeSize : 0;
-            if (top - 16 - above < flick.contentY)
-                flick.contentY = Math.max(0, top - 16 - above);
-            else if (top + item.height + 16 > flick.contentY + flick.height)
-                flick.contentY = Math.min(flick.contentHeight - flick.height, top + item.height + 16 - flick.height);
-        }
+    FocusFollower {
+        view: flick
+        covered: root.pickerSticks ? Theme.stickyRangeSize : 0
     }
 }

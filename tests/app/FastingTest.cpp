@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <QtCore/QSet>
 #include <QtTest/QTest>
 #include <fstream>
 
@@ -226,6 +227,23 @@ TEST_F(Fasting, isDrivenByTheKeyboardAlone) {
   app->key(Qt::Key_Delete);
   ASSERT_TRUE(eventuallyHas(1));
   EXPECT_EQ(onDisk()[0], before[2]);
+}
+
+TEST_F(Fasting, scrollsToWhatTheKeyboardReaches) {
+  open(ShownApp::optionsFor(threeWeeks));
+  app->window().resize(390, 480);
+  settle(app->window());
+  QSet<QString> reached;
+  for (const Qt::Key key : {Qt::Key_Tab, Qt::Key_Tab, Qt::Key_Tab, Qt::Key_Tab, Qt::Key_End, Qt::Key_Backtab,
+                            Qt::Key_Backtab, Qt::Key_Backtab}) {
+    app->key(key);
+    const QQuickItem* item = app->window().activeFocusItem();
+    const QRectF seen = item->mapRectToScene({0, 0, item->width(), item->height()});
+    const QString name = item->property("text").toString();
+    EXPECT_TRUE(item->height() == 0 || (seen.top() > 0 && seen.bottom() < 416)) << name.toStdString();
+    if (key == Qt::Key_Backtab) reached << name;
+  }
+  EXPECT_EQ(reached, (QSet<QString>{"Add fast", "Start fast", "Goal, 16h"})) << "after the last row";
 }
 
 TEST_F(Fasting, saysWhatFailedUntilItIsDismissed) {
