@@ -48,7 +48,7 @@ std::string weightText(double weightInKg, const RecordRun& run) {
 
 /// A note's first line, cut to a width.
 std::string shortened(const std::string& note, int width) {
-  const std::string first = note.substr(0, note.find_first_of("\r\n"));
+  std::string first = note.substr(0, note.find_first_of("\r\n"));
   if (first.size() == note.size() && columns(first) <= width) return first;
   std::size_t end = first.size();
   while (end > 0 && columns(std::string_view{first}.substr(0, end)) > width - 1) {

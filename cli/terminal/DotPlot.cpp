@@ -25,10 +25,12 @@ DotPlot::DotPlot(int widthInColumns, int heightInLines)
       height{heightInLines * dotsHigh},
       dots(static_cast<std::size_t>(width) * static_cast<std::size_t>(height)) {}
 
+std::size_t DotPlot::index(long row, long column) const { return static_cast<std::size_t>(row * width + column); }
+
 void DotPlot::point(double x, double y) {
   if (!(x >= 0 && x <= 1 && y >= 0 && y <= 1)) return;
   const auto column = std::lround(x * (width - 1)), row = std::lround((1 - y) * (height - 1));
-  dots[static_cast<std::size_t>(row * width + column)] = true;
+  dots[index(row, column)] = true;
 }
 
 void DotPlot::line(double fromX, double fromY, double toX, double toY) {
@@ -48,7 +50,7 @@ std::vector<std::string> DotPlot::lines() const {
       int pattern = 0;
       for (int row = 0; row < dotsHigh; ++row)
         for (int column = 0; column < dotsWide; ++column)
-          if (dots[static_cast<std::size_t>((top + row) * width + left + column)])
+          if (dots[index(top + row, left + column)])
             pattern |= bits[static_cast<std::size_t>(row)][static_cast<std::size_t>(column)];
       text += pattern == 0 ? " " : braille(pattern);
     }

@@ -20,6 +20,8 @@ class DotPlot {
   std::vector<std::string> lines() const;
 
  private:
+  std::size_t index(long row, long column) const;
+
   int width, height;  // in dots
   std::vector<bool> dots;
 };

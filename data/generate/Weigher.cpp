@@ -37,7 +37,8 @@ std::vector<BodyWeightSample> weighings(std::span<const Milestone> milestones, s
     if (when > until) return samples;
     if (dice.between(1, 7) > timesAWeek) continue;
     const std::int64_t grams = trueWeight(milestones, day) + afterTheWeekend(day) + dice.bell(260);
-    samples.push_back({dice.uuid(), when, static_cast<double>((grams + 50) / 100) / 10});
+    const std::int64_t hectograms = (grams + 50) / 100;
+    samples.push_back({dice.uuid(), when, static_cast<double>(hectograms) / 10});
   }
 }
 

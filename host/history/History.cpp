@@ -13,7 +13,7 @@ FastRecord stopped(FastRecord running, Date end) {
 
 std::string describe(const KeptOddity& oddity) {
   const std::int64_t others = oddity.count - 1;
-  const std::string sentence = describe(oddity.first) + "; kept";
+  std::string sentence = describe(oddity.first) + "; kept";
   if (others == 0) return sentence;
   return sentence + ", and so " + (others == 1 ? "is 1" : "are " + std::to_string(others)) + " more like it";
 }
