@@ -187,7 +187,7 @@ class TimeRangeCardModel : public ContentCard<TimeRangeCard> {
   QML_UNCREATABLE("cards come from the screen")
   Q_PROPERTY(QString title READ title NOTIFY changed)
   Q_PROPERTY(QString prompt READ prompt NOTIFY changed)
-  Q_PROPERTY(QStringList options READ options NOTIFY changed)
+  Q_PROPERTY(QList<QString> options READ options NOTIFY changed)
   Q_PROPERTY(int selectedIndex READ selectedIndex NOTIFY changed)
 
  public:

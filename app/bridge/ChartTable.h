@@ -8,6 +8,7 @@
 namespace mivo::app {
 
 /// A chart read as a table, the latest row first.
+/// Who derives from it names it with its namespace: Qt describes types to QML by their base's name as it is written.
 class ChartTable : public QObject {
   Q_OBJECT
   QML_ELEMENT

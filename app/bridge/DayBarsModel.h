@@ -14,7 +14,7 @@ namespace mivo::app {
 
 /// A day-bar chart as the screen reads and drives it. What it says comes from the chart's state; what the user does
 /// goes out as the chart's actions.
-class DayBarsModel : public ChartTable {
+class DayBarsModel : public mivo::app::ChartTable {
   Q_OBJECT
   QML_ELEMENT
   QML_UNCREATABLE("a chart belongs to the statistics")

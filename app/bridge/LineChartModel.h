@@ -14,7 +14,8 @@
 namespace mivo::app {
 
 /// A line chart as the screen reads and drives it: one line or two that share an axis without a unit.
-class LineChartModel : public ChartTable {
+/// Who derives from it names it with its namespace: Qt describes types to QML by their base's name as it is written.
+class LineChartModel : public mivo::app::ChartTable {
   Q_OBJECT
   QML_ELEMENT
   QML_UNCREATABLE("a chart belongs to the statistics")

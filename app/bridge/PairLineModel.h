@@ -13,7 +13,7 @@
 namespace mivo::app {
 
 /// The chart of averaged weight and fasting hours.
-class PairLineModel final : public LineChartModel {
+class PairLineModel final : public mivo::app::LineChartModel {
   Q_OBJECT
 
  public:

@@ -12,7 +12,7 @@
 namespace mivo::app {
 
 /// The chart of weights, in the user's unit.
-class WeightLineModel final : public LineChartModel {
+class WeightLineModel final : public mivo::app::LineChartModel {
   Q_OBJECT
 
  public:

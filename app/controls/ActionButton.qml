@@ -57,7 +57,11 @@ T.Button {
         FocusRing { target: root }
     }
 
-    contentItem: Item {
+    contentItem: face
+
+    Item {
+        id: face
+
         implicitWidth: row.implicitWidth
         implicitHeight: row.implicitHeight
 

@@ -19,7 +19,6 @@ T.AbstractButton {
 
     background: Item {
         Rectangle {
-            id: pill
             anchors.centerIn: parent
             width: parent.width
             height: parent.height - 8
@@ -28,12 +27,16 @@ T.AbstractButton {
 
             FocusRing {
                 target: root
-                targetRadius: pill.radius
+                targetRadius: (root.height - 8) / 2
             }
         }
     }
 
-    contentItem: Item {
+    contentItem: face
+
+    Item {
+        id: face
+
         StyledText {
             id: label
             anchors.centerIn: parent

@@ -45,25 +45,34 @@ Sheet {
             id: days
             width: 152
             model: choice.dayCount
-            textOf: index => choice.dayText(index)
             accessibleName: Texts.text("Day")
             onCurrentIndexChanged: choice.day = currentIndex
+
+            function textOf(index: int): string {
+                return choice.dayText(index);
+            }
         }
 
         Wheel {
             id: hours
             model: 24
-            textOf: index => choice.clockText(index)
             accessibleName: Texts.text("Hour")
             onCurrentIndexChanged: choice.hour = currentIndex
+
+            function textOf(index: int): string {
+                return choice.clockText(index);
+            }
         }
 
         Wheel {
             id: minutes
             model: 60
-            textOf: index => choice.clockText(index)
             accessibleName: Texts.text("Minute")
             onCurrentIndexChanged: choice.minute = currentIndex
+
+            function textOf(index: int): string {
+                return choice.clockText(index);
+            }
         }
     }
 

@@ -21,7 +21,11 @@ T.AbstractButton {
         FocusRing { target: root }
     }
 
-    contentItem: Item {
+    contentItem: face
+
+    Item {
+        id: face
+
         StyledText {
             id: label
             anchors.left: parent.left

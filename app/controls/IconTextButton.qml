@@ -19,7 +19,11 @@ T.AbstractButton {
         FocusRing { target: root }
     }
 
-    contentItem: Item {
+    contentItem: face
+
+    Item {
+        id: face
+
         Row {
             id: row
             anchors.right: parent.right

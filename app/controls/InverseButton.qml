@@ -22,7 +22,11 @@ T.AbstractButton {
         border.color: Theme.textOnInverse
     }
 
-    contentItem: Item {
+    contentItem: face
+
+    Item {
+        id: face
+
         Row {
             id: row
             anchors.centerIn: parent

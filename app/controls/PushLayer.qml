@@ -8,6 +8,8 @@ FocusScope {
 
     property bool open: false
     property alias page: loader.sourceComponent
+    /// What the page made, as long as any of it can be seen.
+    readonly property Item shown: loader.item as Item
 
     readonly property bool mirroredNow: LayoutMirroring.enabled
     property real progress: open ? 1 : 0

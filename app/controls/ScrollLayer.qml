@@ -8,8 +8,6 @@ Flickable {
     id: root
 
     property real wantedContentWidth: width
-    /// Where a scroll that comes to rest should stand.
-    property var snap: position => position
     property bool rightToLeft: false
     /// A held finger drags the selection instead of the chart.
     property bool selectsWhileHeld: false
@@ -41,8 +39,6 @@ Flickable {
         glide.to = x;
         glide.start();
     }
-
-    onMovementEnded: scrollTo(snap(scroll), true)
 
     NumberAnimation {
         id: glide

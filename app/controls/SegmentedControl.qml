@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // One choice of a few, side by side. Arrow keys move the choice.
+pragma ComponentBehavior: Bound
 import QtQuick
 import Mivo
 

@@ -86,7 +86,8 @@ T.Popup {
         }
     }
 
-    contentItem: FocusScope {
+    // Not made only when the sheet first opens: what a sheet shows is its own from the start.
+    readonly property FocusScope content: FocusScope {
         focus: true
         Accessible.role: Accessible.Dialog
         Accessible.name: root.title
@@ -140,4 +141,6 @@ T.Popup {
             }
         }
     }
+
+    contentItem: content
 }

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // A list of choices that turns: the one in the middle is chosen.
+pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Templates as T
 import Mivo
@@ -7,8 +8,12 @@ import Mivo
 T.Tumbler {
     id: root
 
-    property var textOf: index => index
     property string accessibleName
+
+    /// The text of a choice; a wheel of something else than numbers has its own.
+    function textOf(index: int): string {
+        return index;
+    }
 
     implicitWidth: 72
     implicitHeight: 5 * 36

@@ -12,6 +12,7 @@ namespace mivo::app {
 
 /// What all charts take from the theme, and how they mirror. Geometry runs from the leading edge; a right-to-left
 /// layout mirrors it as a whole, texts excepted.
+/// Who derives from it names it with its namespace: Qt describes types to QML by their base's name as it is written.
 class ChartItem : public QQuickPaintedItem {
   Q_OBJECT
   QML_ANONYMOUS

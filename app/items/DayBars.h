@@ -10,7 +10,7 @@
 namespace mivo::app {
 
 /// The bars of a chart with lines, labels and popup. Only what is visible is painted.
-class DayBars : public ChartItem {
+class DayBars : public mivo::app::ChartItem {
   Q_OBJECT
   QML_ELEMENT
   Q_PROPERTY(mivo::app::DayBarsModel* model READ model WRITE setModel NOTIFY modelChanged REQUIRED)

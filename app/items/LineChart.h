@@ -12,7 +12,7 @@
 namespace mivo::app {
 
 /// One line with an area under it, or two with marks of their own. Only what is visible is painted.
-class LineChart : public ChartItem {
+class LineChart : public mivo::app::ChartItem {
   Q_OBJECT
   QML_ELEMENT
   Q_PROPERTY(mivo::app::LineChartModel* model READ model WRITE setModel NOTIFY modelChanged REQUIRED)

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // One family of badges: the best one, how far the next is, and those around it. A tap opens the list of all.
+pragma ComponentBehavior: Bound
 import QtQuick
 import Mivo
 
@@ -11,7 +12,11 @@ TappableCard {
 
     text: family.title + ": " + family.count + ", " + family.remaining
 
-    contentItem: Column {
+    contentItem: face
+
+    Column {
+        id: face
+
         spacing: 12
 
         Item {

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Every badge of one family.
+pragma ComponentBehavior: Bound
 import QtQuick
 import Mivo
 

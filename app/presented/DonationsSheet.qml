@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The ways to give.
+pragma ComponentBehavior: Bound
 import QtQuick
 import Mivo
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // What would become of fasts that overlap, for the user to agree to.
+pragma ComponentBehavior: Bound
 import QtQuick
 import Mivo
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // What may come: features with their votes, by state.
+pragma ComponentBehavior: Bound
 import QtQuick
 import Mivo
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // A chart as a table, the latest row first.
+pragma ComponentBehavior: Bound
 import QtQuick
 import Mivo
 

@@ -28,7 +28,11 @@ T.AbstractButton {
         FocusRing { target: root }
     }
 
-    contentItem: Item {
+    contentItem: face
+
+    Item {
+        id: face
+
         Icon {
             id: arrow
             anchors.horizontalCenter: parent.horizontalCenter

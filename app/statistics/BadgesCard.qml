@@ -9,7 +9,11 @@ TappableCard {
 
     text: root.card.title + ": " + root.card.milestoneLabel + ", " + root.card.streakLabel
 
-    contentItem: Column {
+    contentItem: face
+
+    Column {
+        id: face
+
         spacing: 8
 
         Item {

@@ -72,6 +72,8 @@ Item {
         }
     }
 
+    // A Loader of Qt 6.4 refuses components that are bound to their file, so qmllint cannot know what root is.
+    // qmllint disable unqualified
     Component { id: tip; TipCard { card: root.card as NoticeCardModel; onDismissed: App.dismissTip() } }
     Component { id: start; StartCard { card: root.card as NoticeCardModel; onStartTapped: root.startWanted() } }
     Component { id: configure; ConfigureCard { card: root.card as NoticeCardModel; onSettingsTapped: root.settingsWanted() } }

@@ -84,7 +84,7 @@ Card {
             height: parent.height
             wantedContentWidth: bars.contentWidth
             rightToLeft: bars.mirrored
-            snap: position => bars.snapped(position)
+            onMovementEnded: scrollTo(bars.snapped(scroll), true)
             onTapped: x => {
                 scope.forceActiveFocus();
                 bars.tap(x + layer.x + bars.roomAtTheSides);

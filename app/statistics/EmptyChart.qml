@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // A chart without data: three lines, and what to do.
+pragma ComponentBehavior: Bound
 import QtQuick
 import Mivo
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The statistics tab: a column of cards that scrolls; on wide windows rows of cards.
+pragma ComponentBehavior: Bound
 import QtQuick
 import Mivo
 
@@ -33,7 +34,7 @@ FocusScope {
 
         // The keyboard leaves when the column is scrolled.
         onMovementStarted: {
-            Qt.inputMethod.hide();
+            InputMethod.hide();
             if (root.Window.activeFocusItem instanceof TextInput)
                 root.forceActiveFocus();
         }
@@ -57,11 +58,12 @@ FocusScope {
                     Accessible.name: text
                 }
 
-                Loader {
-                    anchors.right: parent.right
-                    anchors.verticalCenter: parent.verticalCenter
-                    active: root.wide && App.screen.timeRange !== null
-                    sourceComponent: TimeRangeRow {
+                Repeater {
+                    model: root.wide && App.screen.timeRange !== null ? 1 : 0
+
+                    delegate: TimeRangeRow {
+                        anchors.right: parent.right
+                        anchors.verticalCenter: parent.verticalCenter
                         card: App.screen.timeRange
                         maxWidth: column.width - title.width - 24
                         onChosen: index => App.chooseTimeRange(index)

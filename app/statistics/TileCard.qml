@@ -11,7 +11,11 @@ TappableCard {
 
     text: root.card.text !== "" ? root.card.text : root.card.button
 
-    contentItem: Item {
+    contentItem: face
+
+    Item {
+        id: face
+
         implicitHeight: Math.max(Theme.tileSize, body.implicitHeight)
 
         IconTile {

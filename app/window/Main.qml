@@ -23,7 +23,7 @@ Window {
     visible: true
     title: "Mivo"
     color: Theme.background
-    LayoutMirroring.enabled: Qt.application.layoutDirection === Qt.RightToLeft
+    LayoutMirroring.enabled: Application.layoutDirection === Qt.RightToLeft
     LayoutMirroring.childrenInherit: true
 
     Component.onCompleted: present(screen)
@@ -156,7 +156,13 @@ Window {
             page: RoadmapPage {
                 roadmap: App.roadmap
                 onBack: App.dismiss()
-                onFeedbackWanted: feedback.open()
+            }
+        }
+
+        Connections {
+            target: roadmapLayer.shown as RoadmapPage
+            function onFeedbackWanted() {
+                feedback.open();
             }
         }
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The tabs of wide windows, with the running fast at the foot.
+pragma ComponentBehavior: Bound
 import QtQuick
 import Mivo
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The tabs below the page.
+pragma ComponentBehavior: Bound
 import QtQuick
 import Mivo
 

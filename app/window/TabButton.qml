@@ -24,7 +24,11 @@ T.AbstractButton {
         FocusRing { target: root }
     }
 
-    contentItem: Item {
+    contentItem: face
+
+    Item {
+        id: face
+
         Icon {
             id: icon
             x: root.beside ? 12 : (parent.width - width) / 2
