@@ -54,7 +54,8 @@ AppModel::AppModel(AppServices given)
         using Shown = PresentationAction<Destination::Action>;
         sendStatistics(Sent::destination{Shown::presented{Destination::Action::donations{std::move(action)}}});
       }},
-      overlapRepair{[this](Action action) { send(std::move(action)); }} {
+      overlapRepair{[this](Action action) { send(std::move(action)); }},
+      chosenSettings{services.calendar, services.about, [this](Action action) { send(std::move(action)); }} {
   theApp = this;
   following = store.observe([this](const State& state) { follow(state); });
   load();
@@ -116,6 +117,7 @@ void AppModel::follow(const State& state) {
   weightEntry.follow(statistics.addWeightLogState);
   runningFast.follow(state);
   overlapRepair.follow(state.overlapRepair);
+  chosenSettings.follow(statistics);
   followDestination(statistics);
   Q_EMIT messagesChanged();
   Q_EMIT changed();

@@ -18,6 +18,7 @@
 #include "app/bridge/RepairModel.h"
 #include "app/bridge/RoadmapModel.h"
 #include "app/bridge/ScreenModel.h"
+#include "app/bridge/SettingsModel.h"
 #include "app/bridge/WeightLineModel.h"
 #include "host/app/AppFeature.h"
 #include "host/tips/Tips.h"
@@ -34,6 +35,8 @@ struct AppServices {
   std::shared_ptr<const host::Tips> tips;
   WeightUnit usualWeightUnit = WeightUnit::kilograms;  ///< in the user's locale
   std::string feedbackAddress = {};                    ///< of mail; none where nobody reads any
+  std::shared_ptr<const host::WeekCalendar> calendar;  ///< the one in the dependencies
+  SettingsModel::About about = {};
 };
 
 /// The app's store as QML reads and drives it. It looks at the state once after each action and tells each model what
@@ -52,6 +55,7 @@ class AppModel : public QObject {
   Q_PROPERTY(mivo::app::BadgesModel* badges READ badges CONSTANT)
   Q_PROPERTY(mivo::app::DonationsModel* donations READ donations CONSTANT)
   Q_PROPERTY(mivo::app::RepairModel* repair READ repair CONSTANT)
+  Q_PROPERTY(mivo::app::SettingsModel* settings READ settings CONSTANT)
   /// Only while the roadmap is shown.
   Q_PROPERTY(mivo::app::RoadmapModel* roadmap READ roadmap NOTIFY destinationChanged)
   /// What the statistics present: "badges", "roadmap", "donations", or nothing.
@@ -82,6 +86,7 @@ class AppModel : public QObject {
   BadgesModel* badges() { return &badgeSummary; }
   DonationsModel* donations() { return &donationSheet; }
   RepairModel* repair() { return &overlapRepair; }
+  SettingsModel* settings() { return &chosenSettings; }
   RoadmapModel* roadmap() { return features.get(); }
   QString destination() const;
   QString goalWeightText() const;
@@ -141,6 +146,7 @@ class AppModel : public QObject {
   BadgesModel badgeSummary;
   DonationsModel donationSheet;
   RepairModel overlapRepair;
+  SettingsModel chosenSettings;
   std::unique_ptr<RoadmapModel> features;
   QString shownDestination;
   QTimer everyMinute, watch;

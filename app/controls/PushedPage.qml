@@ -47,6 +47,7 @@ FocusScope {
     }
 
     Flickable {
+        id: flick
         anchors.top: bar.bottom
         anchors.bottom: parent.bottom
         width: parent.width
@@ -63,4 +64,6 @@ FocusScope {
             spacing: 12
         }
     }
+
+    KeyScroll { page: flick }
 }

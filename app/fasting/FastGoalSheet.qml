@@ -1,18 +1,22 @@
 // SPDX-License-Identifier: MIT
-// Changes the goal of the running fast, and of those to come.
+// Changes how long fasts are meant to be.
 import QtQuick
 import Mivo
 
 Sheet {
     id: root
 
+    /// As it is before anything is chosen, in seconds.
+    property real goal
     property real seconds
+
+    signal chosen(seconds: real)
 
     title: Texts.text("Goal")
     spacing: 16
 
     onAboutToShow: {
-        seconds = App.fasting.goalSeconds;
+        seconds = goal;
         choice.begin(seconds);
     }
 
@@ -30,7 +34,7 @@ Sheet {
         enabled: !choice.unread
         text: Texts.text("Save")
         onClicked: {
-            App.fasting.changeGoal(root.seconds);
+            root.chosen(root.seconds);
             root.close();
         }
     }

@@ -97,7 +97,11 @@ FocusScope {
 
     FastSheet { id: fast }
 
-    FastGoalSheet { id: goal }
+    FastGoalSheet {
+        id: goal
+        goal: App.fasting.goalSeconds
+        onChosen: seconds => App.fasting.changeGoal(seconds)
+    }
 
     DateTimeSheet {
         id: started

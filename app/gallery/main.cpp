@@ -45,9 +45,10 @@ constexpr std::array<History, 4> histories{{
     {"ten-years", ""},
 }};
 
-constexpr std::array<const char*, 16> screens{"statistics", "badges",   "milestones", "streaks",  "roadmap", "feedback",
-                                              "donations",  "overlaps", "goalWeight", "date",     "table",   "fasting",
-                                              "editFast",   "addFast",  "fastGoal",   "fastStart"};
+constexpr std::array<const char*, 21> screens{
+    "statistics", "badges",     "milestones", "streaks", "roadmap", "feedback",     "donations",
+    "overlaps",   "goalWeight", "date",       "table",   "fasting", "editFast",     "addFast",
+    "fastGoal",   "fastStart",  "settings",   "cards",   "about",   "firstWeekday", "defaultGoal"};
 
 struct Wanted {
   std::string folder;  // none only measures

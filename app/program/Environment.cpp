@@ -7,7 +7,6 @@
 #include <utility>
 
 #include "adapters/curl/CurlURLSession.h"
-#include "adapters/icu/Calendars.h"
 #include "adapters/icu/LocaleFormatters.h"
 #include "adapters/icu/UserLocale.h"
 #include "adapters/json/NlohmannDecoder.h"
@@ -93,22 +92,23 @@ void addSystem(Dependencies& clients, const fs::path& settings) {
   clients.healthKitClient = std::make_shared<host::StoredHealthClient>(clients.userDefaults);
 }
 
-Read<WeightUnit> addPlaceAndTime(Dependencies& clients, const Options& options) {
+Read<std::monostate> addPlaceAndTime(Environment& environment, Dependencies& clients, const Options& options) {
   const auto zone = timeZone(options.timeZone);
   if (!zone) return tl::unexpected{zone.error()};
   const auto locale = userLocale(options.locale, *clients.userDefaults);
   if (!locale) return tl::unexpected{locale.error()};
   const auto date = clock(options, **zone);
   if (!date) return tl::unexpected{date.error()};
-  const int weekday = host::firstWeekday(*clients.userDefaults).value_or(locale->firstWeekday());
-  const auto calendar = adapters::makeCalendar("gregorian", *zone, weekday);
-  if (!calendar) return tl::unexpected{calendar.error()};
+  const auto calendar = adapters::ZonedCalendar::gregorian(*zone, locale->firstWeekday());
+  environment.calendar = std::make_shared<const host::WeekCalendar>(*calendar);
+  environment.calendar->choose(host::firstWeekday(*clients.userDefaults));
+  environment.usualWeightUnit = locale->weightUnit();
   clients.date = *date;
-  clients.calendar = clients.currentCalendar = *calendar;
+  clients.calendar = clients.currentCalendar = environment.calendar;
   clients.languageTag = locale->tag();
   clients.texts = std::make_shared<adapters::MessageCatalogue>(locale->tag());
-  adapters::makeFormatters(*locale, **calendar).fill(clients);
-  return locale->weightUnit();
+  adapters::makeFormatters(*locale, *calendar).fill(clients);
+  return std::monostate{};
 }
 
 void addServers(Dependencies& clients, const Options& options) {
@@ -148,6 +148,7 @@ Read<std::monostate> open(Environment& environment, const Options& options) {
     const auto filled = fill(database, options.sample, *environment.dependencies->uuid);
     if (!filled) return filled;
   }
+  environment.databaseFile = database.file();
   environment.history = std::make_shared<host::DatabaseHistory>(std::move(database));
   return std::monostate{};
 }
@@ -173,9 +174,8 @@ tl::expected<Environment, std::string> makeEnvironment(const Options& options) {
     const auto clients = std::make_shared<Dependencies>();
     addSystem(*clients,
               environment.sampleFolder ? environment.sampleFolder->path() : adapters::configurationDirectory());
-    const auto unit = addPlaceAndTime(*clients, options);
-    if (!unit) return tl::unexpected{unit.error()};
-    environment.usualWeightUnit = *unit;
+    if (const auto added = addPlaceAndTime(environment, *clients, options); !added)
+      return tl::unexpected{added.error()};
     addServers(*clients, options);
     environment.tips = std::make_shared<const host::Tips>(clients->userDefaults);
     clients->tips = environment.tips;

@@ -8,6 +8,7 @@
 
 #include "app/program/Options.h"
 #include "host/app/HistoryClient.h"
+#include "host/place/WeekCalendar.h"
 #include "host/tips/Tips.h"
 #include "mivo/platform/Dependencies.h"
 
@@ -32,6 +33,8 @@ struct Environment {
   std::shared_ptr<const Dependencies> dependencies;
   std::shared_ptr<const host::Tips> tips;
   Client<host::HistoryClient> history;
+  std::filesystem::path databaseFile;
+  std::shared_ptr<const host::WeekCalendar> calendar;  ///< the one in the dependencies, to choose its weeks
   WeightUnit usualWeightUnit = WeightUnit::kilograms;  ///< in the locale
   bool rightToLeft = false;                            ///< the language is written so
   std::string notice;  ///< one sentence for the user, where a damaged database had to be put aside

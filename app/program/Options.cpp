@@ -46,9 +46,11 @@ void addLook(CLI::App& program, Options& options) {
       ->check(CLI::IsMember({"fasting", "statistics", "settings"}))
       ->capture_default_str();
   program.add_option("--screen", options.screen, "What is open over it")
-      ->check(CLI::IsMember({"badges", "milestones", "streaks", "roadmap", "feedback", "donations", "overlaps",
-                             "goalWeight", "date", "table", "statistics", "fasting", "editFast", "addFast", "fastGoal",
-                             "fastStart", "fastMenu"}));
+      ->check(
+          CLI::IsMember({"badges",     "milestones",   "streaks",  "roadmap",    "feedback", "donations", "overlaps",
+                         "goalWeight", "date",         "table",    "statistics", "fasting",  "editFast",  "addFast",
+                         "fastGoal",   "fastStart",    "fastMenu", "settings",   "cards",    "about",     "defaultGoal",
+                         "weightUnit", "firstWeekday", "language", "appearance"}));
 }
 
 }  // namespace

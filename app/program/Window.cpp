@@ -47,7 +47,9 @@ AppWindow::AppWindow(const Environment& environment, const Options& options, QSi
       app{{.history = environment.history,
            .tips = environment.tips,
            .usualWeightUnit = environment.usualWeightUnit,
-           .feedbackAddress = options.feedback}} {
+           .feedbackAddress = options.feedback,
+           .calendar = environment.calendar,
+           .about = {MIVO_VERSION, environment.databaseFile.string()}}} {
   look.setOverride({.mode = modeOf(options),
                     .textScale = options.textScale ? std::optional<qreal>{*options.textScale} : std::nullopt,
                     .still = !options.picture.empty()});

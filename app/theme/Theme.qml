@@ -203,6 +203,8 @@ QtObject {
             return root.fasting;
         case "eating":
             return root.eating;
+        case "weight":
+            return root.weight;
         case "anabolic":
             return root.anabolic;
         case "catabolic":

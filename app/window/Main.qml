@@ -10,6 +10,8 @@ Window {
     property string tab: "statistics"
     /// What is open over the page when the window appears.
     property string screen
+    /// What is pushed over the settings: "cards", "about", or nothing.
+    property string settingsPage
     readonly property bool side: width >= Theme.sideBarWidth
     readonly property list<string> tabs: ["fasting", "statistics", "settings"]
     readonly property list<string> names: [Texts.text("Fasting"), Texts.text("Statistics"), Texts.text("Settings")]
@@ -32,6 +34,9 @@ Window {
     function present(name: string) {
         if (fasting.item)
             (fasting.item as FastingPage).present("");
+        if (settings.item)
+            (settings.item as SettingsPage).present("");
+        settingsPage = "";
         App.dismiss();
         App.repair.cancel();
         for (const sheet of [feedback, goalWeight, table, weightDate])
@@ -48,6 +53,19 @@ Window {
         case "fastMenu":
             tab = "fasting";
             return (fasting.item as FastingPage).present(name);
+        case "settings":
+        case "defaultGoal":
+        case "weightUnit":
+        case "firstWeekday":
+        case "language":
+        case "appearance":
+            tab = "settings";
+            return (settings.item as SettingsPage).present(name);
+        case "cards":
+        case "about":
+            tab = "settings";
+            settingsPage = name;
+            return;
         case "badges":
             return App.openBadges();
         case "milestones":
@@ -82,14 +100,17 @@ Window {
 
     Item {
         id: pages
+
+        readonly property bool covered: badgesLayer.covers || roadmapLayer.covers || cardsLayer.covers || aboutLayer.covers
+
         anchors.fill: parent
         anchors.leftMargin: root.side ? Theme.sideBarSize : 0
 
         Item {
             anchors.fill: parent
             anchors.bottomMargin: root.side ? 0 : Theme.tabBarSize
-            visible: !badgesLayer.covers && !roadmapLayer.covers
-            enabled: App.destination === "" || App.destination === "donations"
+            visible: !pages.covered
+            enabled: (App.destination === "" || App.destination === "donations") && root.settingsPage === ""
 
             Loader {
                 id: fasting
@@ -110,7 +131,7 @@ Window {
                     App.fasting.start();
                     root.tab = "fasting";
                 }
-                onSettingsWanted: root.tab = "settings"
+                onSettingsWanted: root.present("cards")
                 onGoalWanted: goalWeight.open()
                 onDateWanted: weightDate.open()
                 onTableWanted: (chart, name) => root.showTable(chart, name)
@@ -123,16 +144,20 @@ Window {
             }
 
             Loader {
+                id: settings
                 anchors.fill: parent
                 visible: root.tab === "settings"
                 active: visible || status === Loader.Ready
                 focus: visible
-                sourceComponent: SettingsPage {}
+                sourceComponent: SettingsPage {
+                    onCardsWanted: root.settingsPage = "cards"
+                    onAboutWanted: root.settingsPage = "about"
+                }
             }
         }
 
         TabBar {
-            visible: !root.side && !badgesLayer.covers && !roadmapLayer.covers
+            visible: !root.side && !pages.covered
             anchors.bottom: parent.bottom
             width: parent.width
             height: Theme.tabBarSize
@@ -166,6 +191,20 @@ Window {
             }
         }
 
+        PushLayer {
+            id: cardsLayer
+            anchors.fill: parent
+            open: root.settingsPage === "cards"
+            page: CardSettingsPage { onBack: root.settingsPage = "" }
+        }
+
+        PushLayer {
+            id: aboutLayer
+            anchors.fill: parent
+            open: root.settingsPage === "about"
+            page: AboutPage { onBack: root.settingsPage = "" }
+        }
+
         MessageBar {
             anchors.left: parent.left
             anchors.right: parent.right
@@ -188,6 +227,7 @@ Window {
 
     function choose(wanted: string) {
         App.dismiss();
+        settingsPage = "";
         tab = wanted;
     }
 

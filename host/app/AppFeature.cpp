@@ -102,6 +102,11 @@ auto AppFeature::on(State& state, const Action::didFail& failed) const -> Effect
   return {};
 }
 
+// As when the statistics come on screen, where they read their settings.
+auto AppFeature::on(State& state, const Action::didChangeSettings&) const -> Effect<Action> {
+  return reduce(state, Action::statistics{StatisticsFeature::Action::onAppear{}});
+}
+
 auto AppFeature::on(State& state, const Action::recompute&) const -> Effect<Action> {
   recompute(state);
   return {};
@@ -195,11 +200,13 @@ auto AppFeature::on(State& state, const Action::didWrite& written) const -> Effe
 // Those of the host that the cards show; the module reads its own.
 void AppFeature::takeSettings(State& state) const {
   auto& goal = state.statistics.goalWeightCardState;
+  auto& entry = state.statistics.addWeightLogState;
   goal.goalInKg = goalWeight(*userDefaults);
-  if (const auto unit = weightUnit(*userDefaults)) {
-    goal.weightUnit = *unit;
-    state.statistics.addWeightLogState.weightUnit = *unit;
-  }
+  const auto unit = weightUnit(*userDefaults);
+  if (!unit) return;
+  if (*unit != entry.weightUnit) entry.typedText = std::nullopt;  // was meant in the unit before
+  entry.weightUnit = *unit;
+  goal.weightUnit = *unit;
 }
 
 // The add-weight card is told of the outcome too: it shows it.

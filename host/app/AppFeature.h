@@ -59,7 +59,11 @@ struct AppFeature {
       std::string sentence;
       bool operator==(const didFail&) const = default;
     };
-    /// Time has passed, or a setting was changed.
+    /// A setting was changed in the user's defaults: reads them all anew.
+    struct didChangeSettings {
+      bool operator==(const didChangeSettings&) const = default;
+    };
+    /// Time has passed.
     struct recompute {
       bool operator==(const recompute&) const = default;
     };
@@ -110,11 +114,12 @@ struct AppFeature {
       bool operator==(const didWrite&) const = default;
     };
   };
-  struct Action : Cases,
-                  std::variant<Cases::statistics, Cases::reload, Cases::didLoad, Cases::didFail, Cases::recompute,
-                               Cases::didTapStart, Cases::didTapStop, Cases::didSaveFast, Cases::didDeleteFast,
-                               Cases::didDeleteWeight, Cases::didConfirmOverlapRepair, Cases::didCancelOverlapRepair,
-                               Cases::didTapUndo, Cases::didFailToUndo, Cases::didDismissMessages, Cases::didWrite> {
+  struct Action
+      : Cases,
+        std::variant<Cases::statistics, Cases::reload, Cases::didLoad, Cases::didFail, Cases::didChangeSettings,
+                     Cases::recompute, Cases::didTapStart, Cases::didTapStop, Cases::didSaveFast, Cases::didDeleteFast,
+                     Cases::didDeleteWeight, Cases::didConfirmOverlapRepair, Cases::didCancelOverlapRepair,
+                     Cases::didTapUndo, Cases::didFailToUndo, Cases::didDismissMessages, Cases::didWrite> {
     using variant::variant;
   };
 
@@ -132,6 +137,7 @@ struct AppFeature {
   Effect<Action> on(State& state, const Action::reload& sent) const;
   Effect<Action> on(State& state, const Action::didLoad& sent) const;
   Effect<Action> on(State& state, const Action::didFail& sent) const;
+  Effect<Action> on(State& state, const Action::didChangeSettings& sent) const;
   Effect<Action> on(State& state, const Action::recompute& sent) const;
   Effect<Action> on(State& state, const Action::didTapStart& sent) const;
   Effect<Action> on(State& state, const Action::didTapStop& sent) const;

@@ -66,15 +66,6 @@ DayBarsCard dayBarsTexts(std::string_view title, const ScrollChartFeature::State
           .empty = chart.data->empty() ? format.texts.text("Start a fast to see your chart.") : ""};
 }
 
-/// "4–16h", "72h+"; nothing for what is not bounded by hours.
-std::string zoneHours(LegacyFastingZone zone, const ScreenFormatters& format) {
-  if (zone < LegacyFastingZone::anabolic) return {};
-  const auto place = static_cast<std::size_t>(zone) - static_cast<std::size_t>(LegacyFastingZone::anabolic);
-  const auto hours = [&](std::size_t bound) { return format.hour.string(zoneBounds[bound]).value_or(""); };
-  if (place + 1 == zoneBounds.size()) return hours(place) + '+';
-  return format.numbers.string(static_cast<std::int64_t>(zoneBounds[place] / secondsPerHour)) + "–" + hours(place + 1);
-}
-
 /// "84h": all of this range, not the average of a day.
 std::string totalText(double average, const ScreenInput& input, const ScreenFormatters& format) {
   if (!input.daysOfThisRange) return {};
@@ -232,6 +223,14 @@ TrendCard trendTexts(LegacyFastingZone zone, const AverageThisLastTimeRange& ave
           .lastLabel = around(translatableByRange("Last {1}")),
           .perDay = texts.text("/day"),
           .display = {input.timeRange, zone, averages.thisTimeRange, averages.lastTimeRange, texts, format.hourMin}};
+}
+
+std::string zoneHours(LegacyFastingZone zone, const ScreenFormatters& format) {
+  if (zone < LegacyFastingZone::anabolic) return {};
+  const auto place = static_cast<std::size_t>(zone) - static_cast<std::size_t>(LegacyFastingZone::anabolic);
+  const auto hours = [&](std::size_t bound) { return format.hour.string(zoneBounds[bound]).value_or(""); };
+  if (place + 1 == zoneBounds.size()) return hours(place) + '+';
+  return format.numbers.string(static_cast<std::int64_t>(zoneBounds[place] / secondsPerHour)) + "–" + hours(place + 1);
 }
 
 }  // namespace mivo

@@ -27,4 +27,7 @@ CardContent weightFastingChartTexts(const ScreenInput& input, const ScreenFormat
 TrendCard trendTexts(LegacyFastingZone zone, const AverageThisLastTimeRange& averages, const ScreenInput& input,
                      const ScreenFormatters& formatters);
 
+/// "4–16h", "72h+": when a fast is in a zone; nothing for fasting and eating as a whole.
+std::string zoneHours(LegacyFastingZone zone, const ScreenFormatters& formatters);
+
 }  // namespace mivo

@@ -34,7 +34,9 @@ void State::updateFromDefaults() {
 
 void State::writeToDefaults() const {
   const auto& defaults = *dependency(&Dependencies::userDefaults);
-  fields(*this, [&defaults](std::string_view name, bool flag) { defaults.setValue(name, flag); });
+  fields(*this, [&defaults](std::string_view name, bool flag) {
+    if (defaults.value(name) != UserDefaults::Value{flag}) defaults.setValue(name, flag);
+  });
 }
 
 }  // namespace mivo

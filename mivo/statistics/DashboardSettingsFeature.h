@@ -34,7 +34,7 @@ struct DashboardSettingsFeature {
     /// is as it is above.
     void updateFromDefaults();
 
-    /// Writes all flags there.
+    /// Keeps all flags there; writes those that differ from what is there.
     void writeToDefaults() const;
 
     bool operator==(const State&) const = default;

@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: MIT
+// One choice of a few, below each other. The arrow keys go through them.
+import QtQuick
+import Mivo
+
+Sheet {
+    id: root
+
+    property list<string> options
+    property int current: 0
+    property string note
+
+    signal chosen(index: int)
+
+    spacing: 0
+    onOpened: choices.itemAt(current)?.forceActiveFocus()
+
+    Column {
+        width: parent.width
+
+        Repeater {
+            id: choices
+            model: root.options
+
+            delegate: ChoiceRow {
+                isChosen: index === root.current
+                onClicked: {
+                    root.chosen(index);
+                    root.close();
+                }
+                Keys.onUpPressed: choices.itemAt(Math.max(0, index - 1)).forceActiveFocus()
+                Keys.onDownPressed: choices.itemAt(Math.min(choices.count - 1, index + 1)).forceActiveFocus()
+            }
+        }
+    }
+
+    StyledText {
+        visible: root.note !== ""
+        width: parent.width
+        topPadding: 8
+        bottomPadding: 8
+        text: root.note
+        style: Theme.labelText
+        color: Theme.inkSecondary
+        Accessible.role: Accessible.StaticText
+        Accessible.name: text
+    }
+}
