@@ -15,7 +15,7 @@ Item {
     readonly property bool stacked: label.wholeWidth + 12 + controlWidth > inner
 
     width: parent ? parent.width : 0
-    implicitHeight: stacked ? slot.y + slot.height + 12 : Math.max(label.height, slot.height) + 12
+    implicitHeight: stacked ? label.height + slot.height + 32 : Math.max(label.height, slot.height) + 12
 
     RowBackground {
         anchors.fill: parent

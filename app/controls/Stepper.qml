@@ -37,6 +37,9 @@ T.SpinBox {
     }
 
     contentItem: Item {
+        // Qt makes it a stop of its own, for fields to type in.
+        Component.onCompleted: activeFocusOnTab = false
+
         StyledText {
             id: valueText
             anchors.centerIn: parent
