@@ -1,10 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "mivo/statistics/StatisticsFeature.h"
 
-#include <vector>
-
-#include "mivo/streaks/Streaks.h"
-
 namespace mivo {
 namespace {
 
@@ -12,19 +8,6 @@ using Feature = StatisticsFeature;
 using State = Feature::State;
 using Action = Feature::Action;
 using Destination = Feature::Destination;
-
-constexpr int firstVersionWithTips = 17;
-
-void refreshStreaks(State& state, const StreakSettings& settings) {
-  std::vector<FinishedFastingDataEntry> finished;
-  finished.reserve(state.fasts->size());
-  for (const FastingDataEntry& fast : *state.fasts)
-    if (fast.finished) finished.push_back(*fast.finished);
-  const StreakLengths lengths = streaks(finished, settings);
-  state.streakSettings = settings;
-  state.stats.currentStreak = lengths.current;
-  state.stats.maxStreak = lengths.max;
-}
 
 /// Both charts scroll together: a middle that one of them reports is that of both.
 void shareMiddle(State& state, const ScrollChartFeature::Action& action) {
@@ -40,18 +23,6 @@ BadgeSummaryFeature::State summaryOf(const StatsContainer& stats) {
           .allMilestones = badgeThresholdList(),
           .allStreaks = badgeThresholdList()};
 }
-
-constexpr auto askHealthKit = [](const Send<Action>& send, std::stop_token, const Client<HealthKitClient>& health) {
-  send(Action::shouldRequestHealthKitAuthorizationResponse{health->shouldRequestAuthorization()});
-};
-
-/// A tip that may still be shown stays; otherwise the most important one that may be takes its place.
-constexpr auto findTip = [](const Send<Action>& send, std::stop_token, const Client<TipCatalogue>& tips,
-                            const std::optional<std::string>& current, int platformVersion) {
-  if (platformVersion < firstVersionWithTips) return;
-  if (current && tips->tip(*current) && tips->canDisplay(*current)) return;
-  if (const auto next = tips->highestPriorityAvailableTip()) send(Action::didReceiveTipID{*next});
-};
 
 }  // namespace
 
@@ -81,28 +52,6 @@ auto StatisticsFeature::core(State& state, const Action& action) const -> Effect
   if (std::holds_alternative<Action::didTapOpenRoadmap>(action)) state.destination = Destination::State::roadmap{};
   if (std::holds_alternative<Action::didTapOpenDonations>(action)) state.destination = Destination::State::donations{};
   return {};
-}
-
-auto StatisticsFeature::onAppear(State& state) const -> Effect<Action> {
-  state.dashboardSettings.updateFromDefaults();
-  state.showHealthKitCard = state.dashboardSettings.showWeightLogging && state.shouldRequestHealthKitAuthorization;
-  refreshStreaks(state, {.countingEntity = appGroupUserDefaults->streakCountingEntity(),
-                         .ignoreFastGoal = appGroupUserDefaults->streakIgnoreFastGoal(),
-                         .maxBreakHours = appGroupUserDefaults->streakMaxBreakHours()});
-  state.refreshCards();
-  return Effect<Action>::merge(Effect<Action>::run(askHealthKit, healthKitClient),
-                               Effect<Action>::run(findTip, tips, state.currentTipID.value(), platformVersion));
-}
-
-auto StatisticsFeature::requestHealthKitAccess(State& state) const -> Effect<Action> {
-  state.showHealthKitCard = false;
-  return Effect<Action>::run(
-      [](const Send<Action>&, std::stop_token, const Client<UserDefaults>& defaults,
-         const Client<HealthKitClient>& health) {
-        defaults->setHealthKitSync(true);
-        health->requestAuthorization();
-      },
-      userDefaults, healthKitClient);
 }
 
 }  // namespace mivo
