@@ -32,7 +32,9 @@ Item {
 
         function onActiveFocusItemChanged() {
             const item = root.Window.activeFocusItem;
-            if (item && item.height > 0 && InputMode.keyboard && root.holds(item))
+            if (!item || !InputMode.keyboard)
+                return;
+            if (item.height > 0 && root.holds(item))
                 root.reveal(item);
         }
     }
