@@ -70,9 +70,22 @@ void ScreenModel::show(const std::vector<Card>& composed) {
   }
   if (next == shown) return;
   become(next);
-  std::erase_if(models,
-                [this](const auto& entry) { return std::ranges::find(shown, entry.second.get()) == shown.end(); });
+  dropHidden();
   Q_EMIT cardsChanged();
+}
+
+// What shows a card goes once events are handled; the card after it.
+void ScreenModel::dropHidden() {
+  for (auto entry = models.begin(); entry != models.end();) {
+    if (std::ranges::find(shown, entry->second.get()) != shown.end()) {
+      ++entry;
+      continue;
+    }
+    CardModel* card = entry->second.release();
+    card->setParent(this);
+    card->deleteLater();
+    entry = models.erase(entry);
+  }
 }
 
 // Cards keep their order, so that what stays need not move while others come and go.

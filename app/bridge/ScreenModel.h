@@ -44,6 +44,7 @@ class ScreenModel : public QAbstractListModel {
  private:
   CardModel* update(CardModel::Kind kind, const CardContent& content);
   void become(const std::vector<CardModel*>& next);
+  void dropHidden();
 
   std::vector<CardModel*> shown;
   std::map<CardModel::Kind, std::unique_ptr<CardModel>> models;

@@ -35,6 +35,8 @@ class SettingsModel : public QObject {
   Q_OBJECT
   QML_ELEMENT
   QML_UNCREATABLE("the app has one")
+  /// What is pushed over the settings: "cards", "about", or nothing.
+  Q_PROPERTY(QString page MEMBER page NOTIFY pageChanged)
   Q_PROPERTY(mivo::app::CardSwitchesModel* cards READ cards CONSTANT)
   Q_PROPERTY(mivo::app::CardSwitchesModel* charts READ charts CONSTANT)
   Q_PROPERTY(mivo::app::CardSwitchesModel* trends READ trends CONSTANT)
@@ -47,15 +49,15 @@ class SettingsModel : public QObject {
   /// Of the fasts to come; a running one keeps its own.
   Q_PROPERTY(qreal goalSeconds READ goalSeconds WRITE setGoalSeconds NOTIFY changed)
   Q_PROPERTY(QString goal READ goal NOTIFY changed)
-  Q_PROPERTY(QStringList weightUnits READ weightUnits CONSTANT)
+  Q_PROPERTY(QList<QString> weightUnits READ weightUnits CONSTANT)
   Q_PROPERTY(int weightUnit READ weightUnit WRITE setWeightUnit NOTIFY changed)
   /// "kg"
   Q_PROPERTY(QString weightUnitText READ weightUnitText NOTIFY changed)
-  Q_PROPERTY(QStringList firstWeekdays READ firstWeekdays CONSTANT)
+  Q_PROPERTY(QList<QString> firstWeekdays READ firstWeekdays CONSTANT)
   Q_PROPERTY(int firstWeekday READ firstWeekday WRITE setFirstWeekday NOTIFY changed)
   /// "Monday", be it chosen or the locale's.
   Q_PROPERTY(QString firstWeekdayText READ firstWeekdayText NOTIFY changed)
-  Q_PROPERTY(QStringList languages READ languages CONSTANT)
+  Q_PROPERTY(QList<QString> languages READ languages CONSTANT)
   Q_PROPERTY(int language READ language WRITE setLanguage NOTIFY changed)
   /// Another language than that of the texts was chosen; it shows from the next start.
   Q_PROPERTY(bool languageWaits READ languageWaits NOTIFY changed)
@@ -107,6 +109,7 @@ class SettingsModel : public QObject {
   Q_INVOKABLE QString percentText(int percent) const;
 
  Q_SIGNALS:
+  void pageChanged();
   void changed();
 
  private:
@@ -116,6 +119,7 @@ class SettingsModel : public QObject {
 
   static constexpr int leastBreakHours = 1, mostBreakHours = 8760;
 
+  QString page;
   std::shared_ptr<const host::WeekCalendar> calendar;
   About about;
   std::function<void(host::AppFeature::Action)> send;

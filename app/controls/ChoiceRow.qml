@@ -42,7 +42,11 @@ T.AbstractButton {
         }
     }
 
-    contentItem: Item {
+    contentItem: face
+
+    Item {
+        id: face
+
         StyledText {
             id: label
             anchors.left: parent.left

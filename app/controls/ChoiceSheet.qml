@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // One choice of a few, below each other. The arrow keys go through them.
+pragma ComponentBehavior: Bound
 import QtQuick
 import Mivo
 

@@ -65,5 +65,5 @@ FocusScope {
         }
     }
 
-    KeyScroll { page: flick }
+    FocusFollower { view: flick }
 }

@@ -36,7 +36,11 @@ T.SpinBox {
         FocusRing { target: root }
     }
 
-    contentItem: Item {
+    contentItem: face
+
+    Item {
+        id: face
+
         // Qt makes it a stop of its own, for fields to type in.
         Component.onCompleted: activeFocusOnTab = false
 

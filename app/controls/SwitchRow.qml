@@ -33,7 +33,11 @@ T.AbstractButton {
         pressed: root.down
     }
 
-    contentItem: Item {
+    contentItem: face
+
+    Item {
+        id: face
+
         implicitHeight: Math.max(label.height, mark.height)
 
         RowLabel {

@@ -34,7 +34,11 @@ T.AbstractButton {
         }
     }
 
-    contentItem: Item {
+    contentItem: face
+
+    Item {
+        id: face
+
         implicitHeight: words.height
 
         Icon {

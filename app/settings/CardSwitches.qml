@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // A switch for each of a few cards.
+pragma ComponentBehavior: Bound
 import QtQuick
 import Mivo
 

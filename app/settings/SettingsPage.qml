@@ -10,9 +10,6 @@ FocusScope {
     readonly property bool wide: Window.width >= Theme.sideBarWidth
     readonly property real margin: wide ? Theme.pageMarginWide : Theme.pageMargin
 
-    signal cardsWanted
-    signal aboutWanted
-
     /// Opens one of the sheets by its name, in place of what is open; none for an empty name.
     function present(name: string) {
         for (const sheet of [goal, weightUnit, firstWeekday, language, appearance])
@@ -60,7 +57,7 @@ FocusScope {
                         focus: true
                         iconName: "statistics"
                         text: Texts.text("Statistics and Fasting Zones")
-                        onClicked: root.cardsWanted()
+                        onClicked: App.settings.page = "cards"
                     }
                 }
 
@@ -121,14 +118,14 @@ FocusScope {
                         iconName: "info"
                         text: Texts.text("About Mivo")
                         value: App.settings.version
-                        onClicked: root.aboutWanted()
+                        onClicked: App.settings.page = "about"
                     }
                 }
             }
         }
     }
 
-    KeyScroll { page: flick }
+    FocusFollower { view: flick }
 
     FastGoalSheet {
         id: goal

@@ -10,8 +10,6 @@ Window {
     property string tab: "statistics"
     /// What is open over the page when the window appears.
     property string screen
-    /// What is pushed over the settings: "cards", "about", or nothing.
-    property string settingsPage
     readonly property bool side: width >= Theme.sideBarWidth
     readonly property list<string> tabs: ["fasting", "statistics", "settings"]
     readonly property list<string> names: [Texts.text("Fasting"), Texts.text("Statistics"), Texts.text("Settings")]
@@ -36,7 +34,7 @@ Window {
             (fasting.item as FastingPage).present("");
         if (settings.item)
             (settings.item as SettingsPage).present("");
-        settingsPage = "";
+        App.settings.page = "";
         App.dismiss();
         App.repair.cancel();
         for (const sheet of [feedback, goalWeight, table, weightDate])
@@ -64,7 +62,7 @@ Window {
         case "cards":
         case "about":
             tab = "settings";
-            settingsPage = name;
+            App.settings.page = name;
             return;
         case "badges":
             return App.openBadges();
@@ -110,7 +108,7 @@ Window {
             anchors.fill: parent
             anchors.bottomMargin: root.side ? 0 : Theme.tabBarSize
             visible: !pages.covered
-            enabled: (App.destination === "" || App.destination === "donations") && root.settingsPage === ""
+            enabled: (App.destination === "" || App.destination === "donations") && App.settings.page === ""
 
             Loader {
                 id: fasting
@@ -149,10 +147,7 @@ Window {
                 visible: root.tab === "settings"
                 active: visible || status === Loader.Ready
                 focus: visible
-                sourceComponent: SettingsPage {
-                    onCardsWanted: root.settingsPage = "cards"
-                    onAboutWanted: root.settingsPage = "about"
-                }
+                sourceComponent: SettingsPage {}
             }
         }
 
@@ -194,15 +189,15 @@ Window {
         PushLayer {
             id: cardsLayer
             anchors.fill: parent
-            open: root.settingsPage === "cards"
-            page: CardSettingsPage { onBack: root.settingsPage = "" }
+            open: App.settings.page === "cards"
+            page: CardSettingsPage { onBack: App.settings.page = "" }
         }
 
         PushLayer {
             id: aboutLayer
             anchors.fill: parent
-            open: root.settingsPage === "about"
-            page: AboutPage { onBack: root.settingsPage = "" }
+            open: App.settings.page === "about"
+            page: AboutPage { onBack: App.settings.page = "" }
         }
 
         MessageBar {
@@ -227,7 +222,7 @@ Window {
 
     function choose(wanted: string) {
         App.dismiss();
-        settingsPage = "";
+        App.settings.page = "";
         tab = wanted;
     }
 
