@@ -10,6 +10,7 @@
 
 #include "app/bridge/Stamps.h"
 #include "app/bridge/Text.h"
+#include "host/app/FaultText.h"
 #include "mivo/platform/Dependencies.h"
 #include "mivo/statistics/ComposeScreen.h"
 #include "mivo/statistics/ScreenInput.h"
@@ -70,22 +71,43 @@ AppModel* AppModel::create(QQmlEngine*, QJSEngine*) {
 }
 
 void AppModel::load() {
-  seenVersion = services.history->version();
   try {
+    seenVersion = services.history->version();
     send(Action::didLoad{services.history->load()});
   } catch (const std::exception& error) {
-    send(Action::didFail{error.what()});
+    send(Action::didFail{host::faultText(error, *dependency(&Dependencies::texts))});
   }
 }
 
-// A running fast moves the figures, and another program may write into the same database.
+// A running fast moves the figures, another program may write into the same database, and people travel.
 void AppModel::watchTime() {
   connect(&everyMinute, &QTimer::timeout, this, [this] { send(Action::recompute{}); });
   everyMinute.start(untilRecomputed);
   connect(&watch, &QTimer::timeout, this, [this] {
-    if (std::exchange(seenVersion, services.history->version()) != seenVersion) send(Action::reload{});
+    lookForOtherPrograms();
+    followZone();
   });
   watch.start(untilLookedForOtherPrograms);
+}
+
+void AppModel::lookForOtherPrograms() {
+  try {
+    if (std::exchange(seenVersion, services.history->version()) != seenVersion) send(Action::reload{});
+  } catch (const std::exception& error) {
+    send(Action::didFail{host::faultText(error, *dependency(&Dependencies::texts))});
+  }
+}
+
+// Every text of a date is another one then; no record is.
+void AppModel::followZone() {
+  const auto zone = services.followZone ? services.followZone() : std::nullopt;
+  if (!zone) return;
+  send(Action::recompute{});
+  runningFast.retell();
+  Q_EMIT weightEntry.changed();
+  const auto& texts = *dependency(&Dependencies::texts);
+  say(filledIn(texts.text("Your time zone is now {1}. All times are shown in it; nothing was changed."),
+               {qString(*zone).replace(QLatin1Char{'_'}, QLatin1Char{' '}).toStdString()}));
 }
 
 void AppModel::say(const std::string& sentence) {

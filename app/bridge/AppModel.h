@@ -5,7 +5,9 @@
 #include <QtCore/QObject>
 #include <QtCore/QTimer>
 
+#include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -37,6 +39,8 @@ struct AppServices {
   std::string feedbackAddress = {};                    ///< of mail; none where nobody reads any
   std::shared_ptr<const host::WeekCalendar> calendar;  ///< the one in the dependencies
   SettingsModel::About about = {};
+  /// Takes over the system's time zone; its name where it is another one than before.
+  std::function<std::optional<std::string>()> followZone = {};
 };
 
 /// The app's store as QML reads and drives it. It looks at the state once after each action and tells each model what
@@ -128,6 +132,8 @@ class AppModel : public QObject {
  private:
   void load();
   void watchTime();
+  void lookForOtherPrograms();
+  void followZone();
   void follow(const State& state);
   void followDestination(const StatisticsFeature::State& state);
   void tellTips(const State& state) const;

@@ -26,7 +26,6 @@ Date presentDate() { return dependency(&Dependencies::date)->now(); }
 }  // namespace
 
 DateTimeChoice::DateTimeChoice(QObject* parent) : QObject{parent} {
-  today = calendar().startOfDay(presentDate()).value_or(presentDate());
   setInstant(presentDate().time_since_epoch().count());
 }
 
@@ -52,6 +51,7 @@ double DateTimeChoice::instant() const {
 
 // What the clock shows differs from the time since the day's start where the clock was changed in between.
 void DateTimeChoice::setInstant(double seconds) {
+  today = calendar().startOfDay(presentDate()).value_or(presentDate());
   const Date date{Duration{std::floor(seconds / secondsPerMinute) * secondsPerMinute}};
   const auto ahead = calendar().calendarDatesBetween(today, date).value_or(1) - 1;
   chosenDay = static_cast<int>(std::clamp<std::int64_t>(lastDay - daysAhead + ahead, 0, lastDay));
@@ -81,7 +81,7 @@ void DateTimeChoice::setMinute(int minute) {
 
 QString DateTimeChoice::text() const { return dateTimeText(Date{Duration{instant()}}); }
 
-QString DateTimeChoice::dayText(int day) const {
+QString DateTimeChoice::dayText(int day, double) const {
   const auto start = startOf(day);
   return start ? qString(app::dayText(*start)) : QString{};
 }

@@ -22,6 +22,8 @@ class DateTimeChoice : public QObject {
   Q_PROPERTY(int day READ day WRITE setDay NOTIFY changed)
   Q_PROPERTY(int hour READ hour WRITE setHour NOTIFY changed)
   Q_PROPERTY(int minute READ minute WRITE setMinute NOTIFY changed)
+  /// The day before the last one of the list, in seconds since 1970; taken anew with each instant that is set.
+  Q_PROPERTY(double today READ presentDay NOTIFY changed)
   /// How many days there are to choose from, the last of them tomorrow.
   Q_PROPERTY(int dayCount READ dayCount CONSTANT)
   /// "Today, 13:24"
@@ -39,9 +41,11 @@ class DateTimeChoice : public QObject {
   int minute() const { return chosenMinute; }
   void setMinute(int minute);
   int dayCount() const;
+  double presentDay() const { return today.time_since_epoch().count(); }
   QString text() const;
 
-  Q_INVOKABLE QString dayText(int day) const;
+  /// `today` makes a binding notice that the list has moved on.
+  Q_INVOKABLE QString dayText(int day, double today) const;
   /// Two digits, in the locale's.
   Q_INVOKABLE QString clockText(int number) const;
 

@@ -67,6 +67,10 @@ void FastHistoryModel::measure(Date now) {
   qreal longest = secondsPerDay;
   for (const std::size_t place : rows) longest = std::max(longest, fasts[place].fast.finished->duration());
   if (std::exchange(scale, longest) != longest) Q_EMIT scaleChanged();
+  retell();
+}
+
+void FastHistoryModel::retell() {
   if (!rows.empty()) Q_EMIT dataChanged(index(0), index(count() - 1));
 }
 

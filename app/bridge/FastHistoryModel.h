@@ -39,6 +39,8 @@ class FastHistoryModel : public QAbstractListModel {
   explicit FastHistoryModel(std::function<void(Action)> send, QObject* parent = nullptr);
 
   void follow(const host::AppFeature::State& state);
+  /// The texts of all rows may read differently.
+  void retell();
 
   int rowCount(const QModelIndex& parent = {}) const override;
   QVariant data(const QModelIndex& index, int role) const override;

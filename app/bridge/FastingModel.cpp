@@ -74,6 +74,13 @@ void FastingModel::follow(const host::AppFeature::State& state) {
   tick();
 }
 
+void FastingModel::retell() {
+  ended.retell();
+  Q_EMIT edited.changed();
+  Q_EMIT changed();
+  tick();
+}
+
 void FastingModel::setWatched(bool seen) {
   if (std::exchange(watched, seen) == seen) return;
   Q_EMIT watchedChanged();

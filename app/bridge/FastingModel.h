@@ -63,6 +63,8 @@ class FastingModel : public QObject {
   FastingModel(std::function<void(Action)> send, QObject* parent = nullptr);
 
   void follow(const host::AppFeature::State& state);
+  /// Every text may read differently, though no record was changed.
+  void retell();
 
   bool isRunning() const { return running.has_value(); }
   bool isEating() const { return !running && last; }

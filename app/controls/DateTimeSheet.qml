@@ -49,7 +49,7 @@ Sheet {
             onCurrentIndexChanged: choice.day = currentIndex
 
             function textOf(index: int): string {
-                return choice.dayText(index);
+                return choice.dayText(index, choice.today);
             }
         }
 

@@ -19,9 +19,12 @@
 #include "adapters/system/ThreadPool.h"
 #include "adapters/system/UserDirectories.h"
 #include "adapters/time/TimeZoneNames.h"
+#include "adapters/time/ZonedCalendar.h"
 #include "app/bridge/QtLinkOpener.h"
 #include "app/bridge/QtMainQueue.h"
 #include "app/program/OwnClock.h"
+#include "app/program/SystemZone.h"
+#include "host/app/FaultText.h"
 #include "host/app/Settings.h"
 #include "host/dates/DateText.h"
 #include "host/donations/DonationList.h"
@@ -108,6 +111,10 @@ Read<std::monostate> addPlaceAndTime(Environment& environment, Dependencies& cli
   clients.languageTag = locale->tag();
   clients.texts = std::make_shared<adapters::MessageCatalogue>(locale->tag());
   adapters::makeFormatters(*locale, *calendar).fill(clients);
+  if (options.timeZone.empty()) {
+    environment.systemZone = std::make_shared<SystemZone>(environment.calendar, *locale);
+    environment.systemZone->fill(clients);
+  }
   return std::monostate{};
 }
 
@@ -135,22 +142,35 @@ Read<std::monostate> fill(host::Database& database, const std::string& file, con
   return std::monostate{};
 }
 
-Read<std::monostate> open(Environment& environment, const Options& options) {
-  const fs::path file = environment.sampleFolder   ? environment.sampleFolder->path() / "mivo.sqlite"
-                        : options.database.empty() ? host::ownDatabaseFile()
-                                                   : fs::path{options.database};
-  auto [database, setAside] = host::openOrSetAside(file);
-  if (setAside)
-    environment.notice = filledIn(environment.dependencies->texts->text(
-                                      "Your history was damaged and was put aside as {1}. A new one was begun."),
-                                  {setAside->string()});
-  if (environment.sampleFolder) {
-    const auto filled = fill(database, options.sample, *environment.dependencies->uuid);
-    if (!filled) return filled;
+fs::path databaseFile(const Environment& environment, const Options& options) {
+  if (environment.sampleFolder) return environment.sampleFolder->path() / "mivo.sqlite";
+  return options.database.empty() ? host::ownDatabaseFile() : fs::path{options.database};
+}
+
+// Where the file may not be written it can still be looked at.
+host::Database openToRead(const fs::path& file, const host::DatabaseError& fault) {
+  using Kind = host::DatabaseError::Kind;
+  if (fault.kind != Kind::readOnly && fault.kind != Kind::unavailable) throw fault;
+  try {
+    return host::Database{file, host::Database::Access::readOnly};
+  } catch (const host::DatabaseError&) {
+    throw fault;
   }
-  environment.databaseFile = database.file();
-  environment.history = std::make_shared<host::DatabaseHistory>(std::move(database));
-  return std::monostate{};
+}
+
+host::Database open(const fs::path& file, const TextLookup& texts, std::string& notice) {
+  try {
+    auto [database, setAside] = host::openOrSetAside(file);
+    if (setAside)
+      notice = filledIn(texts.text("Your history was damaged and was put aside as {1}. A new one was begun."),
+                        {setAside->string()});
+    return std::move(database);
+  } catch (const host::DatabaseError& fault) {
+    host::Database database = openToRead(file, fault);
+    notice = filledIn(texts.text("You can look at your history, but nothing can be saved: {1} may not be written."),
+                      {file.string()});
+    return database;
+  }
 }
 
 }  // namespace
@@ -181,11 +201,28 @@ tl::expected<Environment, std::string> makeEnvironment(const Options& options) {
     clients->tips = environment.tips;
     environment.rightToLeft = isWrittenFromTheRight(clients->languageTag);
     environment.dependencies = clients;
-    if (const auto opened = open(environment, options); !opened) return tl::unexpected{opened.error()};
+    if (environment.sampleFolder) {
+      host::Database sample{databaseFile(environment, options)};
+      if (const auto filled = fill(sample, options.sample, *clients->uuid); !filled)
+        return tl::unexpected{filled.error()};
+    }
+    openHistory(environment, options);
     return environment;
   } catch (const std::exception& error) {
     return tl::unexpected{std::string{error.what()}};
   }
+}
+
+bool openHistory(Environment& environment, const Options& options) {
+  const TextLookup& texts = *environment.dependencies->texts;
+  environment.notice.clear();
+  try {
+    environment.history =
+        std::make_shared<host::DatabaseHistory>(open(databaseFile(environment, options), texts, environment.notice));
+  } catch (const host::DatabaseError& error) {
+    environment.notice = host::faultText(error, texts);
+  }
+  return environment.history != nullptr;
 }
 
 }  // namespace mivo::app

@@ -14,6 +14,8 @@
 
 namespace mivo::app {
 
+class SystemZone;
+
 /// A folder that goes with the program, for a sample that must not touch what is the user's.
 class SampleFolder {
  public:
@@ -32,15 +34,20 @@ struct Environment {
   std::unique_ptr<SampleFolder> sampleFolder;  ///< only for a sample
   std::shared_ptr<const Dependencies> dependencies;
   std::shared_ptr<const host::Tips> tips;
-  Client<host::HistoryClient> history;
   std::filesystem::path databaseFile;
   std::shared_ptr<const host::WeekCalendar> calendar;  ///< the one in the dependencies, to choose its weeks
+  std::shared_ptr<SystemZone> systemZone;              ///< to be followed; none where the options name a zone
+  Client<host::HistoryClient> history;                 ///< none where it could not be opened; `notice` then says why
   WeightUnit usualWeightUnit = WeightUnit::kilograms;  ///< in the locale
   bool rightToLeft = false;                            ///< the language is written so
-  std::string notice;  ///< one sentence for the user, where a damaged database had to be put aside
+  /// One sentence for the user about the history: a damaged one had to be put aside, one may only be read.
+  std::string notice = {};
 };
 
-/// Opens the history and sets the clients up, or says in one sentence what is wrong with the options or the database.
+/// Sets the clients up and opens the history, or says in one sentence what is wrong with the options.
 tl::expected<Environment, std::string> makeEnvironment(const Options& options);
+
+/// Tries again where the history could not be opened. True where it is open now.
+bool openHistory(Environment& environment, const Options& options);
 
 }  // namespace mivo::app

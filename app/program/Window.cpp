@@ -8,6 +8,8 @@
 #include <QtQuick/QQuickItem>
 #include <QtQuick/QQuickWindow>
 
+#include "app/program/SystemZone.h"
+
 Q_IMPORT_QML_PLUGIN(MivoPlugin)
 
 namespace mivo::app {
@@ -19,6 +21,11 @@ std::optional<Appearance::Mode> modeOf(const Options& options) {
   if (options.dark) return Appearance::Mode::Dark;
   if (options.light || !options.picture.empty()) return Appearance::Mode::Light;
   return std::nullopt;
+}
+
+std::function<std::optional<std::string>()> following(std::shared_ptr<SystemZone> zone) {
+  if (!zone) return {};
+  return [zone = std::move(zone)] { return zone->follow(); };
 }
 
 }  // namespace
@@ -49,7 +56,8 @@ AppWindow::AppWindow(const Environment& environment, const Options& options, QSi
            .usualWeightUnit = environment.usualWeightUnit,
            .feedbackAddress = options.feedback,
            .calendar = environment.calendar,
-           .about = {MIVO_VERSION, environment.databaseFile.string()}}} {
+           .about = {MIVO_VERSION, environment.databaseFile.string()},
+           .followZone = following(environment.systemZone)}} {
   look.setOverride({.mode = modeOf(options),
                     .textScale = options.textScale ? std::optional<qreal>{*options.textScale} : std::nullopt,
                     .still = !options.picture.empty()});
@@ -66,6 +74,24 @@ AppWindow::~AppWindow() = default;
 
 QQuickWindow* AppWindow::window() const {
   return engine.rootObjects().isEmpty() ? nullptr : qobject_cast<QQuickWindow*>(engine.rootObjects().constFirst());
+}
+
+FaultWindow::FaultWindow(const std::string& sentence, std::function<std::string()> tryAgain)
+    : look{nullptr}, attempt{std::move(tryAgain)} {
+  engine.addImportPath(QStringLiteral("qrc:/"));
+  engine.setInitialProperties({{QStringLiteral("sentence"), QString::fromStdString(sentence)}});
+  engine.load(QUrl{QStringLiteral("qrc:/Mivo/FaultWindow.qml")});
+  if (window()) QObject::connect(window(), SIGNAL(againWanted()), this, SLOT(tryAgain()));
+}
+
+QQuickWindow* FaultWindow::window() const {
+  return engine.rootObjects().isEmpty() ? nullptr : qobject_cast<QQuickWindow*>(engine.rootObjects().constFirst());
+}
+
+void FaultWindow::tryAgain() {
+  const std::string sentence = attempt();
+  if (sentence.empty()) return void(window()->close());
+  window()->setProperty("sentence", QString::fromStdString(sentence));
 }
 
 std::optional<std::string> drawInto(AppWindow& shown, const Options& options) {

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QtCore/QObject>
 #include <QtCore/QSize>
 #include <QtQml/QQmlApplicationEngine>
 
+#include <functional>
 #include <optional>
 #include <string>
 
@@ -32,6 +34,24 @@ class AppWindow {
  private:
   Appearance look;
   AppModel app;
+  QQmlApplicationEngine engine;
+};
+
+/// Says why the app cannot start, and lets the user try again until it can or they close the window.
+class FaultWindow : public QObject {
+  Q_OBJECT
+
+ public:
+  /// `tryAgain` answers what still stands in the way, or nothing.
+  FaultWindow(const std::string& sentence, std::function<std::string()> tryAgain);
+
+  QQuickWindow* window() const;
+
+ private:
+  Q_SLOT void tryAgain();
+
+  Appearance look;
+  std::function<std::string()> attempt;
   QQmlApplicationEngine engine;
 };
 

@@ -28,13 +28,22 @@ void choosePainting(const Options& options) {
   if (options.scale != 1) qputenv("QT_SCALE_FACTOR", QByteArray::number(options.scale));
 }
 
+// Until the history is open, or the user gives up.
+bool askUntilOpen(Environment& environment, const Options& options) {
+  FaultWindow shown{environment.notice, [&] { return openHistory(environment, options) ? "" : environment.notice; }};
+  if (shown.window()) QGuiApplication::exec();
+  return environment.history != nullptr;
+}
+
 int show(QGuiApplication& application, const Options& options) {
   const auto size = sizeOf(options.size);
   if (!size) return refused(wrongUsage, "--size: expected a width of 320 and a height of 240 or more, as in 390x844");
-  const auto environment = makeEnvironment(options);
+  auto environment = makeEnvironment(options);
   if (!environment) return refused(atFault, environment.error());
   const DependencyScope scope{environment->dependencies};
   if (options.mirrored || environment->rightToLeft) QGuiApplication::setLayoutDirection(Qt::RightToLeft);
+  if (!environment->history && (!options.picture.empty() || !askUntilOpen(*environment, options)))
+    return refused(atFault, environment->notice);
   AppWindow shown{*environment, options, *size};
   if (!shown.window()) return refused(atFault, "the window could not be made");
   if (options.picture.empty()) return application.exec();

@@ -79,14 +79,15 @@ auto AppFeature::on(State& state, const Action::statistics& sent) const -> Effec
 
 auto AppFeature::on(State&, const Action::reload&) const -> Effect<Action> {
   return Effect<Action>::run(
-      [](const Send<Action>& send, std::stop_token, const Client<HistoryClient>& client) {
+      [](const Send<Action>& send, std::stop_token, const Client<HistoryClient>& client,
+         const Client<TextLookup>& lookup) {
         try {
           send(Action::didLoad{client->load()});
         } catch (const std::exception& error) {
-          send(Action::didFail{error.what()});
+          send(Action::didFail{faultText(error, *lookup)});
         }
       },
-      history);
+      history, texts);
 }
 
 auto AppFeature::on(State& state, const Action::didLoad& loaded) const -> Effect<Action> {
@@ -163,15 +164,16 @@ auto AppFeature::on(State& state, const Action::didTapUndo&) const -> Effect<Act
   UndoOffer offer = **state.undo;
   state.undo = std::nullopt;
   return Effect<Action>::run(
-      [](const Send<Action>& send, std::stop_token, const Client<HistoryClient>& client, const UndoOffer& offered) {
+      [](const Send<Action>& send, std::stop_token, const Client<HistoryClient>& client,
+         const Client<TextLookup>& lookup, const UndoOffer& offered) {
         try {
           client->apply(offered.change);
         } catch (const std::exception& error) {
-          return send(Action::didFailToUndo{offered, error.what()});
+          return send(Action::didFailToUndo{offered, faultText(error, *lookup)});
         }
         send(Action::didWrite{Step::undo, offered.change});
       },
-      history, std::move(offer));
+      history, texts, std::move(offer));
 }
 
 auto AppFeature::on(State& state, const Action::didFailToUndo& failed) const -> Effect<Action> {
@@ -214,7 +216,8 @@ auto AppFeature::saveWeight(const State& state) const -> Effect<Action> {
   const auto& pending = *state.statistics.addWeightLogState.pendingSample;
   if (!pending) return {};
   return Effect<Action>::run(
-      [](const Send<Action>& send, std::stop_token, const Client<HistoryClient>& client, const HistoryChange& written) {
+      [](const Send<Action>& send, std::stop_token, const Client<HistoryClient>& client,
+         const Client<TextLookup>& lookup, const HistoryChange& written) {
         using Card = AddWeightLogFeature::Action;
         const auto answer = [&send](Card action) {
           send(Action::statistics{StatisticsFeature::Action::addWeightLogAction{std::move(action)}});
@@ -222,26 +225,26 @@ auto AppFeature::saveWeight(const State& state) const -> Effect<Action> {
         try {
           client->apply(written);
         } catch (const std::exception& error) {
-          return answer(Card::didFailToSave{error.what()});
+          return answer(Card::didFailToSave{faultText(error, *lookup)});
         }
         send(Action::didWrite{Step::addWeight, written});
         answer(Card::didSave{});
       },
-      history, adding(*pending));
+      history, texts, adding(*pending));
 }
 
 auto AppFeature::write(Step step, HistoryChange change) const -> Effect<Action> {
   return Effect<Action>::run(
-      [](const Send<Action>& send, std::stop_token, const Client<HistoryClient>& client, Step done,
-         const HistoryChange& written) {
+      [](const Send<Action>& send, std::stop_token, const Client<HistoryClient>& client,
+         const Client<TextLookup>& lookup, Step done, const HistoryChange& written) {
         try {
           client->apply(written);
         } catch (const std::exception& error) {
-          return send(Action::didFail{error.what()});
+          return send(Action::didFail{faultText(error, *lookup)});
         }
         send(Action::didWrite{done, written});
       },
-      history, step, std::move(change));
+      history, texts, step, std::move(change));
 }
 
 // A running fast whose start lies ahead, because the clock was set back, cannot be stopped: it is kept as it is.

@@ -8,6 +8,7 @@
 #include <sqlite3.h>
 
 #include <array>
+#include <cerrno>
 #include <chrono>
 #include <cstring>
 #include <system_error>
@@ -94,37 +95,71 @@ constexpr const char* insertFast =
     "INSERT INTO fasts (id, startedAt, endedAt, goalSeconds, note) VALUES (?, ?, ?, ?, ?)";
 constexpr const char* insertWeight = "INSERT INTO weights (id, weighedAt, weightInKg) VALUES (?, ?, ?)";
 
-DatabaseError conflict(const fs::path& file, const char* sentence) {
-  return {Kind::conflict, file.string() + ": " + sentence};
-}
+DatabaseError conflict(const fs::path& file, const char* sentence) { return {Kind::conflict, file, sentence}; }
 
-DatabaseError translated(const fs::path& file, const SQLite::Exception& error) {
-  const std::string at = file.string() + ": ";
-  switch (error.getErrorCode()) {
-    case SQLITE_CORRUPT:
-    case SQLITE_NOTADB:
-      return {Kind::damaged, at + "the database is damaged: " + error.what()};
-    case SQLITE_CONSTRAINT:
-      if (std::strstr(error.what(), "oneRunningFast")) return conflict(file, "another fast is running already");
-      return {Kind::conflict, at + "a record cannot be added: " + error.what()};
-    case SQLITE_FULL:
-      return {Kind::unavailable, at + "the disk is full; nothing was changed"};
-    case SQLITE_BUSY:
-      return {Kind::unavailable, at + "another program keeps it locked; nothing was changed"};
-    case SQLITE_READONLY:
-      return {Kind::unavailable, at + "it may not be written; nothing was changed"};
+// What the system said where SQLite only knows that writing failed.
+Kind kindOfFailedWrite(int systemError) {
+  switch (systemError) {
+    case ENOSPC:
+    case EDQUOT:
+    case EFBIG:
+      return Kind::diskFull;
+    case EROFS:
+      return Kind::readOnly;
     default:
-      return {Kind::unavailable, at + error.what()};
+      return Kind::unavailable;
   }
 }
 
-// Runs `body`, and turns what SQLite throws into a sentence that names the file.
+Kind kindOf(const SQLite::Exception& error, int systemError) {
+  switch (error.getErrorCode()) {
+    case SQLITE_CORRUPT:
+    case SQLITE_NOTADB:
+      return Kind::damaged;
+    case SQLITE_CONSTRAINT:
+      return std::strstr(error.what(), "oneRunningFast") ? Kind::fastRunning : Kind::conflict;
+    case SQLITE_FULL:
+      return Kind::diskFull;
+    case SQLITE_BUSY:
+      return Kind::locked;
+    case SQLITE_READONLY:
+      return Kind::readOnly;
+    case SQLITE_IOERR:
+      return kindOfFailedWrite(systemError);
+    default:
+      return Kind::unavailable;
+  }
+}
+
+std::string sentence(Kind kind, const char* message) {
+  switch (kind) {
+    case Kind::damaged:
+      return std::string{"the database is damaged: "} + message;
+    case Kind::fastRunning:
+      return "another fast is running already";
+    case Kind::conflict:
+      return std::string{"a record cannot be added: "} + message;
+    case Kind::diskFull:
+      return "the disk is full; nothing was changed";
+    case Kind::locked:
+      return "another program keeps it locked; nothing was changed";
+    case Kind::readOnly:
+      return "it may not be written; nothing was changed";
+    default:
+      return message;
+  }
+}
+
+// Runs `body`, and turns what SQLite throws into a sentence that names the file. The system's reason is in errno,
+// unless something is rolled back on the way here.
 template <class Body>
 auto translating(const fs::path& file, Body&& body) {
+  errno = 0;
   try {
     return body();
   } catch (const SQLite::Exception& error) {
-    throw translated(file, error);
+    const Kind kind = kindOf(error, errno);
+    throw DatabaseError{kind, file, sentence(kind, error.what())};
   }
 }
 
@@ -154,21 +189,37 @@ void makeFolder(const fs::path& file) {
   std::error_code error;
   if (file.has_parent_path()) fs::create_directories(file.parent_path(), error);
   if (error)
-    throw DatabaseError{Kind::unavailable,
-                        file.parent_path().string() + ": the folder cannot be made: " + error.message()};
+    throw DatabaseError{Kind::unavailable, file.parent_path(), "the folder cannot be made: " + error.message()};
+}
+
+// A database that nobody has open can be read without a file beside it only where it is called immutable.
+std::string immutableAddress(const fs::path& file) {
+  std::string address = "file:";
+  for (const char letter : file.string())
+    address += letter == '%' ? "%25" : letter == '?' ? "%3f" : letter == '#' ? "%23" : std::string{letter};
+  return address + "?immutable=1";
+}
+
+SQLite::Database open(const fs::path& file, Database::Access access) {
+  if (access == Database::Access::readAndWrite)
+    return {file.string(), SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE, millisecondsToWaitForALock};
+  if (fs::exists(file.string() + "-wal")) return {file.string(), SQLite::OPEN_READONLY, millisecondsToWaitForALock};
+  return {immutableAddress(file), SQLite::OPEN_READONLY | SQLite::OPEN_URI, millisecondsToWaitForALock};
 }
 
 }  // namespace
 
 struct Database::Connection {
-  explicit Connection(fs::path path)
-      : file{std::move(path)},
-        database{file.string(), SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE, millisecondsToWaitForALock} {
-    database.exec("PRAGMA journal_mode = WAL");
-    database.exec("PRAGMA synchronous = FULL");
-    database.exec("PRAGMA foreign_keys = ON");
+  Connection(fs::path path, Access access) : file{std::move(path)}, database{open(file, access)} {}
+
+  void prepare(Access access) {
+    if (access == Access::readAndWrite) {
+      database.exec("PRAGMA journal_mode = WAL");
+      database.exec("PRAGMA synchronous = FULL");
+      database.exec("PRAGMA foreign_keys = ON");
+    }
     const std::string verdict = database.execAndGet("PRAGMA quick_check(1)");
-    if (verdict != "ok") throw DatabaseError{Kind::damaged, file.string() + ": the database is damaged: " + verdict};
+    if (verdict != "ok") throw DatabaseError{Kind::damaged, file, sentence(Kind::damaged, verdict.c_str())};
     migrate(database);
   }
 
@@ -185,9 +236,12 @@ struct Database::Connection {
   SQLite::Database database;
 };
 
-Database::Database(const fs::path& file) {
-  makeFolder(file);
-  connection = translating(file, [&] { return std::make_unique<Connection>(file); });
+Database::Database(const fs::path& file, Access access) {
+  if (access == Access::readAndWrite) makeFolder(file);
+  translating(file, [&] {
+    connection = std::make_unique<Connection>(file, access);
+    connection->prepare(access);
+  });
 }
 
 Database::~Database() = default;
@@ -219,14 +273,15 @@ std::optional<BodyWeightSample> Database::weight(UUID id) const {
 }
 
 void Database::apply(const HistoryChange& change) {
+  SQLite::Database& database = connection->database;
+  auto transaction = translating(
+      file(), [&] { return std::make_unique<SQLite::Transaction>(database, SQLite::TransactionBehavior::IMMEDIATE); });
   translating(file(), [&] {
-    SQLite::Database& database = connection->database;
-    SQLite::Transaction transaction{database, SQLite::TransactionBehavior::IMMEDIATE};
     removeAll(database, file(), deleteFast, change.removedFasts);
     removeAll(database, file(), deleteWeight, change.removedWeights);
     addAll(database, insertFast, change.addedFasts);
     addAll(database, insertWeight, change.addedWeights);
-    transaction.commit();
+    transaction->commit();
   });
 }
 
@@ -239,7 +294,7 @@ const fs::path& Database::file() const { return connection->file; }
 
 OpenedDatabase openOrSetAside(const fs::path& file) {
   try {
-    return {Database{file}, std::nullopt};
+    return {Database{file}};
   } catch (const DatabaseError& error) {
     if (error.kind != Kind::damaged) throw;
   }
@@ -250,8 +305,7 @@ OpenedDatabase openOrSetAside(const fs::path& file) {
     std::error_code error;
     fs::rename(file.string() + part, aside.string() + part, error);
     if (error && *part == '\0')
-      throw DatabaseError{Kind::unavailable,
-                          file.string() + ": it is damaged and cannot be moved aside: " + error.message()};
+      throw DatabaseError{Kind::unavailable, file, "it is damaged and cannot be moved aside: " + error.message()};
   }
   return {Database{file}, aside};
 }

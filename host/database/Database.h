@@ -7,6 +7,7 @@
 #include <optional>
 #include <stdexcept>
 #include <string>
+#include <utility>
 
 #include "host/database/HistoryChange.h"
 #include "host/history/History.h"
@@ -20,12 +21,19 @@ class DatabaseError : public std::runtime_error {
     damaged,      ///< it is not a database, or its contents do not hold together
     tooNew,       ///< a later version of the program has written it
     conflict,     ///< a record is not, or no longer, as the change takes it to be
-    unavailable,  ///< it cannot be read or written: permissions, a full disk, another program that keeps it locked
+    fastRunning,  ///< a second running fast was to be added
+    diskFull,     ///< or the user's share of it
+    locked,       ///< another program keeps it locked
+    readOnly,     ///< it may be read, but not written
+    unavailable,  ///< it cannot be read or written for another reason
   };
 
-  DatabaseError(Kind what, const std::string& sentence) : std::runtime_error{sentence}, kind{what} {}
+  DatabaseError(Kind what, std::filesystem::path where, const std::string& why)
+      : std::runtime_error{where.string() + ": " + why}, kind{what}, file{std::move(where)}, reason{why} {}
 
   const Kind kind;
+  const std::filesystem::path file;  ///< or its folder, where that is what is wrong
+  const std::string reason;          ///< in English, without the file
 };
 
 /// The user's fasts and weights on disk. Several programs may have it open at once and see each other's changes.
@@ -34,9 +42,11 @@ class DatabaseError : public std::runtime_error {
 /// without repair. Thread: one at a time.
 class Database {
  public:
-  /// Opens the database, makes it and its folder where they are missing, and brings an older one up to date. Throws
-  /// DatabaseError.
-  explicit Database(const std::filesystem::path& file);
+  enum class Access { readAndWrite, readOnly };
+
+  /// Opens the database, makes it and its folder where they are missing, and brings an older one up to date; one that
+  /// is only to be read must be there, and up to date. Throws DatabaseError.
+  explicit Database(const std::filesystem::path& file, Access access = Access::readAndWrite);
   ~Database();
   Database(Database&&) noexcept;
   Database& operator=(Database&&) noexcept;
@@ -66,7 +76,7 @@ class Database {
 /// `setAside` is then the path under which the damaged one is kept.
 struct OpenedDatabase {
   Database database;
-  std::optional<std::filesystem::path> setAside;
+  std::optional<std::filesystem::path> setAside = {};
 };
 OpenedDatabase openOrSetAside(const std::filesystem::path& file);
 

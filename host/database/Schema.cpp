@@ -50,8 +50,8 @@ void migrate(SQLite::Database& database) {
     transaction.commit();
   }
   if (layout(database) > newest)
-    throw DatabaseError{DatabaseError::Kind::tooNew,
-                        database.getFilename() + ": written by a later version of Mivo; update to open it"};
+    throw DatabaseError{DatabaseError::Kind::tooNew, database.getFilename(),
+                        "written by a later version of Mivo; update to open it"};
 }
 
 }  // namespace mivo::host

@@ -2,19 +2,28 @@
 #include "host/place/WeekCalendar.h"
 
 #include <cassert>
+#include <utility>
 
 namespace mivo::host {
 
 WeekCalendar::WeekCalendar(const adapters::ZonedCalendar& usualCalendar)
-    : usual{usualCalendar.firstWeekday()}, chosen{usual} {
-  int weekday = 1;
-  for (auto& calendar : byFirstWeekday)
-    calendar = std::make_shared<adapters::ZonedCalendar>(usualCalendar.zone(), usualCalendar.dates(), weekday++);
-}
+    : usual{usualCalendar.firstWeekday()},
+      made{std::make_shared<adapters::ZonedCalendar>(usualCalendar.zone(), usualCalendar.dates(), usual)},
+      shown{made.back().get()} {}
 
 void WeekCalendar::choose(std::optional<int> weekday) const {
-  assert(!weekday || (*weekday >= 1 && *weekday <= static_cast<int>(daysOfWeek)));
-  chosen = weekday.value_or(usual);
+  assert(!weekday || (*weekday >= 1 && *weekday <= 7));
+  show(present().zone(), weekday.value_or(usual));
+}
+
+void WeekCalendar::moveTo(std::shared_ptr<const adapters::TimeZone> zone) const {
+  show(std::move(zone), firstWeekday());
+}
+
+void WeekCalendar::show(std::shared_ptr<const adapters::TimeZone> zone, int firstWeekday) const {
+  if (zone == present().zone() && firstWeekday == present().firstWeekday()) return;
+  made.push_back(std::make_shared<adapters::ZonedCalendar>(std::move(zone), present().dates(), firstWeekday));
+  shown = made.back().get();
 }
 
 std::optional<Date> WeekCalendar::adding(CalendarComponent component, std::int64_t count, Date date) const {

@@ -1,19 +1,21 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <array>
 #include <atomic>
 #include <memory>
 #include <optional>
+#include <vector>
 
 #include "adapters/time/ZonedCalendar.h"
 #include "mivo/platform/Calendar.h"
 
 namespace mivo::host {
 
-/// A calendar whose weeks begin on the day that the user chooses, at once: whoever holds it sees the new weeks.
+/// A calendar whose weeks begin on the day that the user chooses, in the time zone that they are in, at once: whoever
+/// holds it sees the new weeks and days.
 ///
-/// Thread: any. A calculation that runs while the day is changed may see both; it has to be done anew.
+/// Thread: any, but changes one at a time. A calculation that runs while one is made may see both; it has to be done
+/// anew.
 class WeekCalendar final : public Calendar {
  public:
   /// The weeks of `usual` are those that hold while the user has chosen none.
@@ -21,11 +23,12 @@ class WeekCalendar final : public Calendar {
 
   /// 1 = Sunday to 7 = Saturday (asserted); nothing for the usual one.
   void choose(std::optional<int> weekday) const;
+  void moveTo(std::shared_ptr<const adapters::TimeZone> zone) const;
   int usualFirstWeekday() const { return usual; }
 
   std::string_view identifier() const override { return present().identifier(); }
   std::string_view timeZone() const override { return present().timeZone(); }
-  int firstWeekday() const override { return chosen; }
+  int firstWeekday() const override { return present().firstWeekday(); }
   std::optional<Date> adding(CalendarComponent component, std::int64_t count, Date date) const override;
   std::optional<Date> lastMatch(const MatchingComponents& components, Date before) const override;
   std::optional<Date> startOfDay(Date date) const override { return present().startOfDay(date); }
@@ -37,14 +40,15 @@ class WeekCalendar final : public Calendar {
   std::optional<std::int64_t> calendarDatesBetween(Date dateOne, Date dateTwo) const override;
   std::shared_ptr<const Calendar> gregorian() const override { return present().gregorian(); }
 
+  /// The calendar that answers now; it lives as long as this one.
+  const adapters::ZonedCalendar& present() const { return *shown.load(); }
+
  private:
-  static constexpr std::size_t daysOfWeek = 7;
+  void show(std::shared_ptr<const adapters::TimeZone> zone, int firstWeekday) const;
 
-  const Calendar& present() const { return *byFirstWeekday[static_cast<std::size_t>(chosen - 1)]; }
-
-  std::array<std::shared_ptr<const adapters::ZonedCalendar>, daysOfWeek> byFirstWeekday;
   int usual;
-  mutable std::atomic<int> chosen;
+  mutable std::vector<std::shared_ptr<const adapters::ZonedCalendar>> made;  // all stay: somebody may be reading one
+  mutable std::atomic<const adapters::ZonedCalendar*> shown;
 };
 
 }  // namespace mivo::host

@@ -12,7 +12,6 @@ namespace mivo::host {
 namespace {
 
 using testing::ElementsAre;
-using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::SizeIs;
 using Action = AppFeature::Action;
@@ -167,7 +166,8 @@ TEST_F(AppFeatureTest, keepsTheOfferWhereUndoingFails) {
   const auto offer = *state().undo;
   Database{file}.apply(adding(fast(1, -30, -20)));  // another program took the id
   send(Action::didTapUndo{});
-  EXPECT_THAT(*state().failure, HasSubstr("a record cannot be added"));
+  EXPECT_EQ(*state().failure,
+            "Nothing was saved: the record was changed by another program. Look at it and try again.");
   EXPECT_EQ(*state().undo, offer);
   send(Action::didDismissMessages{});
   EXPECT_THAT(*state().failure, IsEmpty());
@@ -183,7 +183,7 @@ TEST_F(AppFeatureTest, changesNothingWhereWritingFails) {
   Database{file}.apply(adding({mivo::ongoingFast({7, 9}, at(-3), 57600), ""}));  // by another program
   const AppFeature::State before = state();
   send(Action::didTapStart{at(-2), 57600});
-  EXPECT_THAT(*state().failure, HasSubstr("another fast is running already"));
+  EXPECT_EQ(*state().failure, "A fast is running already.");
   EXPECT_EQ(state().fasts, before.fasts);
   send(Action::didDismissMessages{});
   EXPECT_EQ(state(), before);

@@ -27,6 +27,8 @@ FastRecord fast(std::uint64_t id, double startHours, double endHours, std::strin
 
 FastRecord running(std::uint64_t id, double startHours) { return {ongoingFast({7, id}, at(startHours), 57600), ""}; }
 
+using Kind = DatabaseError::Kind;
+
 HistoryChange adding(std::vector<FastRecord> fasts) {
   HistoryChange change;
   change.addedFasts = std::move(fasts);
@@ -44,7 +46,7 @@ class DatabaseTest : public testing::Test {
       return error;
     }
     ADD_FAILURE() << "the change was done";
-    return {DatabaseError::Kind::unavailable, ""};
+    return {DatabaseError::Kind::unavailable, file, ""};
   }
 
   tests::TemporaryFolder folder;
@@ -90,15 +92,17 @@ TEST_F(DatabaseTest, changesNothingOnAConflict) {
   const struct {
     const char* name;
     HistoryChange change;
+    Kind kind;
     const char* says;
   } rows[] = {
-      {"taken away as it no longer is", stale, "a record was changed meanwhile"},
-      {"a second running fast", adding({fast(4, 50, 60), running(3, 21)}), "another fast is running already"},
-      {"an id that is taken", adding({fast(4, 50, 60), fast(1, 70, 80)}), "a record cannot be added"},
+      {"taken away as it no longer is", stale, Kind::conflict, "a record was changed meanwhile"},
+      {"a second running fast", adding({fast(4, 50, 60), running(3, 21)}), Kind::fastRunning,
+       "another fast is running already"},
+      {"an id that is taken", adding({fast(4, 50, 60), fast(1, 70, 80)}), Kind::conflict, "a record cannot be added"},
   };
-  for (const auto& [name, change, says] : rows) {
+  for (const auto& [name, change, kind, says] : rows) {
     const DatabaseError error = failure(database, change);
-    EXPECT_EQ(error.kind, DatabaseError::Kind::conflict) << name;
+    EXPECT_EQ(error.kind, kind) << name;
     EXPECT_THAT(error.what(), StartsWith(file.string() + ": ")) << name;
     EXPECT_THAT(error.what(), HasSubstr(says)) << name;
     EXPECT_EQ(database.history(), before) << name;
@@ -148,6 +152,19 @@ TEST_F(DatabaseTest, leavesALaterVersionsFileAlone) {
     EXPECT_EQ(error.kind, DatabaseError::Kind::tooNew);
     EXPECT_EQ(error.what(), file.string() + ": written by a later version of Mivo; update to open it");
   }
+}
+
+// Read as it was left, whether or not its last changes still stand in the log beside it.
+TEST_F(DatabaseTest, canBeReadWhereItMayNotBeWritten) {
+  auto writer = std::make_unique<Database>(file);
+  writer->apply(adding({fast(1, 0, 16)}));
+  for (const char* name : {"with a log", "alone"}) {
+    Database reader{file, Database::Access::readOnly};
+    EXPECT_THAT(reader.history().fasts, ElementsAre(fast(1, 0, 16))) << name;
+    EXPECT_EQ(failure(reader, adding({fast(2, 20, 30)})).kind, Kind::readOnly) << name;
+    writer.reset();
+  }
+  EXPECT_THAT(open().history().fasts, ElementsAre(fast(1, 0, 16)));
 }
 
 TEST_F(DatabaseTest, saysWhatStandsInTheWayOfAFolder) {

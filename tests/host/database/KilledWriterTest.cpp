@@ -67,7 +67,7 @@ TEST(FullDisk, isSaidAndLosesNothing) {
     try {
       database.apply(adding(2, std::string(1'000'000, 'x')));
     } catch (const DatabaseError& error) {
-      ::_exit(error.kind == DatabaseError::Kind::unavailable ? 42 : 1);
+      ::_exit(error.kind == DatabaseError::Kind::diskFull ? 42 : 1);
     }
     ::_exit(0);
   }
