@@ -18,7 +18,7 @@ Window {
     visible: true
     title: "Mivo"
     color: Theme.background
-    LayoutMirroring.enabled: Qt.application.layoutDirection === Qt.RightToLeft
+    LayoutMirroring.enabled: Application.layoutDirection === Qt.RightToLeft
     LayoutMirroring.childrenInherit: true
 
     Card {

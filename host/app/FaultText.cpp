@@ -23,6 +23,8 @@ std::string databaseText(const DatabaseError& error, const TextLookup& texts) {
       return filledIn(texts.text("Another program keeps {1} locked. Try again in a moment."), {file});
     case DatabaseError::Kind::readOnly:
       return filledIn(texts.text("Nothing was saved: {1} may not be written."), {file});
+    case DatabaseError::Kind::noFolder:
+      return filledIn(texts.text("The folder {1} cannot be made."), {file});
     case DatabaseError::Kind::unavailable:
       return filledIn(texts.text("{1} cannot be used: {2}"), {file, error.reason});
   }

@@ -188,8 +188,7 @@ void addAll(SQLite::Database& database, const char* sql, const std::vector<Recor
 void makeFolder(const fs::path& file) {
   std::error_code error;
   if (file.has_parent_path()) fs::create_directories(file.parent_path(), error);
-  if (error)
-    throw DatabaseError{Kind::unavailable, file.parent_path(), "the folder cannot be made: " + error.message()};
+  if (error) throw DatabaseError{Kind::noFolder, file.parent_path(), "the folder cannot be made: " + error.message()};
 }
 
 // A database that nobody has open can be read without a file beside it only where it is called immutable.

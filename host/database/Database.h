@@ -25,6 +25,7 @@ class DatabaseError : public std::runtime_error {
     diskFull,     ///< or the user's share of it
     locked,       ///< another program keeps it locked
     readOnly,     ///< it may be read, but not written
+    noFolder,     ///< its folder cannot be made
     unavailable,  ///< it cannot be read or written for another reason
   };
 

@@ -173,7 +173,7 @@ TEST_F(DatabaseTest, saysWhatStandsInTheWayOfAFolder) {
     open();
     FAIL() << "it was opened";
   } catch (const DatabaseError& error) {
-    EXPECT_EQ(error.kind, DatabaseError::Kind::unavailable);
+    EXPECT_EQ(error.kind, Kind::noFolder);
     EXPECT_THAT(error.what(), StartsWith(file.parent_path().string() + ": the folder cannot be made"));
   }
 }
