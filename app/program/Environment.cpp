@@ -130,7 +130,7 @@ void addServers(Dependencies& clients, const Options& options) {
                                                    .languageTag = clients.languageTag});
 }
 
-Read<std::monostate> fill(host::Database& database, const std::string& file, const UUIDGenerator& ids) {
+Read<std::monostate> fill(const host::HistoryClient& database, const std::string& file, const UUIDGenerator& ids) {
   const auto text = host::readTextFile(file);
   if (!text) return tl::unexpected{describe(text.error())};
   auto history = host::readSnapshot(*text, file, ids);
@@ -201,12 +201,10 @@ tl::expected<Environment, std::string> makeEnvironment(const Options& options) {
     clients->tips = environment.tips;
     environment.rightToLeft = isWrittenFromTheRight(clients->languageTag);
     environment.dependencies = clients;
-    if (environment.sampleFolder) {
-      host::Database sample{databaseFile(environment, options)};
-      if (const auto filled = fill(sample, options.sample, *clients->uuid); !filled)
+    const bool isOpen = openHistory(environment, options);
+    if (isOpen && environment.sampleFolder)
+      if (const auto filled = fill(*environment.history, options.sample, *clients->uuid); !filled)
         return tl::unexpected{filled.error()};
-    }
-    openHistory(environment, options);
     return environment;
   } catch (const std::exception& error) {
     return tl::unexpected{std::string{error.what()}};
@@ -216,9 +214,10 @@ tl::expected<Environment, std::string> makeEnvironment(const Options& options) {
 bool openHistory(Environment& environment, const Options& options) {
   const TextLookup& texts = *environment.dependencies->texts;
   environment.notice.clear();
+  environment.databaseFile = databaseFile(environment, options);
   try {
     environment.history =
-        std::make_shared<host::DatabaseHistory>(open(databaseFile(environment, options), texts, environment.notice));
+        std::make_shared<host::DatabaseHistory>(open(environment.databaseFile, texts, environment.notice));
   } catch (const host::DatabaseError& error) {
     environment.notice = host::faultText(error, texts);
   }

@@ -1,17 +1,15 @@
 // SPDX-License-Identifier: MIT
-#include <fcntl.h>
 #include <gtest/gtest.h>
-#include <poll.h>
-#include <signal.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 #include <chrono>
+#include <cmath>
+#include <filesystem>
 #include <set>
 #include <string>
 
 #include "host/database/Database.h"
 #include "tests/support/TemporaryFolder.h"
+#include "tests/tally_support/ChildProcess.h"
 
 namespace mivo::cli {
 namespace {
@@ -20,38 +18,12 @@ using std::chrono::duration_cast;
 using std::chrono::milliseconds;
 using std::chrono::steady_clock;
 
-struct Started {
-  pid_t process;
-  int output;
-};
-
-/// `mivo weight add`, with a weight that names the round: 50.001 kg in the first one.
-Started startRecording(const std::string& database, int round) {
-  int ends[2];
-  if (::pipe2(ends, O_CLOEXEC) != 0) return {-1, -1};
-  const std::string weight = std::to_string(50 + 0.001 * round);
-  const pid_t process = ::fork();
-  if (process == 0) {
-    ::dup2(ends[1], STDOUT_FILENO);
-    ::execl(MIVO_PROGRAM, "mivo", "weight", "add", weight.c_str(), "--database", database.c_str(), nullptr);
-    ::_exit(127);
-  }
-  ::close(ends[1]);
-  return {process, ends[0]};
-}
-
-/// Whether the command has said all of its answer before the time was over; then it is killed, wherever it is.
-bool isConfirmed(const Started& started, milliseconds time) {
-  pollfd answer{started.output, POLLIN, 0};
-  ::poll(&answer, 1, static_cast<int>(time.count()));
-  ::kill(started.process, SIGKILL);
-  ::waitpid(started.process, nullptr, 0);
-  std::string said;
-  char bytes[256];
-  for (ssize_t count; (count = ::read(started.output, bytes, sizeof bytes)) > 0;)
-    said.append(bytes, static_cast<std::size_t>(count));
-  ::close(started.output);
-  return said.ends_with('\n');
+/// Records a weight that names the round, 50.001 kg in the first one, and is killed once the time is over, wherever it
+/// is by then. Whether all of its answer was said before.
+bool isConfirmed(const std::string& database, int round, milliseconds time) {
+  tally::test::ChildProcess command{
+      {MIVO_PROGRAM, "weight", "add", std::to_string(50 + 0.001 * round), "--database", database}};
+  return command.killAfter(time).ends_with('\n');
 }
 
 // Killed after anything from no time at all to what a whole run takes, so that every part of it is hit.
@@ -59,12 +31,12 @@ TEST(KilledCommand, losesNothingThatWasConfirmed) {
   const tests::TemporaryFolder folder;
   const std::string database = folder.path / "d";
   const auto begin = steady_clock::now();
-  ASSERT_TRUE(isConfirmed(startRecording(database, 0), milliseconds{60'000}));
+  ASSERT_TRUE(isConfirmed(database, 0, milliseconds{60'000}));
   const auto usual = duration_cast<milliseconds>(steady_clock::now() - begin);
   constexpr int rounds = 200;
   std::set<int> confirmed{0};
   for (int round = 1; round <= rounds; ++round)
-    if (isConfirmed(startRecording(database, round), usual * (round % 20) / 16)) confirmed.insert(round);
+    if (isConfirmed(database, round, usual * (round % 20) / 16)) confirmed.insert(round);
   EXPECT_GT(confirmed.size(), 1u) << "no run was left the time to end";
   EXPECT_LT(confirmed.size(), std::size_t{rounds}) << "no run was killed";
 

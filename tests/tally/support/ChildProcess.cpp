@@ -78,6 +78,16 @@ void ChildProcess::kill() {
   id_ = -1;
 }
 
+std::string ChildProcess::killAfter(std::chrono::milliseconds time) {
+  std::unique_lock lock{mutex_};
+  changed_.wait_for(lock, time, [this] { return hasEnded_; });
+  lock.unlock();
+  kill();
+  lock.lock();
+  changed_.wait(lock, [this] { return hasEnded_; });
+  return output_;
+}
+
 int ChildProcess::wait() {
   {
     std::unique_lock lock{mutex_};

@@ -2,6 +2,7 @@
 #pragma once
 #include <sys/types.h>
 
+#include <chrono>
 #include <condition_variable>
 #include <mutex>
 #include <string>
@@ -23,6 +24,8 @@ class ChildProcess {
   void send(int signal) const;
   /// SIGKILL, and gone when this returns.
   void kill();
+  /// SIGKILL once so much time is over, wherever the program is by then; all that it has written.
+  std::string killAfter(std::chrono::milliseconds time);
   /// The exit status; throws where the program does not end within 30 seconds.
   int wait();
   std::string output() const;
