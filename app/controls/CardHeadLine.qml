@@ -11,6 +11,8 @@ Item {
     property TextStyle titleStyle: Theme.bodyStrongText
     property TextStyle detailStyle: Theme.labelText
     property color detailColor: Theme.inkSecondary
+    /// For words that arrive in lower case.
+    property int detailCapitalization: Font.MixedCase
     /// Room that something before the title takes.
     property real indent: 0
 
@@ -40,5 +42,6 @@ Item {
         text: root.detail
         style: root.detailStyle
         color: root.detailColor
+        font.capitalization: root.detailCapitalization
     }
 }

@@ -10,6 +10,7 @@ T.AbstractButton {
     required property int index
     required property string modelData
     property bool isChosen: false
+    property alias capitalization: label.font.capitalization
 
     width: parent ? parent.width : 0
     implicitHeight: Math.max(Theme.rowSize, label.height + 26)

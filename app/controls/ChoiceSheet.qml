@@ -10,6 +10,8 @@ Sheet {
     property list<string> options
     property int current: 0
     property string note
+    /// For words that arrive in lower case.
+    property int capitalization: Font.MixedCase
 
     signal chosen(index: int)
 
@@ -25,6 +27,7 @@ Sheet {
 
             delegate: ChoiceRow {
                 isChosen: index === root.current
+                capitalization: root.capitalization
                 onClicked: {
                     root.chosen(index);
                     root.close();

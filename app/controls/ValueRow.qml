@@ -8,6 +8,7 @@ T.AbstractButton {
     id: root
 
     property string value
+    property alias valueCapitalization: words.detailCapitalization
     property string iconName
 
     width: parent ? parent.width : 0
@@ -44,7 +45,7 @@ T.AbstractButton {
         Icon {
             id: icon
             anchors.left: parent.left
-            anchors.verticalCenter: parent.verticalCenter
+            y: words.y + (Theme.bodyText.line * Theme.textScale - height) / 2
             width: Theme.iconInTileSize
             height: Theme.iconInTileSize
             name: root.iconName

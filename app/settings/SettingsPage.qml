@@ -84,6 +84,7 @@ FocusScope {
                         iconName: "calendar"
                         text: Texts.text("First weekday")
                         value: App.settings.firstWeekdayText
+                        valueCapitalization: Font.Capitalize
                         onClicked: firstWeekday.open()
                     }
 
@@ -145,6 +146,7 @@ FocusScope {
         id: firstWeekday
         title: Texts.text("First weekday")
         options: App.settings.firstWeekdays
+        capitalization: Font.Capitalize
         current: App.settings.firstWeekday
         onChosen: index => App.settings.firstWeekday = index
     }

@@ -220,5 +220,23 @@ TEST_F(AppFeatureTest, remembersTheGoal) {
   EXPECT_EQ(goalWeight(*world.dependencies.userDefaults), std::nullopt);
 }
 
+TEST_F(AppFeatureTest, readsChangedSettingsAtOnce) {
+  const auto& card = state().statistics.addWeightLogState;
+  const auto& defaults = *world.dependencies.userDefaults;
+  send(Action::statistics{Sent::addWeightLogAction{AddWeightLogFeature::Action::didChangeText{"72.4"}}});
+  defaults.setValue("showBadges", false);
+  world.dependencies.appGroupUserDefaults->setStreakSettings({.maxBreakHours = 30});
+  send(Action::didChangeSettings{});
+  EXPECT_FALSE(*state().statistics.dashboardSettings.showBadges);
+  EXPECT_EQ(state().statistics.streakSettings->maxBreakHours, 30);
+  EXPECT_EQ(*card.typedText, "72.4") << "no other unit";
+
+  setWeightUnit(defaults, WeightUnit::pounds);
+  send(Action::didChangeSettings{});
+  EXPECT_EQ(*card.weightUnit, WeightUnit::pounds);
+  EXPECT_EQ(*state().statistics.goalWeightCardState.weightUnit, WeightUnit::pounds);
+  EXPECT_EQ(*card.typedText, std::nullopt) << "72.4 was meant in kilograms";
+}
+
 }  // namespace
 }  // namespace mivo::host
