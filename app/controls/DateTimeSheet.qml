@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Chooses a date and a time: day, hour and minute on three wheels.
 import QtQuick
+import QtQuick.Templates as T
 import Mivo
 
 Sheet {
@@ -23,6 +24,8 @@ Sheet {
         days.currentIndex = choice.day;
         hours.currentIndex = choice.hour;
         minutes.currentIndex = choice.minute;
+        for (const wheel of [days, hours, minutes])
+            wheel.positionViewAtIndex(wheel.currentIndex, T.Tumbler.Center);  // it opens there, and does not roll there
     }
 
     DateTimeChoice { id: choice }
