@@ -138,7 +138,8 @@ QStringList overlaps(const QList<ShownText>& texts) {
 }  // namespace
 
 QStringList faultsOf(QQuickWindow& window) {
-  const QImage picture = window.grabWindow();
+  QImage picture = window.grabWindow();
+  picture.setDevicePixelRatio(window.effectiveDevicePixelRatio());  // the software renderer leaves it at 1
   QList<ShownText> texts;
   QList<QQuickItem*> overlays;
   for (QQuickItem* child : window.contentItem()->childItems())

@@ -54,6 +54,7 @@ struct Wanted {
   std::string folder;  // none only measures
   double scale = 1;
   std::string data = "data";
+  std::string only;  // what the name of a picture contains
 };
 
 Options optionsFor(const Wanted& wanted, const History& history, const Language& language, const QDir& scratch) {
@@ -77,19 +78,23 @@ struct Shown {
   QString name;  // "german-one"
 };
 
-int drawScreens(const Shown& shown, const Wanted& wanted, const Size& size, Appearance::Mode mode) {
+struct Count {
+  int drawn = 0, faulty = 0;
+};
+
+void drawScreens(const Shown& shown, const Wanted& wanted, const Size& size, Appearance::Mode mode, Count& count) {
   QQuickWindow& window = *shown.app.window();
-  int faulty = 0;
   shown.app.appearance().setOverride({.mode = mode, .textScale = std::nullopt, .still = true});
   for (const char* screen : screens) {
-    const bool isColumn = std::string_view{screen} == "statistics";
-    window.resize(size.size);
-    QMetaObject::invokeMethod(&window, "present", Q_ARG(QString, QString::fromLatin1(screen)));
-    settle(window, 40);
     const QString name =
         QStringLiteral("%1-%2-%3-%4")
             .arg(QLatin1String{screen}, QLatin1String{size.name},
                  mode == Appearance::Mode::Dark ? QStringLiteral("dark") : QStringLiteral("light"), shown.name);
+    if (!name.contains(QString::fromStdString(wanted.only))) continue;
+    const bool isColumn = std::string_view{screen} == "statistics";
+    window.resize(size.size);
+    QMetaObject::invokeMethod(&window, "present", Q_ARG(QString, QString::fromLatin1(screen)));
+    settle(window, 40);
     if (!wanted.folder.empty())
       window.grabWindow().save(QString::fromStdString(wanted.folder) + QLatin1Char{'/'} + name +
                                QStringLiteral(".png"));
@@ -97,16 +102,16 @@ int drawScreens(const Shown& shown, const Wanted& wanted, const Size& size, Appe
     if (isColumn) settle(window, 40);
     for (const QString& fault : faultsOf(window)) {
       std::cout << name.toStdString() << ": " << fault.toStdString() << '\n';
-      ++faulty;
+      ++count.faulty;
     }
+    ++count.drawn;
   }
-  return faulty;
 }
 
 int drawAll(const Wanted& wanted) {
   QDir scratch{QDir::temp().filePath(QStringLiteral("mivo-gallery-%1").arg(QCoreApplication::applicationPid()))};
   scratch.mkpath(QStringLiteral("."));
-  int faulty = 0, drawn = 0;
+  Count count;
   for (const Language& language : languages)
     for (const History& history : histories) {
       const Options options = optionsFor(wanted, history, language, scratch);
@@ -121,15 +126,13 @@ int drawAll(const Wanted& wanted) {
           // In the dark only colours differ, so one language tells.
           const bool isOnlyMeasured = wanted.folder.empty();
           if (isOnlyMeasured && mode == Appearance::Mode::Dark && &language != &languages[0]) continue;
-          faulty +=
-              drawScreens({app, QStringLiteral("%1-%2").arg(QLatin1String{language.name}, QLatin1String{history.name})},
-                          wanted, size, mode);
-          drawn += static_cast<int>(screens.size());
+          drawScreens({app, QStringLiteral("%1-%2").arg(QLatin1String{language.name}, QLatin1String{history.name})},
+                      wanted, size, mode, count);
         }
     }
   scratch.removeRecursively();
-  std::cout << drawn << " pictures, " << faulty << " faults\n";
-  return faulty == 0 ? 0 : 1;
+  std::cout << count.drawn << " pictures, " << count.faulty << " faults\n";
+  return count.faulty == 0 ? 0 : 1;
 }
 
 int run(int count, char** arguments) {
@@ -138,6 +141,8 @@ int run(int count, char** arguments) {
   program.add_option("--out", wanted.folder, "The folder for the pictures; without one they are only measured")
       ->type_name("FOLDER");
   program.add_option("--scale", wanted.scale, "Pixels of a picture to a point")->check(CLI::Range(0.5, 4.0));
+  program.add_option("--only", wanted.only, "Only the pictures whose name contains this: 390x844-dark-german")
+      ->type_name("TEXT");
   program.add_option("--data", wanted.data, "Where the sample histories are")->type_name("FOLDER");
   CLI11_PARSE(program, count, arguments);
   qputenv("QT_QPA_PLATFORM", "offscreen");
