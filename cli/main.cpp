@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include <malloc.h>
 #include <unistd.h>
 
 #include <CLI/CLI.hpp>
@@ -11,6 +10,7 @@
 #include <string>
 #include <system_error>
 
+#include "adapters/system/FreedMemory.h"
 #include "cli/records/RecordOptions.h"
 #include "cli/report/ReportCommand.h"
 #include "cli/terminal/StandardOutput.h"
@@ -48,14 +48,6 @@ std::string hint(const CLI::App& program) {
   return name + " --help tells what can";
 }
 
-/// A page given back to the kernel and asked for again costs more than a short run does with it: a quarter of the page
-/// faults of a report on ten years.
-void keepFreedMemory() {
-  ::mallopt(M_MMAP_THRESHOLD, 1 << 22);
-  ::mallopt(M_TRIM_THRESHOLD, 1 << 26);
-  ::mallopt(M_TOP_PAD, 1 << 22);
-}
-
 int run(int count, char** arguments) {
   if (const auto fault = closedOutput()) {
     complain(*fault);
@@ -87,7 +79,7 @@ int run(int count, char** arguments) {
 }  // namespace mivo::cli
 
 int main(int count, char** arguments) {
-  mivo::cli::keepFreedMemory();
+  mivo::adapters::keepFreedMemory();
   try {
     return mivo::cli::run(count, arguments);
   } catch (const std::exception& error) {

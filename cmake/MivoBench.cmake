@@ -3,8 +3,8 @@
 # number of records (the last argument).
 function(mivo_bench name)
   cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;USES")
-  add_executable(${name}_bench ${arg_SOURCES})
-  target_link_libraries(${name}_bench PRIVATE mivo_warnings ${arg_USES} bench::support benchmark::benchmark_main)
+  add_executable(${name}_bench ${PROJECT_SOURCE_DIR}/bench/support/main.cpp ${arg_SOURCES})
+  target_link_libraries(${name}_bench PRIVATE mivo_warnings ${arg_USES} adapters::system bench::support)
   set_target_properties(${name}_bench PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/benches)
   add_dependencies(benches ${name}_bench)
 endfunction()
