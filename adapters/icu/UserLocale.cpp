@@ -2,6 +2,7 @@
 #include "adapters/icu/UserLocale.h"
 
 #include <unicode/calendar.h>
+#include <unicode/localebuilder.h>
 #include <unicode/locid.h>
 #include <unicode/ulocdata.h>
 #include <unicode/ures.h>
@@ -77,6 +78,17 @@ UserLocale UserLocale::system() {
     break;
   }
   return UserLocale{"en"};
+}
+
+UserLocale UserLocale::inLanguage(std::string_view language) const {
+  const auto other = parse(language);
+  if (!other) return *this;
+  UErrorCode status = U_ZERO_ERROR;
+  const icu::Locale here = icu::Locale::forLanguageTag(languageTag, status);
+  const icu::Locale spoken = icu::Locale::forLanguageTag(other->languageTag, status);
+  if (*spoken.getCountry() != '\0') return *other;
+  const icu::Locale both = icu::LocaleBuilder{}.setLocale(spoken).setRegion(here.getCountry()).build(status);
+  return UserLocale{both.toLanguageTag<std::string>(status)};
 }
 
 int UserLocale::firstWeekday() const {

@@ -19,6 +19,10 @@ class UserLocale {
   /// What LC_ALL, LC_MESSAGES or LANG say, the first of them that is set; English where it is none.
   static UserLocale system();
 
+  /// The same place in another language, "de" or "zh-Hant": weeks, units and clock stay those of the region. Itself
+  /// where that is no language; a place that names no region becomes the language's likeliest.
+  UserLocale inLanguage(std::string_view language) const;
+
   /// The language tag: "de-DE".
   const std::string& tag() const { return languageTag; }
 

@@ -61,8 +61,7 @@ Read<adapters::UserLocale> userLocale(const std::string& asked, const UserDefaul
     auto parsed = adapters::UserLocale::parse(asked);
     return parsed ? std::move(parsed) : wrong("--locale", parsed.error());
   }
-  const auto chosen = adapters::UserLocale::parse(host::language(defaults));
-  return chosen ? *chosen : adapters::UserLocale::system();
+  return adapters::UserLocale::system().inLanguage(host::language(defaults));
 }
 
 Read<Client<DateGenerator>> clock(const Options& options, const adapters::TimeZone& zone) {

@@ -50,6 +50,18 @@ TEST(UserLocale, refusesWhatItHasNoDataFor) {
   }
 }
 
+TEST(UserLocale, keepsItsPlaceInAnotherLanguage) {
+  const auto there = [](const char* place, const char* language) {
+    return UserLocale::parse(place).value().inLanguage(language).tag();
+  };
+  EXPECT_EQ(there("de-DE", "en"), "en-DE");
+  EXPECT_EQ(there("de-DE", "zh-Hant"), "zh-Hant-DE");
+  EXPECT_EQ(there("de-DE", "en-u-hc-h12"), "en-DE-u-hc-h12");
+  EXPECT_EQ(there("de-DE", "en-GB"), "en-GB");
+  EXPECT_EQ(there("de", "en"), "en");
+  EXPECT_EQ(there("de-DE", ""), "de-DE");
+}
+
 // The system's locale while these variables are set, and no others that choose one.
 std::string tagWith(const std::map<std::string, std::string>& settings) {
   std::map<std::string, std::optional<std::string>> before;
