@@ -24,6 +24,7 @@ void addRecords(CLI::App& program, Options& options) {
   program.add_option("--time-zone", options.timeZone, "Default: the system's")->type_name("ZONE");
   program.add_option("--tally", options.tally, "The server of the roadmap and its votes")
       ->type_name("URL")
+      ->envname("MIVO_TALLY_URL")
       ->capture_default_str();
   program.add_option("--donations", options.donations, "The list of ways to give")->type_name("URL|FILE");
   program.add_option("--feedback", options.feedback, "Where ideas are sent to")->type_name("ADDRESS");

@@ -20,6 +20,7 @@ CLI::App& addCommand(CLI::App& program, const char* name, const char* descriptio
   command.footer(examples);
   command.add_option("--tally", options.tally, "The server of the roadmap and its votes")
       ->type_name("URL")
+      ->envname("MIVO_TALLY_URL")
       ->capture_default_str();
   command.add_option("--namespace", options.namespaceName, "Under which the votes are counted")
       ->type_name("NAME")

@@ -24,9 +24,13 @@ struct Outcome {
 /// The real programs: `mivo` against a `mivo-tally` of its own.
 class EndToEnd : public testing::Test {
  protected:
-  Outcome mivo(const std::string& arguments) const {
-    const std::string command = "XDG_CONFIG_HOME=" + folder.file("settings") + " " MIVO_PROGRAM " " + arguments +
-                                " --locale en --tally http://127.0.0.1:" + std::to_string(server.port()) + " 2>&1";
+  std::string address() const { return "http://127.0.0.1:" + std::to_string(server.port()); }
+
+  Outcome mivo(const std::string& arguments) const { return run("", arguments + " --tally " + address()); }
+
+  Outcome run(const std::string& environment, const std::string& arguments) const {
+    const std::string command = "XDG_CONFIG_HOME=" + folder.file("settings") + " " + environment +
+                                " " MIVO_PROGRAM " " + arguments + " --locale en 2>&1";
     FILE* const pipe = ::popen(command.c_str(), "r");
     std::string output;
     std::array<char, 4096> bytes;
@@ -45,6 +49,7 @@ TEST_F(EndToEnd, aVoteChangesWhatASecondListingShows) {
   EXPECT_THAT(mivo("roadmap").output, HasSubstr("       1 * Weekly plan (2, In progress)\n"));
   EXPECT_EQ(mivo("unvote 2"), (Outcome{0, "Weekly plan: 0 votes\n"}));
   EXPECT_THAT(mivo("roadmap --format json").output, HasSubstr("\"votes\": 0"));
+  EXPECT_EQ(run("MIVO_TALLY_URL=" + address(), "vote 2"), (Outcome{0, "Weekly plan: 1 vote\n"}));
 }
 
 TEST_F(EndToEnd, wrongUsageLeavesWith2) {

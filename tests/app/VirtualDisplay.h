@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QtCore/QPoint>
+#include <QtCore/QProcess>
+#include <QtCore/QStringList>
+
+namespace mivo::app {
+
+/// A display that nobody sees, with a pointer and a keyboard whose events come to a program through the X server, as
+/// those of a person do.
+class VirtualDisplay {
+ public:
+  /// Starts an X server and makes this process's next windows its own. Throws where there is no Xvfb or xdotool.
+  VirtualDisplay();
+  ~VirtualDisplay();
+  VirtualDisplay(const VirtualDisplay&) = delete;
+  VirtualDisplay& operator=(const VirtualDisplay&) = delete;
+
+  // Places in pixels of the screen.
+  void click(QPoint at) const;
+  void drag(QPoint from, QPoint to) const;
+  /// A notch of the wheel.
+  void scroll(QPoint at, bool down) const;
+  /// Names as X has them: "Return", "Escape", "ctrl+a".
+  void key(const QString& name) const;
+  void type(const QString& text) const;
+
+ private:
+  static void act(const QStringList& steps);
+
+  QProcess server;
+};
+
+}  // namespace mivo::app
