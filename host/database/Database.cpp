@@ -6,6 +6,7 @@
 #include <SQLiteCpp/Statement.h>
 #include <SQLiteCpp/Transaction.h>
 #include <sqlite3.h>
+#include <unistd.h>
 
 #include <array>
 #include <cerrno>
@@ -191,6 +192,13 @@ void makeFolder(const fs::path& file) {
   if (error) throw DatabaseError{Kind::noFolder, file.parent_path(), "the folder cannot be made: " + error.message()};
 }
 
+// SQLite says of a missing file only that it cannot be opened.
+void demandAFolderForANewFile(const fs::path& file) {
+  const fs::path folder = file.has_parent_path() ? file.parent_path() : ".";
+  if (!fs::exists(file) && ::access(folder.c_str(), W_OK | X_OK) != 0)
+    throw DatabaseError{Kind::readOnly, folder, sentence(Kind::readOnly, "")};
+}
+
 // A database that nobody has open can be read without a file beside it only where it is called immutable.
 std::string immutableAddress(const fs::path& file) {
   std::string address = "file:";
@@ -236,7 +244,10 @@ struct Database::Connection {
 };
 
 Database::Database(const fs::path& file, Access access) {
-  if (access == Access::readAndWrite) makeFolder(file);
+  if (access == Access::readAndWrite) {
+    makeFolder(file);
+    demandAFolderForANewFile(file);
+  }
   translating(file, [&] {
     connection = std::make_unique<Connection>(file, access);
     connection->prepare(access);

@@ -123,6 +123,18 @@ TEST_F(Failures, aReadOnlyFolderShowsTheHistoryAndSavesNothing) {
   EXPECT_EQ(onDisk().size(), 1U);
 }
 
+TEST_F(Failures, aReadOnlyFolderWithoutAHistoryIsSaid) {
+  giveUpCapabilities();
+  fs::create_directories(data);
+  fs::permissions(data, fs::perms::owner_read | fs::perms::owner_exec);
+  Options options = ShownApp::optionsFor("");
+  options.database = file.string();
+  const auto environment = makeEnvironment(options);
+  ASSERT_TRUE(environment);
+  EXPECT_EQ(environment->history, nullptr);
+  EXPECT_EQ(environment->notice, "Nothing was saved: " + data.string() + " may not be written.");
+}
+
 TEST_F(Failures, aFolderThatCannotBeMadeIsSaidUntilItCan) {
   std::ofstream{data} << "a file where a folder is needed";
   Options options = ShownApp::optionsFor("");
