@@ -22,7 +22,7 @@ namespace {
 using Sent = StatisticsFeature::Action;
 using Destination = StatisticsFeature::Destination;
 
-constexpr std::chrono::seconds untilRecomputed{60}, untilLookedForOtherPrograms{2};
+constexpr std::chrono::seconds untilRecomputed{60}, untilLookedAround{2};
 
 AppModel* theApp = nullptr;
 
@@ -81,13 +81,29 @@ void AppModel::load() {
 
 // A running fast moves the figures, another program may write into the same database, and people travel.
 void AppModel::watchTime() {
-  connect(&everyMinute, &QTimer::timeout, this, [this] { send(Action::recompute{}); });
-  everyMinute.start(untilRecomputed);
-  connect(&watch, &QTimer::timeout, this, [this] {
-    lookForOtherPrograms();
-    followZone();
+  connect(&everyMinute, &QTimer::timeout, this, [this] {
+    if (!watched) lookAround();
+    send(Action::recompute{});
   });
-  watch.start(untilLookedForOtherPrograms);
+  everyMinute.start(untilRecomputed);
+  connect(&watch, &QTimer::timeout, this, &AppModel::lookAround);
+  watch.start(untilLookedAround);
+}
+
+void AppModel::setWatched(bool isNow) {
+  if (std::exchange(watched, isNow) == isNow) return;
+  if (isNow) {
+    lookAround();
+    watch.start(untilLookedAround);
+  } else {
+    watch.stop();
+  }
+  Q_EMIT watchedChanged();
+}
+
+void AppModel::lookAround() {
+  lookForOtherPrograms();
+  followZone();
 }
 
 void AppModel::lookForOtherPrograms() {

@@ -70,6 +70,8 @@ class AppModel : public QObject {
   Q_PROPERTY(QString failure READ failure NOTIFY messagesChanged)
   /// The text of the undo bar; empty without an offer.
   Q_PROPERTY(QString undoText READ undoText NOTIFY messagesChanged)
+  /// Whether anybody can see the window; while nobody can, only the minute's update is done.
+  Q_PROPERTY(bool watched READ isWatched NOTIFY watchedChanged)
 
  public:
   using State = host::AppFeature::State;
@@ -96,6 +98,9 @@ class AppModel : public QObject {
   QString goalWeightText() const;
   QString failure() const;
   QString undoText() const;
+
+  bool isWatched() const { return watched; }
+  void setWatched(bool isNow);
 
   const State& state() const { return store.state(); }
   /// A sentence for the user, until dismissed; an empty one says nothing.
@@ -126,12 +131,14 @@ class AppModel : public QObject {
  Q_SIGNALS:
   void destinationChanged();
   void messagesChanged();
+  void watchedChanged();
   /// Something was written that other screens may show.
   void changed();
 
  private:
   void load();
   void watchTime();
+  void lookAround();
   void lookForOtherPrograms();
   void followZone();
   void follow(const State& state);
@@ -155,6 +162,7 @@ class AppModel : public QObject {
   SettingsModel chosenSettings;
   std::unique_ptr<RoadmapModel> features;
   QString shownDestination;
+  bool watched = true;
   QTimer everyMinute, watch;
   Subscription following;
 };

@@ -52,7 +52,7 @@ FocusScope {
     Binding {
         target: App.fasting
         property: "watched"
-        value: root.visible && root.Window.visibility !== Window.Hidden && root.Window.visibility !== Window.Minimized
+        value: root.visible && App.watched
     }
 
     Flickable {

@@ -68,6 +68,10 @@ AppWindow::AppWindow(const Environment& environment, const Options& options, QSi
                                {QStringLiteral("tab"), QString::fromStdString(options.tab)},
                                {QStringLiteral("screen"), QString::fromStdString(options.screen)}});
   engine.load(QUrl{QStringLiteral("qrc:/Mivo/Main.qml")});
+  if (!window()) return;
+  QObject::connect(window(), &QWindow::visibilityChanged, &app, [this](QWindow::Visibility now) {
+    app.setWatched(now != QWindow::Hidden && now != QWindow::Minimized);
+  });
 }
 
 AppWindow::~AppWindow() = default;
