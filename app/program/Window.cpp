@@ -49,6 +49,12 @@ std::optional<QSize> sizeOf(const std::string& text) {
   return isFit ? std::optional{size} : std::nullopt;
 }
 
+void choosePainting(const Options& options) {
+  if (!qEnvironmentVariableIsSet("QT_QUICK_BACKEND")) QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
+  if (!options.picture.empty()) qputenv("QT_QPA_PLATFORM", "offscreen");
+  if (options.scale != 1) qputenv("QT_SCALE_FACTOR", QByteArray::number(options.scale));
+}
+
 AppWindow::AppWindow(const Environment& environment, const Options& options, QSize size)
     : look{nullptr},
       app{{.history = environment.history,

@@ -20,14 +20,6 @@ int refused(int status, const std::string& sentence) {
   return status;
 }
 
-// The window is painted by the processor: it starts faster and takes a third of the memory, and every frame is done in
-// a few milliseconds.
-void choosePainting(const Options& options) {
-  if (!qEnvironmentVariableIsSet("QT_QUICK_BACKEND")) QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
-  if (!options.picture.empty()) qputenv("QT_QPA_PLATFORM", "offscreen");
-  if (options.scale != 1) qputenv("QT_SCALE_FACTOR", QByteArray::number(options.scale));
-}
-
 // Until the history is open, or the user gives up.
 bool askUntilOpen(Environment& environment, const Options& options) {
   FaultWindow shown{environment.notice, [&] { return openHistory(environment, options) ? "" : environment.notice; }};
