@@ -2,7 +2,6 @@
 // A sheet over everything: slides up from the bottom; in wide windows it stands in the middle. Escape and a tap beside it
 // close it.
 import QtQuick
-import QtQuick.Controls
 import QtQuick.Templates as T
 import QtQuick.Window
 import Mivo
@@ -25,7 +24,7 @@ T.Popup {
             before.forceActiveFocus();
     }
 
-    parent: Overlay.overlay
+    parent: T.Overlay.overlay
     spacing: 12
     modal: true
     focus: true

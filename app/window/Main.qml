@@ -91,8 +91,9 @@ Window {
     }
 
     function showTable(chart: ChartTable, title: string) {
-        table.table = chart;
-        table.title = title;
+        table.active = true;
+        (table.sheet as TableSheet).table = chart;
+        table.sheet.title = title;
         table.open();
     }
 
@@ -226,37 +227,52 @@ Window {
         tab = wanted;
     }
 
-    DonationsSheet {
+    LateSheet {
         id: donations
         readonly property bool wanted: App.destination === "donations"
         onWantedChanged: wanted ? open() : close()
-        onAboutToHide: {
-            if (wanted)
-                App.dismiss();
+        sourceComponent: DonationsSheet {
+            onAboutToHide: {
+                if (App.destination === "donations")
+                    App.dismiss();
+            }
         }
     }
 
-    RepairSheet {
+    LateSheet {
         id: repair
         readonly property bool wanted: App.repair.proposed
         onWantedChanged: wanted ? open() : close()
-        onAboutToHide: {
-            if (wanted)
-                App.repair.cancel();
+        sourceComponent: RepairSheet {
+            onAboutToHide: {
+                if (App.repair.proposed)
+                    App.repair.cancel();
+            }
         }
     }
 
-    FeedbackSheet { id: feedback }
+    LateSheet {
+        id: feedback
+        sourceComponent: FeedbackSheet {}
+    }
 
-    GoalWeightSheet { id: goalWeight }
+    LateSheet {
+        id: goalWeight
+        sourceComponent: GoalWeightSheet {}
+    }
 
-    TableSheet { id: table }
+    LateSheet {
+        id: table
+        sourceComponent: TableSheet {}
+    }
 
-    DateTimeSheet {
+    LateSheet {
         id: weightDate
-        title: Texts.text("Date and time")
-        instant: App.addWeight.instant
-        onChosen: instant => App.addWeight.changeDate(instant)
+        sourceComponent: DateTimeSheet {
+            title: Texts.text("Date and time")
+            instant: App.addWeight.instant
+            onChosen: instant => App.addWeight.changeDate(instant)
+        }
     }
 
     Binding { target: Theme; property: "dark"; value: Appearance.dark }
