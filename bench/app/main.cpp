@@ -153,6 +153,7 @@ void measure(const Wanted& wanted) {
   if (!size) throw std::runtime_error{"--size: expected something like 390x844"};
   const auto environment = makeEnvironment(wanted.options);
   if (!environment) throw std::runtime_error{environment.error()};
+  if (!environment->history) throw std::runtime_error{environment->notice};
   const DependencyScope scope{environment->dependencies};
   DrivenApp app{*environment, wanted.options, *size};
   if (!app.waitForFrame(1)) throw std::runtime_error{"nothing was drawn"};
