@@ -37,7 +37,7 @@ struct AppServices {
   std::shared_ptr<const host::Tips> tips;
   WeightUnit usualWeightUnit = WeightUnit::kilograms;  ///< in the user's locale
   std::string feedbackAddress = {};                    ///< of mail; none where nobody reads any
-  std::shared_ptr<const host::WeekCalendar> calendar;  ///< the one in the dependencies
+  std::shared_ptr<host::WeekCalendar> calendar;        ///< the one in the dependencies
   SettingsModel::About about = {};
   /// Takes over the system's time zone; its name where it is another one than before.
   std::function<std::optional<std::string>()> followZone = {};

@@ -74,7 +74,7 @@ QString weekdayName(int weekday) {
 
 }  // namespace
 
-SettingsModel::SettingsModel(std::shared_ptr<const host::WeekCalendar> week, About what,
+SettingsModel::SettingsModel(std::shared_ptr<host::WeekCalendar> week, About what,
                              std::function<void(host::AppFeature::Action)> sends, QObject* parent)
     : QObject{parent},
       calendar{std::move(week)},

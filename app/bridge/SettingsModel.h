@@ -71,7 +71,7 @@ class SettingsModel : public QObject {
   };
 
   /// `send` takes the action that a setting was changed.
-  SettingsModel(std::shared_ptr<const host::WeekCalendar> calendar, About about,
+  SettingsModel(std::shared_ptr<host::WeekCalendar> calendar, About about,
                 std::function<void(host::AppFeature::Action)> send, QObject* parent = nullptr);
 
   void follow(const StatisticsFeature::State& state);
@@ -120,7 +120,7 @@ class SettingsModel : public QObject {
   static constexpr int leastBreakHours = 1, mostBreakHours = 8760;
 
   QString page;
-  std::shared_ptr<const host::WeekCalendar> calendar;
+  std::shared_ptr<host::WeekCalendar> calendar;
   About about;
   std::function<void(host::AppFeature::Action)> send;
   CardSwitchesModel cardSwitches, chartSwitches, trendSwitches;

@@ -18,7 +18,6 @@
 #include "adapters/system/SystemClock.h"
 #include "adapters/system/ThreadPool.h"
 #include "adapters/system/UserDirectories.h"
-#include "adapters/time/TimeZoneNames.h"
 #include "adapters/time/ZonedCalendar.h"
 #include "app/bridge/QtLinkOpener.h"
 #include "app/bridge/QtMainQueue.h"
@@ -26,11 +25,10 @@
 #include "app/program/SystemZone.h"
 #include "host/app/FaultText.h"
 #include "host/app/Settings.h"
-#include "host/dates/DateText.h"
 #include "host/donations/DonationList.h"
 #include "host/health/StoredHealthClient.h"
-#include "host/history/FieldRules.h"
 #include "host/history/Snapshot.h"
+#include "host/place/PlaceOptions.h"
 #include "host/text/TextFile.h"
 
 namespace mivo::app {
@@ -38,38 +36,18 @@ namespace {
 
 namespace fs = std::filesystem;
 
-template <class Value>
-using Read = tl::expected<Value, std::string>;
-
-tl::unexpected<std::string> wrong(const std::string& option, const std::string& sentence) {
-  return tl::unexpected{option + ": " + sentence};
-}
-
-Read<std::shared_ptr<const adapters::TimeZone>> timeZone(const std::string& name) {
-  if (!name.empty()) {
-    auto zone = adapters::TimeZone::load(name);
-    return zone ? std::move(zone) : wrong("--time-zone", zone.error());
-  }
-  const auto systems = adapters::systemTimeZoneName();
-  if (!systems) return tl::unexpected{systems.error()};
-  return adapters::TimeZone::load(*systems);
-}
+using host::Read;
 
 // What the command line says goes before what the user chose, and that before what the system is set to.
 Read<adapters::UserLocale> userLocale(const std::string& asked, const UserDefaults& defaults) {
-  if (!asked.empty()) {
-    auto parsed = adapters::UserLocale::parse(asked);
-    return parsed ? std::move(parsed) : wrong("--locale", parsed.error());
-  }
+  if (!asked.empty()) return host::readLocale(asked);
   return adapters::UserLocale::system().inLanguage(host::language(defaults));
 }
 
 Read<Client<DateGenerator>> clock(const Options& options, const adapters::TimeZone& zone) {
   if (options.now.empty()) return std::make_shared<adapters::SystemClock>();
-  const auto date = host::parseDateText(options.now);
-  const auto instant = date && date->hasTime ? host::instant(*date, zone) : std::nullopt;
-  if (!instant)
-    return wrong("--now", std::string{host::expectedDate} + ", found \"" + host::quotable(options.now) + '"');
+  const auto instant = host::readDate("--now", options.now, zone);
+  if (!instant) return tl::unexpected{instant.error()};
   return std::make_shared<OwnClock>(*instant, !options.picture.empty());
 }
 
@@ -95,14 +73,14 @@ void addSystem(Dependencies& clients, const fs::path& settings) {
 }
 
 Read<std::monostate> addPlaceAndTime(Environment& environment, Dependencies& clients, const Options& options) {
-  const auto zone = timeZone(options.timeZone);
+  const auto zone = host::readTimeZone(options.timeZone);
   if (!zone) return tl::unexpected{zone.error()};
   const auto locale = userLocale(options.locale, *clients.userDefaults);
   if (!locale) return tl::unexpected{locale.error()};
   const auto date = clock(options, **zone);
   if (!date) return tl::unexpected{date.error()};
   const auto calendar = adapters::ZonedCalendar::gregorian(*zone, locale->firstWeekday());
-  environment.calendar = std::make_shared<const host::WeekCalendar>(*calendar);
+  environment.calendar = std::make_shared<host::WeekCalendar>(*calendar);
   environment.calendar->choose(host::firstWeekday(*clients.userDefaults));
   environment.usualWeightUnit = locale->weightUnit();
   clients.date = *date;

@@ -35,7 +35,7 @@ struct Environment {
   std::shared_ptr<const Dependencies> dependencies;
   std::shared_ptr<const host::Tips> tips;
   std::filesystem::path databaseFile;
-  std::shared_ptr<const host::WeekCalendar> calendar;  ///< the one in the dependencies, to choose its weeks
+  std::shared_ptr<host::WeekCalendar> calendar;        ///< the one in the dependencies, to choose its weeks
   std::shared_ptr<SystemZone> systemZone;              ///< to be followed; none where the options name a zone
   Client<host::HistoryClient> history;                 ///< none where it could not be opened; `notice` then says why
   WeightUnit usualWeightUnit = WeightUnit::kilograms;  ///< in the locale

@@ -56,7 +56,7 @@ class FollowedIntervals final : public DateIntervalFormatter {
 
 }  // namespace
 
-SystemZone::SystemZone(std::shared_ptr<const host::WeekCalendar> userCalendar, adapters::UserLocale userLocale)
+SystemZone::SystemZone(std::shared_ptr<host::WeekCalendar> userCalendar, adapters::UserLocale userLocale)
     : calendar{std::move(userCalendar)}, locale{std::move(userLocale)}, texts{std::make_shared<FollowedTexts>()} {
   texts->take(locale, calendar->present());
 }

@@ -17,7 +17,7 @@ class FollowedTexts;
 /// runs: the clients are made once, and answer in the zone that was last taken over.
 class SystemZone {
  public:
-  SystemZone(std::shared_ptr<const host::WeekCalendar> calendar, adapters::UserLocale locale);
+  SystemZone(std::shared_ptr<host::WeekCalendar> calendar, adapters::UserLocale locale);
 
   /// Puts the texts of dates where the module looks for them.
   void fill(Dependencies& clients) const;
@@ -27,7 +27,7 @@ class SystemZone {
   std::optional<std::string> follow();
 
  private:
-  std::shared_ptr<const host::WeekCalendar> calendar;
+  std::shared_ptr<host::WeekCalendar> calendar;
   adapters::UserLocale locale;
   std::shared_ptr<FollowedTexts> texts;
 };

@@ -2,25 +2,14 @@
 #pragma once
 
 #include <cstdint>
-#include <memory>
 #include <span>
-#include <string>
 #include <string_view>
-#include <tl/expected.hpp>
 
-#include "adapters/icu/UserLocale.h"
-#include "adapters/time/TimeZone.h"
-#include "mivo/model/Date.h"
+#include "host/place/PlaceOptions.h"
 
 namespace mivo::cli {
 
-/// What an option means, or a sentence that names the option, what was expected and what was found.
-template <class Value>
-using Read = tl::expected<Value, std::string>;
-
-/// --range: expected week, month or year, found "fortnight"
-tl::unexpected<std::string> wrong(std::string_view option, std::string_view expected, std::string_view found);
-tl::unexpected<std::string> wrong(std::string_view option, const std::string& sentence);
+using host::Read, host::readDate, host::readLocale, host::readTimeZone, host::wrong;
 
 template <class Value>
 struct Choice {
@@ -42,14 +31,5 @@ Read<bool> readFormat(std::string_view text);
 /// A whole number from `low` to `high`.
 Read<std::int64_t> readNumber(std::string_view option, std::string_view expected, std::string_view text,
                               std::int64_t low, std::int64_t high);
-
-/// `--time-zone`; the system's where it was not given.
-Read<std::shared_ptr<const adapters::TimeZone>> readTimeZone(const std::string& name);
-
-/// `--locale`; the system's where it was not given.
-Read<adapters::UserLocale> readLocale(const std::string& tag);
-
-/// A date and time of the years 1 to 9999; one without offset is in `zone`.
-Read<Date> readDate(std::string_view option, std::string_view text, const adapters::TimeZone& zone);
 
 }  // namespace mivo::cli

@@ -11,16 +11,14 @@ WeekCalendar::WeekCalendar(const adapters::ZonedCalendar& usualCalendar)
       made{std::make_shared<adapters::ZonedCalendar>(usualCalendar.zone(), usualCalendar.dates(), usual)},
       shown{made.back().get()} {}
 
-void WeekCalendar::choose(std::optional<int> weekday) const {
+void WeekCalendar::choose(std::optional<int> weekday) {
   assert(!weekday || (*weekday >= 1 && *weekday <= 7));
   show(present().zone(), weekday.value_or(usual));
 }
 
-void WeekCalendar::moveTo(std::shared_ptr<const adapters::TimeZone> zone) const {
-  show(std::move(zone), firstWeekday());
-}
+void WeekCalendar::moveTo(std::shared_ptr<const adapters::TimeZone> zone) { show(std::move(zone), firstWeekday()); }
 
-void WeekCalendar::show(std::shared_ptr<const adapters::TimeZone> zone, int firstWeekday) const {
+void WeekCalendar::show(std::shared_ptr<const adapters::TimeZone> zone, int firstWeekday) {
   if (zone == present().zone() && firstWeekday == present().firstWeekday()) return;
   made.push_back(std::make_shared<adapters::ZonedCalendar>(std::move(zone), present().dates(), firstWeekday));
   shown = made.back().get();

@@ -22,8 +22,8 @@ class WeekCalendar final : public Calendar {
   explicit WeekCalendar(const adapters::ZonedCalendar& usual);
 
   /// 1 = Sunday to 7 = Saturday (asserted); nothing for the usual one.
-  void choose(std::optional<int> weekday) const;
-  void moveTo(std::shared_ptr<const adapters::TimeZone> zone) const;
+  void choose(std::optional<int> weekday);
+  void moveTo(std::shared_ptr<const adapters::TimeZone> zone);
   int usualFirstWeekday() const { return usual; }
 
   std::string_view identifier() const override { return present().identifier(); }
@@ -44,11 +44,11 @@ class WeekCalendar final : public Calendar {
   const adapters::ZonedCalendar& present() const { return *shown.load(); }
 
  private:
-  void show(std::shared_ptr<const adapters::TimeZone> zone, int firstWeekday) const;
+  void show(std::shared_ptr<const adapters::TimeZone> zone, int firstWeekday);
 
   int usual;
-  mutable std::vector<std::shared_ptr<const adapters::ZonedCalendar>> made;  // all stay: somebody may be reading one
-  mutable std::atomic<const adapters::ZonedCalendar*> shown;
+  std::vector<std::shared_ptr<const adapters::ZonedCalendar>> made;  // all stay: somebody may be reading one
+  std::atomic<const adapters::ZonedCalendar*> shown;
 };
 
 }  // namespace mivo::host
