@@ -10,7 +10,6 @@
 #include "app/bridge/Text.h"
 #include "host/app/FaultText.h"
 #include "host/app/Settings.h"
-#include "host/overlaps/OverlappingFasts.h"
 #include "mivo/platform/Dependencies.h"
 
 namespace mivo::app {
@@ -43,16 +42,6 @@ std::optional<FinishedFastingDataEntry> endedLast(const List<host::FastRecord>& 
   return last;
 }
 
-// The fast that the running one overlaps.
-QString overlapText(const List<host::FastRecord>& fasts, Date now) {
-  const auto partners = host::overlapPartners(fasts.elements(), now);
-  for (std::size_t place = 0; place < partners.size(); ++place)
-    if (!fasts[place].fast.finished && partners[place])
-      return filled(dependency(&Dependencies::texts)->text("Overlaps the fast of {1}"),
-                    {dayText(fasts[*partners[place]].fast.start)});
-  return {};
-}
-
 }  // namespace
 
 FastingModel::FastingModel(std::function<void(Action)> sends, QObject* parent)
@@ -69,7 +58,7 @@ void FastingModel::follow(const host::AppFeature::State& state) {
   running = present ? std::optional{*present} : std::nullopt;
   last = endedLast(*state.fasts);
   nextGoalSeconds = host::goalSeconds(*dependency(&Dependencies::userDefaults));
-  overlap = running ? overlapText(*state.fasts, presentDate()) : QString{};
+  overlap = ended.overlapOfRunning();
   Q_EMIT changed();
   tick();
 }
