@@ -161,7 +161,7 @@ void Drive::recordAFast() {
   ASSERT_NE(wheel, nullptr);
   const QPoint middle = place(wheel).center();
   display->drag(middle, middle + QPoint{0, 90});
-  QTest::qWait(800);  // it runs on, and snaps
+  ASSERT_TRUE(eventually([&] { return !wheel->property("moving").toBool(); })) << "it runs on, and snaps";
   click("Done");
   ASSERT_TRUE(eventually([&] { return app->model().fasting()->goalSeconds() > 0 && onDisk().fasts.size() == 21; }));
   settle(app->window());

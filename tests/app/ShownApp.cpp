@@ -3,6 +3,8 @@
 
 #include <QtTest/QTest>
 
+#include <gtest/gtest.h>
+
 namespace mivo::app {
 namespace {
 
@@ -40,6 +42,13 @@ Options ShownApp::optionsFor(const std::string& sample) {
 void ShownApp::click(const QQuickItem* item, QPointF at) {
   QTest::mouseClick(&window(), Qt::LeftButton, Qt::NoModifier, item->mapToScene(at).toPoint());
   settle(window());
+}
+
+void ShownApp::click(const QString& name) {
+  if (const QQuickItem* item = button(name))
+    click(item);
+  else
+    ADD_FAILURE() << "no button " << name.toStdString();
 }
 
 void ShownApp::key(Qt::Key key, Qt::KeyboardModifiers modifiers) {

@@ -27,6 +27,8 @@ class ShownApp {
 
   void click(const QQuickItem* item, QPointF at);
   void click(const QQuickItem* item) { click(item, {item->width() / 2, item->height() / 2}); }
+  /// The button with that text; a failure of the test where there is none.
+  void click(const QString& button);
   void key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
   void type(const QString& text);
 
