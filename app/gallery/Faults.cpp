@@ -51,6 +51,16 @@ void collect(QQuickItem* item, QQuickItem* card, bool isOnTop, QList<ShownText>&
   for (QQuickItem* child : item->childItems()) collect(child, card, isOnTop, texts);
 }
 
+// How many of the items that are loaded when they are wanted, cards first of all, are not there.
+int missingItems(const QQuickItem* item) {
+  if (!item->isVisible()) return 0;
+  const bool isLoader = item->inherits("QQuickLoader") && item->property("active").toBool();
+  int missing =
+      isLoader && item->property("sourceComponent").value<QObject*>() && !item->property("item").value<QObject*>();
+  for (const QQuickItem* child : item->childItems()) missing += missingItems(child);
+  return missing;
+}
+
 bool hasMissingGlyph(const QQuickItem* text) {
   QTextLayout layout{text->property("text").toString(), text->property("font").value<QFont>()};
   layout.beginLayout();
@@ -147,6 +157,8 @@ QStringList faultsOf(QQuickWindow& window) {
   for (QQuickItem* child : window.contentItem()->childItems())
     collect(child, nullptr, overlays.isEmpty() || overlays.contains(child), texts);
   QStringList faults = overlaps(texts);
+  if (const int missing = missingItems(window.contentItem()); missing > 0)
+    faults.append(QStringLiteral("%1 cards or pages are missing").arg(missing));
   for (const ShownText& text : texts)
     if (const QString fault = faultOf(text, window, picture); !fault.isEmpty())
       faults.append(QStringLiteral("\"%1\" %2").arg(text.item->property("text").toString(), fault));
