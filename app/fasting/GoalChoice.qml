@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // How long a fast is meant to be: the usual lengths, or one that is typed.
+pragma ComponentBehavior: Bound
 import QtQuick
 import Mivo
 
@@ -8,6 +9,7 @@ Column {
 
     property real seconds
     property string problem
+    readonly property var usualHours: [16, 18, 20, 24]
     readonly property real pickedHours: custom ? 0 : seconds / 3600
     property bool labelled: true
     property bool custom: false
@@ -21,8 +23,7 @@ Column {
 
     /// Shows a goal as it is before anything is chosen.
     function begin(goal: real) {
-        const hours = goal / 3600;
-        custom = hours !== 16 && hours !== 18 && hours !== 20 && hours !== 24;
+        custom = !usualHours.includes(goal / 3600);
         fill(goal);
     }
 
@@ -58,28 +59,16 @@ Column {
         width: parent.width
         spacing: 8
 
-        GoalChip {
-            hours: 16
-            chosen: root.pickedHours === 16
-            onPicked: seconds => root.pick(seconds)
-        }
+        Repeater {
+            model: root.usualHours
 
-        GoalChip {
-            hours: 18
-            chosen: root.pickedHours === 18
-            onPicked: seconds => root.pick(seconds)
-        }
+            GoalChip {
+                required property int modelData
 
-        GoalChip {
-            hours: 20
-            chosen: root.pickedHours === 20
-            onPicked: seconds => root.pick(seconds)
-        }
-
-        GoalChip {
-            hours: 24
-            chosen: root.pickedHours === 24
-            onPicked: seconds => root.pick(seconds)
+                hours: modelData
+                chosen: root.pickedHours === hours
+                onPicked: seconds => root.pick(seconds)
+            }
         }
 
         Chip {
