@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Whether a fast reached its goal: a disc with a tick, or a ring filled as far as it went.
 import QtQuick
-import QtQuick.Shapes
 import Mivo
 
 Item {
@@ -29,33 +28,12 @@ Item {
         }
     }
 
-    Rectangle {
+    FractionRing {
         anchors.fill: parent
         anchors.margins: 1
         visible: !root.reached
-        radius: height / 2
-        color: "transparent"
-        border.width: 2
-        border.color: Theme.fasting.tint
-    }
-
-    Shape {
-        anchors.fill: parent
-        visible: !root.reached
-
-        ShapePath {
-            strokeColor: Theme.fasting.fill
-            strokeWidth: 2
-            fillColor: "transparent"
-
-            PathAngleArc {
-                centerX: 10
-                centerY: 10
-                radiusX: 8
-                radiusY: 8
-                startAngle: -90
-                sweepAngle: 360 * root.fraction
-            }
-        }
+        fraction: root.fraction
+        fill: Theme.fasting.fill
+        rest: Theme.fasting.tint
     }
 }

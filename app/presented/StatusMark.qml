@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 // How far a feature is: an empty ring, a half one, a full one.
 import QtQuick
-import QtQuick.Shapes
 import Mivo
 
 Item {
@@ -21,15 +20,10 @@ Item {
         border.color: Theme.inkSecondary
     }
 
-    Shape {
+    Icon {
         visible: root.status === "inProgress"
         anchors.fill: parent
-
-        ShapePath {
-            strokeWidth: -1
-            fillColor: Theme.inkSecondary
-
-            PathSvg { path: "M6 0.5A5.5 5.5 0 0 1 6 11.5z" }
-        }
+        name: "halfDisc"
+        color: Theme.inkSecondary
     }
 }

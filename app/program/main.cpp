@@ -6,6 +6,7 @@
 #include <exception>
 #include <iostream>
 
+#include "adapters/system/FreedMemory.h"
 #include "app/program/Environment.h"
 #include "app/program/Options.h"
 #include "app/program/Window.h"
@@ -67,6 +68,7 @@ int run(int count, char** arguments) {
 }  // namespace mivo::app
 
 int main(int count, char** arguments) {
+  mivo::adapters::keepFreedMemory();
   try {
     return mivo::app::run(count, arguments);
   } catch (const std::exception& error) {

@@ -17,11 +17,16 @@ Card {
         width: parent.width
         height: 104
 
-        StartRing {
+        FractionRing {
             anchors.horizontalCenter: parent.horizontalCenter
             y: 8
             width: 96
             height: 96
+            fraction: 0.2
+            stroke: 12
+            roundEnds: true
+            fill: Theme.fasting.fill
+            rest: Theme.fasting.tint
         }
     }
 

@@ -1,32 +1,26 @@
 // SPDX-License-Identifier: MIT
 // The sign of the app: an open ring and a dot in the fasting colour.
 import QtQuick
-import QtQuick.Shapes
 import Mivo
 
 Item {
     id: root
 
-    Shape {
-        width: 28
-        height: 28
-        scale: root.width / 28
-        transformOrigin: Item.TopLeft
+    Icon {
+        anchors.fill: parent
+        name: "sign"
+        color: Theme.ink
+    }
 
-        ShapePath {
-            strokeColor: Theme.ink
-            strokeWidth: 4.5
-            fillColor: "transparent"
-            capStyle: ShapePath.RoundCap
+    Rectangle {
+        readonly property real unit: root.width / 28
 
-            PathSvg { path: "M14 3A11 11 0 1 0 25 14" }
-        }
-
-        ShapePath {
-            strokeWidth: -1
-            fillColor: Theme.fasting.fill
-
-            PathSvg { path: "M21.8 3.2a3 3 0 1 0 0 6a3 3 0 1 0 0-6z" }
-        }
+        x: 18.8 * unit
+        y: 3.2 * unit
+        width: 6 * unit
+        height: width
+        radius: width / 2
+        antialiasing: true
+        color: Theme.fasting.fill
     }
 }

@@ -13,6 +13,7 @@
 #include <iostream>
 #include <numeric>
 
+#include "adapters/system/FreedMemory.h"
 #include "app/program/Options.h"
 #include "bench/app/DrivenApp.h"
 
@@ -189,6 +190,7 @@ int run(int count, char** arguments) {
 }  // namespace mivo::app
 
 int main(int count, char** arguments) {
+  mivo::adapters::keepFreedMemory();  // as the app does
   try {
     return mivo::app::run(count, arguments);
   } catch (const std::exception& error) {
