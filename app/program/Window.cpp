@@ -68,12 +68,15 @@ AppWindow::AppWindow(const Environment& environment, const Options& options, QSi
                     .textScale = options.textScale ? std::optional<qreal>{*options.textScale} : std::nullopt,
                     .still = !options.picture.empty()});
   app.say(environment.notice);
+  app.appear();
   engine.addImportPath(QStringLiteral("qrc:/"));
   engine.setInitialProperties({{QStringLiteral("width"), size.width()},
                                {QStringLiteral("height"), size.height()},
                                {QStringLiteral("tab"), QString::fromStdString(options.tab)},
                                {QStringLiteral("screen"), QString::fromStdString(options.screen)}});
   engine.load(QUrl{QStringLiteral("qrc:/Mivo/Main.qml")});
+  // What the screen asked for when it appeared was answered by now: nothing moves after the first frame.
+  QCoreApplication::sendPostedEvents(QCoreApplication::instance(), QEvent::MetaCall);
   if (!window()) return;
   QObject::connect(window(), &QWindow::visibilityChanged, &app, [this](QWindow::Visibility now) {
     app.setWatched(now != QWindow::Hidden && now != QWindow::Minimized);

@@ -16,6 +16,8 @@ Item {
     readonly property bool beside: span < 6
     /// Where the cards begin in the page.
     property real pageTop: 0
+    /// Below what a window that opens can show: made when there is time, after the first frame.
+    property bool late: false
 
     signal startWanted
     signal settingsWanted
@@ -24,6 +26,8 @@ Item {
     signal tableWanted(chart: ChartTable, title: string)
     signal pickerMade(picker: TimeRangePicker)
 
+    // What is still being made lies at the top until the grid knows its height.
+    visible: loader.status === Loader.Ready
     implicitHeight: loader.item ? (loader.item as Item).implicitHeight : 0
 
     Loader {
@@ -32,6 +36,7 @@ Item {
         height: parent.height
         // On wide windows the picker stands in the title row.
         active: !(root.wide && root.kind === CardModel.TimeRange)
+        asynchronous: root.late
         sourceComponent: {
             switch (root.kind) {
             case CardModel.Tip:

@@ -84,6 +84,7 @@ FocusScope {
                     delegate: CardSlot {
                         columns: root.columns
                         pageTop: grid.y
+                        late: index >= root.columns * Math.ceil(root.height / Theme.lowestCard)
                         onStartWanted: root.startWanted()
                         onSettingsWanted: root.settingsWanted()
                         onGoalWanted: root.goalWanted()

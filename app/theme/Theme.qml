@@ -161,6 +161,8 @@ QtObject {
     readonly property int titleBarSize: 72
     readonly property int pushBarSize: 56
     readonly property int stickyRangeSize: 60
+    /// No card is lower, with its gap.
+    readonly property int lowestCard: 88
     readonly property int sideBarSize: 216
     readonly property int tileSize: 40
     readonly property int iconSize: 24

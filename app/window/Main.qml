@@ -139,7 +139,6 @@ Window {
                     if (visible)
                         App.appear();
                 }
-                Component.onCompleted: App.appear()
             }
 
             Loader {

@@ -29,6 +29,21 @@ DayBars* dayBars(Shown& shown) {
       shown.find([](const QQuickItem* item) { return dynamic_cast<const DayBars*>(item) != nullptr; }));
 }
 
+TEST(AppWindow, movesNothingAfterItsFirstFrame) {
+  const Options options = ShownApp::optionsFor(threeWeeks);
+  for (const QSize size : {QSize{390, 844}, QSize{1280, 800}}) {
+    const Environment environment = makeEnvironment(options).value();
+    const DependencyScope scope{environment.dependencies};
+    AppWindow app{environment, options, size};
+    bool isShown = false;
+    QObject::connect(app.window(), &QQuickWindow::frameSwapped, app.window(), [&] { isShown = true; });
+    ASSERT_TRUE(eventually([&] { return isShown; }));
+    const QImage first = app.window()->grabWindow();
+    settle(*app.window());
+    EXPECT_EQ(first, app.window()->grabWindow()) << size.width() << " points wide";
+  }
+}
+
 TEST(AppWindow, choosesTheRangeByClickAndByKey) {
   Shown shown{threeWeeks};
   QQuickItem* picker = shown.ofType("SegmentedControl");
