@@ -83,7 +83,8 @@ struct FileUserDefaults::Scope {
   std::mutex mutex;
   FileStamp stamp;
   json members = json::object();
-  bool isReadable = true;
+  bool isReadable = true, isFailing = false;
+  DidFailToWrite didFailToWrite;
 
   void refresh() {
     const FileStamp current = stampOf(file);
@@ -127,14 +128,18 @@ struct FileUserDefaults::Scope {
       constexpr int indent = 2;
       writeAtomically(file, members.dump(indent, ' ', false, json::error_handler_t::replace) + '\n');
       stamp = stampOf(file);
+      isFailing = false;
     } catch (const std::system_error& error) {
       reportIssue(error.what());
+      if (!std::exchange(isFailing, true) && didFailToWrite) didFailToWrite(file, error.code());
     }
   }
 };
 
-FileUserDefaults::FileUserDefaults(const fs::path& file) : scope{std::make_unique<Scope>()} {
+FileUserDefaults::FileUserDefaults(const fs::path& file, DidFailToWrite didFailToWrite)
+    : scope{std::make_unique<Scope>()} {
   scope->file = fs::absolute(file);
+  scope->didFailToWrite = std::move(didFailToWrite);
 }
 
 FileUserDefaults::~FileUserDefaults() = default;

@@ -2,7 +2,9 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 #include <memory>
+#include <system_error>
 
 #include "mivo/platform/UserDefaults.h"
 
@@ -19,7 +21,10 @@ namespace mivo::adapters {
 /// Thread: any. Cost: a value costs one look at the file's date, a write two waits for the disk.
 class FileUserDefaults final : public UserDefaults {
  public:
-  explicit FileUserDefaults(const std::filesystem::path& file);
+  /// Told once when writing begins to fail, and again when it does after it had worked. Thread: the writer's.
+  using DidFailToWrite = std::function<void(const std::filesystem::path& file, const std::error_code& reason)>;
+
+  explicit FileUserDefaults(const std::filesystem::path& file, DidFailToWrite didFailToWrite = {});
   ~FileUserDefaults() override;
 
   std::optional<Value> value(std::string_view key) const override;

@@ -45,6 +45,15 @@ constexpr std::array<History, 4> histories{{
     {"ten-years", ""},
 }};
 
+struct Look {
+  const char* name;
+  Appearance::Mode mode;
+  qreal textScale;
+};
+constexpr std::array<Look, 3> looks{{{"light", Appearance::Mode::Light, 1},
+                                     {"dark", Appearance::Mode::Dark, 1},
+                                     {"large-text", Appearance::Mode::Light, 2}}};
+
 constexpr std::array<const char*, 21> screens{
     "statistics", "badges",     "milestones", "streaks", "roadmap", "feedback",     "donations",
     "overlaps",   "goalWeight", "date",       "table",   "fasting", "editFast",     "addFast",
@@ -73,39 +82,74 @@ Options optionsFor(const Wanted& wanted, const History& history, const Language&
   return options;
 }
 
-struct Shown {
-  AppWindow& app;
-  QString name;  // "german-one"
-};
-
 struct Count {
   int drawn = 0, faulty = 0;
 };
 
-void drawScreens(const Shown& shown, const Wanted& wanted, const Size& size, Appearance::Mode mode, Count& count) {
-  QQuickWindow& window = *shown.app.window();
-  shown.app.appearance().setOverride({.mode = mode, .textScale = std::nullopt, .still = true});
-  for (const char* screen : screens) {
-    const QString name =
-        QStringLiteral("%1-%2-%3-%4")
-            .arg(QLatin1String{screen}, QLatin1String{size.name},
-                 mode == Appearance::Mode::Dark ? QStringLiteral("dark") : QStringLiteral("light"), shown.name);
-    if (!name.contains(QString::fromStdString(wanted.only))) continue;
-    const bool isColumn = std::string_view{screen} == "statistics";
-    window.resize(size.size);
-    QMetaObject::invokeMethod(&window, "present", Q_ARG(QString, QString::fromLatin1(screen)));
-    settle(window, 40);
-    if (!wanted.folder.empty())
-      window.grabWindow().save(QString::fromStdString(wanted.folder) + QLatin1Char{'/'} + name +
-                               QStringLiteral(".png"));
-    if (isColumn) window.setHeight(window.property("wholeHeight").toInt());
-    if (isColumn) settle(window, 40);
-    for (const QString& fault : faultsOf(window)) {
-      std::cout << name.toStdString() << ": " << fault.toStdString() << '\n';
-      ++count.faulty;
-    }
-    ++count.drawn;
+/// Draws what a window shows, where that is wanted, and measures it.
+void drawAndMeasure(QQuickWindow& window, const QString& name, bool isColumn, const Wanted& wanted, Count& count) {
+  settle(window, 40);
+  if (!wanted.folder.empty())
+    window.grabWindow().save(QString::fromStdString(wanted.folder) + QLatin1Char{'/'} + name + QStringLiteral(".png"));
+  if (isColumn) window.setHeight(window.property("wholeHeight").toInt());
+  if (isColumn) settle(window, 40);
+  for (const QString& fault : faultsOf(window)) {
+    std::cout << name.toStdString() << ": " << fault.toStdString() << '\n';
+    ++count.faulty;
   }
+  ++count.drawn;
+}
+
+// In the dark only colours differ, so one language tells; large text is tried where words are longest.
+bool isMeasured(const Look& look, const Language& language) {
+  if (look.mode == Appearance::Mode::Dark) return &language == &languages[0];
+  return look.textScale == 1 || &language == &languages[1];
+}
+
+/// Each size and look that a window is to be seen in.
+template <class Draw>
+void inEachLook(const Wanted& wanted, const Language& language, Draw draw) {
+  for (const Size& size : sizes)
+    for (const Look& look : looks)
+      if (!wanted.folder.empty() || isMeasured(look, language)) draw(size, look);
+}
+
+QString nameOf(const char* screen, const Size& size, const Look& look, const Language& language, const char* history) {
+  return QStringList{QLatin1String{screen}, QLatin1String{size.name}, QLatin1String{look.name},
+                     QLatin1String{language.name}, QLatin1String{history}}
+      .join(QLatin1Char{'-'});
+}
+
+bool isWanted(const QString& name, const Wanted& wanted) { return name.contains(QString::fromStdString(wanted.only)); }
+
+void drawScreens(AppWindow& app, const Wanted& wanted, const Language& language, const History& history, Count& count) {
+  QQuickWindow& window = *app.window();
+  inEachLook(wanted, language, [&](const Size& size, const Look& shown) {
+    app.appearance().setOverride({.mode = shown.mode, .textScale = shown.textScale, .still = true});
+    for (const char* screen : screens) {
+      const QString name = nameOf(screen, size, shown, language, history.name);
+      if (!isWanted(name, wanted)) continue;
+      window.resize(size.size);
+      QMetaObject::invokeMethod(&window, "present", Q_ARG(QString, QString::fromLatin1(screen)));
+      drawAndMeasure(window, name, std::string_view{screen} == "statistics", wanted, count);
+    }
+  });
+}
+
+/// What stands in for the app where it cannot start.
+void drawFault(const Wanted& wanted, const Language& language, Count& count) {
+  const std::string sentence =
+      filledIn(dependency(&Dependencies::texts)->text("{1} cannot be used: {2}"),
+               {"/home/alexandra/.local/share/mivo/mivo.sqlite", "unable to open database file"});
+  FaultWindow fault{sentence, [&] { return sentence; }};
+  if (!fault.window()) throw std::runtime_error{"the window could not be made"};
+  inEachLook(wanted, language, [&](const Size& size, const Look& shown) {
+    const QString name = nameOf("fault", size, shown, language, "none");
+    if (!isWanted(name, wanted)) return;
+    fault.appearance().setOverride({.mode = shown.mode, .textScale = shown.textScale, .still = true});
+    fault.window()->resize(size.size);
+    drawAndMeasure(*fault.window(), name, false, wanted, count);
+  });
 }
 
 int drawAll(const Wanted& wanted) {
@@ -119,16 +163,10 @@ int drawAll(const Wanted& wanted) {
       if (!environment) throw std::runtime_error{environment.error()};
       const DependencyScope scope{environment->dependencies};
       QGuiApplication::setLayoutDirection(language.mirrored ? Qt::RightToLeft : Qt::LeftToRight);
+      if (&history == &histories[0]) drawFault(wanted, language, count);
       AppWindow app{*environment, options, sizes[0].size};
       if (!app.window()) throw std::runtime_error{"the window could not be made"};
-      for (const Size& size : sizes)
-        for (const auto mode : {Appearance::Mode::Light, Appearance::Mode::Dark}) {
-          // In the dark only colours differ, so one language tells.
-          const bool isOnlyMeasured = wanted.folder.empty();
-          if (isOnlyMeasured && mode == Appearance::Mode::Dark && &language != &languages[0]) continue;
-          drawScreens({app, QStringLiteral("%1-%2").arg(QLatin1String{language.name}, QLatin1String{history.name})},
-                      wanted, size, mode, count);
-        }
+      drawScreens(app, wanted, language, history, count);
     }
   scratch.removeRecursively();
   std::cout << count.drawn << " pictures, " << count.faulty << " faults\n";

@@ -58,11 +58,22 @@ bool isWrittenFromTheRight(const std::string& tag) {
   return false;
 }
 
-void addSystem(Dependencies& clients, const fs::path& settings) {
+// Settings are written on any thread, and before there is a window that could say what failed.
+auto tellingOf(EventStream<std::string> faults, std::weak_ptr<const Dependencies> clients) {
+  return [faults = std::move(faults), clients = std::move(clients)](const fs::path& file, const std::error_code& why) {
+    const auto alive = clients.lock();
+    if (!alive || !alive->texts) return;
+    alive->mainQueue->post([faults, sentence = filledIn(alive->texts->text("Settings cannot be saved in {1}: {2}"),
+                                                        {file.string(), why.message()})] { faults.send(sentence); });
+  };
+}
+
+void addSystem(Dependencies& clients, const fs::path& settings,
+               const adapters::FileUserDefaults::DidFailToWrite& didFailToWrite) {
   clients.uuid = std::make_shared<adapters::LocalUUIDGenerator>();
   clients.random = std::make_shared<adapters::LocalRandomNumberGenerator>();
-  clients.userDefaults = std::make_shared<adapters::FileUserDefaults>(settings / "app.json");
-  clients.appGroupUserDefaults = std::make_shared<adapters::FileUserDefaults>(settings / "group.json");
+  clients.userDefaults = std::make_shared<adapters::FileUserDefaults>(settings / "app.json", didFailToWrite);
+  clients.appGroupUserDefaults = std::make_shared<adapters::FileUserDefaults>(settings / "group.json", didFailToWrite);
   clients.issueReporter = std::make_shared<adapters::StandardErrorReporter>();
   clients.jsonDecoder = std::make_shared<adapters::NlohmannDecoder>();
   clients.urlSession = std::make_shared<adapters::CurlURLSession>();
@@ -170,7 +181,8 @@ tl::expected<Environment, std::string> makeEnvironment(const Options& options) {
     if (!options.sample.empty()) environment.sampleFolder = std::make_unique<SampleFolder>();
     const auto clients = std::make_shared<Dependencies>();
     addSystem(*clients,
-              environment.sampleFolder ? environment.sampleFolder->path() : adapters::configurationDirectory());
+              environment.sampleFolder ? environment.sampleFolder->path() : adapters::configurationDirectory(),
+              tellingOf(environment.settingsFaults, clients));
     if (const auto added = addPlaceAndTime(environment, *clients, options); !added)
       return tl::unexpected{added.error()};
     addServers(*clients, options);

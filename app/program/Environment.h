@@ -11,6 +11,7 @@
 #include "host/place/WeekCalendar.h"
 #include "host/tips/Tips.h"
 #include "mivo/platform/Dependencies.h"
+#include "mivo/platform/EventStream.h"
 
 namespace mivo::app {
 
@@ -40,6 +41,7 @@ struct Environment {
   Client<host::HistoryClient> history;                 ///< none where it could not be opened; `notice` then says why
   WeightUnit usualWeightUnit = WeightUnit::kilograms;  ///< in the locale
   bool rightToLeft = false;                            ///< the language is written so
+  EventStream<std::string> settingsFaults;             ///< sentences for the user, on the main thread
   /// One sentence for the user about the history: a damaged one had to be put aside, one may only be read.
   std::string notice = {};
 };

@@ -63,7 +63,8 @@ AppWindow::AppWindow(const Environment& environment, const Options& options, QSi
            .feedbackAddress = options.feedback,
            .calendar = environment.calendar,
            .about = {MIVO_VERSION, environment.databaseFile.string()},
-           .followZone = following(environment.systemZone)}} {
+           .followZone = following(environment.systemZone)}},
+      settingsFaults{environment.settingsFaults.subscribe([this](const std::string& fault) { app.say(fault); })} {
   look.setOverride({.mode = modeOf(options),
                     .textScale = options.textScale ? std::optional<qreal>{*options.textScale} : std::nullopt,
                     .still = !options.picture.empty()});

@@ -38,6 +38,7 @@ class AppWindow {
  private:
   Appearance look;
   AppModel app;
+  Subscription settingsFaults;
   QQmlApplicationEngine engine;
 };
 
@@ -50,6 +51,7 @@ class FaultWindow : public QObject {
   FaultWindow(const std::string& sentence, std::function<std::string()> tryAgain);
 
   QQuickWindow* window() const;
+  Appearance& appearance() { return look; }
 
  private:
   Q_SLOT void tryAgain();

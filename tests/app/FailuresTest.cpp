@@ -102,6 +102,15 @@ TEST_F(Failures, aFullDiskIsSaidAndTheFastCanBeStartedLater) {
   EXPECT_EQ(app->model().failure(), "") << "it works again";
 }
 
+TEST_F(Failures, settingsThatCannotBeSavedAreSaidAndHoldUntilTheEnd) {
+  open("de-DE");
+  const FullDisk full;
+  app->app.appearance().setTextScale(1.5);
+  EXPECT_TRUE(eventuallySays("Einstellungen können nicht in " + (folder.path / "mivo" / "app.json").string() +
+                             " gespeichert werden: File too large"));
+  EXPECT_EQ(app->app.appearance().textScale(), 1.5);
+}
+
 TEST_F(Failures, aReadOnlyFolderShowsTheHistoryAndSavesNothing) {
   giveUpCapabilities();
   open();

@@ -169,11 +169,24 @@ TEST_F(FileUserDefaultsTest, reportsWhatCannotBeKept) {
 TEST_F(FileUserDefaultsTest, aWriteThatFailsIsReportedAndHoldsInMemory) {
   put("{}");
   const fs::path below = file / "impossible.json";  // a file where the folder should be
-  const FileUserDefaults defaults{below};
+  int told = 0;
+  const FileUserDefaults defaults{below, [&](const fs::path& unsaved, const std::error_code& reason) {
+                                    ++told;
+                                    EXPECT_EQ(unsaved, below);
+                                    EXPECT_EQ(reason, std::errc::not_a_directory);
+                                  }};
   defaults.setValue("a", true);
   EXPECT_EQ(defaults.value("a"), UserDefaults::Value{true});
   ASSERT_EQ(reporter->issues.size(), 1u);
   EXPECT_THAT(reporter->issues[0], HasSubstr(file.string()));
+  defaults.setValue("a", false);
+  EXPECT_EQ(told, 1) << "once for as long as it lasts";
+  fs::remove(file);
+  defaults.setValue("a", true);
+  fs::remove_all(file);
+  put("{}");
+  defaults.setValue("a", false);
+  EXPECT_EQ(told, 2);
 }
 
 TEST_F(FileUserDefaultsTest, replacesTheTargetOfALinkAndKeepsItsPermissions) {
