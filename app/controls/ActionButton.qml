@@ -13,6 +13,7 @@ T.Button {
     property Accent accent: Theme.fasting
     property string iconName
     property bool large: false
+    property real leastHeight: large ? Theme.buttonLargeSize : Theme.buttonSize
 
     readonly property color surface: {
         if (!enabled)
@@ -39,7 +40,7 @@ T.Button {
         return kind === ActionButton.Primary ? Theme.textOnAction : Theme.ink;
     }
 
-    implicitHeight: Math.max(large ? Theme.buttonLargeSize : Theme.buttonSize, contentItem.implicitHeight + 16)
+    implicitHeight: Math.max(leastHeight, contentItem.implicitHeight + 16)
     implicitWidth: contentItem.implicitWidth + 2 * leftPadding
     leftPadding: 20
     rightPadding: 20
@@ -62,7 +63,9 @@ T.Button {
     Item {
         id: face
 
-        implicitWidth: row.implicitWidth
+        readonly property real iconRoom: root.iconName !== "" ? Theme.iconSize + row.spacing : 0
+
+        implicitWidth: iconRoom + words.implicitWidth
         implicitHeight: row.implicitHeight
 
         Row {
@@ -78,10 +81,12 @@ T.Button {
             }
 
             StyledText {
+                id: words
+                width: Math.min(implicitWidth, face.width - face.iconRoom)
+                horizontalAlignment: Text.AlignHCenter
                 text: root.text
                 style: root.large ? Theme.buttonLargeText : Theme.buttonText
                 color: root.label
-                wrapMode: Text.NoWrap
                 anchors.verticalCenter: parent.verticalCenter
             }
         }

@@ -92,7 +92,7 @@ Sheet {
 
     ActionButton {
         width: parent.width
-        implicitHeight: Theme.sheetButtonSize
+        leastHeight: Theme.sheetButtonSize
         enabled: root.problem === ""
         text: Texts.text("Done")
         onClicked: {

@@ -21,6 +21,9 @@ Item {
         style: root.isChosen ? Theme.bodyStrongText : Theme.bodyText
         color: root.isChosen ? Theme.ink : Theme.inkSecondary
         wrapMode: Text.NoWrap
+        // Large text grows as far as the segments have room.
+        fontSizeMode: Text.HorizontalFit
+        minimumPixelSize: style.size
     }
 
     TapHandler {

@@ -30,7 +30,7 @@ Sheet {
 
     ActionButton {
         width: parent.width
-        implicitHeight: Theme.sheetButtonSize
+        leastHeight: Theme.sheetButtonSize
         enabled: !choice.unread
         text: Texts.text("Save")
         onClicked: {

@@ -113,7 +113,7 @@ Sheet {
 
         ActionButton {
             width: parent.width
-            implicitHeight: Theme.sheetButtonSize
+            leastHeight: Theme.sheetButtonSize
             enabled: !goal.unread
             text: Texts.text("Save")
             onClicked: root.draft.save()
@@ -122,7 +122,7 @@ Sheet {
         ActionButton {
             width: parent.width
             visible: !root.draft.isNew
-            implicitHeight: Theme.sheetButtonSize
+            leastHeight: Theme.sheetButtonSize
             kind: ActionButton.Destructive
             iconName: "trash"
             text: Texts.text("Delete fast")

@@ -19,16 +19,19 @@ constexpr double leastContrast = 4.5, leastContrastOfLargeText = 3;
 constexpr int largeText = 24, largeBoldText = 19;
 
 struct ShownText {
-  QQuickItem* item;
-  QQuickItem* card;  // none for a text that stands on the page
-  QRectF place;      // of its glyphs, in the window
-  bool isOnTop;      // nothing modal lies over it
+  QQuickItem* item = nullptr;
+  QQuickItem* card = nullptr;   // none for a text that stands on the page
+  QQuickItem* frame = nullptr;  // the button that it names, or else the card
+  QRectF place = {};            // of its glyphs, in the window
+  bool isOnTop = true;          // nothing modal lies over it
 };
 
 bool isCard(const QQuickItem* item) {
   const QByteArray name = item->metaObject()->className();
   return name.startsWith("Card_") || name.startsWith("TappableCard") || name.contains("Card_QMLTYPE");
 }
+
+bool isButton(const QQuickItem* item) { return item->inherits("QQuickAbstractButton"); }
 
 bool isOverlay(const QQuickItem* item) { return item->inherits("QQuickOverlay"); }
 
@@ -43,12 +46,13 @@ QRectF glyphPlace(const QQuickItem* text) {
 }
 
 // All texts below an item that can be seen at all.
-void collect(QQuickItem* item, QQuickItem* card, bool isOnTop, QList<ShownText>& texts) {
+void collect(QQuickItem* item, ShownText above, QList<ShownText>& texts) {
   if (!item->isVisible() || item->opacity() < 1) return;
-  if (isCard(item)) card = item;
+  if (isCard(item)) above.card = item;
+  if (isCard(item) || isButton(item)) above.frame = item;
   if (item->inherits("QQuickText") && !item->property("text").toString().isEmpty())
-    texts.append({item, card, glyphPlace(item), isOnTop});
-  for (QQuickItem* child : item->childItems()) collect(child, card, isOnTop, texts);
+    texts.append({item, above.card, above.frame, glyphPlace(item), above.isOnTop});
+  for (QQuickItem* child : item->childItems()) collect(child, above, texts);
 }
 
 // How many of the items that are loaded when they are wanted, cards first of all, are not there.
@@ -97,7 +101,8 @@ QColor surface(const QImage& picture, const QRect& place) {
 // Whether a view that scrolls hides a part of it.
 bool isPartlyHidden(const ShownText& text) {
   for (const QQuickItem* above = text.item->parentItem(); above; above = above->parentItem())
-    if (above->clip() && !above->mapRectToScene({0, 0, above->width(), above->height()}).contains(text.place))
+    if ((above->clip() || above->inherits("QQuickFlickable")) &&
+        !above->mapRectToScene({0, 0, above->width(), above->height()}).contains(text.place))
       return true;
   return false;
 }
@@ -121,9 +126,9 @@ QString faultOf(const ShownText& text, const QQuickWindow& window, const QImage&
       item->property("contentHeight").toReal() > item->height() + tolerance)
     return QStringLiteral("is cut off");
   const QRectF outer =
-      text.card ? text.card->mapRectToScene({0, 0, text.card->width(), text.card->height()}) : QRectF{};
+      text.frame ? text.frame->mapRectToScene({0, 0, text.frame->width(), text.frame->height()}) : QRectF{};
   const QRectF room = outer.adjusted(-tolerance, -tolerance, tolerance, tolerance);
-  if (text.card && !room.contains(text.place)) return QStringLiteral("is outside its card");
+  if (text.frame && !room.contains(text.place)) return QStringLiteral("is outside its card or button");
   if (text.place.left() < -tolerance || text.place.right() > window.width() + tolerance)
     return QStringLiteral("is outside the window");
   if (hasMissingGlyph(item)) return QStringLiteral("has a glyph that no font has");
@@ -155,7 +160,7 @@ QStringList faultsOf(QQuickWindow& window) {
   for (QQuickItem* child : window.contentItem()->childItems())
     if (isOverlay(child) && child->isVisible() && !child->childItems().isEmpty()) overlays.append(child);
   for (QQuickItem* child : window.contentItem()->childItems())
-    collect(child, nullptr, overlays.isEmpty() || overlays.contains(child), texts);
+    collect(child, {.isOnTop = overlays.isEmpty() || overlays.contains(child)}, texts);
   QStringList faults = overlaps(texts);
   if (const int missing = missingItems(window.contentItem()); missing > 0)
     faults.append(QStringLiteral("%1 cards or pages are missing").arg(missing));

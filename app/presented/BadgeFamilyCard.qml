@@ -21,23 +21,16 @@ TappableCard {
 
         Item {
             width: parent.width
-            height: Math.max(head.height, all.height)
+            height: head.height
 
-            StyledText {
+            CardHeadLine {
                 id: head
                 anchors.left: parent.left
-                text: root.family.title
-                style: Theme.headlineText
-            }
-
-            StyledText {
-                id: all
                 anchors.right: chevron.left
                 anchors.rightMargin: 4
-                anchors.verticalCenter: parent.verticalCenter
-                text: root.family.allLabel
-                style: Theme.labelText
-                color: Theme.inkSecondary
+                title: root.family.title
+                titleStyle: Theme.headlineText
+                detail: root.family.allLabel
             }
 
             Icon {

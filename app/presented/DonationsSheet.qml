@@ -77,7 +77,7 @@ Sheet {
 
         ActionButton {
             width: parent.width
-            implicitHeight: Theme.sheetButtonSize
+            leastHeight: Theme.sheetButtonSize
             visible: !App.donations.loading
             text: App.donations.failure !== "" ? Texts.text("Try again") : App.donations.buttonText
             onClicked: App.donations.failure !== "" ? App.donations.tryAgain() : App.donations.donate()
@@ -85,7 +85,7 @@ Sheet {
 
         ActionButton {
             width: parent.width
-            implicitHeight: Theme.sheetButtonSize
+            leastHeight: Theme.sheetButtonSize
             kind: ActionButton.Plain
             text: Texts.text("Not now")
             onClicked: root.close()

@@ -48,7 +48,7 @@ Sheet {
 
     ActionButton {
         width: parent.width
-        implicitHeight: Theme.sheetButtonSize
+        leastHeight: Theme.sheetButtonSize
         text: Texts.text("Send")
         enabled: idea.text.trim() !== ""
         onClicked: {

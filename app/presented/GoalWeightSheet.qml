@@ -44,14 +44,14 @@ Sheet {
 
     ActionButton {
         width: parent.width
-        implicitHeight: Theme.sheetButtonSize
+        leastHeight: Theme.sheetButtonSize
         text: Texts.text("Save")
         onClicked: root.save()
     }
 
     ActionButton {
         width: parent.width
-        implicitHeight: Theme.sheetButtonSize
+        leastHeight: Theme.sheetButtonSize
         visible: App.goalWeightText !== ""
         kind: ActionButton.Plain
         text: Texts.text("Remove goal")

@@ -40,14 +40,14 @@ Sheet {
 
         ActionButton {
             width: parent.width
-            implicitHeight: Theme.sheetButtonSize
+            leastHeight: Theme.sheetButtonSize
             text: App.repair.buttonText
             onClicked: App.repair.confirm()
         }
 
         ActionButton {
             width: parent.width
-            implicitHeight: Theme.sheetButtonSize
+            leastHeight: Theme.sheetButtonSize
             kind: ActionButton.Plain
             text: Texts.text("Not now")
             onClicked: root.close()

@@ -22,7 +22,10 @@ Item {
     readonly property bool stacked: Theme.textScale >= 1.3
     readonly property real capsuleHeight: Math.max(Theme.capsuleSize, valueText.implicitHeight + 8)
 
-    implicitHeight: stacked ? labelText.implicitHeight + 2 + capsuleHeight : capsuleHeight
+    /// A value above its bar that has no room beside the label either gets a line of its own.
+    readonly property real valueLine: texts.above && labelText.implicitWidth + 8 + texts.width > width ? texts.height + 2 : 0
+
+    implicitHeight: stacked ? labelText.implicitHeight + 2 + valueLine + capsuleHeight : capsuleHeight
     Accessible.role: Accessible.StaticText
     Accessible.name: label + ": " + value + perDay
 

@@ -9,7 +9,7 @@ Item {
 
     property string text
 
-    implicitHeight: 110
+    implicitHeight: Math.max(110, label.y + label.height + 12)
 
     Repeater {
         model: 3
@@ -34,7 +34,7 @@ Item {
     StyledText {
         id: label
         anchors.horizontalCenter: parent.horizontalCenter
-        y: 48 - height / 2
+        y: Math.max(12, 48 - height / 2)
         width: Math.min(implicitWidth, root.width - 48)
         horizontalAlignment: Text.AlignHCenter
         text: root.text

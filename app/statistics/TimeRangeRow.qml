@@ -8,6 +8,7 @@ Row {
 
     required property TimeRangeCardModel card
     property real maxWidth: 480
+    readonly property real textRoom: maxWidth - spacing - control.width
 
     signal chosen(int index)
 
@@ -19,7 +20,7 @@ Row {
 
         StyledText {
             anchors.right: parent.right
-            width: Math.min(implicitWidth, root.maxWidth - 288)
+            width: Math.min(implicitWidth, root.textRoom)
             horizontalAlignment: Text.AlignRight
             text: root.card.title
             style: Theme.bodyStrongText
@@ -29,7 +30,7 @@ Row {
 
         StyledText {
             anchors.right: parent.right
-            width: Math.min(implicitWidth, root.maxWidth - 288)
+            width: Math.min(implicitWidth, root.textRoom)
             horizontalAlignment: Text.AlignRight
             text: root.card.prompt
             style: Theme.labelText
@@ -38,8 +39,9 @@ Row {
     }
 
     SegmentedControl {
+        id: control
         anchors.verticalCenter: parent.verticalCenter
-        width: 272
+        width: 272 * Math.min(Theme.textScale, 1.7)
         options: root.card.options
         currentIndex: root.card.selectedIndex
         accessibleName: root.card.title

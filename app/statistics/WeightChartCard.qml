@@ -22,19 +22,26 @@ Card {
         swatch: Theme.weight.fill
     }
 
-    Row {
-        anchors.left: parent.left
+    Item {
+        id: averageLine
+        readonly property bool stacked: average.width + 8 + averageLabel.implicitWidth > width
+
+        width: parent.width
+        height: average.height + (stacked ? averageLabel.height : 0)
         visible: !root.chart.isEmpty && root.card.averageLabel !== ""
-        spacing: 8
 
         StyledNumber {
             id: average
+            anchors.left: parent.left
             text: root.chart.average
             evenDigits: true
         }
 
         StyledText {
-            anchors.baseline: average.baseline
+            id: averageLabel
+            anchors.left: averageLine.stacked ? parent.left : average.right
+            anchors.leftMargin: averageLine.stacked ? 0 : 8
+            y: averageLine.stacked ? average.height : average.baselineOffset - baselineOffset
             text: root.card.averageLabel
             style: Theme.labelText
             color: Theme.inkSecondary

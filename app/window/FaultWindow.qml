@@ -21,33 +21,41 @@ Window {
     LayoutMirroring.enabled: Application.layoutDirection === Qt.RightToLeft
     LayoutMirroring.childrenInherit: true
 
-    Card {
-        anchors.centerIn: parent
-        width: Math.min(parent.width - 2 * Theme.pageMargin, 480)
-        spacing: 12
+    Flickable {
+        id: page
+        anchors.fill: parent
+        contentHeight: card.y + card.height + Theme.pageMargin
 
-        StyledText {
-            width: parent.width
-            text: Texts.text("Your history cannot be opened")
-            style: Theme.headlineText
-            Accessible.role: Accessible.Heading
-            Accessible.name: text
-        }
+        Card {
+            id: card
+            x: (page.width - width) / 2
+            y: Math.max(Theme.pageMargin, (page.height - height) / 2)
+            width: Math.min(page.width - 2 * Theme.pageMargin, 480)
+            spacing: 12
 
-        StyledText {
-            width: parent.width
-            text: root.sentence
-            wrapMode: Text.WrapAtWordBoundaryOrAnywhere
-            color: Theme.inkSecondary
-            Accessible.role: Accessible.AlertMessage
-            Accessible.name: text
-        }
+            StyledText {
+                width: parent.width
+                text: Texts.text("Your history cannot be opened")
+                style: Theme.headlineText
+                Accessible.role: Accessible.Heading
+                Accessible.name: text
+            }
 
-        ActionButton {
-            width: parent.width
-            text: Texts.text("Try again")
-            focus: true
-            onClicked: root.againWanted()
+            StyledText {
+                width: parent.width
+                text: root.sentence
+                wrapMode: Text.WrapAtWordBoundaryOrAnywhere
+                color: Theme.inkSecondary
+                Accessible.role: Accessible.AlertMessage
+                Accessible.name: text
+            }
+
+            ActionButton {
+                width: parent.width
+                text: Texts.text("Try again")
+                focus: true
+                onClicked: root.againWanted()
+            }
         }
     }
 

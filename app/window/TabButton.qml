@@ -42,7 +42,7 @@ T.AbstractButton {
             y: root.beside ? (parent.height - height) / 2 : icon.y + icon.height + 4
             text: root.text
             style: root.beside ? (root.chosen ? Theme.bodyStrongText : Theme.bodyText) : (root.chosen ? Theme.tabOnText : Theme.tabText)
-            scaleLimit: root.beside ? 2 : 1.3
+            scaleLimit: 1.3
             color: root.chosen ? Theme.ink : Theme.inkSecondary
             wrapMode: Text.NoWrap
         }

@@ -34,8 +34,8 @@ constexpr std::array tips{
             translatable("Vote on upcoming features. No account is needed."), 15, 2,
             [](const TipFacts& facts) { return facts.finishedFasts >= 14 && !facts.hasVoted; }},
     TipRule{"keepACopy", translatable("Keep a copy"),
-            translatable("Your data is on this device only. Back up the database that Settings -> About Mivo names."), 10, 3,
-            [](const TipFacts& facts) { return facts.finishedFasts >= 30; }},
+            translatable("Your data is on this device only. Back up the database that Settings -> About Mivo names."),
+            10, 3, [](const TipFacts& facts) { return facts.finishedFasts >= 30; }},
 };
 
 }  // namespace
