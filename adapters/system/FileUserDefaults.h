@@ -21,7 +21,8 @@ namespace mivo::adapters {
 /// Thread: any. Cost: a value costs one look at the file's date, a write two waits for the disk.
 class FileUserDefaults final : public UserDefaults {
  public:
-  /// Told once when writing begins to fail, and again when it does after it had worked. Thread: the writer's.
+  /// Told once when writing begins to fail, and again when it does after it had worked. It may not use these defaults
+  /// itself. Thread: the writer's.
   using DidFailToWrite = std::function<void(const std::filesystem::path& file, const std::error_code& reason)>;
 
   explicit FileUserDefaults(const std::filesystem::path& file, DidFailToWrite didFailToWrite = {});
