@@ -6,9 +6,11 @@
 #include <sys/syscall.h>
 #include <unistd.h>
 
+#include <cerrno>
 #include <csignal>
 #include <filesystem>
 #include <fstream>
+#include <system_error>
 
 #include "host/database/HistoryChange.h"
 #include "tests/app/ShownApp.h"
@@ -107,7 +109,7 @@ TEST_F(Failures, settingsThatCannotBeSavedAreSaidAndHoldUntilTheEnd) {
   const FullDisk full;
   app->app.appearance().setTextScale(1.5);
   EXPECT_TRUE(eventuallySays("Einstellungen können nicht in " + (folder.path / "mivo" / "app.json").string() +
-                             " gespeichert werden: File too large"));
+                             " gespeichert werden: " + std::generic_category().message(EFBIG)));
   EXPECT_EQ(app->app.appearance().textScale(), 1.5);
 }
 
