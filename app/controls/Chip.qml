@@ -10,7 +10,7 @@ T.AbstractButton {
     property bool chosen: false
 
     implicitHeight: Math.max(Theme.touchSize, label.implicitHeight + 22)
-    implicitWidth: label.implicitWidth + 32
+    implicitWidth: label.implicitWidth + 28
     focusPolicy: Qt.StrongFocus
     Accessible.role: Accessible.RadioButton
     Accessible.checkable: true
@@ -41,7 +41,7 @@ T.AbstractButton {
             id: label
             anchors.centerIn: parent
             text: root.text
-            style: root.chosen ? Theme.bodyStrongText : Theme.bodyText
+            style: Theme.labelText
             font.weight: root.chosen ? 600 : 500
             color: root.chosen ? Theme.textOnAction : Theme.inkSecondary
             wrapMode: Text.NoWrap

@@ -15,17 +15,19 @@ Card {
     required property bool voted
     required property bool open
 
+    readonly property bool stacked: Theme.textScale >= 1.3
+
     signal voteTapped
 
     Item {
         width: parent.width
-        height: Math.max(texts.height, vote.height)
+        height: root.stacked ? vote.y + vote.height : Math.max(texts.height, vote.height)
 
         Column {
             id: texts
             anchors.left: parent.left
-            anchors.right: vote.left
-            anchors.rightMargin: 12
+            anchors.right: root.stacked ? parent.right : vote.left
+            anchors.rightMargin: root.stacked ? 0 : 12
 
             StyledText {
                 width: parent.width
@@ -43,6 +45,7 @@ Card {
             Item { width: 1; height: 6 }
 
             Row {
+                anchors.left: parent.left
                 spacing: 6
 
                 StatusMark {
@@ -62,6 +65,7 @@ Card {
         VoteButton {
             id: vote
             anchors.right: parent.right
+            y: root.stacked ? texts.height + 12 : 0
             title: root.title
             count: root.count
             cast: root.voted

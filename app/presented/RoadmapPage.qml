@@ -13,8 +13,11 @@ PushedPage {
 
     title: Texts.text("Roadmap")
 
+    // A chip is touched 4 beyond what is seen of it.
     Flow {
         width: parent.width
+        topPadding: -4
+        bottomPadding: -4
         spacing: 8
         visible: root.roadmap !== null && root.roadmap.filters.length > 1
 

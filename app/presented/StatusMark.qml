@@ -21,7 +21,7 @@ Item {
     }
 
     Icon {
-        visible: root.status === "inProgress"
+        visible: root.status === "in progress"
         anchors.fill: parent
         name: "halfDisc"
         color: Theme.inkSecondary

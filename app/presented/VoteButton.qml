@@ -43,14 +43,14 @@ T.AbstractButton {
             color: root.label
         }
 
-        StyledText {
+        StyledNumber {
             id: number
             anchors.horizontalCenter: parent.horizontalCenter
             anchors.top: arrow.bottom
             text: root.count
             style: Theme.buttonText
+            evenDigits: true
             color: root.label
-            wrapMode: Text.NoWrap
         }
     }
 }

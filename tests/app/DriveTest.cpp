@@ -226,6 +226,9 @@ void Drive::vote() {
   ASSERT_TRUE(eventually([&] { return ofWeeklyPlan() != nullptr; }));
   settle(app->window());
   EXPECT_EQ(ofWeeklyPlan()->property("count"), "0");
+  EXPECT_NE(app->find([](const QQuickItem* one) { return one->property("name") == "halfDisc" && one->isVisible(); }),
+            nullptr)
+      << "the weekly plan is in progress";
   click(ofWeeklyPlan, "vote");
   EXPECT_TRUE(eventually([&] { return votesOnTheServer() == 1; }));
   EXPECT_TRUE(eventually([&] { return ofWeeklyPlan()->property("count") == "1"; }));
