@@ -11,8 +11,9 @@ Item {
     property string iconName
     property string accent
     readonly property real indent: iconName !== "" ? icon.width + 12 : accent !== "" ? swatch.width + 12 : 0
-    /// What it needs to stand in one line.
-    readonly property real wholeWidth: indent + label.implicitWidth + (detail === "" ? 0 : words.spacing + detailText.implicitWidth)
+    /// What it needs to stand in one line, without the quieter word and with it.
+    readonly property real nameWidth: indent + label.implicitWidth
+    readonly property real wholeWidth: nameWidth + (detail === "" ? 0 : words.spacing + detailText.implicitWidth)
 
     implicitHeight: words.height
 

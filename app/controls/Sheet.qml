@@ -98,8 +98,9 @@ T.Popup {
             width: parent.width - 2 * x
             height: Math.max(Theme.touchSize, headline.height)
 
-            StyledText {
+            WholeWordsText {
                 id: headline
+                room: width
                 anchors.left: parent.left
                 anchors.right: closeButton.left
                 anchors.verticalCenter: parent.verticalCenter

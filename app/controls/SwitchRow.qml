@@ -38,14 +38,16 @@ T.AbstractButton {
     Item {
         id: face
 
-        implicitHeight: Math.max(label.height, mark.height)
+        readonly property bool stacked: label.nameWidth + 12 + mark.width > root.availableWidth
+
+        implicitHeight: stacked ? label.height + 8 + mark.height : Math.max(label.height, mark.height)
 
         RowLabel {
             id: label
             anchors.left: parent.left
-            anchors.right: mark.left
-            anchors.rightMargin: 12
-            anchors.verticalCenter: parent.verticalCenter
+            anchors.right: face.stacked ? parent.right : mark.left
+            anchors.rightMargin: face.stacked ? 0 : 12
+            y: face.stacked ? 0 : (face.height - height) / 2
             text: root.text
             detail: root.detail
             iconName: root.iconName
@@ -55,7 +57,7 @@ T.AbstractButton {
         SwitchMark {
             id: mark
             anchors.right: parent.right
-            anchors.verticalCenter: parent.verticalCenter
+            y: face.stacked ? label.height + 8 : (face.height - height) / 2
             target: root
             on: root.on
         }

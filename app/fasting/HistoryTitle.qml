@@ -6,15 +6,17 @@ import Mivo
 Item {
     id: root
 
+    readonly property bool stacked: headline.implicitWidth + add.implicitWidth > width
+
     signal addWanted
 
-    implicitHeight: Math.max(add.height, headline.height)
+    implicitHeight: stacked ? headline.height + add.height : Math.max(add.height, headline.height)
 
     StyledText {
         id: headline
         anchors.left: parent.left
-        anchors.right: add.left
-        anchors.verticalCenter: add.verticalCenter
+        y: root.stacked ? 0 : (add.height - height) / 2
+        width: root.stacked ? root.width : Math.ceil(implicitWidth)
         text: Texts.text("History")
         style: Theme.sectionText
         Accessible.role: Accessible.Heading
@@ -25,6 +27,7 @@ Item {
         id: add
         anchors.right: parent.right
         anchors.rightMargin: -rightPadding
+        y: root.stacked ? headline.height : 0
         leftPadding: 12
         rightPadding: 12
         kind: ActionButton.Plain

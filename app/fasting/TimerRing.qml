@@ -47,11 +47,12 @@ Item {
                 color: Theme.accentOf(App.fasting.zone).fill
             }
 
-            StyledText {
-                width: Math.min(implicitWidth, root.room - 50)
+            WholeWordsText {
+                room: root.room - 40
+                width: Math.min(implicitWidth, room)
                 text: App.fasting.zoneName
                 style: Theme.bodyStrongText
-                scaleLimit: root.textLimit
+                mostScale: root.textLimit
             }
         }
 

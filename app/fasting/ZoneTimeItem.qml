@@ -8,27 +8,15 @@ Item {
 
     required property int index
     required property zoneTime modelData
-    readonly property Grid grid: parent as Grid
-    readonly property int columns: grid ? grid.columns : 1
+    /// Of all, and the width of one; 0 where each is as wide as it needs.
+    required property int columns
+    required property real columnWidth
     readonly property real naturalWidth: Math.max(Theme.swatchSize + 6 + Math.ceil(name.implicitWidth), number.implicitWidth)
-    /// What all take beside each other. They stand so where there is room for it, else in columns of one width.
-    readonly property real total: widthOfAll()
-    readonly property bool spread: columns > 1 && columns > grid.children.length - 2 && total + 8 * columns <= grid.width
     readonly property real rest: width - texts.width
     // The first column stands at the leading edge, the last one at the trailing edge.
     readonly property real fromLeading: columns > 1 ? rest * (index % columns) / (columns - 1) : 0
 
-    width: spread ? naturalWidth : grid ? grid.width / columns : 0
-
-    function widthOfAll(): real {
-        let sum = 0;
-        for (let place = 0; grid && place < grid.children.length; ++place) {
-            const item = grid.children[place] as ZoneTimeItem;
-            sum += item ? item.naturalWidth : 0;
-        }
-        return sum;
-    }
-
+    width: columnWidth > 0 ? columnWidth : naturalWidth
     implicitHeight: texts.height
     Accessible.role: Accessible.StaticText
     Accessible.name: modelData.name + ", " + modelData.duration

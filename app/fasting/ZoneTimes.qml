@@ -8,16 +8,25 @@ Grid {
 
     required property list<zoneTime> zones
 
-    columns: Theme.textScale >= 1.6 ? 1 : Theme.textScale >= 1.3 ? 2 : Math.max(1, Math.min(3, zones.length))
-    readonly property ZoneTimeItem first: children.length > 1 ? children[0] as ZoneTimeItem : null
+    readonly property var naturalWidths: Array.from(children).filter(child => child instanceof ZoneTimeItem).map(item => item.naturalWidth)
+    readonly property real total: naturalWidths.reduce((one, other) => one + other, 0)
+    /// They stand beside each other where there is room for it, else in columns of one width.
+    readonly property bool spread: zones.length <= mostColumns && total + leastGap * zones.length <= width
 
-    columnSpacing: first && first.spread ? (width - first.total) / (columns - 1) : 0
+    readonly property int mostColumns: 3
+    readonly property real leastGap: 8
+
+    columns: spread ? Math.max(1, zones.length) : Math.max(1, Math.min(mostColumns, Math.floor((width + leastGap) / (Math.max(...naturalWidths) + leastGap))))
+    columnSpacing: spread && columns > 1 ? (width - total) / (columns - 1) : 0
     rowSpacing: 12
     verticalItemAlignment: Grid.AlignBottom
 
     Repeater {
         model: root.zones
 
-        delegate: ZoneTimeItem {}
+        delegate: ZoneTimeItem {
+            columns: root.columns
+            columnWidth: root.spread ? 0 : root.width / root.columns
+        }
     }
 }

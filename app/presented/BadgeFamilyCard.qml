@@ -73,13 +73,15 @@ TappableCard {
                 StyledNumber {
                     anchors.left: parent.left
                     text: root.family.count
-                    style: wideCount.implicitWidth <= facts.width ? Theme.numberLargeText : Theme.numberText
+                    style: Theme.numberLargeText
+                    scaleLimit: facts.width / natural.implicitWidth
 
                     StyledNumber {
-                        id: wideCount
+                        id: natural
                         visible: false
                         text: root.family.count
                         style: Theme.numberLargeText
+                        scaleLimit: 1
                     }
                 }
 

@@ -9,6 +9,7 @@ Card {
     required property NoticeCardModel card
     property string iconName
     property bool isCaution: false
+    readonly property bool stacked: Theme.textScale >= 1.3
 
     signal tapped
 
@@ -16,7 +17,7 @@ Card {
 
     Item {
         width: parent.width
-        implicitHeight: Math.max(Theme.tileSize, texts.implicitHeight)
+        implicitHeight: Math.max(Theme.tileSize, texts.y + texts.implicitHeight)
 
         IconTile {
             id: tile
@@ -28,13 +29,15 @@ Card {
 
         Column {
             id: texts
-            anchors.left: tile.right
-            anchors.leftMargin: 12
+            anchors.left: root.stacked ? parent.left : tile.right
+            anchors.leftMargin: root.stacked ? 0 : 12
             anchors.right: parent.right
+            y: root.stacked ? tile.height + 12 : 0
             spacing: 2
 
-            StyledText {
+            WholeWordsText {
                 width: parent.width
+                room: width
                 text: root.card.title
                 style: Theme.headlineText
             }

@@ -6,12 +6,13 @@ Card {
     id: root
 
     required property NoticeCardModel card
+    readonly property bool stacked: Theme.textScale >= 1.3
 
     signal dismissed
 
     Item {
         width: parent.width
-        implicitHeight: Math.max(Theme.tileSize, texts.implicitHeight)
+        implicitHeight: Math.max(Theme.tileSize, texts.y + texts.implicitHeight)
 
         IconTile {
             id: tile
@@ -21,10 +22,11 @@ Card {
 
         Column {
             id: texts
-            anchors.left: tile.right
-            anchors.leftMargin: 12
+            anchors.left: root.stacked ? parent.left : tile.right
+            anchors.leftMargin: root.stacked ? 0 : 12
             anchors.right: parent.right
-            anchors.rightMargin: Theme.touchSize - Theme.cardPadding
+            anchors.rightMargin: root.stacked ? 0 : Theme.touchSize - Theme.cardPadding
+            y: root.stacked ? tile.height + 12 : 0
 
             StyledText {
                 width: parent.width

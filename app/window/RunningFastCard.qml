@@ -46,6 +46,7 @@ T.AbstractButton {
             anchors.left: parent.left
             text: App.fasting.duration
             style: Theme.numberSmallText
+            scaleLimit: 1.3
             evenDigits: true
         }
 
