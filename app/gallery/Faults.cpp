@@ -2,13 +2,16 @@
 #include "Faults.h"
 
 #include <QtCore/QHash>
+#include <QtCore/QRegularExpression>
 #include <QtGui/QFont>
+#include <QtGui/QFontMetricsF>
 #include <QtGui/QGlyphRun>
 #include <QtGui/QImage>
 #include <QtGui/QTextLayout>
 #include <QtQuick/QQuickItem>
 #include <QtQuick/QQuickWindow>
 
+#include <algorithm>
 #include <cmath>
 
 namespace mivo::app {
@@ -50,8 +53,11 @@ void collect(QQuickItem* item, ShownText above, QList<ShownText>& texts) {
   if (!item->isVisible() || item->opacity() < 1) return;
   if (isCard(item)) above.card = item;
   if (isCard(item) || isButton(item)) above.frame = item;
-  if (item->inherits("QQuickText") && !item->property("text").toString().isEmpty())
-    texts.append({item, above.card, above.frame, glyphPlace(item), above.isOnTop});
+  const bool isNumber = item->inherits("mivo::app::NumberText");
+  if ((isNumber || item->inherits("QQuickText")) && !item->property("text").toString().isEmpty()) {
+    const QRectF whole = item->mapRectToScene({0, 0, item->width(), item->height()});
+    texts.append({item, above.card, above.frame, isNumber ? whole : glyphPlace(item), above.isOnTop});
+  }
   for (QQuickItem* child : item->childItems()) collect(child, above, texts);
 }
 
@@ -73,6 +79,17 @@ bool hasMissingGlyph(const QQuickItem* text) {
   for (const QGlyphRun& run : layout.glyphRuns())
     if (run.glyphIndexes().contains(0)) return true;
   return false;
+}
+
+// Whether a word is wider than the lines; a line may end after a hyphen and within the path of a file.
+bool hasBrokenWord(const QQuickItem* text) {
+  if (!text->inherits("QQuickText")) return false;
+  static const QRegularExpression markup{QStringLiteral("<[^>]*>")}, places{QStringLiteral("[\\s/]|(?<=-)")};
+  const QFontMetricsF metrics{text->property("font").value<QFont>()};
+  const QString plain = text->property("text").toString().remove(markup);
+  return std::ranges::any_of(plain.split(places), [&](const QString& word) {
+    return metrics.horizontalAdvance(word) > text->width() + tolerance;
+  });
 }
 
 double luminance(const QColor& color) {
@@ -125,6 +142,7 @@ QString faultOf(const ShownText& text, const QQuickWindow& window, const QImage&
   if (item->property("truncated").toBool() || item->property("contentWidth").toReal() > item->width() + tolerance ||
       item->property("contentHeight").toReal() > item->height() + tolerance)
     return QStringLiteral("is cut off");
+  if (hasBrokenWord(item)) return QStringLiteral("has a word that does not fit into a line");
   const QRectF outer =
       text.frame ? text.frame->mapRectToScene({0, 0, text.frame->width(), text.frame->height()}) : QRectF{};
   const QRectF room = outer.adjusted(-tolerance, -tolerance, tolerance, tolerance);

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Draws every screen in every size, appearance, language and with every kind of history, or only measures them.
+#include <QtCore/QDeadlineTimer>
 #include <QtCore/QDir>
 #include <QtGui/QGuiApplication>
 #include <QtQuick/QQuickWindow>
@@ -54,16 +55,18 @@ constexpr std::array<Look, 3> looks{{{"light", Appearance::Mode::Light, 1},
                                      {"dark", Appearance::Mode::Dark, 1},
                                      {"large-text", Appearance::Mode::Light, 2}}};
 
-constexpr std::array<const char*, 21> screens{
-    "statistics", "badges",     "milestones", "streaks", "roadmap", "feedback",     "donations",
-    "overlaps",   "goalWeight", "date",       "table",   "fasting", "editFast",     "addFast",
-    "fastGoal",   "fastStart",  "settings",   "cards",   "about",   "firstWeekday", "defaultGoal"};
+constexpr std::array<const char*, 25> screens{"statistics",   "badges",      "milestones", "streaks",    "roadmap",
+                                              "feedback",     "donations",   "overlaps",   "goalWeight", "date",
+                                              "table",        "fasting",     "editFast",   "addFast",    "fastGoal",
+                                              "fastStart",    "fastMenu",    "settings",   "cards",      "about",
+                                              "firstWeekday", "defaultGoal", "weightUnit", "language",   "appearance"};
 
 struct Wanted {
   std::string folder;  // none only measures
   double scale = 1;
   std::string data = "data";
-  std::string only;  // what the name of a picture contains
+  std::string tally;  // a vote server that runs
+  std::string only;   // what the name of a picture contains
 };
 
 Options optionsFor(const Wanted& wanted, const History& history, const Language& language, const QDir& scratch) {
@@ -72,8 +75,10 @@ Options optionsFor(const Wanted& wanted, const History& history, const Language&
   options.timeZone = "Europe/Berlin";
   options.locale = language.locale;
   options.donations = wanted.data + "/donations.json";
-  options.tally = "http://127.0.0.1:9";  // nobody listens: the roadmap says that it is offline
-  options.picture = "-";                 // a clock that stands still, and no motion
+  // Port 9: nobody listens, and the roadmap says that it is offline.
+  const bool isOnline = !wanted.tally.empty() && &history != &histories[0];
+  options.tally = isOnline ? wanted.tally : "http://127.0.0.1:9";
+  options.picture = "-";  // a clock that stands still, and no motion
   options.sample = wanted.data + "/ten-years.json";
   if (*history.snapshot) {
     options.sample = scratch.filePath(QStringLiteral("history.json")).toStdString();
@@ -85,6 +90,13 @@ Options optionsFor(const Wanted& wanted, const History& history, const Language&
 struct Count {
   int drawn = 0, faulty = 0;
 };
+
+/// Runs events while a roadmap is loading.
+void awaitRoadmap(AppModel& app) {
+  const QDeadlineTimer deadline{5000};
+  while (app.roadmap() && app.roadmap()->isLoading() && !deadline.hasExpired())
+    QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
+}
 
 /// Draws what a window shows, where that is wanted, and measures it.
 void drawAndMeasure(QQuickWindow& window, const QString& name, bool isColumn, const Wanted& wanted, Count& count) {
@@ -131,6 +143,7 @@ void drawScreens(AppWindow& app, const Wanted& wanted, const Language& language,
       if (!isWanted(name, wanted)) continue;
       window.resize(size.size);
       QMetaObject::invokeMethod(&window, "present", Q_ARG(QString, QString::fromLatin1(screen)));
+      awaitRoadmap(app.model());
       drawAndMeasure(window, name, std::string_view{screen} == "statistics", wanted, count);
     }
   });
@@ -182,6 +195,8 @@ int run(int count, char** arguments) {
   program.add_option("--only", wanted.only, "Only the pictures whose name contains this: 390x844-dark-german")
       ->type_name("TEXT");
   program.add_option("--data", wanted.data, "Where the sample histories are")->type_name("FOLDER");
+  program.add_option("--tally", wanted.tally, "A vote server that runs; without one the roadmap is drawn offline")
+      ->type_name("URL");
   CLI11_PARSE(program, count, arguments);
   qputenv("QT_QPA_PLATFORM", "offscreen");
   if (wanted.scale != 1) qputenv("QT_SCALE_FACTOR", QByteArray::number(wanted.scale));
