@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // How long a fast was in each zone: names over times, spread over the width.
+pragma ComponentBehavior: Bound
 import QtQuick
 import Mivo
 

@@ -68,8 +68,8 @@ struct StatisticsFeature {
     };
     struct State : StateCases, std::variant<StateCases::badges, StateCases::roadmap, StateCases::donations> {
       using variant::variant;
-      // Here and below the special members are defined in one place: made anew in every file that needs them, they are a
-      // quarter of its compile time.
+      // Here and below the special members are defined in one place: made anew in every file that needs them, they are
+      // a quarter of its compile time.
       State(const State&);
       State(State&&) noexcept;
       State& operator=(const State&);
