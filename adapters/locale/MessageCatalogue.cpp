@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "adapters/locale/MessageCatalogue.h"
 
-#include <boost/locale/generator.hpp>
+#include <boost/locale/gnu_gettext.hpp>
 #include <boost/locale/message.hpp>
 #include <cstdint>
 #include <exception>
@@ -16,30 +16,32 @@ using Messages = boost::locale::message_format<char>;
 constexpr const char* domain = "mivo";
 constexpr int domainId = 0;  // the only domain that is loaded
 
-/// "pt-BR", "pt_BR.UTF-8" and "pt-Latn-BR" give "pt_BR.UTF-8", the form that Boost.Locale reads.
-std::string boostName(std::string_view localeTag) {
+/// "pt-BR", "pt_BR.UTF-8" and "pt-Latn-BR" name the language "pt" and the region "BR".
+boost::locale::gnu_gettext::messages_info languageAndRegion(std::string_view localeTag) {
   constexpr std::string_view separators = "-_";
   std::string_view rest = localeTag.substr(0, localeTag.find_first_of(".@"));
-  std::string name{rest.substr(0, rest.find_first_of(separators))};
-  rest.remove_prefix(name.size());
-  while (!rest.empty()) {
+  boost::locale::gnu_gettext::messages_info named;
+  named.language = rest.substr(0, rest.find_first_of(separators));
+  rest.remove_prefix(named.language.size());
+  while (!rest.empty() && named.country.empty()) {
     rest.remove_prefix(1);
     const std::string_view part = rest.substr(0, rest.find_first_of(separators));
-    if (part.size() == 2) return name.append("_").append(part).append(".UTF-8");
+    if (part.size() == 2) named.country = part;
     rest.remove_prefix(part.size());
   }
-  return name + ".UTF-8";
+  return named;
 }
 
 std::locale languageFrom(std::string_view localeTag, const std::filesystem::path& folder) {
   if (folder.empty()) return std::locale::classic();
   try {
-    boost::locale::generator generator;
-    generator.categories(boost::locale::information_facet | boost::locale::message_facet);
-    generator.characters(boost::locale::char_facet);
-    generator.add_messages_path(folder.string());
-    generator.add_messages_domain(domain);
-    return generator.generate(std::locale::classic(), boostName(localeTag));
+    // The facet alone, not a whole generated locale: that one sorts and formats too, and asks for it by names that
+    // differ from release to release.
+    auto catalogue = languageAndRegion(localeTag);
+    catalogue.encoding = "UTF-8";
+    catalogue.paths = {folder.string()};
+    catalogue.domains = {boost::locale::gnu_gettext::messages_info::domain{domain}};
+    return std::locale{std::locale::classic(), boost::locale::gnu_gettext::create_messages_facet<char>(catalogue)};
   } catch (const std::exception& error) {
     reportIssue("the texts of \"" + std::string{localeTag} + "\" in " + folder.string() +
                 " cannot be read, so they are English: " + error.what());
