@@ -181,12 +181,10 @@ class SnapshotReader {
     place = Place::snapshot;
     return true;
   }
-  bool parse_error(std::size_t, const std::string&, const Json::exception& error) {
+  bool parse_error(std::size_t charactersRead, const std::string&, const Json::exception& error) {
+    const bool wasEndRead = charactersRead > text.size();  // the end counts as a character
+    if (wasEndRead) return fail(std::nullopt, expectedHere() + ", found the end of the file");
     const std::string_view message = error.what();
-    const auto says = [&](std::string_view phrase) { return message.find(phrase) != std::string_view::npos; };
-    const bool isAtEnd = reached == text.data() + text.size();
-    if (says("unexpected end of input") || (isAtEnd && (says("missing closing quote") || says("invalid literal"))))
-      return fail(std::nullopt, expectedHere() + ", found the end of the file");
     constexpr std::string_view badText = "invalid string: ";
     if (const std::size_t at = message.find(badText); at != std::string_view::npos) {
       const std::string_view cause = message.substr(at + badText.size());
@@ -194,7 +192,8 @@ class SnapshotReader {
     }
     constexpr std::string_view hint = "; expected ";
     const std::size_t at = message.find(hint);
-    if (says("number") && isDelimiter(*lastRead())) --reached;  // it was read one character past its end
+    if (message.find("number") != std::string_view::npos && isDelimiter(*lastRead()))
+      --reached;  // it was read one character past its end
     if (pending || at == std::string_view::npos) return fail(tokenHere(), expectedHere());
     return fail(tokenHere(), std::string{message.substr(at + 2)});
   }

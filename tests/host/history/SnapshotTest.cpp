@@ -167,6 +167,10 @@ INSTANTIATE_TEST_SUITE_P(
             "a.json:2: fasts[0].start: expected a date and time of the years 1 to 9999, as in 2026-03-01T12:00:00Z, "
             "found "
             "the end of the file"},
+        Row{"onlyALineEnd", "\n", "a.json:1: snapshot: expected an object, found the end of the file"},
+        Row{"cutInAWord", "{\"version\": 1,\n\"fasts\": nul",
+            "a.json:2: fasts: expected a list, found the end of the file"},
+        Row{"cutInANumber", "{\"version\": 1.", "a.json:1: version: expected 1, found the end of the file"},
         Row{"cutBetweenRecords", "{\"version\": 1,\n\"fasts\": [",
             "a.json:2: fasts[0]: expected an object, found the end of the file"},
         Row{"commaTooMany", "{\"version\": 1,\n\"fasts\": [],}",
