@@ -234,7 +234,7 @@ TEST_F(Settings, areReachedByTheKeyboardAlone) {
   }
   EXPECT_EQ(stops.size(), 21U) << "17 cards, three settings of streaks, and the way back";
 
-  const auto focus = [this](QQuickItem* item) { item->forceActiveFocus(Qt::TabFocusReason); };
+  const auto focus = [](QQuickItem* item) { item->forceActiveFocus(Qt::TabFocusReason); };
   focus(row("Badges", "Cards"));
   press(Qt::Key_Space);
   EXPECT_FALSE(*app->statistics().dashboardSettings.showBadges);
