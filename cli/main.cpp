@@ -9,12 +9,14 @@
 #include <filesystem>
 #include <string>
 #include <system_error>
+#include <vector>
 
 #include "adapters/system/FreedMemory.h"
 #include "cli/records/RecordOptions.h"
 #include "cli/report/ReportCommand.h"
 #include "cli/terminal/StandardOutput.h"
 #include "cli/usage/Usage.h"
+#include "host/versions/Versions.h"
 
 namespace mivo::cli {
 namespace {
@@ -54,7 +56,13 @@ int run(int count, char** arguments) {
     return atFault;
   }
   CLI::App program{"Statistics of intermittent fasting: every figure of a history of fasts and weights.", "mivo"};
-  program.set_version_flag("--version", "mivo " MIVO_VERSION);
+  bool isVerbose = false;  // looked at before --version is answered
+  CLI::Option* const verbose = program.add_flag("--verbose", isVerbose, "With --version: the libraries and the zones");
+  verbose->needs(program.set_version_flag("--version", [&isVerbose] {
+    auto details = isVerbose ? host::versionsInUse() : std::vector<host::Version>{};
+    if (isVerbose) details.push_back({"CLI11", CLI11_VERSION});
+    return host::versionText("mivo " MIVO_VERSION, details);
+  }));
   program.require_subcommand(1);
   ReportOptions reportOptions;
   const CLI::App& report = addReport(program, reportOptions);

@@ -97,6 +97,13 @@ fs::path timeZoneDirectory() {
   return directory && *directory ? directory : "/usr/share/zoneinfo";
 }
 
+std::string timeZoneDataVersion() {
+  constexpr std::string_view heading = "# version ";
+  std::ifstream rules{timeZoneDirectory() / "tzdata.zi"};
+  std::string line;
+  return std::getline(rules, line) && line.starts_with(heading) ? line.substr(heading.size()) : std::string{};
+}
+
 bool isTimeZoneName(std::string_view name) {
   if (name == "UTC") return true;  // known without a database
   return isSpelledLikeOne(name) && !isSetAside(name) && isTimeZoneFile(timeZoneDirectory() / name);

@@ -12,6 +12,9 @@ namespace mivo::adapters {
 /// Where the system keeps its time-zone database: $TZDIR, or /usr/share/zoneinfo.
 std::filesystem::path timeZoneDirectory();
 
+/// The release of that database, "2026f"; empty where it does not say.
+std::string timeZoneDataVersion();
+
 /// Whether the database has a zone of this name: "Europe/Berlin", "UTC". Paths and rules ("CET-1CEST") are no names;
 /// neither are the copies under "posix/" and those under "right/", which count leap seconds.
 bool isTimeZoneName(std::string_view name);

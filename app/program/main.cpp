@@ -10,6 +10,7 @@
 #include "app/program/Environment.h"
 #include "app/program/Options.h"
 #include "app/program/Window.h"
+#include "host/versions/Versions.h"
 
 namespace mivo::app {
 namespace {
@@ -46,7 +47,13 @@ int show(QGuiApplication& application, const Options& options) {
 
 int run(int count, char** arguments) {
   CLI::App program{"Mivo: intermittent fasting, and the statistics of it.", "mivo-app"};
-  program.set_version_flag("--version", "mivo-app " MIVO_VERSION);
+  bool isVerbose = false;  // looked at before --version is answered
+  CLI::Option* const verbose = program.add_flag("--verbose", isVerbose, "With --version: the libraries and the zones");
+  verbose->needs(program.set_version_flag("--version", [&isVerbose] {
+    auto details = isVerbose ? host::versionsInUse() : std::vector<host::Version>{};
+    if (isVerbose) details.push_back({"Qt", qVersion()});
+    return host::versionText("mivo-app " MIVO_VERSION, details);
+  }));
   Options options;
   addOptions(program, options);
   try {

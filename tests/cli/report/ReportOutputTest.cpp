@@ -1,10 +1,16 @@
 // SPDX-License-Identifier: MIT
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
+
+#include <filesystem>
 
 #include "tests/cli_support/MivoProcess.h"
 
 namespace mivo::cli {
 namespace {
+
+using testing::HasSubstr;
+using testing::MatchesRegex;
 
 const std::string report = "report --input " + sample("three-weeks") + fixedRun;
 
@@ -35,8 +41,21 @@ TEST(ReportOutput, helpAndVersionAreAnswers) {
   EXPECT_NE(help.output.find("mivo report --input backup.json"), std::string::npos);
   const Ran version = place.run("--version");
   EXPECT_EQ(version.status, 0);
-  EXPECT_EQ(version.output.substr(0, 5), "mivo ");
+  EXPECT_THAT(version.output, MatchesRegex("mivo [0-9.]+\n"));
   EXPECT_EQ(help.errors + version.errors, "");
+}
+
+TEST(ReportOutput, verboseVersionTellsOfTheMachinesZonesAndLibraries) {
+  const Workplace place;
+  std::filesystem::create_directory(place.file("zones"));
+  place.write("zones/tzdata.zi", "# version 2019z\n# redo posix_only\n");
+  for (const char* arguments : {"--version --verbose", "--verbose --version"})
+    EXPECT_THAT(place.run(arguments, ">output", "TZDIR=zones").output,
+                MatchesRegex("mivo [0-9.]+\n  time-zone data 2019z\n  ICU [0-9.]+\n  SQLite [0-9.]+\n"
+                             "  Boost [0-9.]+\n  nlohmann-json [0-9.]+\n  CLI11 [0-9.]+\n"))
+        << arguments;
+  EXPECT_THAT(place.run("--version --verbose", ">output", "TZDIR=none").output, HasSubstr("time-zone data unknown\n"));
+  EXPECT_EQ(place.run("--verbose list").status, 2) << "says more of nothing else";
 }
 
 TEST(ReportOutput, warnsOnceOfFastsThatEndBeforeTheyStart) {
