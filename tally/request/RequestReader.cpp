@@ -15,10 +15,18 @@ namespace {
 namespace http = boost::beast::http;
 using boost::beast::iequals;
 using boost::system::error_code;
+using View = boost::beast::string_view;  // the library's own kind, which differs between its releases
 
 constexpr Refusal malformed{400, "the request is not well-formed HTTP/1.1"};
 constexpr Refusal withBody{413, "a request must not have a body"};
 constexpr Refusal tooLong{431, "the request's line and headers must fit 8192 bytes"};
+
+std::string_view standard(View text) { return {text.data(), text.size()}; }
+
+// Which words the library knows differs between its releases too, so what protects is looked up by its name.
+bool isNamed(std::string_view name, std::string_view wanted) {
+  return name.size() == wanted.size() && iequals(View{name.data(), name.size()}, View{wanted.data(), wanted.size()});
+}
 
 // The parser checks the grammar and hands over views; only what Request names is kept.
 class Parser : public http::basic_parser<true> {
@@ -38,32 +46,28 @@ class Parser : public http::basic_parser<true> {
     kept = value;
   }
 
-  void keepUnknown(std::string_view name, std::string_view value) {
-    if (iequals(name, "Sec-Fetch-Site")) request_.fetchSite = value;
-    if (iequals(name, "X-Forwarded-For")) request_.forwardedFor = value;
-    const bool saysPurpose = iequals(name, "Sec-Purpose") || iequals(name, "Purpose") || iequals(name, "X-Purpose") ||
-                             iequals(name, "X-Moz");
-    if (saysPurpose && (value.starts_with("pre"))) request_.isPrefetch = true;  // prefetch, prerender, preview
+  void keep(std::string_view name, std::string_view value, error_code& error) {
+    if (isNamed(name, "Host")) return keepOnce(request_.host, value, error);
+    if (isNamed(name, "Origin")) return keepOnce(request_.origin, value, error);
+    if (isNamed(name, "Transfer-Encoding")) hasTransferEncoding_ = true;
+    if (isNamed(name, "Sec-Fetch-Site")) request_.fetchSite = value;
+    if (isNamed(name, "X-Forwarded-For")) request_.forwardedFor = value;
+    const bool saysPurpose = isNamed(name, "Sec-Purpose") || isNamed(name, "Purpose") || isNamed(name, "X-Purpose") ||
+                             isNamed(name, "X-Moz");
+    if (saysPurpose && value.starts_with("pre")) request_.isPrefetch = true;  // prefetch, prerender, preview
   }
 
-  void on_request_impl(http::verb method, std::string_view name, std::string_view target, int version,
-                       error_code&) override {
-    if (method == http::verb::get) request_.method = Method::get;
-    if (method == http::verb::head) request_.method = Method::head;
-    request_.methodName = name;
-    request_.target = target;
+  void on_request_impl(http::verb, View name, View target, int version, error_code&) override {
+    request_.methodName = standard(name);
+    if (request_.methodName == "GET") request_.method = Method::get;
+    if (request_.methodName == "HEAD") request_.method = Method::head;
+    request_.target = standard(target);
     request_.isHttp11 = version == 11;
   }
 
-  void on_field_impl(http::field field, std::string_view name, std::string_view value, error_code& error) override {
-    if (!isInPlace(value)) {
-      error = http::error::bad_value;
-      return;
-    }
-    if (field == http::field::host) return keepOnce(request_.host, value, error);
-    if (field == http::field::origin) return keepOnce(request_.origin, value, error);
-    if (field == http::field::transfer_encoding) hasTransferEncoding_ = true;
-    if (field == http::field::unknown) keepUnknown(name, value);
+  void on_field_impl(http::field, View name, View value, error_code& error) override {
+    if (isInPlace(standard(value))) return keep(standard(name), standard(value), error);
+    error = http::error::bad_value;
   }
 
   void on_header_impl(error_code& error) override {
@@ -71,11 +75,11 @@ class Parser : public http::basic_parser<true> {
     if (request_.isHttp11 && request_.host.empty()) error = http::error::bad_field;
   }
 
-  void on_response_impl(int, std::string_view, int, error_code&) override {}
+  void on_response_impl(int, View, int, error_code&) override {}
   void on_body_init_impl(const boost::optional<std::uint64_t>&, error_code&) override {}
-  std::size_t on_body_impl(std::string_view body, error_code&) override { return body.size(); }
-  void on_chunk_header_impl(std::uint64_t, std::string_view, error_code&) override {}
-  std::size_t on_chunk_body_impl(std::uint64_t, std::string_view body, error_code&) override { return body.size(); }
+  std::size_t on_body_impl(View body, error_code&) override { return body.size(); }
+  void on_chunk_header_impl(std::uint64_t, View, error_code&) override {}
+  std::size_t on_chunk_body_impl(std::uint64_t, View body, error_code&) override { return body.size(); }
   void on_finish_impl(error_code&) override {}
 
   std::string_view bytes_;

@@ -83,6 +83,20 @@ TEST(ReadRequest, keepsWhatTheServerAsksAbout) {
   EXPECT_FALSE(request.keepAlive);
 }
 
+// Also those that some release of the library has a name of its own for.
+TEST(ReadRequest, findsWhatProtectsByItsName) {
+  const auto reading = [](const std::string& header) {
+    const auto result = readRequest(get("Host: a\r\n" + header + "\r\n"));
+    EXPECT_EQ(result.state, State::complete) << header;
+    return result.request;
+  };
+  EXPECT_EQ(reading("Sec-Fetch-Site: cross-site").fetchSite.size(), 10U);
+  EXPECT_EQ(reading("X-Forwarded-For: 192.0.2.1").forwardedFor.size(), 9U);
+  for (const std::string name : {"Sec-Purpose", "Purpose", "X-Purpose", "X-Moz", "sec-purpose"})
+    EXPECT_TRUE(reading(name + ": prefetch").isPrefetch) << name;
+  EXPECT_FALSE(reading("Purposes: prefetch").isPrefetch);
+}
+
 TEST(ReadRequest, forgetsBlankLinesOfARequestThatHasNotCome) { EXPECT_EQ(readRequest("\r\n\r\n").consumed, 4U); }
 
 }  // namespace
