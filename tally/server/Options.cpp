@@ -9,6 +9,7 @@
 #include <stdexcept>
 
 #include "tally/net/Asio.h"
+#include "tally/server/Versions.h"
 
 namespace mivo::tally {
 namespace {
@@ -100,6 +101,14 @@ void addVariables(CLI::App& app) {
   }
 }
 
+// Some releases of the parser pass over a variable whose value they refuse: read as a flag it is refused aloud.
+void checkVariables(CLI::App& app) {
+  for (const auto* option : app.get_options()) {
+    const auto value = option->count() == 0 ? variable(option->get_envname().c_str()) : std::string{};
+    if (!value.empty()) app.parse(std::vector<std::string>{"--" + option->get_lnames().front() + '=' + value});
+  }
+}
+
 ServeOptions finished(ServeOptions options, const Texts& texts) {
   const auto listen = parseEndpoint(texts.listen);
   if (!listen)
@@ -110,6 +119,11 @@ ServeOptions finished(ServeOptions options, const Texts& texts) {
   options.idleTime = std::chrono::seconds{texts.idleSeconds};
   check(options);
   return options;
+}
+
+Exit told(const std::string& text) {
+  std::cout << text;
+  return Exit{};
 }
 
 }  // namespace
@@ -124,6 +138,10 @@ Command parseCommandLine(int argc, const char* const* argv) {
       "Without a command it serves; without flags, on this machine alone, into a SQLite file."};
   addFlags(app, serve, texts);
   addVariables(app);
+  bool tellsVersion = false;
+  bool tellsLibraries = false;
+  app.add_flag("--version", tellsVersion, "Name the version and end");
+  app.add_flag("--verbose", tellsLibraries, "With --version: the libraries' versions too");
   auto* exporting = app.add_subcommand("export", "Write every counter of --store, one JSON object a line");
   exporting->fallthrough()->add_option("--to", exported.to, "Where to; standard output without it")->type_name("FILE");
   auto* importing = app.add_subcommand("import", "Bring counters that export wrote into --store");
@@ -135,6 +153,8 @@ Command parseCommandLine(int argc, const char* const* argv) {
       "  mivo-tally import --store redis://localhost/0 counters.jsonl");
   try {
     app.parse(argc, argv);
+    if (tellsVersion) return told(versionText(tellsLibraries));
+    checkVariables(app);
     if (exporting->parsed()) return ExportOptions{parseStoreAddress(texts.store), exported.to};
     if (importing->parsed()) return ImportOptions{parseStoreAddress(texts.store), imported.from, imported.replace};
     return finished(serve, texts);

@@ -57,10 +57,49 @@ INSTANTIATE_TEST_SUITE_P(
             "redisAway", {"export", "--store", "redis://127.0.0.1:1"}, 1, "redis://127.0.0.1:1/0: Connection refused"}),
     [](const auto& row) { return std::string{row.param.name}; });
 
-TEST(MivoTally, readsItsFlagsFromTheEnvironmentToo) {
-  ChildProcess process{{"env", "MIVO_TALLY_REQUEST_SECONDS=0", tallyProgram(), "--store", "redis://127.0.0.1:1"}};
-  EXPECT_EQ(process.wait(), 2);
-  EXPECT_THAT(process.output(), testing::HasSubstr("--request-seconds"));
+struct VariableRow {
+  const char* flag;
+  const char* variable;
+  const char* value;
+};
+void PrintTo(const VariableRow& row, std::ostream* out) { *out << row.variable; }
+
+class Variables : public testing::TestWithParam<VariableRow> {};
+
+TEST_P(Variables, areRefusedAsFlagsAre) {
+  const auto& [flag, variable, value] = GetParam();
+  ChildProcess fromFlag{{tallyProgram(), "--store=redis://127.0.0.1:1", std::string{flag} + '=' + value}};
+  ChildProcess fromVariable{
+      {"env", "MIVO_TALLY_STORE=redis://127.0.0.1:1", std::string{variable} + '=' + value, tallyProgram()}};
+  EXPECT_EQ(fromFlag.wait(), 2);
+  EXPECT_EQ(fromVariable.wait(), 2);
+  EXPECT_THAT(fromFlag.output(), testing::HasSubstr(flag));
+  EXPECT_THAT(fromVariable.output(), testing::HasSubstr(flag));
+}
+
+INSTANTIATE_TEST_SUITE_P(Rows, Variables,
+                         testing::Values(VariableRow{"--listen", "MIVO_TALLY_LISTEN", "8787"},
+                                         VariableRow{"--store", "MIVO_TALLY_STORE", "mysql://h"},
+                                         VariableRow{"--certificate", "MIVO_TALLY_CERTIFICATE", "c.pem"},
+                                         VariableRow{"--key", "MIVO_TALLY_KEY", "k.pem"},
+                                         VariableRow{"--allow-plain-http", "MIVO_TALLY_ALLOW_PLAIN_HTTP", "maybe"},
+                                         VariableRow{"--votes-per-minute", "MIVO_TALLY_VOTES_PER_MINUTE", "-1"},
+                                         VariableRow{"--trust-forwarded-for", "MIVO_TALLY_TRUST_FORWARDED_FOR",
+                                                     "maybe"},
+                                         VariableRow{"--log-addresses", "MIVO_TALLY_LOG_ADDRESSES", "maybe"},
+                                         VariableRow{"--request-seconds", "MIVO_TALLY_REQUEST_SECONDS", "0"},
+                                         VariableRow{"--idle-seconds", "MIVO_TALLY_IDLE_SECONDS", "3601"},
+                                         VariableRow{"--max-connections", "MIVO_TALLY_MAX_CONNECTIONS", "0"}),
+                         [](const auto& row) { return std::string{row.param.variable}; });
+
+TEST(MivoTally, namesItsVersionAndThoseOfItsLibraries) {
+  ChildProcess plain{{tallyProgram(), "--version"}};
+  EXPECT_EQ(plain.wait(), 0);
+  EXPECT_THAT(plain.output(), testing::MatchesRegex("mivo-tally [0-9]+\\.[0-9]+\\.[0-9]+\n"));
+  ChildProcess verbose{{tallyProgram(), "--version", "--verbose"}};
+  EXPECT_EQ(verbose.wait(), 0);
+  for (const auto* library : {"Boost 1.", "CLI11 2.", "hiredis ", "JSON for Modern C++ 3.", "OpenSSL 3.", "SQLite 3."})
+    EXPECT_THAT(verbose.output(), testing::HasSubstr(library));
 }
 
 TEST(MivoTally, exportsWhileItServesAndImportsAfterwards) {
