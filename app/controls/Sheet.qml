@@ -14,6 +14,9 @@ T.Popup {
 
     readonly property bool wide: parent && parent.width >= Theme.twoColumnsWidth
     readonly property real roomAbove: 48
+    /// From 0, where it stands open, to 1, where nothing of it is seen. Its place stays bound to the window's size.
+    property real away: 0
+    readonly property bool fades: wide || Theme.reducedMotion
     /// What had the keys before it opened gets them back, where nothing else has taken them.
     property Item before: null
 
@@ -33,7 +36,8 @@ T.Popup {
     height: Math.min(implicitHeight, parent ? parent.height - (wide ? 48 : roomAbove) : implicitHeight)
     implicitHeight: flick.contentHeight + head.height + 20 + (wide ? 24 : 20)
     x: parent ? (parent.width - width) / 2 : 0
-    y: parent ? (wide ? (parent.height - height) / 2 : parent.height - height) : 0
+    y: parent ? (wide ? (parent.height - height) / 2 : parent.height - height * (fades ? 1 : 1 - away)) : 0
+    opacity: fades ? 1 - away : 1
     closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutside
 
     T.Overlay.modal: Rectangle {
@@ -46,16 +50,17 @@ T.Popup {
 
     enter: Transition {
         NumberAnimation {
-            property: root.wide || Theme.reducedMotion ? "opacity" : "y"
-            from: root.wide || Theme.reducedMotion ? 0 : root.parent.height
+            property: "away"
+            from: 1
+            to: 0
             duration: Theme.reducedMotion ? 80 : Theme.sheetDuration
             easing.type: Easing.OutCubic
         }
     }
     exit: Transition {
         NumberAnimation {
-            property: root.wide || Theme.reducedMotion ? "opacity" : "y"
-            to: root.wide || Theme.reducedMotion ? 0 : root.parent.height
+            property: "away"
+            to: 1
             duration: Theme.reducedMotion ? 80 : Theme.sheetDuration
             easing.type: Easing.OutCubic
         }

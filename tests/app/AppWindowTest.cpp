@@ -15,6 +15,10 @@ namespace {
 constexpr const char* overlappingFasts =
     R"({"version":1,"fasts":[{"start":"2026-02-25T19:00:00Z","end":"2026-02-26T12:00:00Z"},
                              {"start":"2026-02-26T11:00:00Z","end":"2026-02-27T03:00:00Z"}],"weights":[]})";
+constexpr const char* somethingForEverySheet =
+    R"({"version":1,"fasts":[{"start":"2026-02-25T19:00:00Z","end":"2026-02-26T12:00:00Z"},
+                             {"start":"2026-02-26T11:00:00Z","end":"2026-02-27T03:00:00Z"},
+                             {"start":"2026-03-01T03:00:00Z","end":null}],"weights":[]})";
 
 /// A window high enough for the whole column.
 struct Shown : ShownApp {
@@ -42,6 +46,37 @@ TEST(AppWindow, movesNothingAfterItsFirstFrame) {
     settle(*app.window());
     EXPECT_EQ(first, app.window()->grabWindow()) << size.width() << " points wide";
   }
+}
+
+/// The sheet that is open, where all of it can be seen.
+const QQuickItem* wholeSheet(ShownApp& shown) {
+  const QQuickItem* sheet =
+      shown.find([](const QQuickItem* item) { return item->inherits("QQuickPopupItem") && item->height() > 0; });
+  const QRectF window{QPointF{}, QSizeF{shown.window().size()}};
+  const bool isWhole =
+      sheet && sheet->opacity() == 1 && window.contains(sheet->mapRectToScene({QPointF{}, sheet->size()}));
+  return isWhole ? sheet : nullptr;
+}
+
+TEST(AppWindow, opensEverySheetAsOftenAsItIsWantedWhileThingsMove) {
+  const tests::TemporaryFolder folder;
+  const std::string sample = (folder.path / "sample.json").string();
+  std::ofstream{sample} << somethingForEverySheet;
+  Options options = ShownApp::optionsFor(sample);
+  options.picture.clear();
+  ShownApp shown{options};
+  const auto present = [&shown](const char* screen) {
+    QMetaObject::invokeMethod(&shown.window(), "present", Q_ARG(QString, QString::fromLatin1(screen)));
+  };
+  for (const char* sheet :
+       {"editFast", "addFast", "fastGoal", "fastStart", "fastMenu", "defaultGoal", "weightUnit", "firstWeekday",
+        "language", "appearance", "feedback", "donations", "overlaps", "goalWeight", "date", "table"})
+    for (const char* time : {" first", " again"}) {
+      present(sheet);
+      EXPECT_TRUE(eventually([&] { return wholeSheet(shown) != nullptr; })) << sheet << time;
+      present("");
+      EXPECT_TRUE(eventually([&] { return shown.ofType("QQuickPopupItem") == nullptr; })) << sheet << time;
+    }
 }
 
 TEST(AppWindow, choosesTheRangeByClickAndByKey) {
