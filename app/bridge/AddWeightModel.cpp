@@ -11,8 +11,10 @@ AddWeightModel::AddWeightModel(AddWeightLogFeature::State initial, std::function
     : QObject{parent}, held{std::move(initial)}, send{std::move(sends)} {}
 
 void AddWeightModel::follow(const AddWeightLogFeature::State& newer) {
-  const bool isOther = !(held == newer);
+  // A date that was chosen is of yesterday after midnight.
+  const bool isOther = !(held == newer) || dateText() != shownDate;
   held = newer;
+  shownDate = dateText();
   if (isOther) Q_EMIT changed();
 }
 

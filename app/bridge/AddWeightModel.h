@@ -48,6 +48,7 @@ class AddWeightModel : public QObject {
 
  private:
   AddWeightLogFeature::State held;
+  QString shownDate;
   std::function<void(Action)> send;
 };
 

@@ -206,6 +206,8 @@ QString AppModel::undoText() const {
       return qString(texts->text("Fast deleted"));
     case host::AppFeature::Step::stop:
       return qString(texts->text("Fast ended"));
+    case host::AppFeature::Step::addWeight:
+      return qString(texts->text("Weight saved"));
     case host::AppFeature::Step::removeWeight:
       return qString(texts->text("Weight deleted"));
     default:

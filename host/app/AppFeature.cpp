@@ -6,6 +6,7 @@
 
 #include "host/app/FaultText.h"
 #include "host/app/Settings.h"
+#include "host/fasting/SameWeight.h"
 #include "host/overlaps/OverlapRepair.h"
 #include "mivo/calculations/StatsContainer.h"
 #include "mivo/store/Reducers.h"
@@ -28,10 +29,10 @@ void take(State& state, std::vector<FastRecord> fasts, std::vector<BodyWeightSam
   state.weights = List<BodyWeightSample>{std::move(weights)};
 }
 
-// What takes records away is worth an offer, and so is the stop, since no edit makes a fast run on; the rest can be
-// edited where it stands.
+// What takes records away is worth an offer, and so are the stop, since no edit makes a fast run on, and a weight,
+// which is not seen where it was typed in; the rest can be edited where it stands.
 bool offersUndo(Step step) {
-  return step == Step::stop || step == Step::remove || step == Step::removeWeight || step == Step::repairOverlaps;
+  return step != Step::start && step != Step::edit && step != Step::add && step != Step::undo;
 }
 
 }  // namespace
@@ -60,7 +61,6 @@ auto AppFeature::on(State& state, const Action::statistics& sent) const -> Effec
   using Sent = StatisticsFeature::Action;
   if (std::holds_alternative<Sent::onAppear>(sent.action)) {
     takeSettings(state);
-    state.statistics.addWeightLogState.logDate = date->now();
     recompute(state);
   } else if (std::holds_alternative<Sent::binding>(sent.action)) {
     recompute(state);
@@ -212,9 +212,15 @@ void AppFeature::takeSettings(State& state) const {
 }
 
 // The add-weight card is told of the outcome too: it shows it.
-auto AppFeature::saveWeight(const State& state) const -> Effect<Action> {
-  const auto& pending = *state.statistics.addWeightLogState.pendingSample;
+auto AppFeature::saveWeight(State& state) const -> Effect<Action> {
+  const auto& card = state.statistics.addWeightLogState;
+  const std::optional<BodyWeightSample> pending = card.pendingSample;
   if (!pending) return {};
+  if (sameWeight(*state.weights, *pending, card.weightUnit, *masses)) {
+    state.failure = texts->text("This weight is saved already.");
+    return reduce(state, Action::statistics{
+                             StatisticsFeature::Action::addWeightLogAction{AddWeightLogFeature::Action::didSave{}}});
+  }
   return Effect<Action>::run(
       [](const Send<Action>& send, std::stop_token, const Client<HistoryClient>& client,
          const Client<TextLookup>& lookup, const HistoryChange& written) {
@@ -272,6 +278,7 @@ void AppFeature::recompute(State& state) const {
   fresh.update(*screen.fasts, ongoing, screen.streakSettings, screen.timeRange);
   screen.updateFastingChart(fresh);
   screen.updateWeightChart(StatsContainer::update(*state.weights));
+  if (!screen.addWeightLogState.isDateChosen) screen.addWeightLogState.logDate = present;
   state.now = present;
 }
 

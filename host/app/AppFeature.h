@@ -128,6 +128,7 @@ struct AppFeature {
   Client<UUIDGenerator> uuid = dependency(&Dependencies::uuid);
   Client<UserDefaults> userDefaults = dependency(&Dependencies::userDefaults);
   Client<TextLookup> texts = dependency(&Dependencies::texts);
+  Client<MassFormatter> masses = dependency(&Dependencies::massFormatter);
   StatisticsFeature statistics = {};
 
   Effect<Action> reduce(State& state, const Action& action) const;
@@ -151,7 +152,7 @@ struct AppFeature {
   Effect<Action> on(State& state, const Action::didDismissMessages& sent) const;
   Effect<Action> on(State& state, const Action::didWrite& sent) const;
   void takeSettings(State& state) const;
-  Effect<Action> saveWeight(const State& state) const;
+  Effect<Action> saveWeight(State& state) const;
   Effect<Action> write(Step step, HistoryChange change) const;
   std::optional<std::string> refusal(const State& state, const FastRecord& record,
                                      const std::optional<FastRecord>& before = {}) const;

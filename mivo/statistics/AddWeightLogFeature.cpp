@@ -49,7 +49,9 @@ std::optional<Feature::Problem> problemOf(const State& state, Date now) {
 
 void didTapSave(const Feature& feature, State& state) {
   if (state.savingState == Feature::SavingState::saving) return;
-  state.problem = problemOf(state, feature.date->now());
+  const Date now = feature.date->now();
+  if (!state.isDateChosen) state.logDate = now;
+  state.problem = problemOf(state, now);
   if (state.problem->has_value()) return;
   state.savingState = Feature::SavingState::saving;
   state.pendingSample = BodyWeightSample{feature.uuid->next(), state.logDate, state.weightInKg};
@@ -61,6 +63,7 @@ void didSave(State& state, Date now) {
   state.typedText = std::nullopt;
   state.failure = std::string{};
   state.logDate = now;  // for the next weighing
+  state.isDateChosen = false;
 }
 
 void didFail(State& state, const std::string& reason) {
@@ -77,6 +80,7 @@ auto AddWeightLogFeature::reduce(State& state, const Action& action) const -> Ef
   if (std::holds_alternative<Action::didTapDecrease>(action)) step(state, -1);
   if (const auto* changed = std::get_if<Action::didChangeDate>(&action)) {
     state.logDate = changed->date;
+    state.isDateChosen = true;
     edited(state);
   }
   if (const auto* changed = std::get_if<Action::didChangeUnit>(&action)) {

@@ -24,6 +24,7 @@ struct AddWeightLogFeature {
   struct State {
     Observed<double> weightInKg = 65.0;
     Observed<Date> logDate = dependency(&Dependencies::date)->now();
+    Observed<bool> isDateChosen = false;  ///< else `logDate` is the time of saving, which the host moves on until then
     Observed<SavingState> savingState = SavingState::notSaved;
     Observed<WeightUnit> weightUnit = WeightUnit::kilograms;
     Observed<std::optional<std::string>> typedText = std::nullopt;  ///< while it was not read as a weight yet
@@ -77,9 +78,11 @@ struct AddWeightLogFeature {
 
 template <RecordOf<AddWeightLogFeature::State> Listed, class Visit>
 void fields(Listed& record, Visit&& visit) {
-  auto& [weightInKg, logDate, savingState, weightUnit, typedText, problem, failure, pendingSample] = record;
+  auto& [weightInKg, logDate, isDateChosen, savingState, weightUnit, typedText, problem, failure, pendingSample] =
+      record;
   visit("weightInKg", weightInKg);
   visit("logDate", logDate);
+  visit("isDateChosen", isDateChosen);
   visit("savingState", savingState);
   visit("weightUnit", weightUnit);
   visit("typedText", typedText);

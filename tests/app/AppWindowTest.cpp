@@ -147,7 +147,7 @@ TEST(AppWindow, saysThatTheRoadmapCannotBeLoadedAndTriesAgain) {
   EXPECT_TRUE(eventually([&] { return shown.app.model().roadmap()->hasFailed(); }));
 }
 
-TEST(AppWindow, logsAWeight) {
+TEST(AppWindow, logsAWeightOnceAndTakesItBack) {
   Shown shown{threeWeeks};
   const auto before = shown.state().weights->size();
   QQuickItem* save = shown.button("Save");
@@ -155,6 +155,14 @@ TEST(AppWindow, logsAWeight) {
   shown.click(save);
   EXPECT_TRUE(eventually([&] { return shown.state().weights->size() == before + 1; }));
   EXPECT_EQ(shown.environment.history->load().weights.size(), before + 1) << "on disk";
+  settle(shown.window());
+  EXPECT_NE(shown.text("Weight saved"), nullptr);
+  shown.click("Save");
+  EXPECT_NE(shown.text("This weight is saved already."), nullptr);
+  shown.click("OK");
+  shown.click("Undo");
+  EXPECT_TRUE(eventually([&] { return shown.state().weights->size() == before; }));
+  EXPECT_EQ(shown.environment.history->load().weights.size(), before) << "on disk";
 }
 
 TEST(AppWindow, fixesOverlapsOnConfirmationAndUndoesIt) {

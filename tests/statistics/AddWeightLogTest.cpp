@@ -24,6 +24,13 @@ void saving(State& state) {
   state.pendingSample = BodyWeightSample{UUID{0, 1}, state.logDate, state.weightInKg};
 }
 
+auto chose(Date date) {
+  return [date](State& state) {
+    state.logDate = date;
+    state.isDateChosen = true;
+  };
+}
+
 TEST_F(AddWeightLog, handsAGoodEntryToTheHostAndIsReadyForTheNext) {
   store.send(Action::didChangeText{"81,4"}, [](State& state) {
     state.typedText = "81,4";
@@ -55,9 +62,36 @@ TEST_F(AddWeightLog, refusesWhatIsNoWeightAndKeepsTheText) {
   });
 }
 
+TEST_F(AddWeightLog, takesTheTimeOfSavingUnlessOneWasChosen) {
+  const auto wait = [this](double seconds) { world.clock->date = world.clock->date + Duration{seconds}; };
+  wait(240);
+  store.send(Action::didTapSave{}, [this](State& state) {
+    state.logDate = world.clock->now();
+    saving(state);
+  });
+  const auto saved = [this](State& state) {
+    state.savingState = Feature::SavingState::saved;
+    state.pendingSample = std::nullopt;
+    state.logDate = world.clock->now();
+    state.isDateChosen = false;
+  };
+  store.send(Action::didSave{}, saved);
+  const Date yesterday = world.clock->now() - Duration{secondsPerDay};
+  store.send(Action::didChangeDate{yesterday}, [&](State& state) {
+    chose(yesterday)(state);
+    state.savingState = Feature::SavingState::notSaved;
+  });
+  wait(240);
+  store.send(Action::didTapSave{}, [&](State& state) {
+    saving(state);
+    state.pendingSample = BodyWeightSample{UUID{0, 2}, yesterday, 65.0};
+  });
+  store.send(Action::didSave{}, saved);
+}
+
 TEST_F(AddWeightLog, refusesADateThatHasNotCome) {
   const Date tomorrow = world.clock->now() + Duration{secondsPerDay};
-  store.send(Action::didChangeDate{tomorrow}, [&](State& state) { state.logDate = tomorrow; });
+  store.send(Action::didChangeDate{tomorrow}, chose(tomorrow));
   store.send(Action::didTapSave{}, [](State& state) { state.problem = Feature::Problem::dateInFuture; });
 }
 

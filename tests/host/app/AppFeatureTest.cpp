@@ -115,6 +115,38 @@ TEST_F(AppFeatureTest, savesAWeightAndTellsItsCard) {
   EXPECT_EQ(*state().statistics.stats.currentWeightInKg, 72.4);
 }
 
+TEST_F(AppFeatureTest, offersToTakeASavedWeightBackAndWritesItOnce) {
+  const Action save = Action::statistics{Sent::addWeightLogAction{AddWeightLogFeature::Action::didTapSave{}}};
+  send(save);
+  ASSERT_TRUE(state().undo->has_value());
+  EXPECT_EQ((*state().undo)->step, AppFeature::Step::addWeight);
+  send(save);
+  EXPECT_EQ(*state().failure, "This weight is saved already.");
+  EXPECT_EQ(state().statistics.addWeightLogState.savingState, AddWeightLogFeature::SavingState::saved);
+  EXPECT_THAT(Database{file}.history().weights, SizeIs(1));
+  send(Action::didDismissMessages{});
+  send(Action::didTapUndo{});
+  EXPECT_THAT(Database{file}.history().weights, IsEmpty());
+  EXPECT_THAT(*state().weights, IsEmpty());
+}
+
+TEST_F(AppFeatureTest, showsTheTimeAsTheOneOfTheNextWeightUntilAnotherIsChosen) {
+  using Card = AddWeightLogFeature::Action;
+  const auto& card = state().statistics.addWeightLogState;
+  world.clock->date = at(4);
+  send(Action::recompute{});
+  EXPECT_EQ(*card.logDate, at(0));
+  const Date chosen = at(-2);
+  send(Action::statistics{Sent::addWeightLogAction{Card::didChangeDate{chosen}}});
+  world.clock->date = at(4);
+  send(Action::recompute{});
+  send(Action::statistics{Sent::onAppear{}});
+  EXPECT_EQ(*card.logDate, chosen);
+  send(Action::statistics{Sent::addWeightLogAction{Card::didTapSave{}}});
+  EXPECT_EQ(state().weights->front().date, chosen);
+  EXPECT_EQ(*card.logDate, at(0));
+}
+
 struct RefusedRow {
   const char* name;
   Action action;
