@@ -6,6 +6,7 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <cstdio>
 #include <cstdlib>
 #include <string>
 #include <system_error>
@@ -48,14 +49,24 @@ class Replacement {
     if (::stat(target.c_str(), &old) == 0 && ::fchmod(file.get(), old.st_mode & 07777) != 0) fail(target);
   }
 
-  void takePlace() {
-    if (::fsync(file.get()) != 0 || ::rename(name.c_str(), target.c_str()) != 0) fail(target);
+  void takePlace(Existing existing = Existing::replaced) {
+    if (::fsync(file.get()) != 0 || !isRenamed(existing)) fail(target);
     name.clear();
     const FileDescriptor folder{::open(target.parent_path().c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)};
     if (!folder || ::fsync(folder.get()) != 0) fail(target);
   }
 
  private:
+  bool isRenamed(Existing existing) const {
+    if (existing == Existing::replaced) return ::rename(name.c_str(), target.c_str()) == 0;
+    if (::renameat2(AT_FDCWD, name.c_str(), AT_FDCWD, target.c_str(), RENAME_NOREPLACE) == 0) return true;
+    if (errno != EINVAL && errno != ENOSYS) return false;
+    struct stat other{};  // a file system that cannot tell both at once
+    if (::lstat(target.c_str(), &other) != 0) return ::rename(name.c_str(), target.c_str()) == 0;
+    errno = EEXIST;
+    return false;
+  }
+
   const fs::path& target;
   std::string name;
   FileDescriptor file;
@@ -70,6 +81,13 @@ void writeAtomically(const fs::path& file, std::string_view content) {
   replacement.write(content);
   replacement.keepPermissions();
   replacement.takePlace();
+}
+
+void writePrivately(const fs::path& file, std::string_view content, Existing existing) {
+  const fs::path target = fs::weakly_canonical(fs::absolute(file));
+  Replacement replacement{target};
+  replacement.write(content);
+  replacement.takePlace(existing);
 }
 
 }  // namespace mivo::adapters

@@ -13,4 +13,11 @@ namespace mivo::adapters {
 /// Errors: std::system_error whose text names the file; the old file is then as it was. Thread: any.
 void writeAtomically(const std::filesystem::path& file, std::string_view content);
 
+/// Whether a file that is there already may be replaced.
+enum class Existing { replaced, refused };
+
+/// The same for a file that nobody but its owner may read, whatever was there before. No folder is made. Where a file
+/// is there and may not be replaced, the code of the error is `std::errc::file_exists`.
+void writePrivately(const std::filesystem::path& file, std::string_view content, Existing existing);
+
 }  // namespace mivo::adapters

@@ -114,9 +114,8 @@ std::string remove(const RecordRun& run) {
 std::string list(const RecordRun& run) {
   const auto asJson = readFormat(run.options.format);
   if (!asJson) throw Refused{wrongUsage, asJson.error()};
-  host::History history = run.history();
-  history.weights.clear();
-  return *asJson ? writeSnapshot(history) : fastTable(history.fasts, run);
+  const auto fasts = run.history().fasts;
+  return *asJson ? host::writeFasts(fasts) : fastTable(fasts, run);
 }
 
 }  // namespace

@@ -15,6 +15,7 @@ int runAdd(const RecordOptions& options);
 int runEdit(const RecordOptions& options);
 int runRemove(const RecordOptions& options);
 int runList(const RecordOptions& options);
+int runExport(const RecordOptions& options);
 int runWeightAdd(const RecordOptions& options);
 int runWeightList(const RecordOptions& options);
 int runWeightRemove(const RecordOptions& options);

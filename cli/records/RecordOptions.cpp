@@ -14,6 +14,7 @@ constexpr const char* fastExamples = R"(Examples:
   mivo edit 3f9a --end 2026-02-28T12:30:00+01:00
   mivo remove 3f9a
   mivo list
+  mivo export --to backup.json
 
 A date without an offset is in --time-zone. An ID is what mivo list shows, or more of it.
 
@@ -100,6 +101,11 @@ void addFastCommands(Commands& to) {
   to.goalAndNote(edit, "How long it was meant to be");
   to.id(to.add("remove", "Remove a fast", runRemove));
   to.format(to.add("list", "List the fasts, the latest last", runList));
+  CLI::App& all = to.add("export", "Write all fasts and weights into a file", runExport);
+  all.add_option("--to", options.to, "A snapshot, which mivo report --input reads; - for standard output")
+      ->type_name("FILE.json")
+      ->required();
+  all.add_flag("--force", options.isForced, "Replace a file that is there already");
 }
 
 void addWeightCommands(CLI::App& program, Commands& to) {

@@ -10,9 +10,9 @@ namespace mivo::cli {
 
 /// What stands after a command that keeps the history, as it was typed; empty or missing where it was not.
 struct RecordOptions {
-  std::string id, weight;
+  std::string id, weight, to;
   std::optional<std::string> at, start, end, goalHours, note;
-  bool isRunning = false;
+  bool isRunning = false, isForced = false;
   std::string database, locale, timeZone, format = "text";
 };
 

@@ -42,9 +42,8 @@ std::string remove(const RecordRun& run) {
 std::string list(const RecordRun& run) {
   const auto asJson = readFormat(run.options.format);
   if (!asJson) throw Refused{wrongUsage, asJson.error()};
-  host::History history = run.history();
-  history.fasts.clear();
-  return *asJson ? writeSnapshot(history) : weightTable(history.weights, run);
+  const auto weights = run.history().weights;
+  return *asJson ? host::writeWeights(weights) : weightTable(weights, run);
 }
 
 }  // namespace

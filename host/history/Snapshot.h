@@ -4,6 +4,7 @@
 #include <string>
 #include <string_view>
 #include <tl/expected.hpp>
+#include <vector>
 
 #include "host/history/History.h"
 #include "mivo/platform/UUIDGenerator.h"
@@ -24,5 +25,9 @@ tl::expected<History, BadRecord> readSnapshot(std::string_view text, const std::
 
 /// A history as a snapshot, a record a line. It reads back to the last bit.
 std::string writeSnapshot(const History& history);
+
+/// The fasts or the weights alone: a snapshot without the other list, since what is left out is not meant to be empty.
+std::string writeFasts(const std::vector<FastRecord>& fasts);
+std::string writeWeights(const std::vector<BodyWeightSample>& weights);
 
 }  // namespace mivo::host

@@ -33,17 +33,31 @@ void writeLines(JsonWriter& json, std::string_view key, const std::vector<Record
   json.endArray();
 }
 
-}  // namespace
-
-std::string writeSnapshot(const History& history) {
+std::string snapshotOf(auto&& writeLists) {
   JsonWriter json;
   json.beginObject(JsonWriter::Layout::spread);
   json.key("version");
   json.number(std::int64_t{1});
-  writeLines(json, "fasts", history.fasts);
-  writeLines(json, "weights", history.weights);
+  writeLists(json);
   json.endObject();
   return std::move(json).text();
+}
+
+}  // namespace
+
+std::string writeSnapshot(const History& history) {
+  return snapshotOf([&](JsonWriter& json) {
+    writeLines(json, "fasts", history.fasts);
+    writeLines(json, "weights", history.weights);
+  });
+}
+
+std::string writeFasts(const std::vector<FastRecord>& fasts) {
+  return snapshotOf([&](JsonWriter& json) { writeLines(json, "fasts", fasts); });
+}
+
+std::string writeWeights(const std::vector<BodyWeightSample>& weights) {
+  return snapshotOf([&](JsonWriter& json) { writeLines(json, "weights", weights); });
 }
 
 }  // namespace mivo::host

@@ -55,7 +55,7 @@ TEST(RecordList, fits80ColumnsInEveryLanguage) {
     }
 }
 
-TEST(RecordList, isASnapshotInJson) {
+TEST(RecordList, isASnapshotOfItsOwnListInJson) {
   EXPECT_EQ(list("list --format json").output,
             R"({
   "version": 1,
@@ -63,11 +63,18 @@ TEST(RecordList, isASnapshotInJson) {
     {"id": "1A000000-0000-4000-0000-000000000001", "start": "2026-02-27T20:00:00Z", "end": "2026-02-28T12:00:00Z", "goalSeconds": 57600, "note": "no breakfast"},
     {"id": "1B000000-0000-4000-0000-000000000002", "start": "2026-02-28T11:00:00Z", "end": "2026-03-04T20:45:00Z", "goalSeconds": 64800, "note": "two\u000alines"},
     {"id": "1C000000-0000-4000-0000-000000000003", "start": "2026-03-09T20:00:00Z", "end": null, "goalSeconds": 59400, "note": "今日は朝ごはんを食べなかったので、少しお腹が空いた"}
-  ],
-  "weights": []
+  ]
 }
 )");
-  EXPECT_NE(list("weight list --format json").output.find("\"weightInKg\": 101.25"), std::string::npos);
+  EXPECT_EQ(list("weight list --format json").output,
+            R"({
+  "version": 1,
+  "weights": [
+    {"id": "2A000000-0000-4000-0000-000000000004", "date": "2026-02-27T20:00:00Z", "weightInKg": 81.4},
+    {"id": "2B000000-0000-4000-0000-000000000005", "date": "2026-02-28T20:00:00Z", "weightInKg": 101.25}
+  ]
+}
+)");
 }
 
 }  // namespace

@@ -1,0 +1,95 @@
+// SPDX-License-Identifier: MIT
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+#include "adapters/system/LocalUUIDGenerator.h"
+#include "host/database/Database.h"
+#include "host/history/Snapshot.h"
+#include "host/text/TextFile.h"
+#include "tests/cli_support/MivoProcess.h"
+
+namespace mivo::cli {
+namespace {
+
+namespace fs = std::filesystem;
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+constexpr int badData = 1, wrongUsage = 2;
+
+class Export : public testing::Test {
+ protected:
+  Export() {
+    const Date start = dateSince1970(1772222400.125);
+    host::HistoryChange records;
+    records.addedFasts = {{finishedFast({1, 1}, start, start + Duration{57600}, 57600), "tea"},
+                          {ongoingFast({1, 2}, start + Duration{86400}, 59400), ""}};
+    records.addedWeights = {{{2, 3}, start, 81.4}};
+    host::Database{place.file("d")}.apply(records);
+  }
+
+  std::string contents(const char* file) const { return host::readTextFile(place.file(file).string()).value(); }
+
+  std::vector<std::string> names() const {
+    std::vector<std::string> all;
+    for (const auto& entry : fs::directory_iterator{place.file("")})
+      if (const auto name = entry.path().filename().string(); name.find(".json") != name.npos) all.push_back(name);
+    return all;
+  }
+
+  Workplace place;
+};
+
+TEST_F(Export, writesAllThatReadsBackForItsOwnerOnly) {
+  const Ran ran = place.run("export --to backup.json --database d");
+  EXPECT_EQ(ran.status, 0) << ran.errors;
+  EXPECT_EQ(ran.output, "Exported to backup.json: 2 fasts, 1 weight\n");
+  const auto read = host::readSnapshot(contents("backup.json"), "backup.json", adapters::LocalUUIDGenerator{});
+  EXPECT_EQ(read.value(), host::Database{place.file("d")}.history());
+  EXPECT_EQ(fs::status(place.file("backup.json")).permissions(), fs::perms::owner_read | fs::perms::owner_write);
+  EXPECT_EQ(place.run("export --to - --database d").output, contents("backup.json"));
+}
+
+TEST_F(Export, replacesAFileOnlyWhenForced) {
+  place.write("backup.JSON", "older");
+  const Ran refused = place.run("export --to backup.JSON --database d");
+  EXPECT_EQ(refused.status, badData);
+  EXPECT_EQ(refused.errors,
+            "mivo: backup.JSON: the file is there already: expected another name, or --force to replace it\n");
+  EXPECT_EQ(contents("backup.JSON"), "older");
+  fs::permissions(place.file("backup.JSON"), fs::perms::all);
+  EXPECT_EQ(place.run("export --force --to backup.JSON --database d").status, 0);
+  EXPECT_THAT(contents("backup.JSON"), HasSubstr("\"note\": \"tea\""));
+  EXPECT_EQ(fs::status(place.file("backup.JSON")).permissions(), fs::perms::owner_read | fs::perms::owner_write);
+}
+
+struct RefusedExport {
+  const char* name;
+  std::string arguments, error;
+  int status = badData;
+};
+
+TEST_F(Export, leavesNothingBehindWhereItIsRefused) {
+  fs::create_directory(place.file("folder.json"));
+  for (const RefusedExport& row : {
+           RefusedExport{"otherForm", "--to backup.csv --database d",
+                         "--to: expected a file whose name ends in .json, or -, found \"backup.csv\"", wrongUsage},
+           RefusedExport{"noTarget", "--database d", "--to is required", wrongUsage},
+           RefusedExport{"noFolder", "--to none/backup.json --database d",
+                         "none/backup.json: could not be written: No such file or directory"},
+           RefusedExport{"folder", "--force --to folder.json --database d",
+                         "folder.json: expected a file, or no such name yet"},
+           RefusedExport{"noDatabase", "--to backup.json --database none", "none: expected a database of the app"},
+       }) {
+    const Ran ran = place.run("export " + row.arguments);
+    EXPECT_EQ(ran.status, row.status) << row.name;
+    EXPECT_THAT(ran.errors, HasSubstr(row.error)) << row.name;
+    EXPECT_THAT(ran.output, IsEmpty()) << row.name;
+    EXPECT_THAT(names(), testing::ElementsAre("folder.json")) << row.name;
+  }
+}
+
+}  // namespace
+}  // namespace mivo::cli
