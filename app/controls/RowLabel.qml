@@ -11,19 +11,11 @@ Item {
     property string iconName
     property string accent
     readonly property real indent: iconName !== "" ? icon.width + 12 : accent !== "" ? swatch.width + 12 : 0
-    /// Whether a word of the name is too long to stand beside the icon, so that the name goes below it.
-    readonly property bool stacked: indent > 0 && longestWord.advanceWidth > width - indent
     /// What it needs to stand in one line, without the quieter word and with it.
     readonly property real nameWidth: indent + label.implicitWidth
     readonly property real wholeWidth: nameWidth + (detail === "" ? 0 : words.spacing + detailText.implicitWidth)
 
-    implicitHeight: words.y + words.height
-
-    TextMetrics {
-        id: longestWord
-        font: label.font
-        text: root.text.split(" ").reduce((longest, word) => word.length > longest.length ? word : longest)
-    }
+    implicitHeight: words.height
 
     Icon {
         id: icon
@@ -47,9 +39,8 @@ Item {
     Flow {
         id: words
         anchors.left: parent.left
-        anchors.leftMargin: root.stacked ? 0 : root.indent
+        anchors.leftMargin: root.indent
         anchors.right: parent.right
-        y: root.stacked ? Theme.bodyText.line * Theme.textScale : 0
         spacing: 6
 
         StyledText {

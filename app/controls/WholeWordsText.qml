@@ -9,7 +9,10 @@ StyledText {
     required property real room
     property real mostScale: 2
 
-    scaleLimit: Math.min(mostScale, Math.max(1, room / longest.advanceWidth))
+    /// Sizes are whole pixels: one that is rounded up may no longer fit.
+    readonly property int mostSize: Math.floor(style.size * room / longest.advanceWidth)
+
+    scaleLimit: Math.min(mostScale, Math.max(1, mostSize / style.size))
 
     TextMetrics {
         id: longest
