@@ -3,7 +3,13 @@
 
 if command -v ccache > /dev/null; then export CMAKE_CXX_COMPILER_LAUNCHER=ccache; fi
 
-step() { printf '==> %s (at %d s)\n' "$*" "$SECONDS" >&2; }
+# step TEXT...: says what begins; took: how long the last one did.
+step_began=
+took() {
+    [ -z "$step_began" ] || printf '    took %d s\n' $((SECONDS - step_began)) >&2
+    step_began=$SECONDS
+}
+step() { took; printf '==> %s (at %d s)\n' "$*" "$SECONDS" >&2; }
 fail() { printf '%s: %s\n' "${0##*/}" "$*" >&2; exit 1; }
 
 # as_root COMMAND...: with sudo where we are not root.

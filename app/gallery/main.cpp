@@ -1,11 +1,16 @@
 // SPDX-License-Identifier: MIT
 // Draws every screen in every size, appearance, language and with every kind of history, or only measures them.
+#include <QtCore/QAbstractEventDispatcher>
+#include <QtCore/QAnimationDriver>
 #include <QtCore/QDeadlineTimer>
 #include <QtCore/QDir>
+#include <QtCore/QThread>
 #include <QtGui/QGuiApplication>
+#include <QtQuick/QQuickItem>
 #include <QtQuick/QQuickWindow>
 
 #include <CLI/CLI.hpp>
+#include <algorithm>
 #include <fstream>
 #include <iostream>
 
@@ -67,6 +72,7 @@ struct Wanted {
   std::string data = "data";
   std::string tally;  // a vote server that runs
   std::string only;   // what the name of a picture contains
+  int half = 0;       // 1 or 2 for every second history of each language
 };
 
 Options optionsFor(const Wanted& wanted, const History& history, const Language& language, const QDir& scratch) {
@@ -87,7 +93,22 @@ Options optionsFor(const Wanted& wanted, const History& history, const Language&
   return options;
 }
 
-struct Count {
+/// Takes every motion to its end in one step, whatever it lasts for users.
+class Motion : public QAnimationDriver {
+ public:
+  qint64 elapsed() const override { return now; }
+  void advance() override {
+    now += 10'000;  // ms, more than any lasts
+    advanceAnimation();
+  }
+
+ private:
+  qint64 now = 0;
+};
+
+struct Gallery {
+  const Wanted& wanted;
+  Motion& motion;
   int drawn = 0, faulty = 0;
 };
 
@@ -98,18 +119,40 @@ void awaitRoadmap(AppModel& app) {
     QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
 }
 
+bool isMakingItems(const QQuickItem* item) {
+  constexpr int loading = 2;
+  if (item->inherits("QQuickLoader") && item->property("status").toInt() == loading) return true;
+  return std::ranges::any_of(item->childItems(), isMakingItems);
+}
+
+/// Runs events until none is left, nothing moves and no item is still being made; a frame that was asked for is an
+/// event.
+void awaitFrames(const QQuickWindow& window, Motion& motion) {
+  const QDeadlineTimer deadline{5000};
+  QAbstractEventDispatcher& events = *QAbstractEventDispatcher::instance();
+  while (!deadline.hasExpired()) {
+    if (events.processEvents(QEventLoop::AllEvents)) continue;
+    if (!motion.isRunning() && !isMakingItems(window.contentItem())) return;
+    if (motion.isRunning())
+      motion.advance();
+    else
+      QThread::msleep(1);
+  }
+}
+
 /// Draws what a window shows, where that is wanted, and measures it.
-void drawAndMeasure(QQuickWindow& window, const QString& name, bool isColumn, const Wanted& wanted, Count& count) {
-  settle(window, 40);
-  if (!wanted.folder.empty())
-    window.grabWindow().save(QString::fromStdString(wanted.folder) + QLatin1Char{'/'} + name + QStringLiteral(".png"));
+void drawAndMeasure(QQuickWindow& window, const QString& name, bool isColumn, Gallery& gallery) {
+  awaitFrames(window, gallery.motion);
+  const std::string& folder = gallery.wanted.folder;
+  if (!folder.empty())
+    window.grabWindow().save(QString::fromStdString(folder) + QLatin1Char{'/'} + name + QStringLiteral(".png"));
   if (isColumn) window.setHeight(window.property("wholeHeight").toInt());
-  if (isColumn) settle(window, 40);
+  if (isColumn) awaitFrames(window, gallery.motion);
   for (const QString& fault : faultsOf(window)) {
     std::cout << name.toStdString() << ": " << fault.toStdString() << '\n';
-    ++count.faulty;
+    ++gallery.faulty;
   }
-  ++count.drawn;
+  ++gallery.drawn;
 }
 
 // In the dark only colours differ, so one language tells; large text is tried where words are longest.
@@ -117,6 +160,9 @@ bool isMeasured(const Look& look, const Language& language) {
   if (look.mode == Appearance::Mode::Dark) return &language == &languages[0];
   return look.textScale == 1 || &language == &languages[1];
 }
+
+// What these show is answered by another thread or a server.
+bool isAnsweredLater(std::string_view screen) { return screen == "roadmap" || screen == "donations"; }
 
 /// Each size and look that a window is to be seen in.
 template <class Draw>
@@ -134,56 +180,66 @@ QString nameOf(const char* screen, const Size& size, const Look& look, const Lan
 
 bool isWanted(const QString& name, const Wanted& wanted) { return name.contains(QString::fromStdString(wanted.only)); }
 
-void drawScreens(AppWindow& app, const Wanted& wanted, const Language& language, const History& history, Count& count) {
+void drawScreens(AppWindow& app, Gallery& gallery, const Language& language, const History& history) {
   QQuickWindow& window = *app.window();
-  inEachLook(wanted, language, [&](const Size& size, const Look& shown) {
+  inEachLook(gallery.wanted, language, [&](const Size& size, const Look& shown) {
     app.appearance().setOverride({.mode = shown.mode, .textScale = shown.textScale, .still = true});
     for (const char* screen : screens) {
       const QString name = nameOf(screen, size, shown, language, history.name);
-      if (!isWanted(name, wanted)) continue;
+      if (!isWanted(name, gallery.wanted)) continue;
       window.resize(size.size);
       QMetaObject::invokeMethod(&window, "present", Q_ARG(QString, QString::fromLatin1(screen)));
       awaitRoadmap(app.model());
-      drawAndMeasure(window, name, std::string_view{screen} == "statistics", wanted, count);
+      if (isAnsweredLater(screen)) settle(window, 40);
+      drawAndMeasure(window, name, std::string_view{screen} == "statistics", gallery);
     }
   });
 }
 
 /// What stands in for the app where it cannot start.
-void drawFault(const Wanted& wanted, const Language& language, Count& count) {
+void drawFault(Gallery& gallery, const Language& language) {
   const std::string sentence =
       filledIn(dependency(&Dependencies::texts)->text("{1} cannot be used: {2}"),
                {"/home/alexandra/.local/share/mivo/mivo.sqlite", "unable to open database file"});
   FaultWindow fault{sentence, [&] { return sentence; }};
   if (!fault.window()) throw std::runtime_error{"the window could not be made"};
-  inEachLook(wanted, language, [&](const Size& size, const Look& shown) {
+  inEachLook(gallery.wanted, language, [&](const Size& size, const Look& shown) {
     const QString name = nameOf("fault", size, shown, language, "none");
-    if (!isWanted(name, wanted)) return;
+    if (!isWanted(name, gallery.wanted)) return;
     fault.appearance().setOverride({.mode = shown.mode, .textScale = shown.textScale, .still = true});
     fault.window()->resize(size.size);
-    drawAndMeasure(*fault.window(), name, false, wanted, count);
+    drawAndMeasure(*fault.window(), name, false, gallery);
   });
 }
 
-int drawAll(const Wanted& wanted) {
+bool isInHalf(std::size_t number, const Wanted& wanted) {
+  return wanted.half == 0 || number % 2 == static_cast<std::size_t>(wanted.half - 1);
+}
+
+int drawAll(Gallery gallery) {
+  const Wanted& wanted = gallery.wanted;
   QDir scratch{QDir::temp().filePath(QStringLiteral("mivo-gallery-%1").arg(QCoreApplication::applicationPid()))};
   scratch.mkpath(QStringLiteral("."));
-  Count count;
-  for (const Language& language : languages)
+  std::size_t number = 0;
+  for (const Language& language : languages) {
+    ++number;  // so that neither half gets the longest history in every language
     for (const History& history : histories) {
+      if (!isInHalf(number++, wanted)) continue;
       const Options options = optionsFor(wanted, history, language, scratch);
       const auto environment = makeEnvironment(options);
       if (!environment) throw std::runtime_error{environment.error()};
       const DependencyScope scope{environment->dependencies};
       QGuiApplication::setLayoutDirection(language.mirrored ? Qt::RightToLeft : Qt::LeftToRight);
-      if (&history == &histories[0]) drawFault(wanted, language, count);
+      if (&history == &histories[0]) drawFault(gallery, language);
       AppWindow app{*environment, options, sizes[0].size};
       if (!app.window()) throw std::runtime_error{"the window could not be made"};
-      drawScreens(app, wanted, language, history, count);
+      settle(*app.window(), 40);
+      drawScreens(app, gallery, language, history);
     }
+  }
   scratch.removeRecursively();
-  std::cout << count.drawn << " pictures, " << count.faulty << " faults\n";
-  return count.faulty == 0 ? 0 : 1;
+  std::cout << gallery.drawn << " pictures, " << gallery.faulty << " faults\n";
+  return gallery.faulty == 0 ? 0 : 1;
 }
 
 int run(int count, char** arguments) {
@@ -194,17 +250,23 @@ int run(int count, char** arguments) {
   program.add_option("--scale", wanted.scale, "Pixels of a picture to a point")->check(CLI::Range(0.5, 4.0));
   program.add_option("--only", wanted.only, "Only the pictures whose name contains this: 390x844-dark-german")
       ->type_name("TEXT");
+  program.add_option("--half", wanted.half, "Only this half of the histories, so that two programs share the work")
+      ->check(CLI::Range(1, 2))
+      ->type_name("1|2");
   program.add_option("--data", wanted.data, "Where the sample histories are")->type_name("FOLDER");
   program.add_option("--tally", wanted.tally, "A vote server that runs; without one the roadmap is drawn offline")
       ->type_name("URL");
   CLI11_PARSE(program, count, arguments);
   qputenv("QT_QPA_PLATFORM", "offscreen");
+  qputenv("QT_QPA_UPDATE_IDLE_TIME", "0");  // frames come at once
   if (wanted.scale != 1) qputenv("QT_SCALE_FACTOR", QByteArray::number(wanted.scale));
   QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
   int qtCount = 1;
   const QGuiApplication application{qtCount, arguments};
   if (!wanted.folder.empty()) QDir{}.mkpath(QString::fromStdString(wanted.folder));
-  return drawAll(wanted);
+  Motion motion;
+  motion.install();
+  return drawAll({.wanted = wanted, .motion = motion});
 }
 
 }  // namespace
