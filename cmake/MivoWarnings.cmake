@@ -32,3 +32,9 @@ if(MIVO_FUZZ)
 endif()
 add_compile_options(${MIVO_INSTRUMENTATION})
 add_link_options(${MIVO_INSTRUMENTATION})
+
+# There are many test programs to link; this takes a fifth of the time.
+find_program(MIVO_MOLD mold)
+if(MIVO_MOLD AND CMAKE_BUILD_TYPE STREQUAL "Debug")
+  add_link_options(-fuse-ld=mold)
+endif()

@@ -1,7 +1,10 @@
 # Steps that ./run, ./test and bench/run share; sourced by them from the root of the project. Progress goes to standard
 # error, so that what a program prints can be piped on.
 
-if command -v ccache > /dev/null; then export CMAKE_CXX_COMPILER_LAUNCHER=ccache; fi
+if command -v ccache > /dev/null; then
+    export CMAKE_CXX_COMPILER_LAUNCHER=ccache
+    export CCACHE_SLOPPINESS=pch_defines,time_macros  # or it leaves what has a precompiled header to the compiler
+fi
 
 # step TEXT...: says what begins; took: how long the last one did.
 step_began=
