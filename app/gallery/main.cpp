@@ -4,13 +4,12 @@
 #include <QtCore/QAnimationDriver>
 #include <QtCore/QDeadlineTimer>
 #include <QtCore/QDir>
-#include <QtCore/QThread>
 #include <QtGui/QGuiApplication>
-#include <QtQuick/QQuickItem>
+#include <QtQml/QQmlEngine>
+#include <QtQml/QQmlIncubationController>
 #include <QtQuick/QQuickWindow>
 
 #include <CLI/CLI.hpp>
-#include <algorithm>
 #include <fstream>
 #include <iostream>
 
@@ -119,24 +118,20 @@ void awaitRoadmap(AppModel& app) {
     QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
 }
 
-bool isMakingItems(const QQuickItem* item) {
-  constexpr int loading = 2;
-  if (item->inherits("QQuickLoader") && item->property("status").toInt() == loading) return true;
-  return std::ranges::any_of(item->childItems(), isMakingItems);
-}
-
 /// Runs events until none is left, nothing moves and no item is still being made; a frame that was asked for is an
 /// event.
 void awaitFrames(const QQuickWindow& window, Motion& motion) {
   const QDeadlineTimer deadline{5000};
   QAbstractEventDispatcher& events = *QAbstractEventDispatcher::instance();
+  QQmlIncubationController* making = qmlEngine(&window)->incubationController();
   while (!deadline.hasExpired()) {
     if (events.processEvents(QEventLoop::AllEvents)) continue;
-    if (!motion.isRunning() && !isMakingItems(window.contentItem())) return;
-    if (motion.isRunning())
+    if (making && making->incubatingObjectCount() > 0)
+      making->incubateFor(10);
+    else if (motion.isRunning())
       motion.advance();
     else
-      QThread::msleep(1);
+      return;
   }
 }
 
