@@ -33,7 +33,7 @@ namespace mivo {
 ///
 /// One action is reduced, then every observer is called once, then the tasks of its effects are started. An action sent
 /// from inside a reduction or an observer waits until that is through. The dependencies in force where the store was
-/// made are in force in its reductions and its tasks.
+/// made are in force in its reductions, its observers and its tasks.
 ///
 /// Thread: the main one, and only tasks elsewhere. Destroying the store requests its tasks to stop and waits for none;
 /// what they send later is dropped. An observer may destroy it.
@@ -126,7 +126,7 @@ class Store {
       std::vector<std::shared_ptr<Running>> started;
       for (const auto& operation : effect.operations()) started.push_back(registered(operation));
       if (!tasks.empty()) cancelWhatIsNoLongerPresented();
-      observers.notify();
+      notifyObservers();
       if (isClosed) return;
       for (std::size_t index = 0; index < started.size(); ++index)
         if (!started[index]->stop.stop_requested()) start(effect.operations()[index], started[index]);
@@ -135,6 +135,11 @@ class Store {
     Effect<Action> reduce(const Action& action) {
       const DependencyScope dependencies{context};
       return feature.reduce(state, action);
+    }
+
+    void notifyObservers() {
+      const DependencyScope dependencies{context};
+      observers.notify();
     }
 
     std::shared_ptr<Running> registered(const typename Effect<Action>::Operation& operation) {

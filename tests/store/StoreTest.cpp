@@ -52,6 +52,14 @@ TEST_F(StoreTest, reducesThenTellsObserversThenStartsEffects) {
   EXPECT_EQ(world.tasks->count(), 1u);
 }
 
+TEST_F(StoreTest, tellsObserversUnderTheDependenciesThatItWasMadeWith) {
+  const auto own = currentContext();
+  const auto subscription = store->observe([&](const State&) { EXPECT_EQ(currentContext(), own); });
+  store->send(Action::didTapBack{});
+  withDependencies(nullptr, [this] { store->send(Action::didTapBack{}); });
+  EXPECT_EQ(currentContext(), own);
+}
+
 TEST_F(StoreTest, runsThePiecesOfABodyInTheirOrder) {
   store->send(Action::didTapBack{});
   EXPECT_EQ(store->state().order, "bvc");
