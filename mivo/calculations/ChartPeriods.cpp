@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "mivo/calculations/ChartPeriods.h"
 
+#include <algorithm>
+
 namespace mivo {
 namespace {
 
@@ -30,16 +32,12 @@ std::optional<DateInterval> chartPeriod(Date date, TimeRange range, const Calend
 
 std::vector<DateInterval> chartPeriods(Date first, Date last, TimeRange range, const Calendar& calendar) {
   std::vector<DateInterval> periods;
-  for (Date next = first; next <= last;) {
+  const Date latest = std::min(lastDate, last);
+  for (Date next = std::max(firstDate, first); next <= latest;) {
     const auto period = chartPeriod(next, range, calendar);
-    if (period && period->end > next) {
-      periods.push_back(*period);
-      next = period->end;
-    } else if (periods.empty()) {
-      next += Duration{secondsPerDay};  // the first days of the year 1 belong to no week or month that can be formed
-    } else {
-      break;
-    }
+    const bool isFormed = period && period->end > next;
+    if (isFormed) periods.push_back(*period);
+    next = isFormed ? period->end : next + Duration{secondsPerDay};
   }
   return periods;
 }

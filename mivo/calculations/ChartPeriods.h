@@ -14,8 +14,10 @@ namespace mivo {
 /// end is the first instant of the next one. None where the calendar has no answer.
 std::optional<DateInterval> chartPeriod(Date date, TimeRange range, const Calendar& calendar);
 
-/// The periods from that of `first` to that of `last`, one after the other without gaps; those that the calendar cannot
-/// form, near the years 1 and 9999, are left out. None where `last` is before `first`. Two calendar calls a period.
+/// The periods from that of `first` to that of `last`, one after the other; those that the calendar cannot form, such
+/// as the first and the last of the years 1 to 9999, are left out, and there are no others without gaps. None where
+/// `last` is before `first`. Two calendar calls a period, and for each left out one a day; none for what lies before
+/// the year 1.
 std::vector<DateInterval> chartPeriods(Date first, Date last, TimeRange range, const Calendar& calendar);
 
 }  // namespace mivo

@@ -150,5 +150,43 @@ TEST(ChartPeriods, leaveOutWhatTheCalendarCannotForm) {
   EXPECT_EQ(months, (std::vector<DateInterval>{{utc(9999, 11, 1), utc(9999, 12, 1)}})) << "December has no end";
 }
 
+/// A calendar of a host, which knows the days of UTC but for one, and nothing else.
+struct CalendarOfAHost : Calendar {
+  std::string_view identifier() const override { return gregorianIdentifier; }
+  std::string_view timeZone() const override { return "UTC"; }
+  int firstWeekday() const override { return 2; }
+  std::optional<Date> adding(CalendarComponent, std::int64_t, Date) const override { return std::nullopt; }
+  std::optional<Date> lastMatch(const MatchingComponents&, Date) const override { return std::nullopt; }
+  std::optional<Date> startOfDay(Date date) const override {
+    ++asked;
+    if (!isRepresentable(date) || (date >= missing && date < missing + day)) return std::nullopt;
+    return std::chrono::floor<std::chrono::days>(date);
+  }
+  std::optional<Date> endOfDay(Date date) const override { return std::chrono::floor<std::chrono::days>(date) + day; }
+  std::optional<Date> startOfWeek(Date) const override { return std::nullopt; }
+  std::optional<Date> endOfWeek(Date) const override { return std::nullopt; }
+  std::optional<Date> startOfMonth(Date) const override { return std::nullopt; }
+  std::optional<Date> endOfMonth(Date) const override { return std::nullopt; }
+  std::optional<std::int64_t> calendarDatesBetween(Date, Date) const override { return std::nullopt; }
+  std::shared_ptr<const Calendar> gregorian() const override { return nullptr; }
+
+  static constexpr Duration day{secondsPerDay};
+  Date missing = utc(2026, 2, 2);
+  mutable int asked = 0;
+};
+
+TEST(ChartPeriods, skipADayThatTheCalendarCannotForm) {
+  const CalendarOfAHost calendar;
+  EXPECT_EQ(chartPeriods(utc(2026, 2, 1, 9), utc(2026, 2, 3, 9), week, calendar),
+            (std::vector<DateInterval>{{utc(2026, 2, 1), utc(2026, 2, 2)}, {utc(2026, 2, 3), utc(2026, 2, 4)}}));
+}
+
+TEST(ChartPeriods, areNotLookedForDayByDayFromTheFarPastOn) {
+  const CalendarOfAHost calendar;
+  const auto periods = chartPeriods(dateSince1970(-1e18), utc(1, 1, 1, 9), week, calendar);
+  EXPECT_EQ(periods, (std::vector<DateInterval>{{utc(1, 1, 1), utc(1, 1, 2)}}));
+  EXPECT_EQ(calendar.asked, 1);
+}
+
 }  // namespace
 }  // namespace mivo
