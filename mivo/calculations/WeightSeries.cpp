@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <cstdlib>
 #include <iostream>
+#include <limits>
 #include <utility>
 
 #include "mivo/regressor/LinearRegressor.h"
@@ -16,19 +17,24 @@ constexpr double windowSeconds = 7 * secondsPerDay;
 constexpr double clearCorrelation = 0.7;
 
 // A sum that numbers enter and leave without leaving their rounding error behind: `error` is what `sum` lacks, by
-// Knuth's error-free addition (The Art of Computer Programming, volume 2, 4.2.2, theorem B).
+// Knuth's error-free addition (The Art of Computer Programming, volume 2, 4.2.2, theorem B). What is not finite could
+// not be taken out of a sum again: it is counted instead.
 class SlidingSum {
  public:
+  void enter(double number) { std::isfinite(number) ? add(number) : void(++notFinite); }
+  void leave(double number) { std::isfinite(number) ? add(-number) : void(--notFinite); }
+  double value() const { return notFinite == 0 ? sum + error : std::numeric_limits<double>::quiet_NaN(); }
+
+ private:
   void add(double number) {
     const double next = sum + number;
     const double added = next - sum;
     error += (sum - (next - added)) + (number - added);
     sum = next;
   }
-  double value() const { return sum + error; }
 
- private:
   double sum = 0, error = 0;
+  std::size_t notFinite = 0;
 };
 
 }  // namespace
@@ -41,9 +47,9 @@ std::vector<WeightAverageEntry> weeklyAverages(std::span<const BodyWeightSample>
   SlidingSum sum;
   std::size_t first = 0;
   for (std::size_t last = 0; last < samples.size(); ++last) {
-    sum.add(samples[last].weightInKg);
+    sum.enter(samples[last].weightInKg);
     for (; first < last && secondsBetween(samples[first].date, samples[last].date) > windowSeconds; ++first)
-      sum.add(-samples[first].weightInKg);
+      sum.leave(samples[first].weightInKg);
     averages[last] = {fresh[last], samples[last].date, sum.value() / static_cast<double>(last - first + 1)};
   }
   return averages;

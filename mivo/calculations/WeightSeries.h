@@ -16,7 +16,7 @@ namespace mivo {
 inline constexpr double emptyWeightChartScale = 75;
 
 /// One point a sample: the average weight of the sample and of all earlier ones at most seven days older; a sample
-/// exactly seven days older is in.
+/// exactly seven days older is in. Not a number where one of these weights is not finite.
 ///
 /// samples  ascending by date. Cost: O(n) however dense they are; the sum slides along with its rounding error kept, so
 /// an average is off by less than a unit in its last place. Thread: any.

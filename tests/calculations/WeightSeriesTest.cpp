@@ -5,6 +5,7 @@
 #include <rapidcheck/gtest.h>
 
 #include <cmath>
+#include <limits>
 #include <vector>
 
 #include "mivo/store/Print.h"
@@ -61,6 +62,18 @@ TEST(WeeklyAverages, ofSamplesEightDaysApartAreTheSamplesExactly) {
 
 TEST(WeeklyAverages, keepASampleThatIsExactlySevenDaysOlder) {
   EXPECT_EQ(weeklyAverages(Samples{{{}, day(0), 80}, {{}, day(7), 78}}, tests::CountingUUIDs{}).back().value, 79);
+}
+
+TEST(WeeklyAverages, forgetAWeightThatIsNotFiniteOnceItIsOutOfTheirWindow) {
+  constexpr double infinity = std::numeric_limits<double>::infinity();
+  for (const double odd : {infinity, -infinity, std::nan("")}) {
+    const Samples samples{{{}, day(0), 80}, {{}, day(1), odd}, {{}, day(8), 78}, {{}, day(9), 82}};
+    const auto averages = weeklyAverages(samples, tests::CountingUUIDs{});
+    EXPECT_EQ(averages[0].value, 80);
+    EXPECT_FALSE(std::isfinite(averages[1].value));
+    EXPECT_FALSE(std::isfinite(averages[2].value)) << "exactly seven days later";
+    EXPECT_EQ(averages[3].value, 80) << odd;
+  }
 }
 
 TEST(TrendTimeRange, needsTwoSamplesThatDiffer) {
