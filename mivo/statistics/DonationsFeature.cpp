@@ -3,8 +3,7 @@
 
 #include <algorithm>
 #include <exception>
-
-#include "mivo/model/Translatable.h"
+#include <utility>
 
 namespace mivo {
 namespace {
@@ -13,14 +12,20 @@ using Feature = DonationsFeature;
 using State = Feature::State;
 using Action = Feature::Action;
 
-constexpr std::string_view nothingSetUp = translatable("No ways to donate are set up.");
+void didFail(State& state, std::string reason) {
+  state.loadingState = Feature::LoadingState::failed;
+  state.failure = std::move(reason);
+}
 
 Effect<Action> load(const Feature& feature, State& state) {
   if (state.loadingState == Feature::LoadingState::loading) return {};
+  if (!feature.donations) {
+    didFail(state, dependency(&Dependencies::texts)->text("No ways to donate are set up."));
+    return {};
+  }
   state.loadingState = Feature::LoadingState::loading;
   return Effect<Action>::run(
       [](const Send<Action>& send, std::stop_token stop, const Client<DonationClient>& donations) {
-        if (!donations) return send(Action::didFailToLoad{std::string{nothingSetUp}});
         try {
           send(Action::didLoad{donations->products(stop)});
         } catch (const std::exception& error) {
@@ -57,10 +62,7 @@ auto DonationsFeature::reduce(State& state, const Action& action) const -> Effec
   if (std::holds_alternative<Action::onAppear>(action) || std::holds_alternative<Action::didTapRetry>(action))
     return load(*this, state);
   if (const auto* loaded = std::get_if<Action::didLoad>(&action)) didLoad(state, loaded->products);
-  if (const auto* failed = std::get_if<Action::didFailToLoad>(&action)) {
-    state.loadingState = Feature::LoadingState::failed;
-    state.failure = failed->reason;
-  }
+  if (const auto* failed = std::get_if<Action::didFailToLoad>(&action)) didFail(state, failed->reason);
   if (const auto* tapped = std::get_if<Action::didTapProduct>(&action)) return open(*this, state, tapped->id);
   return {};
 }

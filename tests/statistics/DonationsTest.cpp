@@ -54,14 +54,20 @@ TEST_F(Donations, sayWhyLoadingFailedAndMayBeTriedAgain) {
   });
 }
 
-TEST_F(Donations, sayThatNothingIsSetUp) {
+struct ShoutedTexts : tests::EnglishTexts {
+  std::string text(std::string_view key, std::string_view context = {}) const override {
+    return EnglishTexts::text(key, context) + '!';
+  }
+};
+
+TEST_F(Donations, sayInTheUsersLanguageThatNothingIsSetUp) {
   world.dependencies.donations = nullptr;
+  world.dependencies.texts = std::make_shared<ShoutedTexts>();
   const DependencyScope bare = world.enter();
   auto store = shown();
-  store->send(Action::onAppear{}, loading);
-  store->receive(Action::didFailToLoad{"No ways to donate are set up."}, [](State& state) {
+  store->send(Action::onAppear{}, [](State& state) {
     state.loadingState = LoadingState::failed;
-    state.failure = "No ways to donate are set up.";
+    state.failure = "No ways to donate are set up.!";
   });
 }
 
