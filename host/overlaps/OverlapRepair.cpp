@@ -60,6 +60,15 @@ std::vector<FastRecord> repaired(Waiting waiting, Date now) {
   return placed;
 }
 
+bool hasNoLength(const FastRecord& record) { return record.fast.finished && endOf(record, {}) == startOf(record); }
+
+// The one of `placed`, which are by start, that an instant lies within.
+FastRecord* around(Date instant, std::vector<FastRecord>& placed, Date now) {
+  const auto after = std::ranges::upper_bound(placed, instant, {}, startOf);
+  if (after == placed.begin() || endOf(after[-1], now) <= instant) return nullptr;
+  return &after[-1];
+}
+
 }  // namespace
 
 HistoryChange overlapRepair(const std::vector<FastRecord>& fasts, Date now) {
@@ -71,7 +80,14 @@ HistoryChange overlapRepair(const std::vector<FastRecord>& fasts, Date now) {
     before.emplace(record.fast.id, &record);
   }
   HistoryChange change;
-  for (FastRecord& record : repaired(std::move(waiting), now)) {
+  std::vector<FastRecord> placed = repaired(std::move(waiting), now);
+  for (const FastRecord& record : fasts) {
+    FastRecord* const other = hasNoLength(record) ? around(startOf(record), placed, now) : nullptr;
+    if (!other) continue;
+    other->note = joined(other->note, record.note);
+    change.removedFasts.push_back(record);
+  }
+  for (FastRecord& record : placed) {
     const auto original = before.extract(record.fast.id);
     if (*original.mapped() == record) continue;
     change.removedFasts.push_back(*original.mapped());

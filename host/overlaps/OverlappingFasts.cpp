@@ -16,12 +16,13 @@ std::vector<std::optional<std::size_t>> overlapPartners(const std::vector<FastRe
   for (std::size_t index = 0; index < fasts.size(); ++index) {
     const Date start = startOf(fasts[index]);
     const Date end = fasts[index].fast.finished ? fasts[index].fast.finished->end : now;
-    if (end <= start) continue;
+    const bool isRunning = !fasts[index].fast.finished;
+    if (end < start || (end == start && isRunning)) continue;
     if (furthest < fasts.size() && start < furthestEnd) {
       partners[index] = furthest;
       if (!partners[furthest]) partners[furthest] = index;
     }
-    if (furthest < fasts.size() && end <= furthestEnd) continue;
+    if (end == start || (furthest < fasts.size() && end <= furthestEnd)) continue;
     furthest = index;
     furthestEnd = end;
   }

@@ -15,7 +15,8 @@ namespace mivo::host {
 std::vector<std::optional<std::size_t>> overlapPartners(const std::vector<FastRecord>& fasts, Date now);
 
 /// Which of the fasts share time with another one, in the same order. A fast that is still running counts as ending
-/// now; one that ends at or before its start shares none. `fasts` are by start (asserted). O(n).
+/// now; one that ends before its start shares none, and one of no length shares its instant with a fast before it that
+/// lasts longer. `fasts` are by start (asserted). O(n).
 std::vector<bool> overlappingFasts(const std::vector<FastRecord>& fasts, Date now);
 
 }  // namespace mivo::host
