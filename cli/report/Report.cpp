@@ -48,7 +48,8 @@ std::shared_ptr<const Dependencies> runDependencies(const RunSettings& settings)
 
 Report makeReport(const host::History& history, const RunSettings& settings) {
   Report report{settings.now, settings.range, StatsContainer::empty()};
-  report.stats.update(entries(history.fasts), runningFast(history.fasts), settings.streaks, settings.range);
+  report.stats.update(entries(history.fasts), runningFast(history.fasts, settings.now), settings.streaks,
+                      settings.range);
   report.stats.updateWeightChart(StatsContainer::update(history.weights));
   return report;
 }

@@ -30,11 +30,9 @@ void separateFasts(StatisticsFeature::State& screen) {
 }
 
 /// Keeps the weight that the add-weight card hands over, and tells it so.
-Effect<Action> saveWeight(State& state) {
-  const auto& pending = *state.statistics.addWeightLogState.pendingSample;
-  if (!pending) return {};
+Effect<Action> saveWeight(State& state, const BodyWeightSample& sample) {
   auto weights = state.weights->elements();
-  weights.insert(std::ranges::upper_bound(weights, pending->date, {}, &BodyWeightSample::date), *pending);
+  weights.insert(std::ranges::upper_bound(weights, sample.date, {}, &BodyWeightSample::date), sample);
   state.statistics.updateWeightChart(StatsContainer::update(weights));
   state.weights = std::move(weights);
   return Effect<Action>::run([](const Send<Action>& send, std::stop_token) {
@@ -49,8 +47,9 @@ Effect<Action> afterScreen(State& state, const Screen& action) {
     recomputeFasts(state.statistics);
   }
   const auto* weight = std::get_if<Screen::addWeightLogAction>(&action);
-  const bool isSaving = weight && std::holds_alternative<AddWeightLogFeature::Action::didTapSave>(weight->action);
-  return isSaving ? saveWeight(state) : Effect<Action>::none();
+  if (!weight) return {};
+  const auto* accepted = std::get_if<AddWeightLogFeature::Action::didAcceptSample>(&weight->action);
+  return accepted ? saveWeight(state, accepted->sample) : Effect<Action>::none();
 }
 
 Effect<Action> core(State& state, const Action& action) {

@@ -43,10 +43,13 @@ int main() {
   print("by month", store.state());
 
   store.send(Action::statistics{Screen::addWeightLogAction{AddWeightLogFeature::Action::didChangeText{"79,5"}}});
-  store.send(Action::statistics{Screen::addWeightLogAction{AddWeightLogFeature::Action::didTapSave{}}});
+  const Action tapSave = Action::statistics{Screen::addWeightLogAction{AddWeightLogFeature::Action::didTapSave{}}};
+  store.send(tapSave);
+  store.send(tapSave);  // while it is saved: counts for nothing
   loop->drain();
-  std::printf("weight: %.1f kg, %s\n", store.state().statistics.stats.currentWeightInKg->value(),
+  std::printf("weight: %.1f kg, %s, %zu kept\n", store.state().statistics.stats.currentWeightInKg->value(),
               store.state().statistics.addWeightLogState.savingState == AddWeightLogFeature::SavingState::saved
                   ? "saved"
-                  : "not saved");
+                  : "not saved",
+              store.state().weights->size());
 }

@@ -67,7 +67,8 @@ auto AppFeature::on(State& state, const Action::statistics& sent) const -> Effec
   } else if (std::holds_alternative<Sent::didTapFixOverlappingFasts>(sent.action)) {
     state.overlapRepair = overlapRepair(state.fasts->elements(), date->now());
   } else if (const auto* weight = std::get_if<Sent::addWeightLogAction>(&sent.action)) {
-    if (std::holds_alternative<AddWeightLogFeature::Action::didTapSave>(weight->action)) return saveWeight(state);
+    if (const auto* accepted = std::get_if<AddWeightLogFeature::Action::didAcceptSample>(&weight->action))
+      return saveWeight(state, accepted->sample);
   } else if (const auto* goal = std::get_if<Sent::goalWeightCardAction>(&sent.action)) {
     if (std::holds_alternative<GoalWeightCardFeature::Action::didSetGoal>(goal->action))
       setGoalWeight(*userDefaults, state.statistics.goalWeightCardState.goalInKg);
@@ -212,11 +213,8 @@ void AppFeature::takeSettings(State& state) const {
 }
 
 // The add-weight card is told of the outcome too: it shows it.
-auto AppFeature::saveWeight(State& state) const -> Effect<Action> {
-  const auto& card = state.statistics.addWeightLogState;
-  const std::optional<BodyWeightSample> pending = card.pendingSample;
-  if (!pending) return {};
-  if (sameWeight(*state.weights, *pending, card.weightUnit, *masses)) {
+auto AppFeature::saveWeight(State& state, const BodyWeightSample& sample) const -> Effect<Action> {
+  if (sameWeight(*state.weights, sample, state.statistics.addWeightLogState.weightUnit, *masses)) {
     state.failure = texts->text("This weight is saved already.");
     return reduce(state, Action::statistics{
                              StatisticsFeature::Action::addWeightLogAction{AddWeightLogFeature::Action::didSave{}}});
@@ -236,7 +234,7 @@ auto AppFeature::saveWeight(State& state) const -> Effect<Action> {
         send(Action::didWrite{Step::addWeight, written});
         answer(Card::didSave{});
       },
-      history, texts, adding(*pending));
+      history, texts, adding(sample));
 }
 
 auto AppFeature::write(Step step, HistoryChange change) const -> Effect<Action> {
@@ -271,11 +269,8 @@ Effect<Action> AppFeature::refuse(State& state, std::string sentence) const {
 void AppFeature::recompute(State& state) const {
   auto& screen = state.statistics;
   const Date present = date->now();
-  const FastRecord* running = state.runningFast();
-  // One that lies ahead, because the clock was set back, has not begun for the statistics.
-  const auto ongoing = running && running->fast.start <= present ? std::optional{running->fast} : std::nullopt;
   StatsContainer fresh = screen.stats.copy();
-  fresh.update(*screen.fasts, ongoing, screen.streakSettings, screen.timeRange);
+  fresh.update(*screen.fasts, runningFast(state.fasts->elements(), present), screen.streakSettings, screen.timeRange);
   screen.updateFastingChart(fresh);
   screen.updateWeightChart(StatsContainer::update(*state.weights));
   if (!screen.addWeightLogState.isDateChosen) screen.addWeightLogState.logDate = present;

@@ -152,7 +152,7 @@ struct AppFeature {
   Effect<Action> on(State& state, const Action::didDismissMessages& sent) const;
   Effect<Action> on(State& state, const Action::didWrite& sent) const;
   void takeSettings(State& state) const;
-  Effect<Action> saveWeight(State& state) const;
+  Effect<Action> saveWeight(State& state, const BodyWeightSample& sample) const;
   Effect<Action> write(Step step, HistoryChange change) const;
   std::optional<std::string> refusal(const State& state, const FastRecord& record,
                                      const std::optional<FastRecord>& before = {}) const;

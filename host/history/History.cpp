@@ -25,9 +25,10 @@ std::vector<FastingDataEntry> entries(const std::vector<FastRecord>& fasts) {
   return result;
 }
 
-std::optional<FastingDataEntry> runningFast(const std::vector<FastRecord>& fasts) {
+std::optional<FastingDataEntry> runningFast(const std::vector<FastRecord>& fasts, Date now) {
   const auto running = std::ranges::find_if(fasts, [](const auto& record) { return !record.fast.finished; });
-  return running == fasts.end() ? std::nullopt : std::optional{running->fast};
+  const bool hasBegun = running != fasts.end() && running->fast.start <= now;
+  return hasBegun ? std::optional{running->fast} : std::nullopt;
 }
 
 void sortByDate(std::vector<BodyWeightSample>& weights) {

@@ -44,8 +44,9 @@ struct History {
 /// The fasts without their notes, in the same order.
 std::vector<FastingDataEntry> entries(const std::vector<FastRecord>& fasts);
 
-/// The fast that is still running.
-std::optional<FastingDataEntry> runningFast(const std::vector<FastRecord>& fasts);
+/// The fast that is still running, as statistics count it: none that starts after now, because the clock was set back,
+/// since it has not begun.
+std::optional<FastingDataEntry> runningFast(const std::vector<FastRecord>& fasts, Date now);
 
 /// Orders weights as `History` keeps them.
 void sortByDate(std::vector<BodyWeightSample>& weights);

@@ -47,19 +47,20 @@ std::optional<Feature::Problem> problemOf(const State& state, Date now) {
   return std::nullopt;
 }
 
-void didTapSave(const Feature& feature, State& state) {
-  if (state.savingState == Feature::SavingState::saving) return;
+Effect<Action> didTapSave(const Feature& feature, State& state) {
+  if (state.savingState == Feature::SavingState::saving) return {};
   const Date now = feature.date->now();
   if (!state.isDateChosen) state.logDate = now;
   state.problem = problemOf(state, now);
-  if (state.problem->has_value()) return;
+  if (state.problem->has_value()) return {};
   state.savingState = Feature::SavingState::saving;
-  state.pendingSample = BodyWeightSample{feature.uuid->next(), state.logDate, state.weightInKg};
+  return Effect<Action>::run([](const Send<Action>& send, std::stop_token,
+                                const BodyWeightSample& sample) { send(Action::didAcceptSample{sample}); },
+                             BodyWeightSample{feature.uuid->next(), state.logDate, state.weightInKg});
 }
 
 void didSave(State& state, Date now) {
   state.savingState = Feature::SavingState::saved;
-  state.pendingSample = std::nullopt;
   state.typedText = std::nullopt;
   state.failure = std::string{};
   state.logDate = now;  // for the next weighing
@@ -68,7 +69,6 @@ void didSave(State& state, Date now) {
 
 void didFail(State& state, const std::string& reason) {
   state.savingState = Feature::SavingState::failed;
-  state.pendingSample = std::nullopt;
   state.failure = reason;
 }
 
@@ -87,7 +87,7 @@ auto AddWeightLogFeature::reduce(State& state, const Action& action) const -> Ef
     state.weightUnit = changed->unit;
     state.typedText = std::nullopt;
   }
-  if (std::holds_alternative<Action::didTapSave>(action)) didTapSave(*this, state);
+  if (std::holds_alternative<Action::didTapSave>(action)) return didTapSave(*this, state);
   if (std::holds_alternative<Action::didSave>(action)) didSave(state, date->now());
   if (const auto* failed = std::get_if<Action::didFailToSave>(&action)) didFail(state, failed->reason);
   return {};

@@ -15,8 +15,8 @@ namespace mivo {
 
 /// The card that takes a weight in: a field with minus and plus beside it, a date, a button.
 ///
-/// The weights are the host's. On `didTapSave` a good entry becomes `pendingSample`; the host's parent reducer writes
-/// it and answers with `didSave` or `didFailToSave`.
+/// The weights are the host's. A tap on Save that counts is followed by one `didAcceptSample`; the host's parent
+/// reducer writes that sample and answers once, with `didSave` or `didFailToSave`. Any other tap writes nothing.
 struct AddWeightLogFeature {
   enum class SavingState { notSaved, saving, saved, failed };
   enum class Problem { notAWeight, dateInFuture };
@@ -30,7 +30,6 @@ struct AddWeightLogFeature {
     Observed<std::optional<std::string>> typedText = std::nullopt;  ///< while it was not read as a weight yet
     Observed<std::optional<Problem>> problem = std::nullopt;        ///< why the last tap on Save was refused
     Observed<std::string> failure = std::string{};                  ///< what the host said when saving failed
-    Observed<std::optional<BodyWeightSample>> pendingSample = std::nullopt;
     bool operator==(const State&) const = default;
   };
 
@@ -56,6 +55,11 @@ struct AddWeightLogFeature {
     struct didTapSave {
       bool operator==(const didTapSave&) const = default;
     };
+    /// The card's own: the host writes this sample.
+    struct didAcceptSample {
+      BodyWeightSample sample;
+      bool operator==(const didAcceptSample&) const = default;
+    };
     struct didSave {
       bool operator==(const didSave&) const = default;
     };
@@ -66,7 +70,8 @@ struct AddWeightLogFeature {
   };
   struct Action : Cases,
                   std::variant<Cases::didChangeText, Cases::didTapIncrease, Cases::didTapDecrease, Cases::didChangeDate,
-                               Cases::didChangeUnit, Cases::didTapSave, Cases::didSave, Cases::didFailToSave> {
+                               Cases::didChangeUnit, Cases::didTapSave, Cases::didAcceptSample, Cases::didSave,
+                               Cases::didFailToSave> {
     using variant::variant;
   };
 
@@ -78,8 +83,7 @@ struct AddWeightLogFeature {
 
 template <RecordOf<AddWeightLogFeature::State> Listed, class Visit>
 void fields(Listed& record, Visit&& visit) {
-  auto& [weightInKg, logDate, isDateChosen, savingState, weightUnit, typedText, problem, failure, pendingSample] =
-      record;
+  auto& [weightInKg, logDate, isDateChosen, savingState, weightUnit, typedText, problem, failure] = record;
   visit("weightInKg", weightInKg);
   visit("logDate", logDate);
   visit("isDateChosen", isDateChosen);
@@ -88,7 +92,6 @@ void fields(Listed& record, Visit&& visit) {
   visit("typedText", typedText);
   visit("problem", problem);
   visit("failure", failure);
-  visit("pendingSample", pendingSample);
 }
 
 /// What the field shows: the text as typed, or the weight.

@@ -19,9 +19,10 @@ class AddWeightLog : public testing::Test {
   tests::TestStore<Feature> store{world, State{}, Feature{}};
 };
 
-void saving(State& state) {
-  state.savingState = Feature::SavingState::saving;
-  state.pendingSample = BodyWeightSample{UUID{0, 1}, state.logDate, state.weightInKg};
+void saving(State& state) { state.savingState = Feature::SavingState::saving; }
+
+Action accepted(std::uint64_t id, Date date, double weightInKg) {
+  return Action::didAcceptSample{{UUID{0, id}, date, weightInKg}};
 }
 
 auto chose(Date date) {
@@ -38,10 +39,10 @@ TEST_F(AddWeightLog, handsAGoodEntryToTheHostAndIsReadyForTheNext) {
   });
   store.send(Action::didTapSave{}, saving);
   store.send(Action::didTapSave{});  // a second tap while it is saved makes no second sample
+  store.receive(accepted(1, world.clock->now(), 81.4));
   world.clock->date = world.clock->date + Duration{5};
   store.send(Action::didSave{}, [this](State& state) {
     state.savingState = Feature::SavingState::saved;
-    state.pendingSample = std::nullopt;
     state.typedText = std::nullopt;
     state.logDate = world.clock->now();
   });
@@ -69,9 +70,9 @@ TEST_F(AddWeightLog, takesTheTimeOfSavingUnlessOneWasChosen) {
     state.logDate = world.clock->now();
     saving(state);
   });
+  store.receive(accepted(1, world.clock->now(), 65));
   const auto saved = [this](State& state) {
     state.savingState = Feature::SavingState::saved;
-    state.pendingSample = std::nullopt;
     state.logDate = world.clock->now();
     state.isDateChosen = false;
   };
@@ -82,10 +83,8 @@ TEST_F(AddWeightLog, takesTheTimeOfSavingUnlessOneWasChosen) {
     state.savingState = Feature::SavingState::notSaved;
   });
   wait(240);
-  store.send(Action::didTapSave{}, [&](State& state) {
-    saving(state);
-    state.pendingSample = BodyWeightSample{UUID{0, 2}, yesterday, 65.0};
-  });
+  store.send(Action::didTapSave{}, saving);
+  store.receive(accepted(2, yesterday, 65));
   store.send(Action::didSave{}, saved);
 }
 
@@ -97,16 +96,14 @@ TEST_F(AddWeightLog, refusesADateThatHasNotCome) {
 
 TEST_F(AddWeightLog, saysWhySavingFailedAndMayBeTriedAgain) {
   store.send(Action::didTapSave{}, saving);
+  store.receive(accepted(1, world.clock->now(), 65));
   store.send(Action::didFailToSave{"The disk is full."}, [](State& state) {
     state.savingState = Feature::SavingState::failed;
-    state.pendingSample = std::nullopt;
     state.failure = "The disk is full.";
   });
   EXPECT_EQ(problemText(store.state(), tests::EnglishTexts{}), "The disk is full.");
-  store.send(Action::didTapSave{}, [](State& state) {
-    state.savingState = Feature::SavingState::saving;
-    state.pendingSample = BodyWeightSample{UUID{0, 2}, state.logDate, 65.0};
-  });
+  store.send(Action::didTapSave{}, saving);
+  store.receive(accepted(2, world.clock->now(), 65));
 }
 
 TEST_F(AddWeightLog, stepsToWhatTheFieldShowsInEachUnit) {

@@ -52,6 +52,15 @@ TEST(ReportFigures, areThoseOfTheHistory) {
   EXPECT_EQ(stats["hasOverlappingFasts"], false);
 }
 
+TEST(ReportFigures, leaveARunningFastOutThatHasNotBegun) {
+  const auto totalFasts = [](const std::string& start) -> Json {
+    return reportOf(R"({"version": 1, "fasts": [{"start": ")" + start + R"(", "end": null}]})",
+                    "")["stats"]["totalFasts"];
+  };
+  EXPECT_EQ(totalFasts("2026-03-01T12:00:00Z"), 1);
+  EXPECT_EQ(totalFasts("2026-03-01T12:00:01Z"), 0);
+}
+
 TEST(ReportFigures, haveABarForEachDay) {
   const Json chart = reportOf(threeFasts, "")["stats"]["fastingChartState"];
   EXPECT_EQ(chart["chartTimeUnit"], "day");

@@ -32,8 +32,10 @@ class AppFeatureTest : public tests::StatisticsTest {
   }
 
   void settle() {
-    world.tasks->runAll();
-    world.queue->runAll();
+    do {
+      world.tasks->runAll();
+      world.queue->runAll();
+    } while (world.tasks->count() > 0);
   }
 
   std::vector<FastRecord> onDisk() const { return Database{file}.history().fasts; }
@@ -147,6 +149,22 @@ TEST_F(AppFeatureTest, showsTheTimeAsTheOneOfTheNextWeightUntilAnotherIsChosen) 
   EXPECT_EQ(*card.logDate, at(0));
 }
 
+TEST_F(AppFeatureTest, writesAWeightOnceHoweverOftenSaveIsTapped) {
+  const Action tap = Action::statistics{Sent::addWeightLogAction{AddWeightLogFeature::Action::didTapSave{}}};
+  app.send(tap);
+  app.send(tap);
+  settle();
+  EXPECT_THAT(*state().failure, IsEmpty());
+  EXPECT_THAT(*state().weights, SizeIs(1));
+  send(Action::statistics{Sent::addWeightLogAction{AddWeightLogFeature::Action::didTapIncrease{}}});
+  app.send(tap);
+  app.send(tap);
+  settle();
+  EXPECT_EQ(state().statistics.addWeightLogState.savingState, AddWeightLogFeature::SavingState::saved);
+  EXPECT_THAT(*state().weights, SizeIs(2));
+  EXPECT_EQ(Database{file}.history().weights, state().weights->elements());
+}
+
 struct RefusedRow {
   const char* name;
   Action action;
@@ -185,6 +203,8 @@ TEST_F(AppFeatureTest, keepsARunningFastWhenTheClockIsSetBack) {
   send(Action::didTapStop{at(0)});
   EXPECT_EQ(*state().failure, "The start is in the future. Is the clock right?");
   ASSERT_NE(state().runningFast(), nullptr);
+  send(Action::recompute{});
+  EXPECT_EQ(state().statistics.stats.totalFasts, 0) << "it has not begun";
 
   FastRecord edited = *state().runningFast();
   edited.fast.goalSeconds = 72000;

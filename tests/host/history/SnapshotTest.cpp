@@ -43,7 +43,9 @@ TEST(Snapshot, readsEveryField) {
       .weights = {{{0, 2}, dateSince1970(1772348400), 82}, {second, dateSince1970(1772434800), 81.4}},
       .endsBeforeStart = {}};
   EXPECT_EQ(*history, expected);
-  EXPECT_EQ(runningFast(history->fasts), history->fasts[1].fast);
+  const FastingDataEntry& running = history->fasts[1].fast;
+  EXPECT_EQ(runningFast(history->fasts, running.start), running);
+  EXPECT_EQ(runningFast(history->fasts, running.start - Duration{1}), std::nullopt) << "it has not begun";
 }
 
 TEST(Snapshot, readsBackWhatWasWritten) {
@@ -180,6 +182,10 @@ INSTANTIATE_TEST_SUITE_P(
             "a.json:1: snapshot: expected UTF-8 text, found \"\\x00\""},
         Row{"cutNumber", withFast("{\"goalSeconds\": 1.}"),
             "a.json:2: fasts[0].goalSeconds: expected whole seconds, 0 or more, found \"1.\""},
+        Row{"cutNumberAtALinesEnd", withFast("{\"goalSeconds\": 1.\n}"),
+            "a.json:2: fasts[0].goalSeconds: expected whole seconds, 0 or more, found \"1.\""},
+        Row{"refusedNumberAtALinesEnd", withFast("{\"goalSeconds\": -1\n}"),
+            "a.json:2: fasts[0].goalSeconds: expected whole seconds, 0 or more, found \"-1\""},
         Row{"textAfterTheEnd", "{\"version\": 1, \"fasts\": []}\n7",
             "a.json:2: snapshot: expected end of input, found \"7\""},
         Row{"latin1", withFast("{\"note\": \"gef\xFChlt\"}"),
