@@ -10,6 +10,7 @@
 
 #include "app/bridge/Stamps.h"
 #include "app/bridge/Text.h"
+#include "host/app/CurrentTipFacts.h"
 #include "host/app/FaultText.h"
 #include "mivo/platform/Dependencies.h"
 #include "mivo/statistics/ComposeScreen.h"
@@ -178,11 +179,7 @@ void AppModel::followDestination(const StatisticsFeature::State& state) {
 }
 
 void AppModel::tellTips(const State& state) const {
-  const auto finished =
-      std::ranges::count_if(*state.fasts, [](const auto& record) { return record.fast.finished.has_value(); });
-  services.tips->setFacts({.finishedFasts = finished,
-                           .weights = static_cast<std::int64_t>(state.weights->size()),
-                           .hasGoalWeight = state.statistics.goalWeightCardState.goalInKg->has_value()});
+  services.tips->setFacts(host::currentTipFacts(state, RoadmapVotes{dependency(&Dependencies::userDefaults)}));
   if (const auto& shown = *state.statistics.currentTipID) services.tips->didShow(*shown);
 }
 

@@ -14,8 +14,13 @@ std::optional<std::int64_t> RoadmapVotes::send(bool isVote, const RoadmapFeature
   setVoted(feature.id, isVote);
   const auto count = isVote ? voter.vote(feature) : voter.unvote(feature);
   if (!count) setVoted(feature.id, !isVote);
+  if (count && isVote) defaults->setValue(hasVotedKey(), true);
   return count;
 }
+
+bool RoadmapVotes::hasVoted() const { return defaults->boolean(hasVotedKey(), false); }
+
+std::string RoadmapVotes::hasVotedKey() const { return namespaceName + ".hasVoted"; }
 
 std::string RoadmapVotes::key(std::string_view featureID) const {
   return namespaceName + ".vote." + std::string{featureID};

@@ -18,6 +18,8 @@ struct RoadmapVotes {
 
   bool isVoted(std::string_view featureID) const;
   void setVoted(std::string_view featureID, bool isVoted) const;
+  /// Whether a vote of this user ever got through, taken back since or not.
+  bool hasVoted() const;
 
   /// Sends a vote, or takes it back, and remembers it: before it is sent, so that a program that ends in between cannot
   /// vote twice, and no longer where it did not get through. Blocks.
@@ -25,6 +27,7 @@ struct RoadmapVotes {
 
  private:
   std::string key(std::string_view featureID) const;
+  std::string hasVotedKey() const;
 };
 
 }  // namespace mivo

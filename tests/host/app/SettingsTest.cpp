@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+#include "host/app/Settings.h"
+
+#include <gtest/gtest.h>
+
+#include "tests/support/FixedClients.h"
+
+namespace mivo::host {
+namespace {
+
+TEST(Settings, giveAnyWeekdayBackAndNothingElse) {
+  const tests::MemoryDefaults defaults;
+  EXPECT_EQ(firstWeekday(defaults), std::nullopt);
+  for (int weekday = 1; weekday <= 7; ++weekday) {
+    setFirstWeekday(defaults, weekday);
+    EXPECT_EQ(firstWeekday(defaults), weekday);
+  }
+  for (const std::optional<int> none : {std::optional{0}, std::optional{8}, std::optional<int>{}}) {
+    setFirstWeekday(defaults, none);
+    EXPECT_EQ(firstWeekday(defaults), std::nullopt) << none.value_or(-1);
+  }
+}
+
+}  // namespace
+}  // namespace mivo::host
