@@ -171,6 +171,8 @@ Outcome listRoadmap(const RoadmapOptions& options, const std::shared_ptr<const D
 
 Outcome sendVote(bool isVote, const RoadmapOptions& options, const std::shared_ptr<const Dependencies>& dependencies) {
   return run(dependencies, [&options, isVote](const CollectedLog& log) -> Outcome {
+    if (!RoadmapFeedbackView::configuration().allowVotes)
+      return {wrongUsage, "", "--namespace: expected a name to count votes under, found none"};
     const auto features = loadedFeatures();
     const auto feature = std::ranges::find(features, options.feature, &RoadmapFeature::id);
     if (feature == features.end())

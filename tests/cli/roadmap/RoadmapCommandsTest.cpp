@@ -84,6 +84,14 @@ TEST_F(RoadmapCommands, aVoteChangesTheCountThatIsListed) {
   EXPECT_EQ(counts["mivo/feature1"], 7);
 }
 
+TEST_F(RoadmapCommands, sendsNoVoteUnderNoName) {
+  options.namespaceName = "";
+  const Outcome refused = vote(true, "1");
+  EXPECT_EQ(refused.status, 2);
+  EXPECT_EQ(refused.warning, "--namespace: expected a name to count votes under, found none");
+  EXPECT_FALSE(counts.contains("/feature1")) << "nothing was asked of the service";
+}
+
 TEST_F(RoadmapCommands, writesJson) {
   options.format = "json";
   vote(true, "plan");
