@@ -13,6 +13,10 @@ std::string durationText(double seconds, const DurationFormatter& hourMin) {
   return hourMin.string(seconds).value_or("0");
 }
 
+double longer(double thisAverage, double lastAverage) { return lastAverage >= thisAverage ? lastAverage : thisAverage; }
+
+double fraction(double average, double longest) { return longest <= shortestDrawn ? 0 : average / longest; }
+
 }  // namespace
 
 ZoneTrendDisplay::ZoneTrendDisplay(TimeRange timeRange, LegacyFastingZone zone, double thisAverage, double lastAverage)
@@ -27,14 +31,10 @@ ZoneTrendDisplay::ZoneTrendDisplay(TimeRange timeRange, LegacyFastingZone zone, 
                                    const TextLookup& texts, const DurationFormatter& hourMin)
     : averageFastTimeRangeText{averageText(timeRange, zone, thisAverage, lastAverage, texts)},
       thisTimeRangeAvg{durationText(thisAverage, hourMin)},
-      lastTimeRangeAvg{durationText(lastAverage, hourMin)} {
-  const double maximum = lastAverage >= thisAverage ? lastAverage : thisAverage;
-  if (!(maximum <= shortestDrawn)) {
-    thisTimeRangeFraction = thisAverage / maximum;
-    lastTimeRangeFraction = lastAverage / maximum;
-  }
-  thisTimeRangeInsideCapsule = thisTimeRangeFraction > 0.5;
-  lastTimeRangeInsideCapsule = lastTimeRangeFraction > 0.5;
-}
+      lastTimeRangeAvg{durationText(lastAverage, hourMin)},
+      thisTimeRangeFraction{fraction(thisAverage, longer(thisAverage, lastAverage))},
+      lastTimeRangeFraction{fraction(lastAverage, longer(thisAverage, lastAverage))},
+      thisTimeRangeInsideCapsule{thisTimeRangeFraction > 0.5},
+      lastTimeRangeInsideCapsule{lastTimeRangeFraction > 0.5} {}
 
 }  // namespace mivo

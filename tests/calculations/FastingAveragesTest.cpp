@@ -47,5 +47,12 @@ RC_GTEST_PROP(FastingAverages, equalClippingEveryStretchToEveryWindow, ()) {
   }
 }
 
+TEST(FastingAverages, keepAFastThatEndsExactlyAtTheCutOff) {
+  const Fasts fasts{{around - Duration{7200}, around - Duration{1}, 0}, {around - Duration{1}, around, 0}};
+  const auto entries = fastingAverageSeries(fasts, around, tests::CountingUUIDs{});
+  ASSERT_EQ(entries.size(), 1u);
+  EXPECT_EQ(entries[0].date, around);
+}
+
 }  // namespace
 }  // namespace mivo

@@ -5,6 +5,7 @@
 #include <rapidcheck/gtest.h>
 
 #include <limits>
+#include <numeric>
 #include <vector>
 
 #include "mivo/charts/VisibleWeights.h"
@@ -122,6 +123,18 @@ TEST(VisibleWeights, averageALongHistoryToTwelveDigits) {
       EXPECT_NEAR(weights.averageInKg(visible) / averageByLooking(samples, visible), 1, 1e-12)
           << first << " to " << last;
     }
+}
+
+TEST(VisibleWeights, averageWeightsThatASumOfAllWouldSwallow) {
+  std::vector<double> seconds(201);
+  std::iota(seconds.begin(), seconds.end(), 0);
+  auto samples = samplesAt(seconds);
+  samples[0].weightInKg = 1e16;  // every second kilogram is lost beside it
+  const VisibleWeights weights{Samples(samples)};
+  for (const int first : {1, 37, 100}) {
+    const DateInterval visible{dateSince1970(first), dateSince1970(200)};
+    EXPECT_NEAR(weights.averageInKg(visible), averageByLooking(samples, visible), 1e-12) << first;
+  }
 }
 
 TEST(VisibleWeights, averageWhatCannotBeSummedOneByOne) {

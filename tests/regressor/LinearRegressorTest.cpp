@@ -32,6 +32,12 @@ TEST(LinearRegressor, fitsPointsOfALineExactly) {
   EXPECT_EQ(line.resultPoints(), (Points{{0, 0}, {1, 2}, {2, 4}}));
 }
 
+TEST(LinearRegressor, findsTheXOfAValueOnALineThatMissesTheOrigin) {
+  auto line = Line::make({{0, 1}, {1, 3}, {2, 5}}).value();
+  EXPECT_EQ(line.xEstimates(7), std::vector{3.0});
+  EXPECT_EQ(line.xEstimate(-1), -1);
+}
+
 TEST(LinearRegressor, ssRegressionIsTheSumOfResiduals) {
   auto line = Line::make({{0, 0}, {1, 3}, {2, 0}}).value();
   EXPECT_EQ(line.slope(), 0);

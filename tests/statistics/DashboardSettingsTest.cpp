@@ -27,6 +27,13 @@ TEST(DashboardSettings, showNothingOnlyWhereEveryFlagIsOff) {
   });
 }
 
+TEST(DashboardSettings, showEverythingAtFirstButTheZonesThatFewReach) {
+  const State initial;
+  fields(initial, [](std::string_view name, bool flag) {
+    EXPECT_EQ(flag, name != "showKetosisHours" && name != "showDeepKetosisHours") << name;
+  });
+}
+
 class PersistedSettings : public testing::Test {
  protected:
   std::shared_ptr<tests::MemoryDefaults> defaults = std::make_shared<tests::MemoryDefaults>();

@@ -42,27 +42,37 @@ TEST_P(Outlook, saysWhenOrWhyNot) {
   EXPECT_NEAR(goalFraction(card).value_or(-1), row.fraction, 1e-9);
 }
 
-INSTANTIATE_TEST_SUITE_P(Rows, Outlook,
-                         testing::Values(OutlookRow{"losing", 70, 76, -4, Kind::reachesGoal, 120, 0.4},
-                                         OutlookRow{"gaining", 82, 80, 2, Kind::reachesGoal, 80, 0.5},
-                                         OutlookRow{"atTheGoal", 70.04, 70, -4, Kind::goalReached, -1, 1},
-                                         OutlookRow{"passedIt", 72, 70, -4, Kind::goalReached, -1, 1},
-                                         OutlookRow{"movingAway", 70, 76, 4, Kind::movingAway, -1, 0},
-                                         OutlookRow{"slow", 70, 76, -0.1, Kind::tooFar, -1, 0.1 / 6.1},
-                                         OutlookRow{"flat", 70, 76, 0, Kind::noTrend, -1, 0},
-                                         OutlookRow{"noTrend", 70, 76, std::nullopt, Kind::noTrend, -1, -1},
-                                         OutlookRow{"noTrendAtTheGoal", 76, 76, std::nullopt, Kind::goalReached, -1,
-                                                    -1},
-                                         OutlookRow{"noWeight", 70, std::nullopt, std::nullopt, Kind::noWeight, -1, -1},
-                                         OutlookRow{"noGoal", std::nullopt, 76, -4, Kind::noGoal, -1, -1}),
-                         [](const auto& row) { return std::string{row.param.name}; });
+INSTANTIATE_TEST_SUITE_P(
+    Rows, Outlook,
+    testing::Values(OutlookRow{"losing", 70, 76, -4, Kind::reachesGoal, 120, 0.4},
+                    OutlookRow{"gaining", 82, 80, 2, Kind::reachesGoal, 80, 0.5},
+                    OutlookRow{"atTheGoal", 70.04, 70, -4, Kind::goalReached, -1, 1},
+                    OutlookRow{"justAtTheGoal", 0.1, 0.05, std::nullopt, Kind::goalReached, -1, -1},
+                    OutlookRow{"leavingTheGoal", 70, 72, 2, Kind::movingAway, -1, 0},
+                    OutlookRow{"inTenYears", 75.70703125, 70, 0.125, Kind::reachesGoal, 3652.5, 0.125 / 5.83203125},
+                    OutlookRow{"passedIt", 72, 70, -4, Kind::goalReached, -1, 1},
+                    OutlookRow{"movingAway", 70, 76, 4, Kind::movingAway, -1, 0},
+                    OutlookRow{"slow", 70, 76, -0.1, Kind::tooFar, -1, 0.1 / 6.1},
+                    OutlookRow{"flat", 70, 76, 0, Kind::noTrend, -1, 0},
+                    OutlookRow{"noTrend", 70, 76, std::nullopt, Kind::noTrend, -1, -1},
+                    OutlookRow{"noTrendAtTheGoal", 76, 76, std::nullopt, Kind::goalReached, -1, -1},
+                    OutlookRow{"noWeight", 70, std::nullopt, std::nullopt, Kind::noWeight, -1, -1},
+                    OutlookRow{"noGoal", std::nullopt, 76, -4, Kind::noGoal, -1, -1}),
+    [](const auto& row) { return std::string{row.param.name}; });
+
+TEST(GoalWeightCard, seesNoTrendInNoTime) {
+  Feature::State card = state(70, 76, -4);
+  card.trendTimeRange = ClosedDateRange{now, now};
+  EXPECT_EQ(goalOutlook(card, now).kind, Kind::noTrend);
+  EXPECT_EQ(goalFraction(card), std::nullopt);
+}
 
 TEST(GoalWeightCard, takesAGoalThatIsAWeightAndDropsIt) {
   const tests::TestWorld world;
   const DependencyScope scope = world.enter();
   tests::TestStore<Feature> store{world, Feature::State{}, Feature{}};
   store.send(Feature::Action::didSetGoal{72.5}, [](Feature::State& card) { card.goalInKg = 72.5; });
-  store.send(Feature::Action::didSetGoal{-1});
+  for (const double noWeight : {-1.0, 0.0, 1000.0}) store.send(Feature::Action::didSetGoal{noWeight});
   store.send(Feature::Action::didSetGoal{std::nullopt}, [](Feature::State& card) { card.goalInKg = std::nullopt; });
 }
 

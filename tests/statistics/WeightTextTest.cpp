@@ -34,21 +34,21 @@ constexpr auto st = WeightUnit::stones;
 
 INSTANTIATE_TEST_SUITE_P(
     Rows, TypedWeight,
-    testing::Values(WeightRow{"dot", "81.4", kg, 81.4}, WeightRow{"comma", " 81,4 ", kg, 81.4},
-                    WeightRow{"unitOfTheUser", "179.5", lb, 179.5 * pound},
-                    WeightRow{"unitInTheText", "179 LB", kg, 179 * pound},
-                    WeightRow{"kilogramsInTheText", "81kg", lb, 81},
-                    WeightRow{"stonesAndPounds", "12 st 11 lb", kg, 179 * pound},
-                    WeightRow{"stonesAndPoundsByPosition", "12 11", st, 179 * pound},
-                    WeightRow{"stonesAlone", "12.5", st, 175 * pound},
-                    WeightRow{"arabicDigits", "\u0668\u0661\u066B\u0664", kg, 81.4},
-                    WeightRow{"noBreakSpace", "81\u00A0kg", kg, 81}, WeightRow{"empty", "", kg, refused},
-                    WeightRow{"blank", "  ", kg, refused}, WeightRow{"word", "heavy", kg, refused},
-                    WeightRow{"zero", "0", kg, refused}, WeightRow{"negative", "-81", kg, refused},
-                    WeightRow{"rest", "81.4 or so", kg, refused}, WeightRow{"twoNumbers", "81 4", kg, refused},
-                    WeightRow{"tooManyPounds", "12 st 14 lb", st, refused},
-                    WeightRow{"twoSigns", "1.081,4", kg, refused}, WeightRow{"elephant", "1000", kg, refused},
-                    WeightRow{"infinite", "inf", kg, refused}, WeightRow{"brokenText", "81\xE2", kg, refused}),
+    testing::Values(
+        WeightRow{"dot", "81.4", kg, 81.4}, WeightRow{"comma", " 81,4 ", kg, 81.4},
+        WeightRow{"unitOfTheUser", "179.5", lb, 179.5 * pound}, WeightRow{"unitInTheText", "179 LB", kg, 179 * pound},
+        WeightRow{"kilogramsInTheText", "81kg", lb, 81}, WeightRow{"stonesAndPounds", "12 st 11 lb", kg, 179 * pound},
+        WeightRow{"stonesAndPoundsByPosition", "12 11", st, 179 * pound},
+        WeightRow{"stonesAlone", "12.5", st, 175 * pound},
+        WeightRow{"arabicDigits", "\u0668\u0661\u066B\u0664", kg, 81.4},
+        WeightRow{"thaiDigits", "\u0E58\u0E51.\u0E54", kg, 81.4}, WeightRow{"wideDigits", "\uFF18\uFF11", kg, 81},
+        WeightRow{"noPounds", "12 st 0 lb", kg, 168 * pound}, WeightRow{"noBreakSpace", "81\u00A0kg", kg, 81},
+        WeightRow{"empty", "", kg, refused}, WeightRow{"blank", "  ", kg, refused},
+        WeightRow{"word", "heavy", kg, refused}, WeightRow{"zero", "0", kg, refused},
+        WeightRow{"negative", "-81", kg, refused}, WeightRow{"rest", "81.4 or so", kg, refused},
+        WeightRow{"twoNumbers", "81 4", kg, refused}, WeightRow{"tooManyPounds", "12 st 14 lb", st, refused},
+        WeightRow{"twoSigns", "1.081,4", kg, refused}, WeightRow{"elephant", "1000", kg, refused},
+        WeightRow{"infinite", "inf", kg, refused}, WeightRow{"brokenText", "81\xE2", kg, refused}),
     [](const auto& row) { return std::string{row.param.name}; });
 
 }  // namespace

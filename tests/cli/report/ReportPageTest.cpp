@@ -61,6 +61,15 @@ TEST(ReportPage, saysWhatTheScreenSays) {
     EXPECT_NE(page.find(line), std::string::npos) << line << "is not in\n" << page;
 }
 
+TEST(ReportPage, headsItsTrendsOnce) {
+  const Workplace place;
+  const std::string page = place.run("report --input " + sample("three-weeks") + fixedRun).output;
+  const std::size_t heading = page.find("  Trends\n");
+  ASSERT_NE(heading, std::string::npos) << page;
+  EXPECT_EQ(page.find("  Trends\n", heading + 1), std::string::npos);
+  EXPECT_LT(heading, page.find("●")) << "over the first of them";
+}
+
 TEST(ReportPage, warnsOfOverlaps) {
   const Workplace place;
   place.write("f.csv", "start,end\n2026-02-27T20:00Z,2026-02-28T14:00Z\n2026-02-28T12:00Z,2026-02-28T20:00Z\n");
