@@ -22,6 +22,14 @@ double grayscale(std::int64_t threshold, std::int64_t count) { return count >= t
 
 }  // namespace
 
+std::string countedText(std::int64_t count, StreakSettings::CountingEntity entity, const TextLookup& texts,
+                        const NumberFormatter& numbers) {
+  const std::string counted = entity == StreakSettings::CountingEntity::days
+                                  ? texts.plural("{1} day", "{1} days", count)
+                                  : texts.plural("{1} fast", "{1} fasts", count);
+  return filledIn(counted, {numbers.string(count)});
+}
+
 int badgeRank(std::int64_t threshold) {
   const auto above = std::ranges::upper_bound(badgeThresholds, threshold);
   return std::max(0, static_cast<int>(above - badgeThresholds.begin()) - 1);
@@ -34,7 +42,7 @@ MilestoneBadge milestoneBadge(std::int64_t fastCount, std::int64_t totalFasts, d
           .totalFasts = totalFasts,
           .grayscale = grayscale(fastCount, totalFasts),
           .starCount = badgeMarkCount(badgeRank(fastCount)),
-          .labelText = filledIn(texts.plural("{1} fast", "{1} fasts", fastCount), {numbers.string(fastCount)}),
+          .labelText = countedText(fastCount, StreakSettings::CountingEntity::fasts, texts, numbers),
           .showLabel = showLabel};
 }
 

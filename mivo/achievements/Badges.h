@@ -8,6 +8,7 @@
 #include <string>
 
 #include "mivo/model/Record.h"
+#include "mivo/model/StreakSettings.h"
 #include "mivo/platform/Formatters.h"
 #include "mivo/platform/TextLookup.h"
 
@@ -16,6 +17,10 @@ namespace mivo {
 /// Where badges are earned: numbers of fasts for milestones, lengths for streaks. A badge is earned at or above its
 /// threshold.
 inline constexpr std::array<std::int64_t, 11> badgeThresholds{1, 5, 10, 25, 50, 100, 250, 500, 1000, 2500, 5000};
+
+/// "1 day", "25 fasts": a number of what is counted.
+std::string countedText(std::int64_t count, StreakSettings::CountingEntity entity, const TextLookup& texts,
+                        const NumberFormatter& numbers);
 
 /// Three badges share a tier, with one, two and three stars or flames: copper, silver, gold and aurora for milestones;
 /// ember, rose, violet and blue for streaks. The rank is the badge's place in `badgeThresholds`.
