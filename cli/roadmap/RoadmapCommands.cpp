@@ -22,6 +22,7 @@
 #include "mivo/roadmap/FeatureVoterTallyAPI.h"
 #include "mivo/roadmap/JSONDataFetcher.h"
 #include "mivo/roadmap/RoadmapFeedbackView.h"
+#include "mivo/roadmap/RoadmapListFeature.h"
 #include "mivo/roadmap/RoadmapVotes.h"
 
 namespace mivo::cli {
@@ -44,55 +45,51 @@ struct CollectedLog final : LogOutput {
   mutable std::mutex mutex;
 };
 
-struct CountedFeature {
-  RoadmapFeature feature;
-  bool isVoted = false;
-  std::int64_t votes = 0;
-};
+RoadmapRow rowOf(const RoadmapFeature& feature) {
+  const RoadmapVotes own{dependency(&Dependencies::userDefaults)};
+  return {.feature = feature, .isVoted = own.isVoted(feature.id)};
+}
 
-/// The file's features, each with its votes; all are asked for beside each other.
-std::vector<CountedFeature> countedFeatures(const std::vector<RoadmapFeature>& features, const FeatureVoter& voter,
-                                            const RoadmapVotes& own) {
-  std::vector<CountedFeature> counted;
-  counted.reserve(features.size());
-  for (const RoadmapFeature& feature : features) counted.push_back({feature, own.isVoted(feature.id)});
-  std::latch remaining{static_cast<std::ptrdiff_t>(counted.size())};
+/// Fills in the votes of all rows, asked for beside each other.
+void fetchCounts(std::vector<RoadmapRow>& rows, const FeatureVoter& voter) {
+  std::latch remaining{static_cast<std::ptrdiff_t>(rows.size())};
   const adapters::ThreadPool threads{8};
-  for (CountedFeature& asked : counted)
+  for (RoadmapRow& asked : rows)
     threads.run([&, context = currentContext()] {
       const DependencyScope scope{context};
-      asked.votes = voter.fetch(asked.feature, {});
+      asked.count = voter.fetch(asked.feature, {});
       remaining.count_down();
     });
   remaining.wait();
-  std::ranges::stable_sort(counted, std::greater{}, &CountedFeature::votes);
-  return counted;
+  sortByVotes(rows);
 }
 
-std::string asText(const std::vector<CountedFeature>& features, const TextLookup& texts) {
+std::string asText(const std::vector<RoadmapRow>& rows, bool hasVotes, const TextLookup& texts) {
   std::ostringstream out;
-  for (const auto& [feature, isVoted, votes] : features) {
-    out << std::setw(8) << votes << (isVoted ? " * " : "   ") << feature.title << " (" << feature.id;
+  for (const RoadmapRow& row : rows) {
+    const RoadmapFeature& feature = row.feature;
+    if (hasVotes) out << std::setw(8) << row.count << (row.isVoted ? " * " : "   ");
+    out << feature.title << " (" << feature.id;
     if (!feature.status.empty()) out << ", " << statusText(feature.status, texts);
     out << ")\n";
   }
   return std::move(out).str();
 }
 
-std::string asJson(const std::vector<CountedFeature>& features) {
+std::string asJson(const std::vector<RoadmapRow>& rows, bool hasVotes) {
   using Layout = host::JsonWriter::Layout;
   host::JsonWriter json;
   json.beginArray(Layout::spread);
-  for (const auto& [feature, isVoted, votes] : features) {
+  for (const RoadmapRow& row : rows) {
     json.beginObject(Layout::spread);
-    fields(feature, [&json](std::string_view name, const std::string& text) {
+    fields(row.feature, [&json](std::string_view name, const std::string& text) {
       json.key(name);
       json.string(text);
     });
     json.key("votes");
-    json.number(votes);
+    hasVotes ? json.number(row.count) : json.null();
     json.key("isVoted");
-    json.boolean(isVoted);
+    json.boolean(row.isVoted);
     json.endObject();
   }
   json.endArray();
@@ -127,12 +124,11 @@ Outcome run(const std::shared_ptr<const Dependencies>& dependencies,
 Outcome send(bool isVote, const RoadmapFeature& feature, const std::string& namespaceName, const CollectedLog& log) {
   const RoadmapVotes own{dependency(&Dependencies::userDefaults)};
   const auto& texts = *dependency(&Dependencies::texts);
-  if (own.isVoted(feature.id) == isVote)
-    return {0,
-            filledIn(isVote ? texts.text("You already voted for {1}.") : texts.text("You have no vote for {1}."),
-                     {feature.title}) +
-                '\n',
-            std::nullopt};
+  if (const auto refusal = voteRefusal(rowOf(feature), isVote)) {
+    std::string sentence = refusalText(*refusal, feature, texts);
+    if (*refusal == VoteRefusal::closed) return {failed, "", std::move(sentence)};
+    return {0, std::move(sentence) + '\n', std::nullopt};  // all is as it was wanted
+  }
   const auto count = own.send(isVote, feature, FeatureVoterTallyAPI{namespaceName});
   if (!count) return {failed, "", log.line().value_or("the tally service gave no count")};
   return {
@@ -162,10 +158,12 @@ tl::expected<std::shared_ptr<const Dependencies>, std::string> roadmapDependenci
 
 Outcome listRoadmap(const RoadmapOptions& options, const std::shared_ptr<const Dependencies>& dependencies) {
   return run(dependencies, [&options](const CollectedLog& log) -> Outcome {
-    const RoadmapVotes own{dependency(&Dependencies::userDefaults)};
-    const auto features = countedFeatures(loadedFeatures(), FeatureVoterTallyAPI{options.namespaceName}, own);
+    std::vector<RoadmapRow> rows;
+    for (const RoadmapFeature& feature : loadedFeatures()) rows.push_back(rowOf(feature));
+    const bool hasVotes = RoadmapFeedbackView::configuration().allowVotes;
+    if (hasVotes) fetchCounts(rows, FeatureVoterTallyAPI{options.namespaceName});
     const bool isJson = options.format == "json";
-    return {0, isJson ? asJson(features) : asText(features, *dependency(&Dependencies::texts)), log.line()};
+    return {0, isJson ? asJson(rows, hasVotes) : asText(rows, hasVotes, *dependency(&Dependencies::texts)), log.line()};
   });
 }
 
@@ -178,7 +176,6 @@ Outcome sendVote(bool isVote, const RoadmapOptions& options, const std::shared_p
     if (feature == features.end())
       return {wrongUsage, "",
               "no feature \"" + options.feature + "\" on the roadmap: expected one of " + idsOf(features)};
-    if (!isOpenForVotes(*feature)) return {failed, "", feature->title + " is finished: votes for it are closed"};
     return send(isVote, *feature, options.namespaceName, log);
   });
 }

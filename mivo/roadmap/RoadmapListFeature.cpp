@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <exception>
+#include <functional>
 #include <utility>
 
 #include "mivo/roadmap/JSONDataFetcher.h"
@@ -108,8 +109,9 @@ Effect<Action> RoadmapListFeature::fetchCount(const RoadmapFeature& feature) con
 
 Effect<Action> RoadmapListFeature::didTapVote(State& state, const std::string& id) const {
   const RoadmapRow* row = rowOf(state, id);
-  if (!configuration.allowVotes || !row || row->isSending || !isOpenForVotes(row->feature)) return {};
+  if (!configuration.allowVotes || !row || row->isSending) return {};
   const bool isVote = !row->isVoted;
+  if (voteRefusal(*row, isVote)) return {};
   const RoadmapFeature feature = row->feature;
   state.unsentVote = std::nullopt;
   changeRow(state, id, [isVote](RoadmapRow& tapped) {
@@ -138,6 +140,26 @@ Effect<Action> RoadmapListFeature::didReceiveVoteAnswer(State& state, const Road
   if (answer.count) return {};
   state.unsentVote = answer.id;
   return fetchCount(feature);
+}
+
+void sortByVotes(std::vector<RoadmapRow>& rows) { std::ranges::stable_sort(rows, std::greater{}, &RoadmapRow::count); }
+
+std::optional<VoteRefusal> voteRefusal(const RoadmapRow& row, bool isVote) {
+  if (!isOpenForVotes(row.feature)) return VoteRefusal::closed;
+  if (row.isVoted == isVote) return isVote ? VoteRefusal::votedAlready : VoteRefusal::notVoted;
+  return std::nullopt;
+}
+
+std::string refusalText(VoteRefusal refusal, const RoadmapFeature& feature, const TextLookup& texts) {
+  switch (refusal) {
+    case VoteRefusal::closed:
+      return filledIn(texts.text("{1} is finished: votes for it are closed."), {feature.title});
+    case VoteRefusal::votedAlready:
+      return filledIn(texts.text("You already voted for {1}."), {feature.title});
+    case VoteRefusal::notVoted:
+      return filledIn(texts.text("You have no vote for {1}."), {feature.title});
+  }
+  return {};
 }
 
 std::vector<RoadmapRow> visibleRows(const State& state) {

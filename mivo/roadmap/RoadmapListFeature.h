@@ -145,6 +145,16 @@ void fields(Record& record, Visit&& visit) {
   visit("unsentVote", unsentVote);
 }
 
+/// The most wanted first; those of as many votes keep their order.
+void sortByVotes(std::vector<RoadmapRow>& rows);
+
+/// Why a vote for a feature, or taking one back, would be pointless.
+enum class VoteRefusal { closed, votedAlready, notVoted };
+std::optional<VoteRefusal> voteRefusal(const RoadmapRow& row, bool isVote);
+
+/// "You already voted for Water log."
+std::string refusalText(VoteRefusal refusal, const RoadmapFeature& feature, const TextLookup& texts);
+
 /// The rows that the chosen status leaves.
 std::vector<RoadmapRow> visibleRows(const RoadmapListFeature::State& state);
 

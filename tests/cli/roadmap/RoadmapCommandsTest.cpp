@@ -89,6 +89,7 @@ TEST_F(RoadmapCommands, sendsNoVoteUnderNoName) {
   const Outcome refused = vote(true, "1");
   EXPECT_EQ(refused.status, 2);
   EXPECT_EQ(refused.warning, "--namespace: expected a name to count votes under, found none");
+  EXPECT_EQ(list().output, "Water log (1, Planned)\nWeekly plan (plan, In progress)\nImport (old, Finished)\n");
   EXPECT_FALSE(counts.contains("/feature1")) << "nothing was asked of the service";
 }
 
@@ -128,7 +129,7 @@ TEST_F(RoadmapCommands, saysWhatWentWrong) {
   const Outcome stranger = vote(true, "3");
   EXPECT_EQ(stranger.status, 2);
   EXPECT_EQ(stranger.warning, R"(no feature "3" on the roadmap: expected one of 1, plan, old)");
-  EXPECT_EQ(vote(true, "old").warning, "Import is finished: votes for it are closed");
+  EXPECT_EQ(vote(true, "old").warning, "Import is finished: votes for it are closed.");
 
   isAway = true;
   const Outcome away = vote(true, "1");
