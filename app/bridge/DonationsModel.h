@@ -55,7 +55,7 @@ class DonationsModel : public QObject {
 
   Q_INVOKABLE void choose(const QString& id);
   Q_INVOKABLE void donate() { send(Action::didTapProduct{chosenID.toStdString()}); }
-  Q_INVOKABLE void tryAgain() { send(Action::didTapRetry{}); }
+  Q_INVOKABLE void tryAgain() { send(Action::didTapButton{}); }
 
  Q_SIGNALS:
   void changed();

@@ -70,10 +70,12 @@ auto AppFeature::on(State& state, const Action::statistics& sent) const -> Effec
     if (const auto* accepted = std::get_if<AddWeightLogFeature::Action::didAcceptSample>(&weight->action))
       return saveWeight(state, accepted->sample);
   } else if (const auto* goal = std::get_if<Sent::goalWeightCardAction>(&sent.action)) {
-    if (std::holds_alternative<GoalWeightCardFeature::Action::didSetGoal>(goal->action))
-      setGoalWeight(*userDefaults, state.statistics.goalWeightCardState.goalInKg);
-    else
-      setWeightUnit(*userDefaults, state.statistics.goalWeightCardState.weightUnit);
+    using Card = GoalWeightCardFeature::Action;
+    const auto& card = state.statistics.goalWeightCardState;
+    if (std::holds_alternative<Card::didSetGoal>(goal->action) ||
+        std::holds_alternative<Card::didTypeGoal>(goal->action))
+      setGoalWeight(*userDefaults, card.goalInKg);
+    if (std::holds_alternative<Card::didChangeUnit>(goal->action)) setWeightUnit(*userDefaults, card.weightUnit);
   }
   return {};
 }

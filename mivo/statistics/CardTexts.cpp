@@ -7,6 +7,7 @@
 
 #include "mivo/achievements/Badges.h"
 #include "mivo/model/Translatable.h"
+#include "mivo/statistics/DonationsFeature.h"
 #include "mivo/statistics/GoalWeightCardFeature.h"
 #include "mivo/statistics/LineCharts.h"
 
@@ -17,9 +18,7 @@ using Entity = StreakSettings::CountingEntity;
 using Outlook = GoalOutlook::Kind;
 
 std::string streakText(std::int64_t length, Entity entity, const ScreenFormatters& format) {
-  const std::string counted = entity == Entity::days ? format.texts.plural("{1} day", "{1} days", length)
-                                                     : format.texts.plural("{1} fast", "{1} fasts", length);
-  return filledIn(counted, {format.numbers.string(length)});
+  return countedText(length, entity, format.texts, format.numbers);
 }
 
 std::string inARowText(std::int64_t length, Entity entity, const ScreenFormatters& format) {
@@ -50,6 +49,16 @@ std::string weightTrendText(const ScreenInput& input, const ScreenFormatters& fo
   if (!gained || !range) return outlookText({.kind = Outlook::noTrend, .date = {}}, format.texts, format.dates);
   return filledIn(format.texts.text("{1} since {2}."), {signedMass(*gained, input.weightUnit, format),
                                                         format.dates.string(range->lowerBound, "MMMMd").value_or("")});
+}
+
+/// In most languages the sentence about the trend begins with its figure.
+void setFigureApart(GoalWeightCard& card, const ScreenInput& input, const ScreenFormatters& format) {
+  const auto& gained = *input.stats.weightTrendInKg;
+  const std::string figure = gained ? signedMass(*gained, input.weightUnit, format) : "";
+  if (card.trend.starts_with(figure)) card.trendFigure = figure;
+  card.afterFigure = card.trend.substr(card.trendFigure.size());
+  if (!card.trend.empty() && !card.outlook.empty()) card.afterFigure += ' ';
+  card.afterFigure += card.outlook;
 }
 
 GoalWeightCardFeature::State goalWeightState(const ScreenInput& input) {
@@ -98,8 +107,7 @@ CardContent overlappingFastsTexts(const ScreenInput&, const ScreenFormatters& fo
 }
 
 CardContent donationTexts(const ScreenInput&, const ScreenFormatters& format) {
-  return NoticeCard{.text = format.texts.text("Mivo is free, privacy-friendly and without ads. Donate to support my "
-                                              "work. Thank you!")};
+  return NoticeCard{.text = format.texts.text(donationRequest)};
 }
 
 CardContent roadmapTexts(const ScreenInput&, const ScreenFormatters& format) {
@@ -150,15 +158,17 @@ CardContent goalWeightTexts(const ScreenInput& input, const ScreenFormatters& fo
     card.current = mass(*current);
     card.currentLabel = texts.text("Current");
   }
-  if (!goal) {
+  if (goal) {
+    card.goal = mass(*goal);
+    card.goalLabel = texts.text("Goal");
+    const bool isOnTheWay = current && outlook.kind != Outlook::goalReached;
+    if (isOnTheWay) card.remaining = filledIn(texts.text("{1} to go"), {mass(std::abs(*goal - *current))});
+    if (outlook.kind != Outlook::noTrend)
+      card.outlook = outlookText(outlook, texts, format.dates);  // said by the trend
+  } else {
     card.button = texts.text("Set a goal");
-    return card;
   }
-  card.goal = mass(*goal);
-  card.goalLabel = texts.text("Goal");
-  const bool isOnTheWay = current && outlook.kind != Outlook::goalReached;
-  if (isOnTheWay) card.remaining = filledIn(texts.text("{1} to go"), {mass(std::abs(*goal - *current))});
-  if (outlook.kind != Outlook::noTrend) card.outlook = outlookText(outlook, texts, format.dates);  // said by the trend
+  setFigureApart(card, input, format);
   return card;
 }
 

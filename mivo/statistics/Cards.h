@@ -84,6 +84,8 @@ struct GoalWeightCard {
   std::string current = {}, currentLabel = {};  ///< "72.4 kg", "Current"; none without a weight
   std::string goal = {}, goalLabel = {};        ///< "69.0 kg", "Goal"; none without a goal
   std::string trend = {};                       ///< "-2.6 kg since March 14."; none without a weight
+  std::string trendFigure = {};                 ///< "-2.6 kg", where the trend begins with it, to be shown apart
+  std::string afterFigure = {};                 ///< what follows it: the rest of the trend, and the outlook
   std::string outlook = {};                     ///< "At this pace you reach your goal around October 6, 2026."
   std::string button = {};                      ///< "Set a goal"; none with one
   std::optional<double> fraction = {};          ///< of the way since the trend began, 0 to 1; none without one
@@ -92,7 +94,8 @@ struct GoalWeightCard {
 
 template <RecordOf<GoalWeightCard> Listed, class Visit>
 void fields(Listed& record, Visit&& visit) {
-  auto& [title, remaining, current, currentLabel, goal, goalLabel, trend, outlook, button, fraction] = record;
+  auto& [title, remaining, current, currentLabel, goal, goalLabel, trend, trendFigure, afterFigure, outlook, button,
+         fraction] = record;
   visit("title", title);
   visit("remaining", remaining);
   visit("current", current);
@@ -100,6 +103,8 @@ void fields(Listed& record, Visit&& visit) {
   visit("goal", goal);
   visit("goalLabel", goalLabel);
   visit("trend", trend);
+  visit("trendFigure", trendFigure);
+  visit("afterFigure", afterFigure);
   visit("outlook", outlook);
   visit("button", button);
   visit("fraction", fraction);

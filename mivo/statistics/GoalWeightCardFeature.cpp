@@ -32,6 +32,13 @@ bool hasPassed(double goalInKg, double currentInKg, const std::optional<Trend>& 
   return trend && (goalInKg - trend->startInKg) * (goalInKg - currentInKg) < 0;
 }
 
+void didTypeGoal(State& state, const std::string& text) {
+  const auto goal = parseWeight(text, state.weightUnit);
+  const bool isEmpty = text.find_first_not_of(" \t\n") == std::string::npos;
+  state.hasGoalProblem = !goal && !isEmpty;
+  if (goal || isEmpty) state.goalInKg = goal;
+}
+
 }  // namespace
 
 auto GoalWeightCardFeature::reduce(State& state, const Action& action) const -> Effect<Action> {
@@ -39,6 +46,8 @@ auto GoalWeightCardFeature::reduce(State& state, const Action& action) const -> 
     const bool isWeight = !set->goalInKg || (*set->goalInKg > 0 && *set->goalInKg < heaviestWeightInKg);
     if (isWeight) state.goalInKg = set->goalInKg;
   }
+  if (std::holds_alternative<Action::didOpenGoal>(action)) state.hasGoalProblem = false;
+  if (const auto* typed = std::get_if<Action::didTypeGoal>(&action)) didTypeGoal(state, typed->text);
   if (const auto* changed = std::get_if<Action::didChangeUnit>(&action)) state.weightUnit = changed->unit;
   return {};
 }

@@ -15,7 +15,8 @@
 namespace mivo {
 
 /// The card that says how far the goal weight is, and when the trend reaches it. The goal and the unit are settings of
-/// the host, which sets them and keeps what `didSetGoal` brings; weight and trend follow the statistics.
+/// the host, which sets them and keeps what `didSetGoal` and `didTypeGoal` bring; weight and trend follow the
+/// statistics.
 struct GoalWeightCardFeature {
   struct State {
     Observed<std::optional<double>> goalInKg = std::nullopt;
@@ -23,6 +24,7 @@ struct GoalWeightCardFeature {
     Observed<std::optional<double>> weightTrendInKg = std::nullopt;  ///< the change over `trendTimeRange`
     Observed<std::optional<ClosedDateRange>> trendTimeRange = std::nullopt;
     Observed<WeightUnit> weightUnit = WeightUnit::kilograms;
+    Observed<bool> hasGoalProblem = false;  ///< what was typed last is no weight
     bool operator==(const State&) const = default;
   };
 
@@ -31,12 +33,20 @@ struct GoalWeightCardFeature {
       std::optional<double> goalInKg;  ///< none takes the goal away
       bool operator==(const didSetGoal&) const = default;
     };
+    /// The sheet that takes the goal in.
+    struct didOpenGoal {
+      bool operator==(const didOpenGoal&) const = default;
+    };
+    struct didTypeGoal {
+      std::string text;  ///< in the unit that is shown; an empty one takes the goal away
+      bool operator==(const didTypeGoal&) const = default;
+    };
     struct didChangeUnit {
       WeightUnit unit;
       bool operator==(const didChangeUnit&) const = default;
     };
   };
-  struct Action : Cases, std::variant<Cases::didSetGoal, Cases::didChangeUnit> {
+  struct Action : Cases, std::variant<Cases::didSetGoal, Cases::didOpenGoal, Cases::didTypeGoal, Cases::didChangeUnit> {
     using variant::variant;
   };
 
@@ -46,12 +56,13 @@ struct GoalWeightCardFeature {
 
 template <RecordOf<GoalWeightCardFeature::State> Listed, class Visit>
 void fields(Listed& record, Visit&& visit) {
-  auto& [goalInKg, currentWeightInKg, weightTrendInKg, trendTimeRange, weightUnit] = record;
+  auto& [goalInKg, currentWeightInKg, weightTrendInKg, trendTimeRange, weightUnit, hasGoalProblem] = record;
   visit("goalInKg", goalInKg);
   visit("currentWeightInKg", currentWeightInKg);
   visit("weightTrendInKg", weightTrendInKg);
   visit("trendTimeRange", trendTimeRange);
   visit("weightUnit", weightUnit);
+  visit("hasGoalProblem", hasGoalProblem);
 }
 
 /// When the trend reaches the goal, or why it does not.

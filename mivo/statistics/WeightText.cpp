@@ -101,4 +101,16 @@ std::string weightFieldText(double weightInKg, WeightUnit unit, const NumberForm
   return numbers.string(weightInKg / kilogramsPer(unit), 1);
 }
 
+std::string weightFieldUnit(WeightUnit unit) {
+  switch (unit) {
+    case WeightUnit::kilograms:
+      return "kg";
+    case WeightUnit::pounds:
+      return "lb";
+    case WeightUnit::stones:
+      break;
+  }
+  return {};
+}
+
 }  // namespace mivo

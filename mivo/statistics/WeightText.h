@@ -2,6 +2,7 @@
 #pragma once
 
 #include <optional>
+#include <string>
 #include <string_view>
 
 #include "mivo/platform/Formatters.h"
@@ -23,5 +24,8 @@ std::optional<double> parseWeight(std::string_view text, WeightUnit unit);
 /// What the weight field shows for a weight: "81.4", "179.5", "12 st 11 lb".
 std::string weightFieldText(double weightInKg, WeightUnit unit, const NumberFormatter& numbers,
                             const MassFormatter& masses);
+
+/// What stands beside it: "kg", "lb"; nothing for stones, which say their unit themselves.
+std::string weightFieldUnit(WeightUnit unit);
 
 }  // namespace mivo

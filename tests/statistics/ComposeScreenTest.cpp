@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "mivo/statistics/CardTexts.h"
 #include "mivo/statistics/LineCharts.h"
 #include "mivo/store/Print.h"
 #include "tests/support/FixedClients.h"
@@ -235,12 +236,15 @@ TEST_F(Screen, tellsTheWeightAndItsTrend) {
                           .current = "72.5 kg",
                           .currentLabel = "Current",
                           .trend = "No clear trend in the last 90 days.",
+                          .afterFigure = "No clear trend in the last 90 days.",
                           .button = "Set a goal"};
   EXPECT_EQ(content<GoalWeightCard>(CardKind::goalWeight), expected);
 
   stats.weightTrendInKg = 1.5;
   stats.trendTimeRange = ClosedDateRange{noon - Duration{80 * secondsPerDay}, noon};
   expected.trend = "+1.5 kg since MMMMd(1775995200).";
+  expected.trendFigure = "+1.5 kg";
+  expected.afterFigure = " since MMMMd(1775995200).";
   EXPECT_EQ(content<GoalWeightCard>(CardKind::goalWeight), expected);
 }
 
@@ -249,6 +253,7 @@ TEST_F(Screen, tellsTheWayToTheGoal) {
   GoalWeightCard expected{.title = "Goal weight",
                           .goal = "70.0 kg",
                           .goalLabel = "Goal",
+                          .afterFigure = "Add your weight to see how far your goal is.",
                           .outlook = "Add your weight to see how far your goal is."};
   EXPECT_EQ(content<GoalWeightCard>(CardKind::goalWeight), expected);
 
@@ -256,7 +261,7 @@ TEST_F(Screen, tellsTheWayToTheGoal) {
   expected.current = "72.5 kg";
   expected.currentLabel = "Current";
   expected.remaining = "2.5 kg to go";
-  expected.trend = "No clear trend in the last 90 days.";
+  expected.trend = expected.afterFigure = "No clear trend in the last 90 days.";
   expected.outlook = "";
   EXPECT_EQ(content<GoalWeightCard>(CardKind::goalWeight), expected) << "the trend says why";
 
@@ -264,6 +269,8 @@ TEST_F(Screen, tellsTheWayToTheGoal) {
   stats.trendTimeRange = ClosedDateRange{noon - Duration{80 * secondsPerDay}, noon};
   expected.trend = "-2.5 kg since MMMMd(1775995200).";
   expected.outlook = "At this pace you reach your goal around yMMMMd(1789819200).";
+  expected.trendFigure = "-2.5 kg";
+  expected.afterFigure = " since MMMMd(1775995200). " + expected.outlook;
   expected.fraction = 0.5;
   EXPECT_EQ(content<GoalWeightCard>(CardKind::goalWeight), expected);
 
@@ -271,8 +278,26 @@ TEST_F(Screen, tellsTheWayToTheGoal) {
   expected.current = "70.0 kg";
   expected.remaining = "";
   expected.outlook = "You have reached your goal.";
+  expected.afterFigure = " since MMMMd(1775995200). You have reached your goal.";
   expected.fraction = 1;
   EXPECT_EQ(content<GoalWeightCard>(CardKind::goalWeight), expected);
+}
+
+TEST_F(Screen, setsNoFigureApartWhereTheSentenceBeginsWithAnother) {
+  struct Turned : tests::EnglishTexts {
+    std::string text(std::string_view key, std::string_view context = {}) const override {
+      return key == "{1} since {2}." ? "Since {2}: {1}." : EnglishTexts::text(key, context);
+    }
+  };
+  stats.currentWeightInKg = 72.5;
+  stats.weightTrendInKg = 1.5;
+  stats.trendTimeRange = ClosedDateRange{noon, noon};
+  const Turned texts;
+  ScreenFormatters turned = screenFormatters();
+  const ScreenFormatters formatters{texts, turned.hourMin, turned.hour, turned.numbers, turned.masses, turned.dates};
+  const auto card = std::get<GoalWeightCard>(goalWeightTexts(input, formatters));
+  EXPECT_EQ(card.trendFigure, "");
+  EXPECT_EQ(card.afterFigure, card.trend);
 }
 
 TEST_F(Screen, saysWhatIsWrongWithAWeight) {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "mivo/statistics/DonationsFeature.h"
+#include "mivo/statistics/DonationsPage.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -28,12 +28,16 @@ TEST_F(Donations, loadTheirProductsAndOpenTheOneThatIsTapped) {
   store->send(Action::onAppear{}, loading);
   store->receive(Action::didLoad{donations->answer}, [this](State& state) {
     state.oneTimeProducts = donations->answer.oneTime;
+    state.chosenID = "coffee";
     state.loadingState = LoadingState::loaded;
   });
   store->send(Action::didTapProduct{"coffee"});
   store->send(Action::didTapProduct{"unknown"});
+  store->send(Action::didTapButton{});
+  store->send(Action::didChooseProduct{"unknown"}, [](State& state) { state.chosenID = "unknown"; });
+  store->send(Action::didTapButton{});
   store->finish();
-  EXPECT_THAT(links->opened, ElementsAre("https://example.org/coffee"));
+  EXPECT_THAT(links->opened, ElementsAre("https://example.org/coffee", "https://example.org/coffee"));
 }
 
 TEST_F(Donations, sayWhyLoadingFailedAndMayBeTriedAgain) {
@@ -46,9 +50,10 @@ TEST_F(Donations, sayWhyLoadingFailedAndMayBeTriedAgain) {
     state.failure = "The network is down.";
   });
   donations->failure.clear();
-  store->send(Action::didTapRetry{}, loading);
+  store->send(Action::didTapButton{}, loading);
   store->receive(Action::didLoad{donations->answer}, [this](State& state) {
     state.oneTimeProducts = donations->answer.oneTime;
+    state.chosenID = "coffee";
     state.loadingState = LoadingState::loaded;
     state.failure = "";
   });
@@ -69,6 +74,57 @@ TEST_F(Donations, sayInTheUsersLanguageThatNothingIsSetUp) {
     state.loadingState = LoadingState::failed;
     state.failure = "No ways to donate are set up.!";
   });
+}
+
+DonationProduct product(const std::string& id) { return {id, "For " + id, id + " €", "https://example.org/" + id}; }
+
+struct ChoiceRow {
+  const char* name;
+  std::vector<DonationProduct> once, monthly;
+  std::string chosenBefore, chosen, button;
+  std::vector<std::string> groups;
+};
+
+TEST_F(Donations, chooseAtFirstWhatMostGive) {
+  const tests::EnglishTexts texts;
+  for (const ChoiceRow& row : {
+           ChoiceRow{"nothing", {}, {}, "", "", "Donate", {}},
+           ChoiceRow{"one", {product("3")}, {}, "", "3", "Donate 3 €", {"Once"}},
+           ChoiceRow{"several",
+                     {product("3"), product("5"), product("10")},
+                     {product("2")},
+                     "",
+                     "5",
+                     "Donate 5 €",
+                     {"Once", "Every month"}},
+           ChoiceRow{"monthlyOnly", {}, {product("2"), product("4")}, "", "2", "Donate 2 €", {"Every month"}},
+           ChoiceRow{"chosenBefore", {product("3"), product("5")}, {}, "3", "3", "Donate 3 €", {"Once"}},
+           ChoiceRow{"chosenIsGone", {product("3"), product("5")}, {}, "7", "5", "Donate 5 €", {"Once"}},
+       }) {
+    State state{.chosenID = row.chosenBefore};
+    DonationsFeature{}.reduce(state, Action::didLoad{{row.once, row.monthly}});
+    EXPECT_EQ(*state.chosenID, row.chosen) << row.name;
+    const DonationsPage page = composeDonations(state, texts);
+    EXPECT_EQ(page.button, row.button) << row.name;
+    std::vector<std::string> groups;
+    for (const DonationGroup& group : page.groups) {
+      groups.push_back(group.label);
+      for (const DonationChoice& choice : group.choices)
+        EXPECT_EQ(choice.isChosen, choice.id == row.chosen) << row.name;
+    }
+    EXPECT_EQ(groups, row.groups) << row.name;
+  }
+}
+
+TEST_F(Donations, offerToTryAgainOnlyOnceLoadingHasFailed) {
+  const tests::EnglishTexts texts;
+  const DonationsPage loads = composeDonations({.loadingState = LoadingState::loading}, texts);
+  EXPECT_EQ(loads.button, "");
+  EXPECT_EQ(loads.failure, "");
+  const DonationsPage failed =
+      composeDonations({.loadingState = LoadingState::failed, .failure = "The network is down."}, texts);
+  EXPECT_EQ(failed.button, "Try again");
+  EXPECT_EQ(failed.failure, "The network is down.");
 }
 
 }  // namespace

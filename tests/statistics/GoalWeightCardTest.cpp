@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "mivo/statistics/GoalWeightCardFeature.h"
+#include "mivo/statistics/GoalWeightSheet.h"
 
 #include <gtest/gtest.h>
 
@@ -59,6 +59,24 @@ INSTANTIATE_TEST_SUITE_P(
                     OutlookRow{"noWeight", 70, std::nullopt, std::nullopt, Kind::noWeight, -1, -1},
                     OutlookRow{"noGoal", std::nullopt, 76, -4, Kind::noGoal, -1, -1}),
     [](const auto& row) { return std::string{row.param.name}; });
+
+TEST(GoalWeightCard, readsAGoalAsItIsTyped) {
+  const tests::TestWorld world;
+  const DependencyScope scope = world.enter();
+  using Action = Feature::Action;
+  tests::TestStore<Feature> store{world, Feature::State{.weightUnit = WeightUnit::pounds}, Feature{}};
+  const auto sheet = [&store] {
+    return composeGoalWeightSheet(store.state(), tests::EnglishTexts{}, tests::PlainNumbers{}, tests::PlainMasses{});
+  };
+  EXPECT_EQ(sheet(), (GoalWeightSheet{"Goal weight", "", "lb", "", "Save", ""}));
+  store.send(Action::didTypeGoal{"150"}, [](Feature::State& card) { card.goalInKg = 150 * 0.45359237; });
+  EXPECT_EQ(sheet(), (GoalWeightSheet{"Goal weight", "150.0", "lb", "", "Save", "Remove goal"}));
+  store.send(Action::didTypeGoal{"light"}, [](Feature::State& card) { card.hasGoalProblem = true; });
+  EXPECT_EQ(sheet().problem, "Type your weight as a number, such as 81.4.");
+  EXPECT_EQ(sheet().fieldText, "150.0") << "the goal stays";
+  store.send(Action::didOpenGoal{}, [](Feature::State& card) { card.hasGoalProblem = false; });
+  store.send(Action::didTypeGoal{" "}, [](Feature::State& card) { card.goalInKg = std::nullopt; });
+}
 
 TEST(GoalWeightCard, seesNoTrendInNoTime) {
   Feature::State card = state(70, 76, -4);

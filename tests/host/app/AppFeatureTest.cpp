@@ -268,6 +268,10 @@ TEST_F(AppFeatureTest, recomputesForAnotherRangeAndKeepsTheSelection) {
 TEST_F(AppFeatureTest, remembersTheGoal) {
   send(Action::statistics{Sent::goalWeightCardAction{GoalWeightCardFeature::Action::didSetGoal{69.0}}});
   EXPECT_EQ(goalWeight(*world.dependencies.userDefaults), 69.0);
+  send(Action::statistics{Sent::goalWeightCardAction{GoalWeightCardFeature::Action::didTypeGoal{"heavy"}}});
+  EXPECT_EQ(goalWeight(*world.dependencies.userDefaults), 69.0);
+  send(Action::statistics{Sent::goalWeightCardAction{GoalWeightCardFeature::Action::didTypeGoal{"68,5"}}});
+  EXPECT_EQ(goalWeight(*world.dependencies.userDefaults), 68.5);
   send(Action::statistics{Sent::goalWeightCardAction{GoalWeightCardFeature::Action::didSetGoal{std::nullopt}}});
   EXPECT_EQ(goalWeight(*world.dependencies.userDefaults), std::nullopt);
 }

@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: MIT
+#include "mivo/statistics/GoalWeightSheet.h"
+
+#include "mivo/statistics/WeightText.h"
+
+namespace mivo {
+
+GoalWeightSheet composeGoalWeightSheet(const GoalWeightCardFeature::State& state, const TextLookup& texts,
+                                       const NumberFormatter& numbers, const MassFormatter& masses) {
+  const auto& goal = *state.goalInKg;
+  return {.title = texts.text("Goal weight"),
+          .fieldText = goal ? weightFieldText(*goal, state.weightUnit, numbers, masses) : "",
+          .unit = weightFieldUnit(state.weightUnit),
+          .problem = state.hasGoalProblem ? texts.text("Type your weight as a number, such as 81.4.") : "",
+          .save = texts.text("Save"),
+          .remove = goal ? texts.text("Remove goal") : ""};
+}
+
+}  // namespace mivo
