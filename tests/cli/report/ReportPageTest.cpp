@@ -70,6 +70,22 @@ TEST(ReportPage, headsItsTrendsOnce) {
   EXPECT_LT(heading, page.find("●")) << "over the first of them";
 }
 
+TEST(ReportPage, plotsTheWeightsFromTheirFirstToTheirLast) {
+  const Workplace place;
+  place.write("w.json", R"({"version": 1, "fasts": [], "weights": [
+    {"date": "2026-02-01T07:00:00Z", "weightInKg": 80}, {"date": "2026-03-01T07:00:00Z", "weightInKg": 78}]})");
+  const std::string page = place.run("report --input w.json --range year" + fixedRun).output;
+  const std::string plot =
+      "  80,0 kg  ⠉⠑⠒⠒⠢⠤⠤⢄⣀⣀⡀\n"
+      "                     ⠈⠉⠉⠑⠒⠒⠢⠤⠤⣀⣀⣀\n"
+      "                                 ⠉⠉⠉⠒⠒⠒⠤⠤⠤⣀⣀⡀\n"
+      "                                            ⠈⠉⠉⠒⠒⠒⠤⠤⠤⣀⣀⣀\n"
+      "                                                        ⠉⠉⠉⠒⠒⠢⠤⠤⢄⣀⣀⡀\n"
+      "  78,0 kg                                                          ⠈⠉⠉⠑⠒⠒⠢⠤⠤⢄⣀\n"
+      "           1 Feb 2026                                               1 Mar 2026\n";
+  EXPECT_NE(page.find(plot), std::string::npos) << page;
+}
+
 TEST(ReportPage, warnsOfOverlaps) {
   const Workplace place;
   place.write("f.csv", "start,end\n2026-02-27T20:00Z,2026-02-28T14:00Z\n2026-02-28T12:00Z,2026-02-28T20:00Z\n");
