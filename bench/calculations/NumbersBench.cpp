@@ -109,7 +109,7 @@ void streaks(benchmark::State& state, Order order) {
   const auto clients = surroundings();
   const auto& calendar = *clients->calendar;
   const auto history = fasts(state.range(0), order);
-  const auto lengths = [&] { return mivo::streaks(history, settings, calendar, calendar); };
+  const auto lengths = [&] { return mivo::streaks(mivo::FastsByStart{history}, settings, calendar, calendar); };
   if (lengths() != obviousStreaks(history, calendar)) return state.SkipWithError(wrongAnswer);
   measure(state, [&] { return lengths(); });
 }

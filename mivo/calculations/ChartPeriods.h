@@ -16,8 +16,8 @@ std::optional<DateInterval> chartPeriod(Date date, TimeRange range, const Calend
 
 /// The periods from that of `first` to that of `last`, one after the other; those that the calendar cannot form, such
 /// as the first and the last of the years 1 to 9999, are left out, and there are no others without gaps. None where
-/// `last` is before `first`. Two calendar calls a period, and for each left out one a day; none for what lies before
-/// the year 1.
+/// `last` is before `first`. One calendar call a period, and for each left out two a day; none for what lies before the
+/// year 1.
 std::vector<DateInterval> chartPeriods(Date first, Date last, TimeRange range, const Calendar& calendar);
 
 }  // namespace mivo

@@ -2,8 +2,7 @@
 #pragma once
 
 #include <algorithm>
-#include <cstddef>
-#include <iterator>
+#include <functional>
 #include <span>
 #include <vector>
 
@@ -16,15 +15,10 @@ namespace mivo {
 /// What a line chart of a range shows at the left: the instant that lies `totalDaysOnXAxis` of 86400 s before `now`.
 inline Date cutOff(TimeRange range, Date now) { return now - Duration{totalDaysOnXAxis(range) * secondsPerDay}; }
 
-/// The points that are not earlier than a date, in order; O(n).
+/// The points that are not earlier than a date, of points in ascending order.
 template <class Point>
-std::vector<Point> since(Date date, std::span<const Point> points) {
-  const auto isRecent = [date](const Point& point) { return point.date >= date; };
-  const auto first = std::ranges::find_if(points, isRecent);
-  std::vector<Point> recent;
-  recent.reserve(static_cast<std::size_t>(points.end() - first));
-  std::copy_if(first, points.end(), std::back_inserter(recent), isRecent);
-  return recent;
+std::span<const Point> since(Date date, std::span<const Point> points) {
+  return {std::ranges::lower_bound(points, date, std::less{}, &Point::date), points.end()};
 }
 
 /// The points of one range's chart: cut off and thinned.

@@ -19,7 +19,8 @@ double secondsInBoth(DateInterval one, DateInterval other) {
 ScrollChartFeature::State chart(std::span<const DateInterval> periods, std::span<const double> seconds,
                                 std::span<const std::string> labels, std::span<const UUID> ids, TimeRange range,
                                 Date now) {
-  const double maxTime = seconds.empty() ? 0 : std::ranges::max(seconds);
+  double maxTime = 0;
+  for (const double inBar : seconds) maxTime = std::max(maxTime, inBar);
   std::vector<ChartDataEntry> bars;
   bars.reserve(periods.size());
   for (std::size_t bar = 0; bar < periods.size(); ++bar) {
@@ -54,17 +55,23 @@ BarSeconds barSeconds(std::span<const FinishedFastingDataEntry> stretches, std::
 std::vector<std::string> barLabels(std::span<const DateInterval> periods, TimeRange range, const Calendar& calendar,
                                    const DateFormatter& dates) {
   const auto label = [&](Date date) { return dates.string(date, xAxixDateFormat(range)).value_or(""); };
-  std::array<std::optional<std::string>, 7> weekdays;  // from that of the first period on
-  const auto weekdayLabel = [&](Date date) {
-    const auto dateNumber = calendar.calendarDatesBetween(periods.front().start, date).value_or(0);
-    auto& known = weekdays[static_cast<std::size_t>(dateNumber) % weekdays.size()];
-    if (!known) known = label(date);
-    return *known;
-  };
   std::vector<std::string> labels;
   labels.reserve(periods.size());
-  for (const DateInterval& period : periods)
-    labels.push_back(range == TimeRange::week ? weekdayLabel(period.start) : label(period.start));
+  if (range != TimeRange::week || periods.empty()) {
+    for (const DateInterval& period : periods) labels.push_back(label(period.start));
+    return labels;
+  }
+  // The calendar is asked for every date only where the zone has skipped some.
+  const auto dateNumber = [&](Date date) { return calendar.calendarDatesBetween(periods.front().start, date); };
+  const bool isEveryDate = dateNumber(periods.back().start) == std::ssize(periods);
+  std::array<std::optional<std::string>, 7> weekdays;  // from that of the first period on
+  for (std::size_t bar = 0; bar < periods.size(); ++bar) {
+    const Date date = periods[bar].start;
+    const std::size_t number = isEveryDate ? bar + 1 : static_cast<std::size_t>(dateNumber(date).value_or(0));
+    auto& weekday = weekdays[number % weekdays.size()];
+    if (!weekday) weekday = label(date);
+    labels.push_back(*weekday);
+  }
   return labels;
 }
 

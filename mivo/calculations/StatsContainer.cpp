@@ -2,6 +2,7 @@
 #include "mivo/calculations/StatsContainer.h"
 
 #include <algorithm>
+#include <functional>
 #include <iterator>
 #include <string>
 #include <vector>
@@ -31,28 +32,55 @@ constexpr Duration trendLookBack{90 * secondsPerDay};
 
 bool endsBeforeItStarts(const Fast& fast) { return fast.end < fast.start; }
 
-// In order of their starts.
-std::vector<Fast> chartableFasts(Fasts fasts) {
-  std::vector<Fast> chartable(fasts.begin(), fasts.end());
-  std::erase_if(chartable, endsBeforeItStarts);
-  sortByStart(chartable);
-  return chartable;
-}
+// What the charts show.
+struct ChartedFasts {
+  explicit ChartedFasts(Fasts fasts)
+      : backward{these(fasts, endsBeforeItStarts)},
+        forward{backward.empty() ? std::vector<Fast>{} : these(fasts, std::not_fn(endsBeforeItStarts))},
+        byStart{backward.empty() ? fasts : forward},
+        stretches{unionOfFasts(byStart.list())} {}
 
-void reportInvalidOrdering(Fasts fasts, TimeRange range, const Calendar& calendar) {
   std::vector<Fast> backward;
-  std::ranges::copy_if(fasts, std::back_inserter(backward), endsBeforeItStarts);
-  if (!backward.empty()) reportIssue(invalidOrdering(backward, range, calendar));
+  std::vector<Fast> forward;  // empty where all are, so that none need be copied
+  FastsByStart byStart;
+  std::vector<Fast> stretches;
+
+ private:
+  static std::vector<Fast> these(Fasts fasts, const auto& belongs) {
+    std::vector<Fast> kept;
+    std::ranges::copy_if(fasts, std::back_inserter(kept), belongs);
+    return kept;
+  }
+};
+
+// At least the fasts that end at a date or later: a fast that began longer before it than the longest one lasts does
+// not.
+Fasts reaching(Date date, const FastsByStart& fasts, double longest) {
+  constexpr double lostToRounding = 1;
+  const Date earliest = date - Duration{longest + lostToRounding};
+  const Fasts all = fasts.list();
+  return {std::ranges::lower_bound(all, earliest, {}, &Fast::start), all.end()};
 }
 
-void writeChartData(StatsContainer& stats, Fasts fasts, TimeRange range, Date now, const Calendar& calendar) {
-  reportInvalidOrdering(fasts, range, calendar);
-  const auto chartable = chartableFasts(fasts);
-  auto bars = dayBars(unionOfFasts(chartable), range, now, calendar, *dependency(&Dependencies::dateFormatter),
+void writeChartData(StatsContainer& stats, const ChartedFasts& fasts, TimeRange range, Date now,
+                    const Calendar& calendar) {
+  if (!fasts.backward.empty()) reportIssue(invalidOrdering(fasts.backward, range, calendar));
+  auto bars = dayBars(fasts.stretches, range, now, calendar, *dependency(&Dependencies::dateFormatter),
                       *dependency(&Dependencies::uuid));
   stats.fastingChartState = std::move(bars.fasting);
   stats.eatingChartState = std::move(bars.eating);
-  stats.hasOverlappingFasts = hasOverlappingFasts(chartable);
+  stats.hasOverlappingFasts = hasOverlappingFasts(fasts.byStart.list());
+}
+
+void writeFastingLine(StatsContainer& stats, const ChartedFasts& fasts, Date now) {
+  const auto entries = fastingAverageSeries(fasts.byStart.list(), fasts.stretches, cutOff(TimeRange::year, now),
+                                            *dependency(&Dependencies::uuid));
+  stats.fastingAvgLogsForWeek = seriesOf<FastingAverageEntry>(TimeRange::week, entries, now);
+  stats.fastingAvgLogsForMonth = seriesOf<FastingAverageEntry>(TimeRange::month, entries, now);
+  stats.fastingAvgLogsForYear = seriesOf<FastingAverageEntry>(TimeRange::year, entries, now);
+  stats.fastingChartScaleForWeek = chartScale(stats.fastingAvgLogsForWeek.value(), emptyFastingChartScale);
+  stats.fastingChartScaleForMonth = chartScale(stats.fastingAvgLogsForMonth.value(), emptyFastingChartScale);
+  stats.fastingChartScaleForYear = chartScale(stats.fastingAvgLogsForYear.value(), emptyFastingChartScale);
 }
 
 }  // namespace
@@ -112,8 +140,9 @@ void StatsContainer::update(std::span<const FastingDataEntry> fasts, const std::
 
   auto completed = completedFasts(fasts, ongoingFast, now);
   if (!updateNumbers(completed, streakSettings, timeRange, now, *calendar, *streakDays, *currentCalendar)) return;
-  writeChartData(*this, completed, timeRange, now, *calendar);
-  updateFastingAverages(completed, now);
+  const ChartedFasts charted{completed};
+  writeChartData(*this, charted, timeRange, now, *calendar);
+  writeFastingLine(*this, charted, now);
 }
 
 bool StatsContainer::updateNumbers(std::vector<Fast>& completed, const StreakSettings& streakSettings,
@@ -125,14 +154,15 @@ bool StatsContainer::updateNumbers(std::vector<Fast>& completed, const StreakSet
   averageFast = totals.averageFast;
   longestFast = totals.longestFast;
 
-  // Averages are summed in the order in which the fasts come; streaks need them in order of their starts.
-  const auto starts = rangeStarts(timeRange, calendar, now);
-  const auto averages = starts ? zoneAverages(completed, *starts, endOfToday(calendar, now)) : ZoneAverages{};
-  sortByStart(completed);
-  const StreakLengths lengths = streaks(completed, streakSettings, streakDays, currentCalendar);
+  const auto byStart = FastsByStart::sorting(completed);
+  const StreakLengths lengths = streaks(byStart, streakSettings, streakDays, currentCalendar);
   currentStreak = lengths.current;
   maxStreak = lengths.max;
+
+  const auto starts = rangeStarts(timeRange, calendar, now);
   if (!starts) return false;
+  const auto averages =
+      zoneAverages(reaching(starts->lastStart, byStart, totals.longestFast), *starts, endOfToday(calendar, now));
   fastingAverages = averages[LegacyFastingZone::fasting];
   eatingAverages = averages[LegacyFastingZone::eating];
   anabolicAverages = averages[LegacyFastingZone::anabolic];
@@ -145,18 +175,11 @@ bool StatsContainer::updateNumbers(std::vector<Fast>& completed, const StreakSet
 
 void StatsContainer::updateChartData(Fasts completed, TimeRange timeRange) {
   const Date now = dependency(&Dependencies::date)->now();
-  writeChartData(*this, completed, timeRange, now, *dependency(&Dependencies::calendar));
+  writeChartData(*this, ChartedFasts{completed}, timeRange, now, *dependency(&Dependencies::calendar));
 }
 
 void StatsContainer::updateFastingAverages(Fasts completed, Date now) {
-  const auto chartable = chartableFasts(completed);
-  const auto entries = fastingAverageSeries(chartable, cutOff(TimeRange::year, now), *dependency(&Dependencies::uuid));
-  fastingAvgLogsForWeek = seriesOf<FastingAverageEntry>(TimeRange::week, entries, now);
-  fastingAvgLogsForMonth = seriesOf<FastingAverageEntry>(TimeRange::month, entries, now);
-  fastingAvgLogsForYear = seriesOf<FastingAverageEntry>(TimeRange::year, entries, now);
-  fastingChartScaleForWeek = chartScale(fastingAvgLogsForWeek.value(), emptyFastingChartScale);
-  fastingChartScaleForMonth = chartScale(fastingAvgLogsForMonth.value(), emptyFastingChartScale);
-  fastingChartScaleForYear = chartScale(fastingAvgLogsForYear.value(), emptyFastingChartScale);
+  writeFastingLine(*this, ChartedFasts{completed}, now);
 }
 
 void StatsContainer::updateFastingChart(const StatsContainer& from) {
@@ -202,7 +225,9 @@ void StatsContainer::updateWeightChart(const StatsContainer& from) {
 StatsContainer StatsContainer::update(std::span<const BodyWeightSample> samples) {
   StatsContainer stats = empty();
   const Date now = dependency(&Dependencies::date)->now();
-  const auto averages = weeklyAverages(samples, *dependency(&Dependencies::uuid));
+  // Weights of long ago are in no series and no average.
+  const auto recent = since(cutOff(TimeRange::year, now) - averagedSpan, samples);
+  const auto averages = weeklyAverages(recent, *dependency(&Dependencies::uuid));
   stats.weightLogsForWeek = seriesOf(TimeRange::week, samples, now);
   stats.weightLogsForMonth = seriesOf(TimeRange::month, samples, now);
   stats.weightLogsForYear = seriesOf(TimeRange::year, samples, now);

@@ -19,11 +19,11 @@ std::int64_t wholeHours(double seconds) {
 }  // namespace
 
 SummaryTotals summaryTotals(std::span<const FinishedFastingDataEntry> fasts) {
-  const double seconds = totalDuration(fasts);
+  const auto [seconds, longest] = durations(fasts);
   return {.totalFasts = std::ssize(fasts),
           .totalHours = wholeHours(seconds),
           .averageFast = fasts.empty() ? 0 : seconds / static_cast<double>(fasts.size()),
-          .longestFast = longestFast(fasts)};
+          .longestFast = longest};
 }
 
 }  // namespace mivo

@@ -9,16 +9,16 @@ std::vector<FinishedFastingDataEntry> unionOfFasts(std::span<const FinishedFasti
   std::vector<FinishedFastingDataEntry> stretches;
   if (fasts.empty()) return stretches;
   stretches.reserve(fasts.size());
-  auto running = fasts.front();
+  stretches.push_back(fasts.front());
+  Date end = fasts.front().end;
   for (const auto& fast : fasts.subspan(1)) {
-    if (running.end < fast.start) {
-      stretches.push_back(running);
-      running = fast;
+    if (end < fast.start) {
+      stretches.push_back(fast);
+      end = fast.end;
     } else {
-      running.end = std::max(running.end, fast.end);
+      stretches.back().end = end = std::max(end, fast.end);
     }
   }
-  stretches.push_back(running);
   return stretches;
 }
 

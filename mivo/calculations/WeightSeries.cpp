@@ -13,7 +13,6 @@
 namespace mivo {
 namespace {
 
-constexpr double windowSeconds = 7 * secondsPerDay;
 constexpr double clearCorrelation = 0.7;
 
 // A sum that numbers enter and leave without leaving their rounding error behind: `error` is what `sum` lacks, by
@@ -48,7 +47,7 @@ std::vector<WeightAverageEntry> weeklyAverages(std::span<const BodyWeightSample>
   std::size_t first = 0;
   for (std::size_t last = 0; last < samples.size(); ++last) {
     sum.enter(samples[last].weightInKg);
-    for (; first < last && secondsBetween(samples[first].date, samples[last].date) > windowSeconds; ++first)
+    for (; first < last && samples[last].date - samples[first].date > averagedSpan; ++first)
       sum.leave(samples[first].weightInKg);
     averages[last] = {fresh[last], samples[last].date, sum.value() / static_cast<double>(last - first + 1)};
   }

@@ -15,6 +15,9 @@ namespace mivo {
 /// The y scale of a weight chart without points, in kilograms.
 inline constexpr double emptyWeightChartScale = 75;
 
+/// How far back a sample may lie that an average is of.
+inline constexpr Duration averagedSpan{7 * secondsPerDay};
+
 /// One point a sample: the average weight of the sample and of all earlier ones at most seven days older; a sample
 /// exactly seven days older is in. Not a number where one of these weights is not finite.
 ///

@@ -1,17 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "mivo/charts/ChartDataEntry.h"
 
-#include <utility>
-
 #include "mivo/platform/Dependencies.h"
 
 namespace mivo {
 
-ChartDataEntry::ChartDataEntry(DateInterval interval, double fraction, std::string label)
-    : ChartDataEntry{interval, fraction, std::move(label), dependency(&Dependencies::uuid)->next()} {}
+ChartDataEntry::ChartDataEntry(DateInterval interval, double fraction, std::string_view label)
+    : ChartDataEntry{interval, fraction, label, dependency(&Dependencies::uuid)->next()} {}
 
-ChartDataEntry::ChartDataEntry(DateInterval interval, double fraction, std::string label, UUID identity)
-    : dateInterval{interval}, value{fraction}, xAxisLabel{std::move(label)}, id{identity} {
+ChartDataEntry::ChartDataEntry(DateInterval interval, double fraction, std::string_view label, UUID identity)
+    : dateInterval{interval}, value{fraction}, xAxisLabel{label}, id{identity} {
   const bool isFraction = value >= 0.0 && value <= 1.0;
   if (!isFraction) reportIssue("invalid chart value");
 }

@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <functional>
 #include <string>
+#include <string_view>
 
 #include "mivo/model/Date.h"
 #include "mivo/model/Record.h"
@@ -21,10 +22,10 @@ struct ChartDataEntry {
   UUID id;
 
   /// A bar with a fresh id from the current dependencies.
-  ChartDataEntry(DateInterval dateInterval, double value, std::string xAxisLabel);
+  ChartDataEntry(DateInterval dateInterval, double value, std::string_view xAxisLabel);
 
   /// A bar with a given id: for whole charts, whose ids are made in one go, and for bars that keep theirs.
-  ChartDataEntry(DateInterval dateInterval, double value, std::string xAxisLabel, UUID id);
+  ChartDataEntry(DateInterval dateInterval, double value, std::string_view xAxisLabel, UUID id);
 
   bool operator==(const ChartDataEntry&) const = default;
 };

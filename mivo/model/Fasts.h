@@ -55,6 +55,16 @@ FastingDataEntry finishedFast(UUID id, Date start, Date end, std::int64_t goalSe
 /// A fast that is still running.
 FastingDataEntry ongoingFast(UUID id, Date start, std::int64_t goalSeconds);
 
+/// What the durations of some fasts come to, in seconds; 0 for none.
+struct Durations {
+  double total = 0, longest = 0;
+  bool operator==(const Durations&) const = default;
+};
+
+/// Both in one pass. The sum is taken in four parts, so a total of fractions may differ in its last digits from one
+/// taken in order.
+Durations durations(std::span<const FinishedFastingDataEntry> fasts);
+
 /// Sum of the durations, in seconds; 0 for none.
 double totalDuration(std::span<const FinishedFastingDataEntry> fasts);
 

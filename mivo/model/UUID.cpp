@@ -11,12 +11,18 @@ constexpr std::size_t textLength = 36;
 
 constexpr bool isHyphenPlace(std::size_t index) { return index == 8 || index == 13 || index == 18 || index == 23; }
 
-std::optional<std::uint64_t> hexDigit(char c) {
-  if (c >= '0' && c <= '9') return static_cast<std::uint64_t>(c - '0');
-  if (c >= 'A' && c <= 'F') return static_cast<std::uint64_t>(c - 'A' + 10);
-  if (c >= 'a' && c <= 'f') return static_cast<std::uint64_t>(c - 'a' + 10);
-  return std::nullopt;
-}
+constexpr std::uint8_t noDigit = 0x10;
+
+// What each character is worth as a hexadecimal digit.
+constexpr std::array<std::uint8_t, 256> digitValues = [] {
+  std::array<std::uint8_t, 256> values{};
+  values.fill(noDigit);
+  for (std::uint8_t value = 0; value < 16; ++value) {
+    values[static_cast<unsigned char>(digits[value])] = value;
+    if (value >= 10) values[static_cast<unsigned char>(digits[value] - 'A' + 'a')] = value;
+  }
+  return values;
+}();
 
 }  // namespace
 
@@ -35,18 +41,20 @@ std::string text(UUID id) {
 std::optional<UUID> parseUUID(std::string_view text) {
   if (text.size() != textLength) return std::nullopt;
   std::array<std::uint64_t, 2> halves{};
+  unsigned allDigits = 0;  // told apart at the end: nearly every text is an identifier
   std::size_t nibble = 0;
   for (std::size_t index = 0; index < textLength; ++index) {
     if (isHyphenPlace(index)) {
       if (text[index] != '-') return std::nullopt;
       continue;
     }
-    const auto digit = hexDigit(text[index]);
-    if (!digit) return std::nullopt;
+    const unsigned digit = digitValues[static_cast<unsigned char>(text[index])];
+    allDigits |= digit;
     auto& half = halves[nibble / 16];
-    half = (half << 4) | *digit;
+    half = (half << 4) | digit;
     ++nibble;
   }
+  if ((allDigits & noDigit) != 0) return std::nullopt;
   return UUID{halves[0], halves[1]};
 }
 

@@ -3,11 +3,8 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <cstdint>
 #include <functional>
-#include <limits>
 #include <numeric>
-#include <utility>
 
 namespace mivo {
 namespace {
@@ -15,38 +12,45 @@ namespace {
 using Fast = FinishedFastingDataEntry;
 using Fasts = std::span<const Fast>;
 
-// The places of a history between its first and its last start, one a fast: starts are spread over time, so most places
-// hold few fasts.
-class Places {
+// Equal parts of the time from the first start to the last.
+class Parts {
  public:
-  explicit Places(Fasts fasts) : lastPlace{static_cast<double>(fasts.size() - 1)} {
-    const auto [first, last] = std::ranges::minmax_element(fasts, std::less{}, &Fast::start);
-    earliest = first->start;
-    placesPerSecond = lastPlace / secondsBetween(earliest, last->start);
+  Parts(Fasts fasts, std::size_t count) : lastPart{static_cast<double>(count - 1)} {
+    double latest = earliest = secondsSince1970(fasts.front().start);
+    for (const Fast& fast : fasts) {  // std::minmax_element guesses at every pair of fasts which of them is earlier
+      earliest = std::min(earliest, secondsSince1970(fast.start));
+      latest = std::max(latest, secondsSince1970(fast.start));
+    }
+    partsPerSecond = static_cast<double>(count) / (latest - earliest);
   }
 
   std::size_t of(const Fast& fast) const {
-    const double place = secondsBetween(earliest, fast.start) * placesPerSecond;
-    return static_cast<std::size_t>(place < lastPlace ? place : lastPlace);
+    const double part = (secondsSince1970(fast.start) - earliest) * partsPerSecond;
+    return static_cast<std::size_t>(part < lastPart ? part : lastPart);
   }
 
  private:
-  double lastPlace, placesPerSecond;
-  Date earliest;
+  double lastPart, earliest, partsPerSecond;
 };
 
-// Where the fasts of each place begin in the ordered list.
-std::vector<std::uint32_t> beginnings(Fasts fasts, const Places& places) {
-  std::vector<std::uint32_t> begin(fasts.size() + 1, 0);
-  for (const Fast& fast : fasts) ++begin[places.of(fast) + 1];
-  std::inclusive_scan(begin.begin(), begin.end(), begin.begin());
-  return begin;
-}
+// Puts fasts in the order of their parts, and those of a part in the order in which they come.
+class Distribution {
+ public:
+  /// Where each part ends.
+  std::span<const std::size_t> distribute(std::span<Fast> fasts, std::size_t partCount) {
+    copies.assign(fasts.begin(), fasts.end());
+    const Parts parts{fasts, partCount};
+    ends.assign(partCount + 1, 0);
+    for (const Fast& fast : copies) ++ends[parts.of(fast) + 1];
+    std::inclusive_scan(ends.begin(), ends.end(), ends.begin());
+    for (const Fast& fast : copies) fasts[ends[parts.of(fast)]++] = fast;
+    return std::span{ends}.first(partCount);
+  }
 
-bool isCrowded(const std::vector<std::uint32_t>& begin) {
-  constexpr std::uint32_t crowd = 32;
-  return std::ranges::adjacent_find(begin, [](auto one, auto next) { return next - one > crowd; }) != begin.end();
-}
+ private:
+  std::vector<Fast> copies;
+  std::vector<std::size_t> ends;
+};
 
 // For what is nearly in order: nothing has far to go.
 void insertionSort(std::span<Fast> fasts) {
@@ -58,27 +62,29 @@ void insertionSort(std::span<Fast> fasts) {
   }
 }
 
-// False, with nothing changed, where the fasts are not spread over time.
-bool sortSpreadOut(std::span<Fast> fasts) {
-  const bool isCountable = fasts.size() < std::numeric_limits<std::uint32_t>::max();
-  if (!isCountable || !std::ranges::all_of(fasts, isRepresentable, &Fast::start)) return false;
-  const Places places{fasts};
-  std::vector<std::uint32_t> next = beginnings(fasts, places);
-  if (isCrowded(next)) return false;
-  std::vector<Fast> placed(fasts.size());
-  for (const Fast& fast : fasts) placed[next[places.of(fast)]++] = fast;
-  insertionSort(placed);
-  std::ranges::copy(placed, fasts.begin());
-  return true;
+bool isCrowded(std::span<const std::size_t> ends) {
+  constexpr std::size_t crowd = 32;
+  return std::ranges::adjacent_find(ends, [](auto end, auto next) { return next - end > crowd; }) != ends.end();
 }
 
-// Half by half, because fresh memory for a second list of a million fasts costs more than the sort. False where not all
-// of them are in order yet.
-bool sortHalves(std::span<Fast> fasts) {
-  const auto middle = fasts.size() / 2;
-  if (!sortSpreadOut(fasts.first(middle)) || !sortSpreadOut(fasts.subspan(middle))) return false;
-  std::ranges::inplace_merge(fasts, fasts.begin() + static_cast<std::ptrdiff_t>(middle), std::less{}, &Fast::start);
-  return true;
+// Starts are spread over time, so that as many parts as fasts leave each part one or two.
+void sortFew(std::span<Fast> fasts, Distribution& distribution) {
+  if (isCrowded(distribution.distribute(fasts, fasts.size())))
+    std::ranges::stable_sort(fasts, std::less{}, &Fast::start);
+  else
+    insertionSort(fasts);
+}
+
+// First into parts that fit the nearest cache, because a million places are too many to write to at random.
+void sortSpreadOut(std::span<Fast> fasts) {
+  constexpr std::size_t few = 2048;
+  Distribution distribution, distributionOfPart;
+  if (fasts.size() <= few) return sortFew(fasts, distribution);
+  std::size_t begin = 0;
+  for (const std::size_t end : distribution.distribute(fasts, fasts.size() / few)) {
+    if (end > begin) sortFew(fasts.subspan(begin, end - begin), distributionOfPart);
+    begin = end;
+  }
 }
 
 bool isByStart(Fasts fasts) { return std::ranges::is_sorted(fasts, std::less{}, &Fast::start); }
@@ -95,8 +101,8 @@ void sortByStart(std::vector<Fast>& fasts) {
   if (isByStart(fasts)) return;
   if (isStrictlyNewestFirst(fasts))
     std::ranges::reverse(fasts);
-  else if (!sortHalves(fasts))
-    std::ranges::stable_sort(fasts, std::less{}, &Fast::start);
+  else
+    sortSpreadOut(fasts);
 }
 
 FastsByStart::FastsByStart(Fasts fasts) : ordered{fasts} {
@@ -104,6 +110,11 @@ FastsByStart::FastsByStart(Fasts fasts) : ordered{fasts} {
   copies.assign(fasts.begin(), fasts.end());
   sortByStart(copies);
   ordered = copies;
+}
+
+FastsByStart FastsByStart::sorting(std::vector<Fast>& fasts) {
+  sortByStart(fasts);
+  return FastsByStart{fasts, Sorted{}};
 }
 
 }  // namespace mivo

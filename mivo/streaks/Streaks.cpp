@@ -9,7 +9,6 @@
 #include <optional>
 
 #include "mivo/platform/Dependencies.h"
-#include "mivo/streaks/FastsByStart.h"
 #include "mivo/streaks/Streak.h"
 
 namespace mivo {
@@ -18,8 +17,9 @@ namespace {
 using Fast = FinishedFastingDataEntry;
 using Fasts = std::span<const Fast>;
 
+// Without a branch.
 bool counts(const Fast& fast, bool ignoresGoal) {
-  return ignoresGoal || !(secondsBetween(fast.start, fast.end) < static_cast<double>(fast.goalSeconds));
+  return ignoresGoal | !(secondsBetween(fast.start, fast.end) < static_cast<double>(fast.goalSeconds));
 }
 
 // The least and the greatest of the instants that a calendar would be asked about. It answers for all dates of some
@@ -30,38 +30,48 @@ struct Extent {
 };
 
 Extent extent(Fasts byStart) {
-  // On plain doubles: the comparison of two dates keeps the compiler from taking a minimum in one instruction.
-  double firstEnd = secondsSince1970(byStart.front().end), lastEnd = firstEnd;
-  for (const Fast& fast : byStart) {
-    firstEnd = std::min(firstEnd, secondsSince1970(fast.end));
-    lastEnd = std::max(lastEnd, secondsSince1970(fast.end));
-  }
-  return {byStart.front().start, dateSince1970(firstEnd), dateSince1970(lastEnd)};
+  constexpr std::size_t lanes = 4;  // side by side, so that no comparison waits for the one before it
+  std::array<double, lanes> firstEnds, lastEnds;
+  firstEnds.fill(secondsSince1970(byStart.front().end));
+  lastEnds = firstEnds;
+  const auto look = [&](std::size_t lane, const Fast& fast) {
+    // On plain doubles: the comparison of two dates keeps the compiler from taking a minimum in one instruction.
+    firstEnds[lane] = std::min(firstEnds[lane], secondsSince1970(fast.end));
+    lastEnds[lane] = std::max(lastEnds[lane], secondsSince1970(fast.end));
+  };
+  std::size_t index = 0;
+  for (; index + lanes <= byStart.size(); index += lanes)
+    for (std::size_t lane = 0; lane < lanes; ++lane) look(lane, byStart[index + lane]);
+  for (; index < byStart.size(); ++index) look(0, byStart[index]);
+  return {byStart.front().start, dateSince1970(std::ranges::min(firstEnds)), dateSince1970(std::ranges::max(lastEnds))};
 }
 
 // When the next fast has to begin after one that ended. Elapsed time is plain addition, so the calendar is asked for
 // every deadline only where it may have none.
 class Deadlines {
  public:
+  static constexpr double none = -std::numeric_limits<double>::infinity();
+
   Deadlines(std::int64_t breakHours, const Extent& extent, const Calendar& currentCalendar)
       : maxBreakHours{breakHours}, calendar{currentCalendar} {
-    if (after(extent.firstEnd) && after(extent.lastEnd)) sureSeconds = static_cast<double>(breakHours) * secondsPerHour;
+    if (after(extent.firstEnd) != none && after(extent.lastEnd) != none)
+      sureSeconds = static_cast<double>(breakHours) * secondsPerHour;
   }
 
-  /// True only where there is a deadline and `start` is before it.
-  bool areSurelyMet(Date end, Date start) const {
-    return secondsSince1970(start) < secondsSince1970(end) + sureSeconds;
-  }
+  /// How long after its end the deadline of any fast is; `none` where some may have none.
+  double secondsIfSure() const { return sureSeconds; }
 
-  std::optional<Date> after(Date end) const {
-    if (std::isfinite(sureSeconds)) return end + Duration{sureSeconds};
-    return calendar.adding(CalendarComponent::hour, maxBreakHours, end);
+  /// In seconds since 1970: an optional date would take the way through memory.
+  double after(Date end) const {
+    if (sureSeconds != none) return secondsSince1970(end) + sureSeconds;
+    const auto deadline = calendar.adding(CalendarComponent::hour, maxBreakHours, end);
+    return deadline ? secondsSince1970(*deadline) : none;
   }
 
  private:
   std::int64_t maxBreakHours;
   const Calendar& calendar;
-  double sureSeconds = -std::numeric_limits<double>::infinity();
+  double sureSeconds = none;
 };
 
 // The streaks that a walk closes, of which only the longest and the last are of interest.
@@ -110,66 +120,85 @@ class ClosedStreaks {
   Closed last;  // of no length, and so no streak, until one is closed
 };
 
-// One step a fast that counts, in order of their starts.
+// Whether a fast reached its goal, and whether a streak breaks before it, is hard to foresee. So some hundred fasts at
+// a time are looked through without a branch: first for those that count, then for the few at which something happens.
+class Block {
+ public:
+  static constexpr std::size_t mostFasts = 256;
+
+  /// `before` is the last fast in front of the block that counts, and takes place 0.
+  Block(const Fast& before, Fasts fasts, bool ignoresGoal) {
+    counted[0] = &before;
+    for (const Fast& fast : fasts) {
+      counted[end] = &fast;
+      end += static_cast<std::size_t>(counts(fast, ignoresGoal));
+    }
+  }
+
+  /// The places before which a streak may break, or at which the walk may end.
+  std::span<const std::size_t> turns(double deadlineSeconds, Date lastEnd) {
+    std::size_t count = 0;
+    for (std::size_t place = 1, stop = end; place < stop; ++place) {
+      const double previousEnd = secondsSince1970(fast(place - 1).end);
+      const bool goesOn = secondsSince1970(fast(place).start) < previousEnd + deadlineSeconds;
+      places[count] = place;
+      count += static_cast<std::size_t>(!goesOn | (fast(place).end == lastEnd));
+    }
+    return std::span{places}.first(count);
+  }
+
+  const Fast& fast(std::size_t place) const { return *counted[place]; }
+  std::size_t last() const { return end - 1; }
+
+ private:
+  std::array<const Fast*, mostFasts + 1> counted;
+  std::array<std::size_t, mostFasts> places;
+  std::size_t end = 1;
+};
+
 class Walk {
  public:
   Walk(const Fast& first, const Fast& last, const Deadlines& toStart, ClosedStreaks& found)
-      : streakStart{first.start}, previousEnd{first.end}, lastEnd{last.end}, deadlines{toStart}, closed{found} {}
+      : streakStart{first.start}, lastEnd{last.end}, deadlines{toStart}, closed{found} {}
 
-  /// False where the walk ends.
-  bool step(const DateInterval& next) {
-    if (deadlines.areSurelyMet(previousEnd, next.start) && next.end != lastEnd) {
-      ++counter;
-    } else if (const auto deadline = deadlines.after(previousEnd); !deadline) {
+  /// From a fast that counts to the next one, which `fastsBefore` of them precede; false where the walk ends.
+  bool turn(const Fast& previous, const Fast& next, std::int64_t fastsBefore) {
+    const std::int64_t fasts = fastsBefore - notInStreak;
+    if (const double deadline = deadlines.after(previous.end); deadline == Deadlines::none) {
       reportIssue("no date");
-      closed.close(streakStart, previousEnd, counter);
+      closed.close(streakStart, previous.end, fasts - 1);
       streakStart = next.start;
-    } else if (++counter; next.start < *deadline) {
-      if (next.end == lastEnd) return closed.close(streakStart, next.end, counter + 1), false;
-    } else {
-      closed.close(streakStart, previousEnd, counter);
+      ++notInStreak;
+    } else if (!(secondsSince1970(next.start) < deadline)) {
+      closed.close(streakStart, previous.end, fasts);
       streakStart = next.start;
-      counter = 0;
+      notInStreak = fastsBefore;
+    } else if (next.end == lastEnd) {
+      closed.close(streakStart, next.end, fasts + 1);
+      return false;
     }
-    previousEnd = next.end;
     return true;
   }
 
  private:
-  Date streakStart, previousEnd, lastEnd;
-  std::int64_t counter = 0;
+  Date streakStart, lastEnd;
+  std::int64_t notInStreak = 0;
   const Deadlines& deadlines;
   ClosedStreaks& closed;
 };
 
-// Whether a fast reached its goal is hard to foresee, so the ones that count are gathered without a branch, some
-// hundred at a time, and walked from there.
-class Gathered {
- public:
-  static constexpr std::size_t mostFasts = 256;
-
-  Gathered(Fasts fasts, bool ignoresGoal) {
-    for (const Fast& fast : fasts) {
-      kept[count] = {fast.start, fast.end};
-      count += counts(fast, ignoresGoal) ? 1 : 0;
-    }
-  }
-
-  std::span<const DateInterval> list() const { return {kept.data(), count}; }
-
- private:
-  std::array<DateInterval, mostFasts> kept;
-  std::size_t count = 0;
-};
-
 void walk(Fasts byStart, bool ignoresGoal, const Deadlines& deadlines, ClosedStreaks& closed) {
   Walk walk{byStart.front(), byStart.back(), deadlines, closed};
+  const Fast* before = &byStart.front();
+  std::size_t fastsBefore = 0;
   for (Fasts rest = byStart.subspan(1); !rest.empty();) {
-    const Fasts block = rest.first(std::min(rest.size(), Gathered::mostFasts));
-    rest = rest.subspan(block.size());
-    const Gathered gathered{block, ignoresGoal};
-    for (const DateInterval& next : gathered.list())
-      if (!walk.step(next)) return;
+    const Fasts fasts = rest.first(std::min(rest.size(), Block::mostFasts));
+    rest = rest.subspan(fasts.size());
+    Block block{*before, fasts, ignoresGoal};
+    for (const std::size_t place : block.turns(deadlines.secondsIfSure(), byStart.back().end))
+      if (!walk.turn(block.fast(place - 1), block.fast(place), static_cast<std::int64_t>(fastsBefore + place))) return;
+    before = &block.fast(block.last());
+    fastsBefore += block.last();
   }
 }
 
@@ -178,14 +207,13 @@ void walk(Fasts byStart, bool ignoresGoal, const Deadlines& deadlines, ClosedStr
 StreakLengths streaks(Fasts fasts, const StreakSettings& settings) {
   const auto& currentCalendar = dependency(&Dependencies::currentCalendar);
   const auto calendar = streakCalendar(dependency(&Dependencies::calendar), currentCalendar);
-  return streaks(fasts, settings, *calendar, *currentCalendar);
+  return streaks(FastsByStart{fasts}, settings, *calendar, *currentCalendar);
 }
 
-StreakLengths streaks(Fasts fasts, const StreakSettings& settings, const Calendar& calendar,
+StreakLengths streaks(const FastsByStart& fasts, const StreakSettings& settings, const Calendar& calendar,
                       const Calendar& currentCalendar) {
   const auto isCounted = [&settings](const Fast& fast) { return counts(fast, settings.ignoreFastGoal); };
-  const FastsByStart ordered{fasts};
-  const Fasts all = ordered.list();
+  const Fasts all = fasts.list();
   const auto first = std::ranges::find_if(all, isCounted);
   if (first == all.end()) return {0, 0};
   const auto pastLast = std::find_if(all.rbegin(), all.rend(), isCounted).base();

@@ -38,7 +38,7 @@ RC_GTEST_PROP(FastingAverages, equalClippingEveryStretchToEveryWindow, ()) {
   }
   std::ranges::sort(expected);
 
-  const auto entries = fastingAverageSeries(fasts, earliest, tests::CountingUUIDs{});
+  const auto entries = fastingAverageSeries(fasts, unionOfFasts(fasts), earliest, tests::CountingUUIDs{});
   RC_ASSERT(entries.size() == expected.size());
   for (std::size_t i = 0; i < entries.size(); ++i) {
     RC_ASSERT(entries[i].date == expected[i].first);
@@ -49,7 +49,7 @@ RC_GTEST_PROP(FastingAverages, equalClippingEveryStretchToEveryWindow, ()) {
 
 TEST(FastingAverages, keepAFastThatEndsExactlyAtTheCutOff) {
   const Fasts fasts{{around - Duration{7200}, around - Duration{1}, 0}, {around - Duration{1}, around, 0}};
-  const auto entries = fastingAverageSeries(fasts, around, tests::CountingUUIDs{});
+  const auto entries = fastingAverageSeries(fasts, unionOfFasts(fasts), around, tests::CountingUUIDs{});
   ASSERT_EQ(entries.size(), 1u);
   EXPECT_EQ(entries[0].date, around);
 }

@@ -159,16 +159,21 @@ struct CalendarOfAHost : Calendar {
   std::optional<Date> lastMatch(const MatchingComponents&, Date) const override { return std::nullopt; }
   std::optional<Date> startOfDay(Date date) const override {
     ++asked;
-    if (!isRepresentable(date) || (date >= missing && date < missing + day)) return std::nullopt;
+    if (!isRepresentable(date) || isMissing(date)) return std::nullopt;
     return std::chrono::floor<std::chrono::days>(date);
   }
-  std::optional<Date> endOfDay(Date date) const override { return std::chrono::floor<std::chrono::days>(date) + day; }
+  std::optional<Date> endOfDay(Date date) const override {
+    if (isMissing(date)) return std::nullopt;
+    return std::chrono::floor<std::chrono::days>(date) + day;
+  }
   std::optional<Date> startOfWeek(Date) const override { return std::nullopt; }
   std::optional<Date> endOfWeek(Date) const override { return std::nullopt; }
   std::optional<Date> startOfMonth(Date) const override { return std::nullopt; }
   std::optional<Date> endOfMonth(Date) const override { return std::nullopt; }
   std::optional<std::int64_t> calendarDatesBetween(Date, Date) const override { return std::nullopt; }
   std::shared_ptr<const Calendar> gregorian() const override { return nullptr; }
+
+  bool isMissing(Date date) const { return date >= missing && date < missing + day; }
 
   static constexpr Duration day{secondsPerDay};
   Date missing = utc(2026, 2, 2);

@@ -88,7 +88,7 @@ TEST_P(StreaksInZone, equalMakingEveryStreak) {
   EXPECT_TRUE(rc::check([&] {
     const auto settings = randomSettings();
     const auto fasts = *tests::histories(GetParam().around, settings.maxBreakHours);
-    const auto found = streaks(fasts, settings, *calendar, *calendar);
+    const auto found = streaks(FastsByStart{fasts}, settings, *calendar, *calendar);
     RC_ASSERT(found == slowStreaks(fasts, settings, *calendar, *calendar));
   }));
 }
@@ -99,7 +99,7 @@ TEST_P(StreaksInZone, equalMakingEveryStreakAtTheEndOfTime) {
     const auto settings = randomSettings();
     const Date around = lastDate - Duration{*rc::gen::inRange(-20, 20) * secondsPerDay};
     const auto fasts = *tests::histories(around, settings.maxBreakHours);
-    const auto found = streaks(fasts, settings, *calendar, *calendar);
+    const auto found = streaks(FastsByStart{fasts}, settings, *calendar, *calendar);
     RC_ASSERT(found == slowStreaks(fasts, settings, *calendar, *calendar));
   }));
 }

@@ -41,7 +41,7 @@ class Streaks : public testing::TestWithParam<StreaksRow> {};
 
 TEST_P(Streaks, areCounted) {
   const auto utc = gregorianCalendar("UTC");
-  EXPECT_EQ(streaks(GetParam().fasts, GetParam().settings, *utc, *utc), GetParam().expected);
+  EXPECT_EQ(streaks(FastsByStart{GetParam().fasts}, GetParam().settings, *utc, *utc), GetParam().expected);
 }
 
 const FinishedFastingDataEntry monday = fast(20, 36), tuesday = fast(44, 60), wednesday = fast(68, 84),
