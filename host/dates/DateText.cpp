@@ -20,20 +20,25 @@ class Scanner {
 
   bool atEnd() const { return rest.empty(); }
 
-  bool take(std::string_view anyOf) {
-    if (rest.empty() || anyOf.find(rest.front()) == std::string_view::npos) return false;
+  template <class... Characters>
+  bool take(Characters... anyOf) {
+    if (rest.empty() || ((rest.front() != anyOf) && ...)) return false;
     rest.remove_prefix(1);
     return true;
   }
 
   /// Exactly `count` digits, as a number.
-  std::optional<int> number(std::size_t count) {
+  template <std::size_t count>
+  std::optional<unsigned> number() {
     if (rest.size() < count) return std::nullopt;
-    int result = 0;
-    for (const char c : rest.substr(0, count)) {
-      if (c < '0' || c > '9') return std::nullopt;
-      result = result * 10 + (c - '0');
+    unsigned result = 0;
+    bool isNumber = true;
+    for (std::size_t index = 0; index < count; ++index) {
+      const unsigned digit = static_cast<unsigned char>(rest[index]) - unsigned{'0'};
+      isNumber &= digit <= 9;
+      result = result * 10 + digit;
     }
+    if (!isNumber) return std::nullopt;
     rest.remove_prefix(count);
     return result;
   }
@@ -52,14 +57,13 @@ class Scanner {
 };
 
 std::optional<local_days> scanDay(Scanner& scanner) {
-  const auto yearNumber = scanner.number(4);
-  if (!yearNumber || *yearNumber < 1 || !scanner.take("-")) return std::nullopt;
-  const auto monthNumber = scanner.number(2);
-  if (!monthNumber || !scanner.take("-")) return std::nullopt;
-  const auto dayNumber = scanner.number(2);
+  const auto yearNumber = scanner.number<4>();
+  if (!yearNumber || *yearNumber < 1 || !scanner.take('-')) return std::nullopt;
+  const auto monthNumber = scanner.number<2>();
+  if (!monthNumber || !scanner.take('-')) return std::nullopt;
+  const auto dayNumber = scanner.number<2>();
   if (!dayNumber) return std::nullopt;
-  const year_month_day date{year{*yearNumber}, month{static_cast<unsigned>(*monthNumber)},
-                            day{static_cast<unsigned>(*dayNumber)}};
+  const year_month_day date{year{static_cast<int>(*yearNumber)}, month{*monthNumber}, day{*dayNumber}};
   if (!date.ok()) return std::nullopt;
   return local_days{date};
 }
@@ -71,17 +75,17 @@ struct TimeOfDay {
 };
 
 std::optional<TimeOfDay> scanTime(Scanner& scanner) {
-  const auto hour = scanner.number(2);
-  if (!hour || *hour > 23 || !scanner.take(":")) return std::nullopt;
-  const auto minute = scanner.number(2);
+  const auto hour = scanner.number<2>();
+  if (!hour || *hour > 23 || !scanner.take(':')) return std::nullopt;
+  const auto minute = scanner.number<2>();
   if (!minute || *minute > 59) return std::nullopt;
   TimeOfDay time{.sinceMidnight = hours{*hour} + minutes{*minute}};
-  if (!scanner.take(":")) return time;
-  const auto second = scanner.number(2);
+  if (!scanner.take(':')) return time;
+  const auto second = scanner.number<2>();
   if (!second || *second > 60) return std::nullopt;
   time.sinceMidnight += seconds{*second};
   time.isLeapSecond = *second == 60;
-  if (!scanner.take(".,")) return time;
+  if (!scanner.take('.', ',')) return time;
   time.fraction = scanner.digits();
   if (time.fraction.empty()) return std::nullopt;
   return time;
@@ -89,13 +93,13 @@ std::optional<TimeOfDay> scanTime(Scanner& scanner) {
 
 /// `Z`, `+01:00`, `+0100` or `+01`.
 std::optional<seconds> scanOffset(Scanner& scanner) {
-  if (scanner.take("Zz")) return seconds{0};
+  if (scanner.take('Z', 'z')) return seconds{0};
   const bool isWest = scanner.front() == '-';
-  if (!scanner.take("+-")) return std::nullopt;
-  const auto hour = scanner.number(2);
+  if (!scanner.take('+', '-')) return std::nullopt;
+  const auto hour = scanner.number<2>();
   if (!hour || *hour > 23) return std::nullopt;
-  std::optional<int> minute{0};
-  if (scanner.take(":") || !scanner.atEnd()) minute = scanner.number(2);
+  std::optional<unsigned> minute{0};
+  if (scanner.take(':') || !scanner.atEnd()) minute = scanner.number<2>();
   if (!minute || *minute > 59) return std::nullopt;
   const seconds east = hours{*hour} + minutes{*minute};
   return isWest ? -east : east;
@@ -130,6 +134,30 @@ Date instantAt(sys_seconds whole, std::string_view fraction) {
   return dateSince1970(isNegative ? -magnitude : magnitude);
 }
 
+char* twoDigits(char* out, char separator, unsigned number) {
+  *out++ = separator;
+  *out++ = static_cast<char>('0' + number / 10);
+  *out++ = static_cast<char>('0' + number % 10);
+  return out;
+}
+
+char* yearInto(char* out, int year) {
+  if (year < 0 || year > 9999) return out + std::snprintf(out, 8, "%04d", year);
+  for (int place = 1000; place > 0; place /= 10) *out++ = static_cast<char>('0' + year / place % 10);
+  return out;
+}
+
+/// The point and the digits after it, as many as tell the instant from all others.
+char* fractionInto(char* out, double unixSeconds) {
+  std::array<char, 400> decimal;
+  char* const end =
+      std::to_chars(decimal.data(), decimal.data() + decimal.size(), std::abs(unixSeconds), std::chars_format::fixed)
+          .ptr;
+  char* const point = std::find(decimal.data(), end, '.');
+  if (unixSeconds < 0) complement(point + 1, end);
+  return std::copy(point, end, out);
+}
+
 std::optional<Date> representable(Date date) { return isRepresentable(date) ? std::optional{date} : std::nullopt; }
 
 }  // namespace
@@ -139,11 +167,11 @@ std::optional<DateText> parseDateText(std::string_view text) {
   const auto day = scanDay(scanner);
   if (!day) return std::nullopt;
   if (scanner.atEnd()) return DateText{.wallTime = *day};
-  if (!scanner.take("Tt ")) return std::nullopt;
+  if (!scanner.take('T', 't', ' ')) return std::nullopt;
   const auto time = scanTime(scanner);
   if (!time) return std::nullopt;
   DateText date{.wallTime = *day + time->sinceMidnight, .fraction = time->fraction, .hasTime = true};
-  scanner.take(" ");
+  scanner.take(' ');
   if (!scanner.atEnd()) {
     date.offset = scanOffset(scanner);
     if (!date.offset || !scanner.atEnd()) return std::nullopt;
@@ -164,30 +192,29 @@ std::optional<Date> instant(const DateText& date, const adapters::TimeZone& zone
   return representable(instantAt(zone.firstInstant(date.wallTime), date.fraction));
 }
 
-std::string rfc3339(Date date) {
+std::string_view Rfc3339::write(Date date) {
   const double unixSeconds = secondsSince1970(date);
   if (!std::isfinite(unixSeconds)) return std::isnan(unixSeconds) ? "nan" : unixSeconds < 0 ? "-inf" : "inf";
-  std::array<char, 400> decimal;  // the longest double has 309 digits before the point
-  char* const end =
-      std::to_chars(decimal.data(), decimal.data() + decimal.size(), std::abs(unixSeconds), std::chars_format::fixed)
-          .ptr;
-  char* const point = std::find(decimal.data(), end, '.');
-  char* const firstDigit = point == end ? end : point + 1;
-  const bool isBefore1970 = unixSeconds < 0;
-  if (isBefore1970 && firstDigit != end) complement(firstDigit, end);
-  const sys_seconds whole{seconds{static_cast<std::int64_t>(std::floor(unixSeconds))}};
-  const sys_days day = floor<days>(whole);
-  const year_month_day fields{day};
-  const hh_mm_ss time{whole - day};
+  const double wholeSeconds = std::floor(unixSeconds);
+  const sys_seconds whole{seconds{static_cast<std::int64_t>(wholeSeconds)}};
+  const sys_days dayBegin = floor<days>(whole);
+  const year_month_day fields{dayBegin};
+  const hh_mm_ss time{whole - dayBegin};
 
-  std::array<char, 48> text;
-  const int length = std::snprintf(text.data(), text.size(), "%04d-%02u-%02uT%02d:%02d:%02d",
-                                   static_cast<int>(fields.year()), static_cast<unsigned>(fields.month()),
-                                   static_cast<unsigned>(fields.day()), static_cast<int>(time.hours().count()),
-                                   static_cast<int>(time.minutes().count()), static_cast<int>(time.seconds().count()));
-  std::string result(text.data(), static_cast<std::size_t>(length));
-  if (firstDigit != end) result.append(".").append(firstDigit, end);
-  return result + 'Z';
+  char* out = yearInto(text.data(), static_cast<int>(fields.year()));
+  out = twoDigits(out, '-', static_cast<unsigned>(fields.month()));
+  out = twoDigits(out, '-', static_cast<unsigned>(fields.day()));
+  out = twoDigits(out, 'T', static_cast<unsigned>(time.hours().count()));
+  out = twoDigits(out, ':', static_cast<unsigned>(time.minutes().count()));
+  out = twoDigits(out, ':', static_cast<unsigned>(time.seconds().count()));
+  if (unixSeconds != wholeSeconds) out = fractionInto(out, unixSeconds);
+  *out++ = 'Z';
+  return {text.data(), out};
+}
+
+std::string rfc3339(Date date) {
+  Rfc3339 text;
+  return std::string{text.write(date)};
 }
 
 }  // namespace mivo::host

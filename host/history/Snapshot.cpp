@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "host/history/Snapshot.h"
 
+#include <rapidjson/memorystream.h>
+#include <rapidjson/reader.h>
+
 #include <algorithm>
 #include <array>
-#include <cmath>
+#include <charconv>
 #include <cstddef>
 #include <cstdint>
-#include <iterator>
-#include <nlohmann/json.hpp>
 #include <optional>
 #include <span>
 #include <utility>
@@ -18,36 +19,6 @@
 
 namespace mivo::host {
 namespace {
-
-using Json = nlohmann::json;
-
-/// Walks a text and tells how far the parser has come: the parser's callbacks do not say where their value stands.
-class TrackedCharacter {
- public:
-  using iterator_category = std::input_iterator_tag;
-  using value_type = char;
-  using difference_type = std::ptrdiff_t;
-  using pointer = const char*;
-  using reference = const char&;
-
-  TrackedCharacter(const char* first, const char*& reached) : place{first}, furthest{&reached} {}
-
-  reference operator*() const { return *place; }
-  TrackedCharacter& operator++() {
-    *furthest = ++place;
-    return *this;
-  }
-  TrackedCharacter operator++(int) {
-    const TrackedCharacter before = *this;
-    ++*this;
-    return before;
-  }
-  bool operator==(const TrackedCharacter& other) const { return place == other.place; }
-
- private:
-  const char* place;
-  const char** furthest;
-};
 
 enum class Key { version, fasts, weights, id, start, end, goalSeconds, note, date, weightInKg };
 
@@ -103,7 +74,50 @@ struct Fields {
   std::int64_t goalSeconds = defaultGoalSeconds;
   std::string note;
   double weightInKg = 0;
+
+  /// Keeps the memory of the texts.
+  void clear() {
+    id.reset();
+    hasEnd = false;
+    goalSeconds = defaultGoalSeconds;
+    note.clear();
+  }
 };
+
+/// What a parser's error means in our words, where the place alone does not say it.
+std::string_view expectedBy(rapidjson::ParseErrorCode code) {
+  switch (code) {
+    case rapidjson::kParseErrorDocumentRootNotSingular:
+      return "expected the end of the file";
+    case rapidjson::kParseErrorObjectMissName:
+      return "expected a key in quotes";
+    case rapidjson::kParseErrorObjectMissColon:
+      return "expected a colon";
+    case rapidjson::kParseErrorObjectMissCommaOrCurlyBracket:
+      return "expected a comma or '}'";
+    case rapidjson::kParseErrorArrayMissCommaOrSquareBracket:
+      return "expected a comma or ']'";
+    default:
+      return {};
+  }
+}
+
+/// What is wrong inside quotes; nothing for any other error.
+std::string_view badText(rapidjson::ParseErrorCode code, bool isControlCharacter) {
+  switch (code) {
+    case rapidjson::kParseErrorStringInvalidEncoding:
+      return "ill-formed UTF-8 byte";
+    case rapidjson::kParseErrorStringEscapeInvalid:
+      return isControlCharacter ? "line breaks and other control characters must be escaped"
+                                : "a backslash that escapes nothing";
+    case rapidjson::kParseErrorStringUnicodeEscapeInvalidHex:
+      return "\\u must be followed by four hexadecimal digits";
+    case rapidjson::kParseErrorStringUnicodeSurrogateInvalid:
+      return "one half of a surrogate pair";
+    default:
+      return {};
+  }
+}
 
 /// What the parser calls, value by value; an answer of false stops it.
 class SnapshotReader {
@@ -111,34 +125,19 @@ class SnapshotReader {
   SnapshotReader(std::string_view whole, const std::string& fileName, const UUIDGenerator& uuids)
       : text{whole}, reached{whole.data()}, file{fileName}, ids{uuids} {}
 
-  tl::expected<History, BadRecord> read() {
-    if (const std::size_t at = text.find('\0'); at != std::string_view::npos) {  // the parser takes it for the end
-      reached = text.data() + at + 1;
-      fail(tokenHere(), "expected UTF-8 text");
-      return tl::unexpected{std::move(*fault)};
-    }
-    const char* const begin = text.data();
-    const char* const end = begin + text.size();
-    Json::sax_parse(TrackedCharacter{begin, reached}, TrackedCharacter{end, reached}, this);
-    if (fault) return tl::unexpected{std::move(*fault)};
-    sortByDate(history.weights);
-    return std::move(history);
-  }
+  tl::expected<History, BadRecord> read();
+
+  /// How far the parser has come: behind the last character that it took.
+  void reach(std::size_t offset) { reached = text.data() + offset; }
 
   bool null() { return pending == Key::end ? runningFast() : refuse("null"); }
   bool boolean(bool value) { return refuse(value ? "true" : "false"); }
-  bool number_integer(Json::number_integer_t value) { return refuse(std::to_string(value)); }
-  bool number_unsigned(Json::number_unsigned_t value) {
-    if (pending == Key::version && value == 1) return accept();
-    if (pending == Key::weightInKg) return weighed(static_cast<double>(value), std::to_string(value));
-    if (pending != Key::goalSeconds || !std::in_range<std::int64_t>(value)) return refuse(std::to_string(value));
-    fields.goalSeconds = static_cast<std::int64_t>(value);
-    return accept();
+  bool number(std::string_view digits) {
+    if (pending == Key::weightInKg) return weighed(digits);
+    if (pending == Key::version) return accept(digits == "1", digits);
+    return accept(pending == Key::goalSeconds && wholeNumber(digits, fields.goalSeconds), digits);
   }
-  bool number_float(Json::number_float_t value, const std::string& digits) {
-    return pending == Key::weightInKg ? weighed(value, digits) : refuse(digits);
-  }
-  bool string(const std::string& value) {
+  bool string(std::string_view value) {
     if (pending == Key::id) return accept(fields.id = parseUUID(value), value);
     if (pending == Key::start || pending == Key::date) return dateInto(fields.start, value);
     if (pending == Key::end) return finishedFastEnd(value);
@@ -146,15 +145,14 @@ class SnapshotReader {
     fields.note = value;
     return accept(isNote(value), value);
   }
-  bool binary(const Json::binary_t&) { return refuse("binary"); }  // text holds none
 
-  bool start_object(std::size_t) {
+  bool startObject() {
     if (place == Place::outside) return enter(Place::snapshot);
     if (place == Place::fasts) return enter(Place::fast);
     if (place == Place::weights) return enter(Place::weight);
     return refuse("{");
   }
-  bool key(const std::string& name) {
+  bool key(std::string_view name) {
     const PlaceRule& here = rule(place);
     const auto keys = std::span{here.keys}.first(here.keyCount);
     const auto known = std::ranges::find(keys, name, [](Key key) { return rule(key).name; });
@@ -164,7 +162,7 @@ class SnapshotReader {
     pending = *known;
     return true;
   }
-  bool end_object() {
+  bool endObject() {
     if (place == Place::fast) return leaveFast();
     if (place == Place::weight) return leaveWeight();
     if (!hasSeen(Key::version)) return missing(Key::version);
@@ -172,30 +170,33 @@ class SnapshotReader {
     place = Place::outside;
     return true;
   }
-  bool start_array(std::size_t) {
+  bool startArray() {
     if (pending != Key::fasts && pending != Key::weights) return refuse("[");
     place = pending == Key::fasts ? Place::fasts : Place::weights;
+    if (place == Place::fasts) history.fasts.reserve(fastsAtMost());
     return accept();
   }
-  bool end_array() {
+  bool endArray() {
     place = Place::snapshot;
     return true;
   }
-  bool parse_error(std::size_t charactersRead, const std::string&, const Json::exception& error) {
-    const bool wasEndRead = charactersRead > text.size();  // the end counts as a character
-    if (wasEndRead) return fail(std::nullopt, expectedHere() + ", found the end of the file");
-    const std::string_view message = error.what();
-    constexpr std::string_view badText = "invalid string: ";
-    if (const std::size_t at = message.find(badText); at != std::string_view::npos) {
-      const std::string_view cause = message.substr(at + badText.size());
-      return fail(std::nullopt, "expected a text as JSON has it: " + std::string{cause.substr(0, cause.find(';'))});
+  void parseError(rapidjson::ParseErrorCode code, std::size_t at) {
+    if (at == text.size()) {
+      reach(at);
+      fail(std::nullopt, expectedHere() + ", found the end of the file");
+      return;
     }
-    constexpr std::string_view hint = "; expected ";
-    const std::size_t at = message.find(hint);
-    if (message.find("number") != std::string_view::npos && isDelimiter(*lastRead()))
-      --reached;  // it was read one character past its end
-    if (pending || at == std::string_view::npos) return fail(tokenHere(), expectedHere());
-    return fail(tokenHere(), std::string{message.substr(at + 2)});
+    reach(at + 1);
+    const bool isControlCharacter = static_cast<unsigned char>(text[at]) < 0x20;
+    if (const auto cause = badText(code, isControlCharacter); !cause.empty()) {
+      fail(std::nullopt, "expected a text as JSON has it: " + std::string{cause});
+      return;
+    }
+    const bool isNumber =
+        code == rapidjson::kParseErrorNumberMissFraction || code == rapidjson::kParseErrorNumberMissExponent;
+    if (isNumber && isDelimiter(text[at])) --reached;  // the number was at fault, not what follows it
+    const std::string_view expected = pending ? std::string_view{} : expectedBy(code);
+    fail(tokenHere(), expected.empty() ? expectedHere() : std::string{expected});
   }
 
  private:
@@ -213,19 +214,19 @@ class SnapshotReader {
   bool enter(Place next) {
     place = next;
     if (place == Place::snapshot) return accept();
-    fields = Fields{};
+    fields.clear();
     seenInRecord = 0;
     lineOfRecord = lineHere();
     return accept();
   }
 
-  bool dateInto(Date& field, const std::string& value) {
+  bool dateInto(Date& field, std::string_view value) {
     const auto dateText = parseDateText(value);
     const auto date = dateText ? instant(*dateText) : std::nullopt;
     if (date) field = *date;
     return accept(date.has_value(), value);
   }
-  bool finishedFastEnd(const std::string& value) {
+  bool finishedFastEnd(std::string_view value) {
     fields.hasEnd = true;
     fields.endLine = lineHere();
     fields.endText = value;
@@ -236,9 +237,14 @@ class SnapshotReader {
     lineOfRunningFast = lineHere();
     return accept();
   }
-  bool weighed(double weightInKg, const std::string& digits) {
-    fields.weightInKg = weightInKg;
-    return accept(isBodyWeight(weightInKg), digits);
+  bool weighed(std::string_view digits) {
+    const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), fields.weightInKg);
+    return accept(error == std::errc{} && isBodyWeight(fields.weightInKg), digits);
+  }
+  static bool wholeNumber(std::string_view digits, std::int64_t& number) {
+    const char* const end = digits.data() + digits.size();
+    const auto [stop, error] = std::from_chars(digits.data(), end, number);
+    return error == std::errc{} && stop == end && digits.front() != '-';
   }
 
   bool leaveFast() {
@@ -283,9 +289,15 @@ class SnapshotReader {
     return way + (way.empty() ? "" : ".") + std::string{rule(*key).name};
   }
 
+  /// Room for the fasts, so that a long history is not copied as it grows: an object a fast, the shortest of 63
+  /// characters.
+  std::size_t fastsAtMost() const {
+    return std::min(static_cast<std::size_t>(std::ranges::count(text, '{')), text.size() / 63);
+  }
+
   const char* lastRead() const { return reached > text.data() ? reached - 1 : reached; }
 
-  /// The line of the last token; the parser reads one character past a number, which may be a line's end.
+  /// The line of the last token.
   std::int64_t lineHere() {
     const char* const last = lastRead();
     if (last > counted) {
@@ -322,6 +334,47 @@ class SnapshotReader {
   History history;
   std::optional<BadRecord> fault;
 };
+
+/// Hands what the parser finds over to the reader, and how far it has come. The names are the parser's.
+class Events : public rapidjson::BaseReaderHandler<rapidjson::UTF8<>, Events> {
+ public:
+  Events(SnapshotReader& snapshotReader, const rapidjson::MemoryStream& characters)
+      : reader{snapshotReader}, stream{characters} {}
+
+  bool Null() { return afterToken().null(); }
+  bool Bool(bool value) { return afterToken().boolean(value); }
+  bool RawNumber(const char* digits, std::size_t length, bool) { return afterToken().number({digits, length}); }
+  bool String(const char* value, std::size_t length, bool) { return afterToken().string({value, length}); }
+  bool Key(const char* name, std::size_t length, bool) { return afterToken().key({name, length}); }
+  bool StartObject() { return atBracket().startObject(); }
+  bool EndObject(std::size_t) { return atBracket().endObject(); }
+  bool StartArray() { return atBracket().startArray(); }
+  bool EndArray(std::size_t) { return atBracket().endArray(); }
+
+ private:
+  SnapshotReader& afterToken() { return reader.reach(stream.Tell()), reader; }
+  SnapshotReader& atBracket() { return reader.reach(stream.Tell() + 1), reader; }  // which is taken after the call
+
+  SnapshotReader& reader;
+  const rapidjson::MemoryStream& stream;
+};
+
+tl::expected<History, BadRecord> SnapshotReader::read() {
+  if (const std::size_t at = text.find('\0'); at != std::string_view::npos) {  // the parser takes it for the end
+    reach(at + 1);
+    fail(tokenHere(), "expected UTF-8 text");
+    return tl::unexpected{std::move(*fault)};
+  }
+  constexpr unsigned options =
+      rapidjson::kParseIterativeFlag | rapidjson::kParseValidateEncodingFlag | rapidjson::kParseNumbersAsStringsFlag;
+  rapidjson::MemoryStream stream{text.data(), text.size()};
+  Events events{*this, stream};
+  const auto result = rapidjson::Reader{}.Parse<options>(stream, events);
+  if (result.IsError() && !fault) parseError(result.Code(), result.Offset());
+  if (fault) return tl::unexpected{std::move(*fault)};
+  sortByDate(history.weights);
+  return std::move(history);
+}
 
 }  // namespace
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "host/json/JsonWriter.h"
 
+#include <algorithm>
 #include <array>
 #include <cassert>
 #include <charconv>
@@ -92,19 +93,24 @@ void JsonWriter::breakLine() {
 
 void JsonWriter::quote(std::string_view text) {
   constexpr std::string_view hex = "0123456789abcdef";
-  out += '"';
-  for (const char c : text) {
+  const auto isPlain = [](char c) {
     const auto byte = static_cast<unsigned char>(c);
-    if (c == '"' || c == '\\') {
-      out += '\\';
+    return byte >= 0x20 && byte != 0x7F && c != '"' && c != '\\';
+  };
+  out += '"';
+  while (!text.empty()) {
+    const auto special = std::ranges::find_if_not(text, isPlain);
+    out.append(text.begin(), special);
+    text = {special, text.end()};
+    if (text.empty()) break;
+    const char c = text.front();
+    const auto byte = static_cast<unsigned char>(c);
+    text.remove_prefix(1);
+    out += '\\';
+    if (c == '"' || c == '\\')
       out += c;
-    } else if (byte < 0x20 || byte == 0x7F) {
-      out += "\\u00";
-      out += hex[byte >> 4];
-      out += hex[byte & 15];
-    } else {
-      out += c;
-    }
+    else
+      out.append("u00").append({hex[byte >> 4], hex[byte & 15]});
   }
   out += '"';
 }

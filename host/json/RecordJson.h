@@ -38,7 +38,10 @@ concept JsonLeaf =
     std::same_as<Value, Date> || std::same_as<Value, UUID>;
 
 inline void writeJson(JsonWriter& json, std::string_view value) { json.string(value); }
-inline void writeJson(JsonWriter& json, Date value) { json.string(rfc3339(value)); }
+inline void writeJson(JsonWriter& json, Date value) {
+  Rfc3339 text;
+  json.string(text.write(value));
+}
 inline void writeJson(JsonWriter& json, UUID value) { json.string(text(value)); }
 
 /// Records as objects, lists as arrays, enumerators by their names, what is absent as null, an observed field as its
