@@ -238,8 +238,9 @@ class SnapshotReader {
     return accept();
   }
   bool weighed(std::string_view digits) {
-    const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), fields.weightInKg);
-    return accept(error == std::errc{} && isBodyWeight(fields.weightInKg), digits);
+    const char* const end = digits.data() + digits.size();
+    const bool isNumber = std::from_chars(digits.data(), end, fields.weightInKg).ec == std::errc{};
+    return accept(isNumber && isBodyWeight(fields.weightInKg), digits);
   }
   static bool wholeNumber(std::string_view digits, std::int64_t& number) {
     const char* const end = digits.data() + digits.size();
