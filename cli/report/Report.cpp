@@ -7,6 +7,7 @@
 #include "adapters/icu/LocaleFormatters.h"
 #include "adapters/locale/MessageCatalogue.h"
 #include "mivo/calculations/RangeStarts.h"
+#include "mivo/calculations/Recomputed.h"
 #include "mivo/statistics/ComposeScreen.h"
 #include "mivo/statistics/ScreenInput.h"
 
@@ -47,9 +48,9 @@ std::shared_ptr<const Dependencies> runDependencies(const RunSettings& settings)
 }
 
 Report makeReport(const host::History& history, const RunSettings& settings) {
-  Report report{settings.now, settings.range, StatsContainer::empty()};
-  report.stats.update(entries(history.fasts), runningFast(history.fasts, settings.now), settings.streaks,
-                      settings.range);
+  Report report{
+      settings.now, settings.range,
+      recomputed(StatsContainer::empty(), entries(history.fasts), settings.streaks, settings.range, settings.now)};
   report.stats.updateWeightChart(StatsContainer::update(history.weights));
   return report;
 }

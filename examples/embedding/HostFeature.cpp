@@ -3,6 +3,8 @@
 
 #include <algorithm>
 
+#include "mivo/calculations/Recomputed.h"
+
 using namespace mivo;
 using State = HostFeature::State;
 using Action = HostFeature::Action;
@@ -12,12 +14,8 @@ namespace {
 
 /// Computes a container away from the screen and folds the fasting half back in.
 void recomputeFasts(StatisticsFeature::State& screen) {
-  const auto& fasts = *screen.fasts;
-  const auto running = std::ranges::find_if(fasts, [](const auto& fast) { return !fast.finished; });
-  StatsContainer fresh = screen.stats.copy();
-  fresh.update(fasts, running == fasts.end() ? std::nullopt : std::optional{*running}, screen.streakSettings,
-               screen.timeRange);
-  screen.updateFastingChart(fresh);
+  screen.updateFastingChart(recomputed(screen.stats, *screen.fasts, screen.streakSettings, screen.timeRange,
+                                       dependency(&Dependencies::date)->now()));
 }
 
 /// Ends every fast where the next one begins.

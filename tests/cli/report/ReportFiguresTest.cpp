@@ -31,6 +31,14 @@ Json averages(double thisSeconds, double lastSeconds) {
   return {{"thisTimeRange", thisSeconds}, {"lastTimeRange", lastSeconds}};
 }
 
+TEST(ReportFigures, leaveOutAFastThatRunsButHasNotBegun) {
+  const Json report = reportOf(R"({"version": 1, "fasts": [{"start": "2026-03-02T20:00:00Z", "end": null}]})", "");
+  EXPECT_EQ(report["stats"]["totalFasts"], 0);
+  const Json begun = reportOf(R"({"version": 1, "fasts": [{"start": "2026-03-01T11:00:00Z", "end": null}]})", "");
+  EXPECT_EQ(begun["stats"]["totalFasts"], 1);
+  EXPECT_EQ(begun["stats"]["longestFast"], 3600.0);
+}
+
 TEST(ReportFigures, areThoseOfTheHistory) {
   const Json report = reportOf(threeFasts, "");
   EXPECT_EQ(report["now"], "2026-03-01T12:00:00Z");
