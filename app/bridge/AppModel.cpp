@@ -196,20 +196,7 @@ QString AppModel::failure() const { return qString(store.state().failure); }
 
 QString AppModel::undoText() const {
   const auto& offer = *store.state().undo;
-  if (!offer) return {};
-  const auto& texts = dependency(&Dependencies::texts);
-  switch (offer->step) {
-    case host::AppFeature::Step::remove:
-      return qString(texts->text("Fast deleted"));
-    case host::AppFeature::Step::stop:
-      return qString(texts->text("Fast ended"));
-    case host::AppFeature::Step::addWeight:
-      return qString(texts->text("Weight saved"));
-    case host::AppFeature::Step::removeWeight:
-      return qString(texts->text("Weight deleted"));
-    default:
-      return qString(texts->text("Overlapping fasts fixed"));
-  }
+  return offer && !offer->isTaken ? qString(doneText(offer->step, *dependency(&Dependencies::texts))) : QString{};
 }
 
 void AppModel::appear() { sendStatistics(Sent::onAppear{}); }

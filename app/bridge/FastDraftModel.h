@@ -7,15 +7,13 @@
 #include <QtCore/QString>
 
 #include <functional>
-#include <optional>
 
 #include "app/bridge/ZoneTime.h"
 #include "host/app/AppFeature.h"
-#include "host/history/RecordFault.h"
 
 namespace mivo::app {
 
-/// A fast that is being edited, or a new one, before it is saved. Instants are seconds since 1970.
+/// The draft of a fast; once there is none any more, as it was last. Instants are seconds since 1970.
 class FastDraftModel : public QObject {
   Q_OBJECT
   QML_ELEMENT
@@ -42,53 +40,44 @@ class FastDraftModel : public QObject {
   using Action = host::AppFeature::Action;
   explicit FastDraftModel(std::function<void(Action)> send, QObject* parent = nullptr);
 
-  /// Begins with a record, for an edit.
-  void edit(const host::FastRecord& record);
-  /// Begins a new one that reaches its goal just now, or as the running fast begins.
-  void add(std::int64_t goalSeconds);
   void follow(const host::AppFeature::State& state);
+  /// Every text may read differently, though nothing was changed.
+  void retell() { Q_EMIT changed(); }
 
-  bool isNew() const { return !before; }
-  double start() const { return secondsSince1970(draft.fast.start); }
+  bool isNew() const { return !draft.before; }
+  double start() const { return secondsSince1970(draft.record.fast.start); }
   double end() const { return secondsSince1970(finished().end); }
   QString startText() const;
   QString endText() const;
   QString length() const { return durationText(seconds()); }
   qreal seconds() const { return finished().duration(); }
-  qreal goalSeconds() const { return static_cast<qreal>(draft.fast.goalSeconds); }
+  qreal goalSeconds() const { return static_cast<qreal>(draft.record.fast.goalSeconds); }
   QList<ZoneTime> zones() const { return zoneTimes(seconds()); }
   QString startProblem() const;
   QString endProblem() const;
   QString goalProblem() const;
-  QString failure() const { return failureText; }
+  QString failure() const { return QString::fromStdString(draft.failure); }
   QString overlap() const;
 
-  /// The seconds of an end stay as they are where the minute does.
-  Q_INVOKABLE void setStart(double instant);
-  Q_INVOKABLE void setEnd(double instant);
+  Q_INVOKABLE void setStart(double instant) { send(Action::didChangeDraftStart{dateSince1970(instant)}); }
+  Q_INVOKABLE void setEnd(double instant) { send(Action::didChangeDraftEnd{dateSince1970(instant)}); }
   Q_INVOKABLE void setGoal(double seconds);
-  /// Saves what has no fault; `saved` follows once it is on disk.
-  Q_INVOKABLE void save();
+  Q_INVOKABLE void save() { send(Action::didTapSaveDraft{}); }
   Q_INVOKABLE void remove();
+  Q_INVOKABLE void dismiss() { send(Action::didDismissDraft{}); }
 
  Q_SIGNALS:
   void changed();
-  void saved();
+  /// It was saved or dismissed.
+  void ended();
 
  private:
-  const FinishedFastingDataEntry& finished() const { return *draft.fast.finished; }
-  std::optional<host::RecordFault> fault() const;
-  void change(Date start, Date end, std::int64_t goalSeconds);
+  const FinishedFastingDataEntry& finished() const { return *draft.record.fast.finished; }
 
   std::function<void(Action)> send;
-  host::FastRecord draft;
-  std::optional<host::FastRecord> before;
+  host::FastDraft draft;
   List<host::FastRecord> fasts;
-  bool isSaving = false, hasFailure = false;
-  QString failureText;
+  bool isOpen = false;
 };
-
-/// `chosen`, or `old` where both lie in the same minute: whoever chooses minutes does not mean to change seconds.
-Date keepingSeconds(Date old, double chosen);
 
 }  // namespace mivo::app

@@ -8,7 +8,7 @@
 #include "app/bridge/GoalTime.h"
 #include "app/bridge/Text.h"
 #include "app/bridge/ZoneTime.h"
-#include "host/overlaps/OverlappingFasts.h"
+#include "host/fasting/OverlappingFasts.h"
 #include "mivo/platform/Dependencies.h"
 
 namespace mivo::app {

@@ -8,8 +8,7 @@
 #include "app/bridge/DateTimeText.h"
 #include "app/bridge/GoalTime.h"
 #include "app/bridge/Text.h"
-#include "host/app/FaultText.h"
-#include "host/app/Settings.h"
+#include "host/fasting/GoalTime.h"
 #include "mivo/platform/Dependencies.h"
 
 namespace mivo::app {
@@ -55,9 +54,10 @@ void FastingModel::follow(const host::AppFeature::State& state) {
   ended.follow(state);
   edited.follow(state);
   const host::FastRecord* present = state.runningFast();
+  fasts = *state.fasts;
   running = present ? std::optional{*present} : std::nullopt;
   last = endedLast(*state.fasts);
-  nextGoalSeconds = host::goalSeconds(*dependency(&Dependencies::userDefaults));
+  nextGoalSeconds = state.nextGoalSeconds;
   overlap = ended.overlapOfRunning();
   Q_EMIT changed();
   tick();
@@ -65,7 +65,7 @@ void FastingModel::follow(const host::AppFeature::State& state) {
 
 void FastingModel::retell() {
   ended.retell();
-  Q_EMIT edited.changed();
+  edited.retell();
   Q_EMIT changed();
   tick();
 }
@@ -175,45 +175,30 @@ void FastingModel::start() { send(Action::didTapStart{presentDate(), nextGoalSec
 
 void FastingModel::stop() { send(Action::didTapStop{presentDate()}); }
 
-host::FastRecord FastingModel::withStart(double instant) const {
-  host::FastRecord changedRecord = *running;
-  changedRecord.fast.start = keepingSeconds(running->fast.start, instant);
-  return changedRecord;
-}
-
 QString FastingModel::startProblem(double instant) const {
   if (!running) return {};
-  const auto fault = recordFault(withStart(instant), presentDate());
-  return fault ? qString(faultText(*fault, *dependency(&Dependencies::texts))) : QString{};
+  const auto outcome = host::changingStart(fasts, dateSince1970(instant), presentDate());
+  return outcome ? QString{} : qString(refusalText(outcome.error(), *dependency(&Dependencies::texts)));
 }
 
-void FastingModel::changeStart(double instant) {
-  if (running) send(Action::didSaveFast{withStart(instant)});
-}
+void FastingModel::changeStart(double instant) { send(Action::didChangeStart{dateSince1970(instant)}); }
 
 void FastingModel::changeGoal(double seconds) {
-  const auto goal = static_cast<std::int64_t>(std::llround(seconds));
-  host::setGoalSeconds(*dependency(&Dependencies::userDefaults), goal);
-  nextGoalSeconds = goal;
-  if (running) {
-    host::FastRecord record = *running;
-    record.fast.goalSeconds = goal;
-    send(Action::didSaveFast{std::move(record)});
-  }
-  Q_EMIT changed();
-  tick();
+  send(Action::didChangeGoal{static_cast<std::int64_t>(std::llround(seconds))});
 }
 
 void FastingModel::edit(int row) {
-  if (const auto record = ended.record(row)) edited.edit(*record);
+  if (const auto record = ended.record(row)) send(Action::didTapEditFast{record->fast.id});
 }
 
-void FastingModel::add() { edited.add(nextGoalSeconds); }
+void FastingModel::add() { send(Action::didTapAddFast{}); }
 
 QString FastingModel::hoursText(double seconds) const { return app::goalText(seconds); }
 
-QString FastingModel::typedGoal(double seconds) const { return goalTimeText(seconds); }
+QString FastingModel::typedGoal(double seconds) const { return qString(host::typedGoal(seconds)); }
 
-double FastingModel::parsedGoal(const QString& text) const { return parseGoalTime(text).value_or(0); }
+double FastingModel::parsedGoal(const QString& text) const {
+  return static_cast<double>(host::parseGoal(text.toStdString()).value_or(0));
+}
 
 }  // namespace mivo::app

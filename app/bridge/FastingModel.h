@@ -112,11 +112,11 @@ class FastingModel : public QObject {
  private:
   double seconds() const;
   LegacyFastingZone presentZone() const { return running ? zoneAfter(seconds()) : LegacyFastingZone::eating; }
-  host::FastRecord withStart(double instant) const;
   void tick();
   void waitForTheNextTick();
 
   std::function<void(Action)> send;
+  List<host::FastRecord> fasts;
   std::optional<host::FastRecord> running;
   std::optional<FinishedFastingDataEntry> last;  // the one that ended last
   std::int64_t nextGoalSeconds = 0;

@@ -12,11 +12,12 @@ Sheet {
     spacing: 16
 
     onAboutToShow: goal.begin(draft.goalSeconds)
+    onClosed: draft.dismiss()
 
     Connections {
         target: root.draft
 
-        function onSaved() {
+        function onEnded() {
             root.close();
         }
     }

@@ -98,7 +98,7 @@ Column {
     StyledText {
         visible: text !== ""
         width: parent.width
-        text: root.custom && root.unread ? Texts.text("Type hours, such as 17 or 16:30.") : root.problem
+        text: root.custom && root.unread ? Texts.text("Type up to 168 hours, such as 17 or 16:30.") : root.problem
         style: Theme.captionText
         color: Theme.danger
         Accessible.role: Accessible.AlertMessage

@@ -25,6 +25,7 @@
 #include "app/program/SystemZone.h"
 #include "host/app/FaultText.h"
 #include "host/app/Settings.h"
+#include "host/database/DatabaseHistory.h"
 #include "host/donations/DonationList.h"
 #include "host/health/StoredHealthClient.h"
 #include "host/history/Snapshot.h"

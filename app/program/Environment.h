@@ -7,7 +7,7 @@
 #include <tl/expected.hpp>
 
 #include "app/program/Options.h"
-#include "host/app/HistoryClient.h"
+#include "host/fasting/HistoryClient.h"
 #include "host/place/WeekCalendar.h"
 #include "host/tips/Tips.h"
 #include "mivo/platform/Dependencies.h"

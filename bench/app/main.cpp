@@ -99,18 +99,18 @@ void measureColumnScroll(DrivenApp& app) {
 
 // From a fast that is saved to the frame with the new figures; between them it is written to the disk.
 double record(DrivenApp& app, Date start) {
-  constexpr std::int64_t goalSeconds = 57600;
   const auto fasts = [&app] { return app.model().state().fasts->size(); };
   const std::size_t before = fasts();
   int atChange = -1;
   const auto changed = QObject::connect(&app.model(), &AppModel::changed, &app.window(), [&] {
     if (atChange < 0 && fasts() > before) atChange = app.framesShown();
   });
+  app.model().send(AppModel::Action::didTapAddFast{});
+  app.model().send(AppModel::Action::didChangeDraftStart{start});
+  app.model().send(AppModel::Action::didChangeDraftEnd{start + std::chrono::minutes{1}});
   QElapsedTimer timer;
   timer.start();
-  app.model().send(AppModel::Action::didSaveFast{{.fast = finishedFast(dependency(&Dependencies::uuid)->next(), start,
-                                                                       start + std::chrono::minutes{1}, goalSeconds),
-                                                  .note = {}}});
+  app.model().send(AppModel::Action::didTapSaveDraft{});
   while (atChange < 0 && timer.elapsed() < 5000)
     QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents, 20);
   if (atChange < 0 || !app.waitForFrame(atChange + 1)) throw std::runtime_error{"a fast was not recorded"};

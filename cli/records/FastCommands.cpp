@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include <utility>
+#include <cstddef>
+#include <vector>
 
 #include "adapters/system/FileUserDefaults.h"
 #include "adapters/system/LocalUUIDGenerator.h"
@@ -10,8 +11,9 @@
 #include "cli/records/RecordTables.h"
 #include "cli/usage/Usage.h"
 #include "host/app/Settings.h"
+#include "host/fasting/Fasting.h"
+#include "host/fasting/OverlappingFasts.h"
 #include "host/history/Snapshot.h"
-#include "host/overlaps/OverlappingFasts.h"
 
 namespace mivo::cli {
 namespace {
@@ -20,60 +22,47 @@ using host::FastRecord;
 
 std::int64_t usualGoal() { return host::goalSeconds(adapters::FileUserDefaults{adapters::appDefaultsFile()}); }
 
-/// What was done, as the database has it now.
-std::string answer(const RecordRun& run, const host::Database& database, std::string_view pattern,
-                   const FastRecord& record, bool isGone = false) {
+/// Does a change, and says so of a record as the database has it now.
+std::string done(const RecordRun& run, host::Database& database, const host::HistoryChange& change,
+                 std::string_view pattern, const FastRecord& record) {
+  database.apply(change);
   auto fasts = database.history().fasts;
-  bool overlaps = false;
-  const auto marks = host::overlappingFasts(fasts, run.now);
-  for (std::size_t index = 0; index < fasts.size(); ++index)
-    overlaps = overlaps || (fasts[index].fast.id == record.fast.id && marks[index]);
-  if (isGone) fasts.push_back(record);  // its id is told apart from theirs
+  const FastRecord* kept = host::fastWithID(fasts, record.fast.id);
+  const bool overlaps = kept && host::overlappingFasts(fasts, run.now)[static_cast<std::size_t>(kept - fasts.data())];
+  if (!kept) fasts.push_back(record);  // its id is told apart from theirs
   std::string line = filledIn(run.texts->text(pattern), {described(record, idsOf(fasts), run)});
   if (overlaps) line += " (" + run.texts->text("overlaps another fast") + ')';
   return line + '\n';
 }
 
-FastRecord found(const RecordRun& run, const host::Database& database) {
-  const auto fasts = database.history().fasts;
-  return fasts[placeOf(run, idsOf(fasts), "fast")];
+std::string addOne(const RecordRun& run, std::string_view pattern, const FastingDataEntry& fast) {
+  const FastRecord record{fast, run.options.note.value_or("")};
+  host::Database database = run.open();
+  const auto change = run.change(host::addingFast(database.history().fasts, record, run.now));
+  return done(run, database, change, pattern, record);
 }
 
 std::string start(const RecordRun& run) {
-  const FastRecord record{ongoingFast(adapters::LocalUUIDGenerator{}.next(), run.dateOrNow("--at", run.options.at),
-                                      run.goalSeconds(usualGoal())),
-                          run.options.note.value_or("")};
-  run.check(record);
-  host::Database database = run.open();
-  if (const auto running = database.runningFast())
-    throw Refused{atFault, "a fast is running since " + run.typed(running->fast.start) +
-                               ": expected mivo stop before another one starts"};
-  database.apply(host::adding(record));
-  return answer(run, database, translatable("Started {1}"), record);
+  return addOne(run, translatable("Started {1}"),
+                ongoingFast(adapters::LocalUUIDGenerator{}.next(), run.dateOrNow("--at", run.options.at),
+                            run.goalSeconds(usualGoal())));
 }
 
 std::string stop(const RecordRun& run) {
+  const Date end = run.dateOrNow("--at", run.options.at);
   host::Database database = run.open();
-  const auto running = database.runningFast();
-  if (!running) throw Refused{atFault, "no fast is running: expected mivo start before"};
-  const Date start = running->fast.start, end = run.dateOrNow("--at", run.options.at);
-  if (end < start)
-    throw Refused{atFault, "the fast is running since " + run.typed(start) + ", after " + run.typed(end) +
-                               ": expected a time since then" + (run.options.at ? "" : "; was the clock set back?")};
-  const FastRecord record = host::stopped(*running, end);
-  run.check(record, running);
-  database.apply(host::replacing(*running, record));
-  return answer(run, database, translatable("Stopped {1}"), record);
+  const auto change = run.change(host::stopping(database.history().fasts, end, run.now));
+  return done(run, database, change, translatable("Stopped {1}"), change.addedFasts.front());
 }
 
 std::string add(const RecordRun& run) {
   const Date start = run.date("START", *run.options.start), end = run.date("END", *run.options.end);
-  const FastRecord record{finishedFast(adapters::LocalUUIDGenerator{}.next(), start, end, run.goalSeconds(usualGoal())),
-                          run.options.note.value_or("")};
-  run.check(record);
-  host::Database database = run.open();
-  database.apply(host::adding(record));
-  return answer(run, database, translatable("Added {1}"), record);
+  return addOne(run, translatable("Added {1}"),
+                finishedFast(adapters::LocalUUIDGenerator{}.next(), start, end, run.goalSeconds(usualGoal())));
+}
+
+const FastRecord& found(const RecordRun& run, const std::vector<FastRecord>& fasts) {
+  return fasts[placeOf(run, idsOf(fasts), "fast")];
 }
 
 FastRecord edited(const FastRecord& before, const RecordRun& run) {
@@ -94,21 +83,18 @@ std::string edit(const RecordRun& run) {
   if (!options.start && !options.end && !options.isRunning && !options.goalHours && !options.note)
     throw Refused{wrongUsage, "nothing to change: expected --start, --end, --running, --goal-hours or --note"};
   host::Database database = run.open();
-  const FastRecord before = found(run, database);
-  const FastRecord after = edited(before, run);
-  run.check(after, std::optional{before});
-  if (const auto running = database.runningFast(); running && !after.fast.finished && running->fast.id != after.fast.id)
-    throw Refused{atFault, "another fast is running since " + run.typed(running->fast.start) +
-                               ": expected mivo stop before this one runs on"};
-  database.apply(host::replacing(before, after));
-  return answer(run, database, translatable("Changed to {1}"), after);
+  const auto fasts = database.history().fasts;
+  const FastRecord after = edited(found(run, fasts), run);
+  return done(run, database, run.change(host::changingFast(fasts, after, run.now)), translatable("Changed to {1}"),
+              after);
 }
 
 std::string remove(const RecordRun& run) {
   host::Database database = run.open();
-  const FastRecord record = found(run, database);
-  database.apply(host::removing(record));
-  return answer(run, database, translatable("Removed {1}"), record, true);
+  const auto fasts = database.history().fasts;
+  const FastRecord record = found(run, fasts);
+  return done(run, database, run.change(host::removingFast(fasts, record.fast.id)), translatable("Removed {1}"),
+              record);
 }
 
 std::string list(const RecordRun& run) {

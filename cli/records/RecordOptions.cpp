@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "cli/records/RecordOptions.h"
 
+#include <CLI/CLI.hpp>
+
 #include "cli/records/RecordCommands.h"
 
 namespace mivo::cli {

@@ -15,8 +15,8 @@
 #include "cli/terminal/StandardOutput.h"
 #include "cli/usage/Usage.h"
 #include "host/app/Settings.h"
+#include "host/fasting/GoalTime.h"
 #include "host/history/FieldRules.h"
-#include "host/history/Header.h"
 #include "host/text/BadRecord.h"
 
 namespace mivo::cli {
@@ -27,6 +27,46 @@ Value orRefused(Read<Value> read) {
   if (!read) throw Refused{wrongUsage, read.error()};
   return std::move(*read);
 }
+
+/// What a terminal adds to a refusal, and the exit status.
+struct Help {
+  const RecordRun& run;
+  using Answer = std::pair<std::string, int>;
+
+  Answer operator()(const host::FastIsRunning& refusal) const {
+    return {"since " + run.typed(refusal.running.fast.start) + "; mivo stop ends it", atFault};
+  }
+  Answer operator()(const host::NoFastIsRunning&) const { return {"mivo start begins one", atFault}; }
+  Answer operator()(const host::IsGone&) const { return {"", atFault}; }
+  Answer operator()(const host::IsSavedAlready&) const { return {"", atFault}; }
+
+  Answer operator()(const host::IsNoRecord& refusal) const {
+    using enum host::RecordFault;
+    const std::string runs =
+        refusal.running ? "the fast is running since " + run.typed(refusal.running->fast.start) : std::string{};
+    switch (refusal.fault) {
+      case startInFuture:
+      case endInFuture:
+      case dateInFuture:
+        return {"it is " + run.typed(run.now) + (runs.empty() ? "" : "; ") + runs, atFault};
+      case endBeforeStart:
+        return {runs, atFault};
+      case startOutOfRange:
+      case endOutOfRange:
+      case dateOutOfRange:
+        return {std::string{host::expectedDate}, wrongUsage};
+      case goalOutOfRange:
+        return {"--goal-hours", wrongUsage};
+      case noteTooLong:
+        return {"--note: " + std::string{host::expectedNote}, wrongUsage};
+      case weightOutOfRange:
+        return {
+            wrong("WEIGHT", "expected a weight as in 81.4, 81.4kg, 179lb or \"12st 11lb\"", run.options.weight).value(),
+            wrongUsage};
+    }
+    return {"", atFault};
+  }
+};
 
 }  // namespace
 
@@ -66,12 +106,12 @@ Date RecordRun::dateOrNow(std::string_view name, const std::optional<std::string
 
 std::int64_t RecordRun::goalSeconds(std::int64_t fallback) const {
   if (!options.goalHours) return fallback;
-  const auto hours = host::decimalNumber(*options.goalHours, true);
-  if (!hours || *hours < 0 || *hours > host::largestGoalHours)
+  const auto seconds = host::parseGoal(*options.goalHours);
+  if (!seconds)
     throw Refused{
         wrongUsage,
-        wrong("--goal-hours", "expected hours from 0 to 87660000, as in 16 or 16.5", *options.goalHours).value()};
-  return std::llround(*hours * secondsPerHour);
+        wrong("--goal-hours", "expected hours from 0 to 168, as in 16, 16.5 or 16:30", *options.goalHours).value()};
+  return *seconds;
 }
 
 WeightUnit RecordRun::weightUnit() const {
@@ -90,29 +130,10 @@ std::string RecordRun::typed(Date date) const {
   return text.data();
 }
 
-void RecordRun::refuse(host::RecordFault fault) const {
-  using enum host::RecordFault;
-  const std::string upToNow = " up to now, " + typed(now) + "; is the clock right?";
-  switch (fault) {
-    case startInFuture:
-      throw Refused{atFault, "the fast would start in the future: expected a time" + upToNow};
-    case endInFuture:
-      throw Refused{atFault, "the fast would end in the future: expected a time" + upToNow};
-    case dateInFuture:
-      throw Refused{atFault, "the weight would be of the future: expected a time" + upToNow};
-    case endBeforeStart:
-      throw Refused{atFault, "the fast would end before it starts: expected an end after the start"};
-    case noteTooLong:
-      throw Refused{wrongUsage, "--note: " + std::string{host::expectedNote}};
-    case goalOutOfRange:
-    case startOutOfRange:
-    case endOutOfRange:
-    case dateOutOfRange:
-      throw Refused{wrongUsage, std::string{host::expectedDate}};
-    case weightOutOfRange:
-      throw Refused{wrongUsage, wrong("WEIGHT", host::expectedWeight, options.weight).value()};
-  }
-  throw Refused{atFault, "the record cannot be kept"};
+host::HistoryChange RecordRun::change(host::Outcome outcome) const {
+  if (outcome) return std::move(*outcome);
+  const auto [help, status] = std::visit(Help{*this}, outcome.error());
+  throw Refused{status, refusalText(outcome.error(), *texts) + (help.empty() ? "" : " (" + help + ')')};
 }
 
 int runRecordCommand(const RecordOptions& options, const std::function<std::string(const RecordRun&)>& command) {
@@ -123,6 +144,11 @@ int runRecordCommand(const RecordOptions& options, const std::function<std::stri
   } catch (const Refused& refused) {
     complain(refused.what());
     return refused.status;
+  } catch (const host::DatabaseError& error) {
+    // Another program was quicker: said as everywhere.
+    if (error.kind != host::DatabaseError::Kind::fastRunning) throw;
+    complain(refusalText(host::FastIsRunning{}, *RecordRun{options}.texts));
+    return atFault;
   }
 }
 

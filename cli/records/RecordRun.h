@@ -15,7 +15,7 @@
 #include "cli/records/RecordOptions.h"
 #include "cli/records/ShortIDs.h"
 #include "host/database/Database.h"
-#include "host/history/RecordFault.h"
+#include "host/fasting/Fasting.h"
 #include "mivo/platform/TextLookup.h"
 
 namespace mivo::cli {
@@ -50,11 +50,8 @@ class RecordRun {
   /// What `--goal-hours` says, in seconds; or the fallback without it.
   std::int64_t goalSeconds(std::int64_t fallback) const;
 
-  /// Refuses a record that cannot be kept. A fault that it had before an edit is left in peace.
-  template <class Record>
-  void check(const Record& record, const std::optional<Record>& before = {}) const {
-    if (const auto fault = host::recordFault(record, before, now)) refuse(*fault);
-  }
+  /// The change, or why there is none; what the command line can say about that stands behind the sentence.
+  host::HistoryChange change(host::Outcome outcome) const;
 
   /// What the user chose in the app, or what people weigh themselves in where they live.
   WeightUnit weightUnit() const;
@@ -63,7 +60,6 @@ class RecordRun {
   std::string typed(Date date) const;
 
  private:
-  [[noreturn]] void refuse(host::RecordFault fault) const;
   std::filesystem::path file() const;
 };
 

@@ -2,14 +2,14 @@
 #include "cli/records/RecordTables.h"
 
 #include <algorithm>
-#include <cmath>
 #include <cstddef>
 #include <utility>
 #include <vector>
 
 #include "cli/terminal/Paint.h"
 #include "cli/terminal/TextWidth.h"
-#include "host/overlaps/OverlappingFasts.h"
+#include "host/fasting/GoalTime.h"
+#include "host/fasting/OverlappingFasts.h"
 
 namespace mivo::cli {
 namespace {
@@ -31,11 +31,8 @@ std::string durationText(double seconds, const RecordRun& run) {
 }
 
 std::string goalText(std::int64_t goalSeconds, const RecordRun& run) {
-  const auto seconds = static_cast<double>(goalSeconds);
-  const bool isWhole = std::fmod(seconds, secondsPerHour) == 0;
-  return (isWhole ? run.formatters.hourDurationUnitFormatter : run.formatters.hourMinDurationUnitFormatter)
-      ->string(seconds)
-      .value_or("");
+  return host::goalText(static_cast<double>(goalSeconds), *run.formatters.hourDurationUnitFormatter,
+                        *run.formatters.hourMinDurationUnitFormatter);
 }
 
 double length(const FastingDataEntry& fast, Date now) {

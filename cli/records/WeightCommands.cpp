@@ -5,9 +5,9 @@
 #include "cli/records/RecordRun.h"
 #include "cli/records/RecordTables.h"
 #include "cli/usage/Usage.h"
-#include "host/history/FieldRules.h"
+#include "host/fasting/Fasting.h"
 #include "host/history/Snapshot.h"
-#include "host/history/WeightText.h"
+#include "mivo/statistics/WeightText.h"
 
 namespace mivo::cli {
 namespace {
@@ -18,16 +18,15 @@ std::string answer(const RecordRun& run, std::string_view pattern, const BodyWei
 }
 
 std::string add(const RecordRun& run) {
-  const auto weightInKg = host::parseWeight(run.options.weight, WeightUnit::kilograms);
-  if (!weightInKg)
-    throw Refused{
-        wrongUsage,
-        wrong("WEIGHT", "expected a weight as in 81.4, 81.4kg, 179lb or \"12st 11lb\"", run.options.weight).value()};
+  constexpr double noWeight = 0;  // which no body has
   const BodyWeightSample sample{adapters::LocalUUIDGenerator{}.next(), run.dateOrNow("--at", run.options.at),
-                                *weightInKg};
-  run.check(sample);
+                                parseWeight(run.options.weight, WeightUnit::kilograms).value_or(noWeight)};
   host::Database database = run.open();
-  database.apply(host::adding(sample));
+  const auto weights = database.history().weights;
+  const auto outcome = host::addingWeight(weights, sample, run.weightUnit(), *run.formatters.massFormatter, run.now);
+  if (const auto* same = outcome ? nullptr : std::get_if<host::IsSavedAlready>(&outcome.error()))
+    return answer(run, translatable("Saved already: {1}"), same->saved, weights);
+  database.apply(run.change(outcome));
   return answer(run, translatable("Added {1}"), sample, database.history().weights);
 }
 
@@ -35,7 +34,7 @@ std::string remove(const RecordRun& run) {
   host::Database database = run.open();
   const auto weights = database.history().weights;
   const BodyWeightSample sample = weights[placeOf(run, idsOf(weights), "weight")];
-  database.apply(host::removing(sample));
+  database.apply(run.change(host::removingWeight(weights, sample.id)));
   return answer(run, translatable("Removed {1}"), sample, weights);
 }
 

@@ -6,9 +6,8 @@
 
 #include "host/app/FaultText.h"
 #include "host/app/Settings.h"
-#include "host/fasting/SameWeight.h"
-#include "host/overlaps/OverlapRepair.h"
-#include "mivo/calculations/StatsContainer.h"
+#include "host/fasting/OverlapRepair.h"
+#include "mivo/calculations/Recomputed.h"
 #include "mivo/store/Reducers.h"
 
 namespace mivo::host {
@@ -17,11 +16,6 @@ namespace {
 using Action = AppFeature::Action;
 using State = AppFeature::State;
 using Step = AppFeature::Step;
-
-const FastRecord* find(const List<FastRecord>& fasts, UUID id) {
-  const auto found = std::ranges::find(fasts, id, [](const FastRecord& record) { return record.fast.id; });
-  return found == fasts.end() ? nullptr : &*found;
-}
 
 void take(State& state, std::vector<FastRecord> fasts, std::vector<BodyWeightSample> weights) {
   state.statistics.fasts = List<FastingDataEntry>{entries(fasts)};
@@ -35,6 +29,10 @@ bool offersUndo(Step step) {
   return step != Step::start && step != Step::edit && step != Step::add && step != Step::undo;
 }
 
+bool isOf(const std::optional<FastDraft>& draft, const HistoryChange& change) {
+  return draft && draft->isSaving && change.addedFasts == std::vector{draft->record};
+}
+
 }  // namespace
 
 AppFeature::State AppFeature::State::make(TimeRange timeRange, WeightUnit usualUnit) {
@@ -45,10 +43,7 @@ AppFeature::State AppFeature::State::make(TimeRange timeRange, WeightUnit usualU
   return state;
 }
 
-const FastRecord* AppFeature::State::runningFast() const {
-  const auto found = std::ranges::find_if(*fasts, [](const FastRecord& record) { return !record.fast.finished; });
-  return found == fasts->end() ? nullptr : &*found;
-}
+const FastRecord* AppFeature::State::runningFast() const { return host::runningFast(*fasts); }
 
 auto AppFeature::reduce(State& state, const Action& action) const -> Effect<Action> {
   return combine(scope<Action::statistics>(&State::statistics, statistics), [this](State& s, const Action& a) {
@@ -118,36 +113,81 @@ auto AppFeature::on(State& state, const Action::recompute&) const -> Effect<Acti
 
 auto AppFeature::on(State& state, const Action::didTapStart& tapped) const -> Effect<Action> {
   FastRecord begun{mivo::ongoingFast(uuid->next(), tapped.start, tapped.goalSeconds), {}};
-  if (auto sentence = refusal(state, begun)) return refuse(state, std::move(*sentence));
-  return write(Step::start, adding(std::move(begun)));
+  return writeOrSay(state, Step::start, addingFast(*state.fasts, std::move(begun), date->now()));
 }
 
 auto AppFeature::on(State& state, const Action::didTapStop& tapped) const -> Effect<Action> {
-  const FastRecord* running = state.runningFast();
-  if (!running) return {};
-  FastRecord ended = stopped(*running, tapped.end);
-  if (auto sentence = refusal(state, ended)) return refuse(state, std::move(*sentence));
-  return write(Step::stop, replacing(*running, std::move(ended)));
+  return writeOrSay(state, Step::stop, stopping(*state.fasts, tapped.end, date->now()));
 }
 
-auto AppFeature::on(State& state, const Action::didSaveFast& saved) const -> Effect<Action> {
-  const FastRecord* before = find(state.fasts, saved.record.fast.id);
-  if (before && *before == saved.record) return {};
-  if (auto sentence = refusal(state, saved.record, before ? std::optional{*before} : std::nullopt))
-    return refuse(state, std::move(*sentence));
-  if (!before) return write(Step::add, adding(saved.record));
-  return write(Step::edit, replacing(*before, saved.record));
+auto AppFeature::on(State& state, const Action::didChangeStart& changed) const -> Effect<Action> {
+  return writeOrSay(state, Step::edit, changingStart(*state.fasts, changed.start, date->now()));
+}
+
+auto AppFeature::on(State& state, const Action::didChangeGoal& changed) const -> Effect<Action> {
+  setGoalSeconds(*userDefaults, changed.goalSeconds);
+  state.nextGoalSeconds = changed.goalSeconds;
+  if (!state.runningFast()) return {};
+  return writeOrSay(state, Step::edit, changingGoal(*state.fasts, changed.goalSeconds, date->now()));
+}
+
+auto AppFeature::on(State& state, const Action::didTapEditFast& tapped) const -> Effect<Action> {
+  const FastRecord* record = fastWithID(*state.fasts, tapped.id);
+  if (record && record->fast.finished) state.draft = draftOf(*record);
+  return {};
+}
+
+auto AppFeature::on(State& state, const Action::didTapAddFast&) const -> Effect<Action> {
+  state.draft = newDraft(*state.fasts, uuid->next(), state.nextGoalSeconds, date->now());
+  return {};
+}
+
+auto AppFeature::on(State& state, const Action::didChangeDraftStart& changed) const -> Effect<Action> {
+  if (*state.draft) state.draft = withStart(**state.draft, changed.start);
+  return {};
+}
+
+auto AppFeature::on(State& state, const Action::didChangeDraftEnd& changed) const -> Effect<Action> {
+  if (*state.draft) state.draft = withEnd(**state.draft, changed.end);
+  return {};
+}
+
+auto AppFeature::on(State& state, const Action::didChangeDraftGoal& changed) const -> Effect<Action> {
+  if (*state.draft) state.draft = withGoal(**state.draft, changed.goalSeconds);
+  return {};
+}
+
+// What is wrong with it is said beside its fields already.
+auto AppFeature::on(State& state, const Action::didTapSaveDraft&) const -> Effect<Action> {
+  if (!*state.draft || (*state.draft)->isSaving || faultOf(**state.draft, date->now())) return {};
+  FastDraft draft = **state.draft;
+  auto outcome = saving(draft, *state.fasts, date->now());
+  if (outcome && outcome->isEmpty()) {
+    state.draft = std::nullopt;
+    return {};
+  }
+  draft.isSaving = outcome.has_value();
+  draft.failure = outcome ? std::string{} : refusalText(outcome.error(), *texts);
+  const Step step = draft.before ? Step::edit : Step::add;
+  state.draft = std::move(draft);
+  return outcome ? write(step, std::move(*outcome)) : Effect<Action>{};
+}
+
+auto AppFeature::on(State& state, const Action::didDismissDraft&) const -> Effect<Action> {
+  if (*state.draft) state.draft = std::nullopt;
+  return {};
 }
 
 auto AppFeature::on(State& state, const Action::didDeleteFast& deleted) const -> Effect<Action> {
-  const FastRecord* record = find(state.fasts, deleted.id);
-  return record ? write(Step::remove, removing(*record)) : Effect<Action>{};
+  return writeOrSay(state, Step::remove, removingFast(*state.fasts, deleted.id));
+}
+
+auto AppFeature::on(State& state, const Action::didChangeWeight& changed) const -> Effect<Action> {
+  return writeOrSay(state, Step::editWeight, changingWeight(*state.weights, changed.sample, date->now()));
 }
 
 auto AppFeature::on(State& state, const Action::didDeleteWeight& deleted) const -> Effect<Action> {
-  const auto sample = std::ranges::find(*state.weights, deleted.id, &BodyWeightSample::id);
-  if (sample == state.weights->end()) return {};
-  return write(Step::removeWeight, removing(*sample));
+  return writeOrSay(state, Step::removeWeight, removingWeight(*state.weights, deleted.id));
 }
 
 auto AppFeature::on(State& state, const Action::didConfirmOverlapRepair&) const -> Effect<Action> {
@@ -163,26 +203,11 @@ auto AppFeature::on(State& state, const Action::didCancelOverlapRepair&) const -
 }
 
 auto AppFeature::on(State& state, const Action::didTapUndo&) const -> Effect<Action> {
-  if (!*state.undo) return {};
+  if (!*state.undo || (*state.undo)->isTaken) return {};
   UndoOffer offer = **state.undo;
-  state.undo = std::nullopt;
-  return Effect<Action>::run(
-      [](const Send<Action>& send, std::stop_token, const Client<HistoryClient>& client,
-         const Client<TextLookup>& lookup, const UndoOffer& offered) {
-        try {
-          client->apply(offered.change);
-        } catch (const std::exception& error) {
-          return send(Action::didFailToUndo{offered, faultText(error, *lookup)});
-        }
-        send(Action::didWrite{Step::undo, offered.change});
-      },
-      history, texts, std::move(offer));
-}
-
-auto AppFeature::on(State& state, const Action::didFailToUndo& failed) const -> Effect<Action> {
-  state.undo = failed.offer;
-  state.failure = failed.sentence;
-  return {};
+  offer.isTaken = true;
+  state.undo = offer;
+  return write(Step::undo, std::move(offer.change));
 }
 
 auto AppFeature::on(State& state, const Action::didDismissMessages&) const -> Effect<Action> {
@@ -197,8 +222,31 @@ auto AppFeature::on(State& state, const Action::didWrite& written) const -> Effe
   apply(written.change, fasts, weights);
   take(state, std::move(fasts), std::move(weights));
   state.failure = std::string{};
+  if (isOf(*state.draft, written.change)) state.draft = std::nullopt;
+  if (written.step == Step::undo) state.undo = std::nullopt;
   if (offersUndo(written.step)) state.undo = UndoOffer{written.step, inverse(written.change)};
   recompute(state);
+  if (written.step == Step::addWeight) return tellWeightCard(state, AddWeightLogFeature::Action::didSave{});
+  return {};
+}
+
+// Said where it was tried.
+auto AppFeature::on(State& state, const Action::didFailToWrite& failed) const -> Effect<Action> {
+  if (failed.step == Step::addWeight)
+    return tellWeightCard(state, AddWeightLogFeature::Action::didFailToSave{failed.sentence});
+  if (isOf(*state.draft, failed.change)) {
+    FastDraft draft = **state.draft;
+    draft.isSaving = false;
+    draft.failure = failed.sentence;
+    state.draft = std::move(draft);
+    return {};
+  }
+  if (failed.step == Step::undo && *state.undo) {
+    UndoOffer offer = **state.undo;  // still to be had
+    offer.isTaken = false;
+    state.undo = std::move(offer);
+  }
+  state.failure = failed.sentence;
   return {};
 }
 
@@ -206,6 +254,7 @@ auto AppFeature::on(State& state, const Action::didWrite& written) const -> Effe
 void AppFeature::takeSettings(State& state) const {
   auto& goal = state.statistics.goalWeightCardState;
   auto& entry = state.statistics.addWeightLogState;
+  state.nextGoalSeconds = goalSeconds(*userDefaults);
   goal.goalInKg = goalWeight(*userDefaults);
   const auto unit = weightUnit(*userDefaults);
   if (!unit) return;
@@ -214,29 +263,25 @@ void AppFeature::takeSettings(State& state) const {
   goal.weightUnit = *unit;
 }
 
-// The add-weight card is told of the outcome too: it shows it.
+// The card is told of the outcome too: it shows it.
 auto AppFeature::saveWeight(State& state, const BodyWeightSample& sample) const -> Effect<Action> {
-  if (sameWeight(*state.weights, sample, state.statistics.addWeightLogState.weightUnit, *masses)) {
-    state.failure = texts->text("This weight is saved already.");
-    return reduce(state, Action::statistics{
-                             StatisticsFeature::Action::addWeightLogAction{AddWeightLogFeature::Action::didSave{}}});
-  }
-  return Effect<Action>::run(
-      [](const Send<Action>& send, std::stop_token, const Client<HistoryClient>& client,
-         const Client<TextLookup>& lookup, const HistoryChange& written) {
-        using Card = AddWeightLogFeature::Action;
-        const auto answer = [&send](Card action) {
-          send(Action::statistics{StatisticsFeature::Action::addWeightLogAction{std::move(action)}});
-        };
-        try {
-          client->apply(written);
-        } catch (const std::exception& error) {
-          return answer(Card::didFailToSave{faultText(error, *lookup)});
-        }
-        send(Action::didWrite{Step::addWeight, written});
-        answer(Card::didSave{});
-      },
-      history, texts, adding(sample));
+  const WeightUnit unit = state.statistics.addWeightLogState.weightUnit;
+  auto outcome = addingWeight(*state.weights, sample, unit, *masses, date->now());
+  if (outcome) return write(Step::addWeight, std::move(*outcome));
+  const std::string sentence = refusalText(outcome.error(), *texts);
+  if (!std::holds_alternative<IsSavedAlready>(outcome.error()))
+    return tellWeightCard(state, AddWeightLogFeature::Action::didFailToSave{sentence});
+  state.failure = sentence;
+  return tellWeightCard(state, AddWeightLogFeature::Action::didSave{});
+}
+
+auto AppFeature::tellWeightCard(State& state, AddWeightLogFeature::Action action) const -> Effect<Action> {
+  return reduce(state, Action::statistics{StatisticsFeature::Action::addWeightLogAction{std::move(action)}});
+}
+
+auto AppFeature::writeOrSay(State& state, Step step, Outcome outcome) const -> Effect<Action> {
+  if (!outcome) state.failure = refusalText(outcome.error(), *texts);
+  return outcome && !outcome->isEmpty() ? write(step, std::move(*outcome)) : Effect<Action>{};
 }
 
 auto AppFeature::write(Step step, HistoryChange change) const -> Effect<Action> {
@@ -246,37 +291,39 @@ auto AppFeature::write(Step step, HistoryChange change) const -> Effect<Action> 
         try {
           client->apply(written);
         } catch (const std::exception& error) {
-          return send(Action::didFail{faultText(error, *lookup)});
+          return send(Action::didFailToWrite{done, written, faultText(error, *lookup)});
         }
         send(Action::didWrite{done, written});
       },
       history, texts, step, std::move(change));
 }
 
-// A running fast whose start lies ahead, because the clock was set back, cannot be stopped: it is kept as it is.
-std::optional<std::string> AppFeature::refusal(const State& state, const FastRecord& record,
-                                               const std::optional<FastRecord>& before) const {
-  const FastRecord* running = state.runningFast();
-  if (!record.fast.finished && running && running->fast.id != record.fast.id)
-    return texts->text("A fast is running already.");
-  const auto fault = recordFault(record, before, date->now());
-  return fault ? std::optional{faultText(*fault, *texts)} : std::nullopt;
-}
-
-Effect<Action> AppFeature::refuse(State& state, std::string sentence) const {
-  state.failure = std::move(sentence);
-  return {};
-}
-
 void AppFeature::recompute(State& state) const {
   auto& screen = state.statistics;
   const Date present = date->now();
-  StatsContainer fresh = screen.stats.copy();
-  fresh.update(*screen.fasts, runningFast(state.fasts->elements(), present), screen.streakSettings, screen.timeRange);
-  screen.updateFastingChart(fresh);
+  screen.updateFastingChart(recomputed(screen.stats, *screen.fasts, screen.streakSettings, screen.timeRange, present));
   screen.updateWeightChart(StatsContainer::update(*state.weights));
   if (!screen.addWeightLogState.isDateChosen) screen.addWeightLogState.logDate = present;
   state.now = present;
+}
+
+std::string doneText(Step step, const TextLookup& texts) {
+  switch (step) {
+    case Step::stop:
+      return texts.text("Fast ended");
+    case Step::remove:
+      return texts.text("Fast deleted");
+    case Step::addWeight:
+      return texts.text("Weight saved");
+    case Step::editWeight:
+      return texts.text("Weight changed");
+    case Step::removeWeight:
+      return texts.text("Weight deleted");
+    case Step::repairOverlaps:
+      return texts.text("Overlapping fasts fixed");
+    default:
+      return {};
+  }
 }
 
 }  // namespace mivo::host

@@ -6,7 +6,9 @@
 #include <string>
 #include <variant>
 
-#include "host/app/HistoryClient.h"
+#include "host/fasting/FastDraft.h"
+#include "host/fasting/HistoryClient.h"
+#include "host/history/FieldRules.h"
 #include "mivo/statistics/StatisticsFeature.h"
 #include "mivo/store/List.h"
 
@@ -15,15 +17,16 @@ namespace mivo::host {
 /// The whole app without a screen: owns the fasts and weights, keeps them in the database, and recomputes the
 /// statistics whenever they, the settings or the time change.
 ///
-/// A record appears in the state once it is on disk, never before. What fails is said in `failure` and changes nothing;
-/// nor does what no record can be (a `RecordFault`, a second running fast), whichever screen sends it.
+/// A record appears in the state once it is on disk, never before. What fails or is refused (`host/fasting` says what
+/// is) changes nothing and is said in `failure`, or where it was tried: in the draft, in the card.
 struct AppFeature {
   /// What the user did, for the texts of undo and failure.
-  enum class Step { start, stop, edit, add, remove, addWeight, removeWeight, repairOverlaps, undo };
+  enum class Step { start, stop, edit, add, remove, addWeight, editWeight, removeWeight, repairOverlaps, undo };
 
   struct UndoOffer {
     Step step;
     HistoryChange change;  ///< undoes it
+    bool isTaken = false;  ///< it is being undone
     bool operator==(const UndoOffer&) const = default;
   };
 
@@ -32,6 +35,8 @@ struct AppFeature {
     Observed<List<FastRecord>> fasts = List<FastRecord>{};                ///< by start
     Observed<List<BodyWeightSample>> weights = List<BodyWeightSample>{};  ///< by date
     Observed<Date> now;                                                   ///< of the last recomputation
+    Observed<std::int64_t> nextGoalSeconds = defaultGoalSeconds;          ///< what the next fast is meant to last
+    Observed<std::optional<FastDraft>> draft = std::optional<FastDraft>{};
     Observed<std::optional<HistoryChange>> overlapRepair = std::optional<HistoryChange>{};  ///< proposed, not yet done
     Observed<std::optional<UndoOffer>> undo = std::optional<UndoOffer>{};
     Observed<std::string> failure = std::string{};  ///< one sentence, until dismissed
@@ -76,14 +81,49 @@ struct AppFeature {
       Date end;
       bool operator==(const didTapStop&) const = default;
     };
-    /// An edited fast, known by its id, or a new one.
-    struct didSaveFast {
-      FastRecord record;
-      bool operator==(const didSaveFast&) const = default;
+    /// Of the running fast.
+    struct didChangeStart {
+      Date start;
+      bool operator==(const didChangeStart&) const = default;
+    };
+    /// Of the running fast, and of those to come.
+    struct didChangeGoal {
+      std::int64_t goalSeconds;
+      bool operator==(const didChangeGoal&) const = default;
+    };
+    struct didTapEditFast {
+      UUID id;
+      bool operator==(const didTapEditFast&) const = default;
+    };
+    struct didTapAddFast {
+      bool operator==(const didTapAddFast&) const = default;
+    };
+    struct didChangeDraftStart {
+      Date start;
+      bool operator==(const didChangeDraftStart&) const = default;
+    };
+    struct didChangeDraftEnd {
+      Date end;
+      bool operator==(const didChangeDraftEnd&) const = default;
+    };
+    struct didChangeDraftGoal {
+      std::int64_t goalSeconds;
+      bool operator==(const didChangeDraftGoal&) const = default;
+    };
+    /// The draft is gone once it is on disk.
+    struct didTapSaveDraft {
+      bool operator==(const didTapSaveDraft&) const = default;
+    };
+    struct didDismissDraft {
+      bool operator==(const didDismissDraft&) const = default;
     };
     struct didDeleteFast {
       UUID id;
       bool operator==(const didDeleteFast&) const = default;
+    };
+    struct didChangeWeight {
+      BodyWeightSample sample;
+      bool operator==(const didChangeWeight&) const = default;
     };
     struct didDeleteWeight {
       UUID id;
@@ -98,12 +138,6 @@ struct AppFeature {
     struct didTapUndo {
       bool operator==(const didTapUndo&) const = default;
     };
-    /// What was not undone can still be.
-    struct didFailToUndo {
-      UndoOffer offer;
-      std::string sentence;
-      bool operator==(const didFailToUndo&) const = default;
-    };
     /// The failure, and without one the offer to undo.
     struct didDismissMessages {
       bool operator==(const didDismissMessages&) const = default;
@@ -113,13 +147,22 @@ struct AppFeature {
       HistoryChange change;
       bool operator==(const didWrite&) const = default;
     };
+    struct didFailToWrite {
+      Step step;
+      HistoryChange change;
+      std::string sentence;
+      bool operator==(const didFailToWrite&) const = default;
+    };
   };
   struct Action
       : Cases,
         std::variant<Cases::statistics, Cases::reload, Cases::didLoad, Cases::didFail, Cases::didChangeSettings,
-                     Cases::recompute, Cases::didTapStart, Cases::didTapStop, Cases::didSaveFast, Cases::didDeleteFast,
-                     Cases::didDeleteWeight, Cases::didConfirmOverlapRepair, Cases::didCancelOverlapRepair,
-                     Cases::didTapUndo, Cases::didFailToUndo, Cases::didDismissMessages, Cases::didWrite> {
+                     Cases::recompute, Cases::didTapStart, Cases::didTapStop, Cases::didChangeStart,
+                     Cases::didChangeGoal, Cases::didTapEditFast, Cases::didTapAddFast, Cases::didChangeDraftStart,
+                     Cases::didChangeDraftEnd, Cases::didChangeDraftGoal, Cases::didTapSaveDraft,
+                     Cases::didDismissDraft, Cases::didDeleteFast, Cases::didChangeWeight, Cases::didDeleteWeight,
+                     Cases::didConfirmOverlapRepair, Cases::didCancelOverlapRepair, Cases::didTapUndo,
+                     Cases::didDismissMessages, Cases::didWrite, Cases::didFailToWrite> {
     using variant::variant;
   };
 
@@ -142,31 +185,44 @@ struct AppFeature {
   Effect<Action> on(State& state, const Action::recompute& sent) const;
   Effect<Action> on(State& state, const Action::didTapStart& sent) const;
   Effect<Action> on(State& state, const Action::didTapStop& sent) const;
-  Effect<Action> on(State& state, const Action::didSaveFast& sent) const;
+  Effect<Action> on(State& state, const Action::didChangeStart& sent) const;
+  Effect<Action> on(State& state, const Action::didChangeGoal& sent) const;
+  Effect<Action> on(State& state, const Action::didTapEditFast& sent) const;
+  Effect<Action> on(State& state, const Action::didTapAddFast& sent) const;
+  Effect<Action> on(State& state, const Action::didChangeDraftStart& sent) const;
+  Effect<Action> on(State& state, const Action::didChangeDraftEnd& sent) const;
+  Effect<Action> on(State& state, const Action::didChangeDraftGoal& sent) const;
+  Effect<Action> on(State& state, const Action::didTapSaveDraft& sent) const;
+  Effect<Action> on(State& state, const Action::didDismissDraft& sent) const;
   Effect<Action> on(State& state, const Action::didDeleteFast& sent) const;
+  Effect<Action> on(State& state, const Action::didChangeWeight& sent) const;
   Effect<Action> on(State& state, const Action::didDeleteWeight& sent) const;
   Effect<Action> on(State& state, const Action::didConfirmOverlapRepair& sent) const;
   Effect<Action> on(State& state, const Action::didCancelOverlapRepair& sent) const;
   Effect<Action> on(State& state, const Action::didTapUndo& sent) const;
-  Effect<Action> on(State& state, const Action::didFailToUndo& sent) const;
   Effect<Action> on(State& state, const Action::didDismissMessages& sent) const;
   Effect<Action> on(State& state, const Action::didWrite& sent) const;
+  Effect<Action> on(State& state, const Action::didFailToWrite& sent) const;
   void takeSettings(State& state) const;
-  Effect<Action> saveWeight(State& state, const BodyWeightSample& sample) const;
-  Effect<Action> write(Step step, HistoryChange change) const;
-  std::optional<std::string> refusal(const State& state, const FastRecord& record,
-                                     const std::optional<FastRecord>& before = {}) const;
-  Effect<Action> refuse(State& state, std::string sentence) const;
   void recompute(State& state) const;
+  Effect<Action> saveWeight(State& state, const BodyWeightSample& sample) const;
+  Effect<Action> tellWeightCard(State& state, AddWeightLogFeature::Action action) const;
+  Effect<Action> writeOrSay(State& state, Step step, Outcome outcome) const;
+  Effect<Action> write(Step step, HistoryChange change) const;
 };
+
+/// "Fast deleted": what was done, beside the offer to undo it; empty for a step without one.
+std::string doneText(AppFeature::Step step, const TextLookup& texts);
 
 template <RecordOf<AppFeature::State> Listed, class Visit>
 void fields(Listed& record, Visit&& visit) {
-  auto& [statistics, fasts, weights, now, overlapRepair, undo, failure] = record;
+  auto& [statistics, fasts, weights, now, nextGoalSeconds, draft, overlapRepair, undo, failure] = record;
   visit("statistics", statistics);
   visit("fasts", fasts);
   visit("weights", weights);
   visit("now", now);
+  visit("nextGoalSeconds", nextGoalSeconds);
+  visit("draft", draft);
   visit("overlapRepair", overlapRepair);
   visit("undo", undo);
   visit("failure", failure);

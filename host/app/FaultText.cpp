@@ -2,6 +2,7 @@
 #include "host/app/FaultText.h"
 
 #include "host/database/Database.h"
+#include "host/fasting/Refusal.h"
 
 namespace mivo::host {
 namespace {
@@ -16,7 +17,7 @@ std::string databaseText(const DatabaseError& error, const TextLookup& texts) {
     case DatabaseError::Kind::conflict:
       return texts.text("Nothing was saved: the record was changed by another program. Look at it and try again.");
     case DatabaseError::Kind::fastRunning:
-      return texts.text("A fast is running already.");
+      return refusalText(FastIsRunning{}, texts);
     case DatabaseError::Kind::diskFull:
       return texts.text("Nothing was saved: the disk is full. Make room and try again.");
     case DatabaseError::Kind::locked:
@@ -32,30 +33,6 @@ std::string databaseText(const DatabaseError& error, const TextLookup& texts) {
 }
 
 }  // namespace
-
-std::string faultText(RecordFault fault, const TextLookup& texts) {
-  switch (fault) {
-    case RecordFault::startInFuture:
-      return texts.text("The start is in the future. Is the clock right?");
-    case RecordFault::endInFuture:
-      return texts.text("The end is in the future. Is the clock right?");
-    case RecordFault::dateInFuture:
-      return texts.text("The date is in the future. Is the clock right?");
-    case RecordFault::endBeforeStart:
-      return texts.text("The end is before the start.");
-    case RecordFault::startOutOfRange:
-    case RecordFault::endOutOfRange:
-    case RecordFault::dateOutOfRange:
-      return texts.text("Choose a date of the years 1 to 9999.");
-    case RecordFault::goalOutOfRange:
-      return texts.text("Choose a shorter goal.");
-    case RecordFault::noteTooLong:
-      return texts.text("Write a shorter note.");
-    case RecordFault::weightOutOfRange:
-      return texts.text("Type your weight as a number, such as 81.4.");
-  }
-  return {};
-}
 
 std::string faultText(const std::exception& error, const TextLookup& texts) {
   const auto* databases = dynamic_cast<const DatabaseError*>(&error);

@@ -4,13 +4,9 @@
 #include <exception>
 #include <string>
 
-#include "host/history/RecordFault.h"
 #include "mivo/platform/TextLookup.h"
 
 namespace mivo::host {
-
-/// Why a record cannot be kept, in one sentence in the user's language.
-std::string faultText(RecordFault fault, const TextLookup& texts);
 
 /// What went wrong with the database, in one sentence in the user's language that says what can be done; any other
 /// error in its own words.

@@ -5,6 +5,8 @@
 #include <array>
 #include <string_view>
 
+#include "host/history/FieldRules.h"
+
 namespace mivo::host {
 namespace {
 
@@ -12,7 +14,6 @@ constexpr std::string_view goalWeightKey = "goalWeightInKg", weightUnitKey = "we
                            goalSecondsKey = "fastGoalSeconds", languageKey = "language",
                            firstWeekdayKey = "firstWeekday";
 constexpr std::array<std::string_view, 3> unitNames{"kg", "lb", "st"};
-constexpr std::int64_t usualGoalSeconds = 57600;
 
 }  // namespace
 
@@ -36,7 +37,7 @@ void setWeightUnit(const UserDefaults& defaults, WeightUnit unit) {
 }
 
 std::int64_t goalSeconds(const UserDefaults& defaults) {
-  return std::max<std::int64_t>(0, defaults.integer(goalSecondsKey, usualGoalSeconds));
+  return std::max<std::int64_t>(0, defaults.integer(goalSecondsKey, defaultGoalSeconds));
 }
 
 void setGoalSeconds(const UserDefaults& defaults, std::int64_t seconds) { defaults.setValue(goalSecondsKey, seconds); }

@@ -137,7 +137,7 @@ std::string sentence(Kind kind, const char* message) {
     case Kind::damaged:
       return std::string{"the database is damaged: "} + message;
     case Kind::fastRunning:
-      return "another fast is running already";
+      return "a fast is running already";
     case Kind::conflict:
       return std::string{"a record cannot be added: "} + message;
     case Kind::diskFull:
@@ -230,15 +230,6 @@ struct Database::Connection {
     migrate(database);
   }
 
-  template <class Record>
-  std::optional<Record> find(const std::string& sql, std::optional<UUID> id, Record (*read)(SQLite::Statement&)) {
-    return translating(file, [&]() -> std::optional<Record> {
-      SQLite::Statement statement{database, sql};
-      if (id) bind(statement, 1, *id);
-      return statement.executeStep() ? std::optional{read(statement)} : std::nullopt;
-    });
-  }
-
   fs::path file;
   SQLite::Database database;
 };
@@ -268,18 +259,6 @@ History Database::history() const {
     while (weights.executeStep()) history.weights.push_back(weightSample(weights));
     return history;
   });
-}
-
-std::optional<FastRecord> Database::fast(UUID id) const {
-  return connection->find(std::string{selectFasts} + "WHERE id = ?", id, fastRecord);
-}
-
-std::optional<FastRecord> Database::runningFast() const {
-  return connection->find(std::string{selectFasts} + "WHERE endedAt IS NULL", std::nullopt, fastRecord);
-}
-
-std::optional<BodyWeightSample> Database::weight(UUID id) const {
-  return connection->find(std::string{selectWeights} + "WHERE id = ?", id, weightSample);
 }
 
 void Database::apply(const HistoryChange& change) {

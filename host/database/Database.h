@@ -9,7 +9,7 @@
 #include <string>
 #include <utility>
 
-#include "host/database/HistoryChange.h"
+#include "host/fasting/HistoryChange.h"
 #include "host/history/History.h"
 
 namespace mivo::host {
@@ -54,10 +54,6 @@ class Database {
 
   /// Everything: fasts by start and weights by date, those of one instant in the order in which they were added.
   History history() const;
-
-  std::optional<FastRecord> fast(UUID id) const;
-  std::optional<FastRecord> runningFast() const;
-  std::optional<BodyWeightSample> weight(UUID id) const;
 
   /// Does a change as a whole. Throws DatabaseError: a conflict where a record that it takes away is not there as the
   /// change has it, where one that it adds would have the id of another, and where a second fast would be running.

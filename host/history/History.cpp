@@ -25,10 +25,9 @@ std::vector<FastingDataEntry> entries(const std::vector<FastRecord>& fasts) {
   return result;
 }
 
-std::optional<FastingDataEntry> runningFast(const std::vector<FastRecord>& fasts, Date now) {
-  const auto running = std::ranges::find_if(fasts, [](const auto& record) { return !record.fast.finished; });
-  const bool hasBegun = running != fasts.end() && running->fast.start <= now;
-  return hasBegun ? std::optional{running->fast} : std::nullopt;
+const FastRecord* runningFast(std::span<const FastRecord> fasts) {
+  const auto found = std::ranges::find_if(fasts, [](const FastRecord& record) { return !record.fast.finished; });
+  return found == fasts.end() ? nullptr : &*found;
 }
 
 void sortByDate(std::vector<BodyWeightSample>& weights) {

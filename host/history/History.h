@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -44,9 +45,8 @@ struct History {
 /// The fasts without their notes, in the same order.
 std::vector<FastingDataEntry> entries(const std::vector<FastRecord>& fasts);
 
-/// The fast that is still running, as statistics count it: none that starts after now, because the clock was set back,
-/// since it has not begun.
-std::optional<FastingDataEntry> runningFast(const std::vector<FastRecord>& fasts, Date now);
+/// The fast that is still running; nothing where none is.
+const FastRecord* runningFast(std::span<const FastRecord> fasts);
 
 /// Orders weights as `History` keeps them.
 void sortByDate(std::vector<BodyWeightSample>& weights);

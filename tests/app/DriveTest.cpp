@@ -7,6 +7,7 @@
 #include <QtTest/QTest>
 
 #include "app/items/DayBars.h"
+#include "host/database/Database.h"
 #include "tests/app/ShownApp.h"
 #include "tests/app/VirtualDisplay.h"
 #include "tests/support/TemporaryFolder.h"

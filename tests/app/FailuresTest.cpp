@@ -12,7 +12,7 @@
 #include <fstream>
 #include <system_error>
 
-#include "host/database/HistoryChange.h"
+#include "host/database/Database.h"
 #include "tests/app/ShownApp.h"
 #include "tests/support/TemporaryFolder.h"
 

@@ -7,7 +7,7 @@
 #include <QtTest/QTest>
 #include <fstream>
 
-#include "host/database/HistoryChange.h"
+#include "host/fasting/HistoryChange.h"
 #include "tests/app/ShownApp.h"
 #include "tests/support/TemporaryFolder.h"
 

@@ -12,6 +12,7 @@
 #include <map>
 #include <sstream>
 
+#include "host/database/Database.h"
 #include "tests/app/ShownApp.h"
 #include "tests/support/TemporaryFolder.h"
 #include "tests/tally_support/ChildProcess.h"

@@ -18,11 +18,11 @@ using std::chrono::duration_cast;
 using std::chrono::milliseconds;
 using std::chrono::steady_clock;
 
-/// Records a weight that names the round, 50.001 kg in the first one, and is killed once the time is over, wherever it
+/// Records a weight that names the round, 51 kg in the first one, and is killed once the time is over, wherever it
 /// is by then. Whether all of its answer was said before.
 bool isConfirmed(const std::string& database, int round, milliseconds time) {
   tally::test::ChildProcess command{
-      {MIVO_PROGRAM, "weight", "add", std::to_string(50 + 0.001 * round), "--database", database}};
+      {MIVO_PROGRAM, "weight", "add", std::to_string(50 + round), "--database", database}};
   return command.killAfter(time).ends_with('\n');
 }
 
@@ -41,7 +41,7 @@ TEST(KilledCommand, losesNothingThatWasConfirmed) {
   EXPECT_LT(confirmed.size(), std::size_t{rounds}) << "no run was killed";
 
   for (const BodyWeightSample& sample : host::Database{database}.history().weights)
-    confirmed.erase(static_cast<int>(std::lround((sample.weightInKg - 50) * 1000)));
+    confirmed.erase(static_cast<int>(std::lround(sample.weightInKg - 50)));
   EXPECT_TRUE(confirmed.empty()) << confirmed.size() << " lost";
   int files = 0;
   for ([[maybe_unused]] const auto& entry : std::filesystem::directory_iterator{folder.path}) ++files;

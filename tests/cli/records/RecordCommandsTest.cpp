@@ -107,6 +107,16 @@ INSTANTIATE_TEST_SUITE_P(Rows, WeightCommands,
                                          WeightRow{"poundsAlone", "'12 st 11'", 179 * 0.45359237}),
                          [](const auto& row) { return std::string{row.param.name}; });
 
+TEST(RecordCommands, keepAWeightOnce) {
+  const Workplace place;
+  const std::string added = said(place, "weight add 81.4 --at '2026-03-01 07:05'");
+  EXPECT_THAT(said(place, "weight add 81.42 --at '2026-03-01 07:05'"),
+              testing::StartsWith("Saved already: " + idIn(added)));
+  EXPECT_EQ(own(place).weights.size(), 1u);
+  said(place, "weight add 81.4 --at '2026-03-01 07:06'");
+  EXPECT_EQ(own(place).weights.size(), 2u);
+}
+
 TEST(RecordCommands, seeTheDatabaseThatTheyAreToldOf) {
   const Workplace place;
   said(place, "start --at '2026-02-28 20:00' --database other.sqlite");

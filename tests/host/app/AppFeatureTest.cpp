@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "host/app/Settings.h"
+#include "host/database/DatabaseHistory.h"
 #include "tests/statistics/StatisticsWorld.h"
 #include "tests/support/TemporaryFolder.h"
 
@@ -29,6 +30,12 @@ class AppFeatureTest : public tests::StatisticsTest {
   void send(Action action) {
     app.send(std::move(action));
     settle();
+  }
+
+  /// Another program adds a fast.
+  void keep(const FastRecord& record) {
+    Database{file}.apply(adding(record));
+    send(Action::reload{});
   }
 
   void settle() {
@@ -67,25 +74,27 @@ TEST_F(AppFeatureTest, showsAFastOnlyOnceItIsOnDisk) {
 }
 
 TEST_F(AppFeatureTest, editsKeepTheRecordAndRemovalsCanBeUndone) {
-  send(Action::didSaveFast{fast(1, -40, -24, "first")});
-  send(Action::didSaveFast{fast(2, -20, -4)});
-  send(Action::didSaveFast{fast(1, -41, -24, "earlier")});
-  EXPECT_THAT(*state().fasts, ElementsAre(fast(1, -41, -24, "earlier"), fast(2, -20, -4)));
+  keep(fast(1, -40, -24, "first"));
+  keep(fast(2, -20, -4));
+  send(Action::didTapEditFast{{7, 1}});
+  send(Action::didChangeDraftStart{at(-41)});
+  send(Action::didTapSaveDraft{});
+  EXPECT_THAT(*state().fasts, ElementsAre(fast(1, -41, -24, "first"), fast(2, -20, -4)));
   EXPECT_EQ(*state().undo, std::nullopt);
 
   send(Action::didDeleteFast{{7, 1}});
   EXPECT_THAT(onDisk(), ElementsAre(fast(2, -20, -4)));
   ASSERT_TRUE(state().undo->has_value());
   send(Action::didTapUndo{});
-  EXPECT_THAT(onDisk(), ElementsAre(fast(1, -41, -24, "earlier"), fast(2, -20, -4)));
+  EXPECT_THAT(onDisk(), ElementsAre(fast(1, -41, -24, "first"), fast(2, -20, -4)));
   EXPECT_EQ(onDisk(), state().fasts->elements());
   EXPECT_EQ(*state().undo, std::nullopt);
 }
 
 TEST_F(AppFeatureTest, repairsOverlapsOnConfirmationAndUndoesItAsAWhole) {
-  send(Action::didSaveFast{fast(1, -40, -24)});
-  send(Action::didSaveFast{fast(2, -28, -20)});
-  send(Action::didSaveFast{fast(3, -21, -5)});
+  keep(fast(1, -40, -24));
+  keep(fast(2, -28, -20));
+  keep(fast(3, -21, -5));
   ASSERT_TRUE(state().statistics.stats.hasOverlappingFasts);
   const auto before = onDisk();
 
@@ -149,6 +158,53 @@ TEST_F(AppFeatureTest, showsTheTimeAsTheOneOfTheNextWeightUntilAnotherIsChosen) 
   EXPECT_EQ(*card.logDate, at(0));
 }
 
+TEST_F(AppFeatureTest, savesADraftAndForgetsIt) {
+  setGoalSeconds(*world.dependencies.userDefaults, 72000);
+  send(Action::didChangeSettings{});
+  send(Action::didTapAddFast{});
+  ASSERT_TRUE(state().draft->has_value());
+  EXPECT_EQ((*state().draft)->record.fast.goalSeconds, 72000);
+  send(Action::didChangeDraftEnd{at(-2)});
+  send(Action::didChangeDraftGoal{36000});
+  EXPECT_THAT(onDisk(), IsEmpty());
+  const FastRecord made = (*state().draft)->record;
+  app.send(Action::didTapSaveDraft{});
+  EXPECT_TRUE((*state().draft)->isSaving);
+  app.send(Action::didTapSaveDraft{});  // a second tap while it is saved
+  settle();
+  EXPECT_EQ(*state().draft, std::nullopt);
+  EXPECT_THAT(onDisk(), ElementsAre(made));
+  EXPECT_EQ(made.fast.finished->end, at(-2));
+  EXPECT_EQ(made.fast.goalSeconds, 36000);
+
+  send(Action::didTapEditFast{made.fast.id});
+  send(Action::didTapSaveDraft{});  // nothing was changed
+  EXPECT_EQ(*state().draft, std::nullopt);
+  send(Action::didTapEditFast{made.fast.id});
+  send(Action::didChangeDraftEnd{at(-100)});
+  send(Action::didTapSaveDraft{});
+  EXPECT_TRUE(state().draft->has_value()) << "not worth saving";
+  send(Action::didDismissDraft{});
+  EXPECT_EQ(*state().draft, std::nullopt);
+  EXPECT_THAT(onDisk(), ElementsAre(made));
+}
+
+TEST_F(AppFeatureTest, saysInTheDraftWhyItWasNotSaved) {
+  keep(fast(1, -40, -24));
+  send(Action::didTapEditFast{{7, 1}});
+  send(Action::didChangeDraftEnd{at(-25)});
+  Database{file}.apply(removing(fast(1, -40, -24)));  // by another program
+  send(Action::didTapSaveDraft{});
+  EXPECT_EQ((*state().draft)->failure,
+            "Nothing was saved: the record was changed by another program. Look at it and try again.");
+  EXPECT_THAT(*state().failure, IsEmpty());
+  send(Action::reload{});
+  send(Action::didTapSaveDraft{});
+  EXPECT_EQ((*state().draft)->failure, "Nothing was changed: the record is gone.");
+  send(Action::didChangeDraftEnd{at(-26)});
+  EXPECT_THAT((*state().draft)->failure, IsEmpty());
+}
+
 TEST_F(AppFeatureTest, writesAWeightOnceHoweverOftenSaveIsTapped) {
   const Action tap = Action::statistics{Sent::addWeightLogAction{AddWeightLogFeature::Action::didTapSave{}}};
   app.send(tap);
@@ -172,22 +228,19 @@ struct RefusedRow {
 };
 
 TEST_F(AppFeatureTest, writesNothingThatIsNoRecord) {
-  send(Action::didSaveFast{fast(1, -40, -24)});
+  keep(fast(1, -40, -24));
   send(Action::didTapStart{at(-3), 57600});
   const auto before = onDisk();
-  const FastRecord second{mivo::ongoingFast({7, 9}, at(-2), 57600), ""};
   for (const RefusedRow& row : {
            RefusedRow{"secondStart", Action::didTapStart{at(0), 57600}, "A fast is running already."},
-           RefusedRow{"secondRunning", Action::didSaveFast{second}, "A fast is running already."},
-           RefusedRow{"endBeforeStart", Action::didSaveFast{fast(2, -4, -5)}, "The end is before the start."},
-           RefusedRow{"editedToEndBeforeStart", Action::didSaveFast{fast(1, -4, -5)}, "The end is before the start."},
-           RefusedRow{"endInFuture", Action::didSaveFast{fast(2, -4, 1)},
-                      "The end is in the future. Is the clock right?"},
-           RefusedRow{"startInFuture", Action::didSaveFast{fast(2, 1, 2)},
-                      "The start is in the future. Is the clock right?"},
            RefusedRow{"stoppedBeforeItsStart", Action::didTapStop{at(-4)}, "The end is before the start."},
-           RefusedRow{"longNote", Action::didSaveFast{fast(2, -4, -3, std::string(70'000, 'a'))},
-                      "Write a shorter note."},
+           RefusedRow{"stoppedInFuture", Action::didTapStop{at(1)}, "The end is in the future. Is the clock right?"},
+           RefusedRow{"startInFuture", Action::didChangeStart{at(1)},
+                      "The start is in the future. Is the clock right?"},
+           RefusedRow{"negativeGoal", Action::didChangeGoal{-1}, "Choose a shorter goal."},
+           RefusedRow{"removedAlready", Action::didDeleteFast{{7, 99}}, "Nothing was changed: the record is gone."},
+           RefusedRow{"noSuchWeight", Action::didChangeWeight{{{7, 99}, at(-1), 80}},
+                      "Nothing was changed: the record is gone."},
        }) {
     send(row.action);
     EXPECT_EQ(*state().failure, row.failure) << row.name;
@@ -208,12 +261,12 @@ TEST_F(AppFeatureTest, keepsARunningFastWhenTheClockIsSetBack) {
 
   FastRecord edited = *state().runningFast();
   edited.fast.goalSeconds = 72000;
-  send(Action::didSaveFast{edited});
+  send(Action::didChangeGoal{72000});
   EXPECT_THAT(onDisk(), ElementsAre(edited)) << "what was wrong before the edit is no fault of it";
 }
 
 TEST_F(AppFeatureTest, keepsTheOfferWhereUndoingFails) {
-  send(Action::didSaveFast{fast(1, -40, -24)});
+  keep(fast(1, -40, -24));
   send(Action::didDeleteFast{{7, 1}});
   const auto offer = *state().undo;
   Database{file}.apply(adding(fast(1, -30, -20)));  // another program took the id
@@ -253,7 +306,7 @@ TEST_F(AppFeatureTest, readsWhatAnotherProgramWrote) {
 }
 
 TEST_F(AppFeatureTest, recomputesForAnotherRangeAndKeepsTheSelection) {
-  send(Action::didSaveFast{fast(1, -40, -24)});
+  keep(fast(1, -40, -24));
   const UUID selected = state().statistics.stats.fastingChartState.data->front().id;
   send(Action::statistics{Sent::fastingChartAction{ScrollChartFeature::Action::didTapBar{selected}}});
   world.clock->date = at(0.02);

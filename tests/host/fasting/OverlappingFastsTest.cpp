@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "host/overlaps/OverlappingFasts.h"
+#include "host/fasting/OverlappingFasts.h"
 
 #include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>
@@ -13,7 +13,7 @@ namespace {
 Date at(int hour) { return dateSince1970(hour * secondsPerHour); }
 
 /// `one` comes before `other`.
-bool shareTime(const FastRecord& one, const FastRecord& other, Date now) {
+bool runAtOnce(const FastRecord& one, const FastRecord& other, Date now) {
   const auto end = [now](const FastRecord& record) { return record.fast.finished ? record.fast.finished->end : now; };
   const bool isInstant = other.fast.finished && end(other) == other.fast.start;
   return end(one) > one.fast.start && (isInstant || end(other) > other.fast.start) && other.fast.start < end(one);
@@ -31,7 +31,7 @@ RC_GTEST_PROP(OverlappingFasts, areThoseThatShareTimeWithAnyOther, (const std::v
   std::vector<bool> expected(fasts.size());
   for (std::size_t one = 0; one < fasts.size(); ++one)
     for (std::size_t other = one + 1; other < fasts.size(); ++other)
-      if (shareTime(fasts[one], fasts[other], at(40))) expected[one] = expected[other] = true;
+      if (runAtOnce(fasts[one], fasts[other], at(40))) expected[one] = expected[other] = true;
   RC_ASSERT(overlappingFasts(fasts, at(40)) == expected);
   const auto partners = overlapPartners(fasts, at(40));
   for (std::size_t one = 0; one < fasts.size(); ++one) {
@@ -39,7 +39,7 @@ RC_GTEST_PROP(OverlappingFasts, areThoseThatShareTimeWithAnyOther, (const std::v
     if (!partners[one]) continue;
     const auto [first, second] = std::minmax(one, *partners[one]);
     RC_ASSERT(first != second);
-    RC_ASSERT(shareTime(fasts[first], fasts[second], at(40)));
+    RC_ASSERT(runAtOnce(fasts[first], fasts[second], at(40)));
   }
 }
 

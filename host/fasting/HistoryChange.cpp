@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "host/database/HistoryChange.h"
+#include "host/fasting/HistoryChange.h"
 
 #include <algorithm>
 #include <utility>
@@ -43,6 +43,12 @@ HistoryChange adding(const BodyWeightSample& sample) {
 }
 
 HistoryChange removing(const BodyWeightSample& sample) { return inverse(adding(sample)); }
+
+HistoryChange replacing(const BodyWeightSample& before, const BodyWeightSample& after) {
+  HistoryChange change = adding(after);
+  change.removedWeights.push_back(before);
+  return change;
+}
 
 HistoryChange inverse(HistoryChange change) {
   std::swap(change.removedFasts, change.addedFasts);

@@ -13,6 +13,7 @@ namespace mivo::host {
 struct HistoryChange {
   std::vector<FastRecord> removedFasts, addedFasts;
   std::vector<BodyWeightSample> removedWeights, addedWeights;
+  bool isEmpty() const { return *this == HistoryChange{}; }
   bool operator==(const HistoryChange&) const = default;
 };
 
@@ -23,6 +24,7 @@ HistoryChange removing(FastRecord record);
 HistoryChange replacing(FastRecord before, FastRecord after);
 HistoryChange adding(const BodyWeightSample& sample);
 HistoryChange removing(const BodyWeightSample& sample);
+HistoryChange replacing(const BodyWeightSample& before, const BodyWeightSample& after);
 
 /// The change that undoes `change`.
 HistoryChange inverse(HistoryChange change);

@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: MIT
-#include "host/overlaps/OverlapRepair.h"
+#include "host/fasting/OverlapRepair.h"
 
 #include <algorithm>
 #include <map>
 #include <optional>
 #include <utility>
 
+#include "host/fasting/OverlappingFasts.h"
+
 namespace mivo::host {
 namespace {
-
-Date endOf(const FastRecord& record, Date now) { return record.fast.finished ? record.fast.finished->end : now; }
 
 Date startOf(const FastRecord& record) { return record.fast.start; }
 

@@ -3,7 +3,7 @@
 
 #include <vector>
 
-#include "host/database/HistoryChange.h"
+#include "host/fasting/HistoryChange.h"
 #include "host/history/History.h"
 #include "mivo/model/Date.h"
 

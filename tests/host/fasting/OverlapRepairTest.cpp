@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "host/overlaps/OverlapRepair.h"
-#include "host/overlaps/OverlappingFasts.h"
+#include "host/fasting/OverlapRepair.h"
+#include "host/fasting/OverlappingFasts.h"
 
 #include <gtest/gtest.h>
 #include <rapidcheck.h>
