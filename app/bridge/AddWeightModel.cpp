@@ -4,6 +4,7 @@
 #include "app/bridge/DateTimeText.h"
 #include "app/bridge/Text.h"
 #include "mivo/platform/Dependencies.h"
+#include "mivo/statistics/WeightText.h"
 
 namespace mivo::app {
 
@@ -23,17 +24,7 @@ QString AddWeightModel::fieldText() const {
       weightFieldText(held, *dependency(&Dependencies::numberFormatter), *dependency(&Dependencies::massFormatter)));
 }
 
-QString AddWeightModel::unit() const {
-  switch (*held.weightUnit) {
-    case WeightUnit::kilograms:
-      return QStringLiteral("kg");
-    case WeightUnit::pounds:
-      return QStringLiteral("lb");
-    case WeightUnit::stones:
-      return QString{};
-  }
-  return {};
-}
+QString AddWeightModel::unit() const { return qString(weightFieldUnit(held.weightUnit)); }
 
 QString AddWeightModel::dateText() const { return dateTimeText(held.logDate); }
 

@@ -13,9 +13,9 @@
 #include "host/app/CurrentTipFacts.h"
 #include "host/app/FaultText.h"
 #include "mivo/platform/Dependencies.h"
+#include "mivo/roadmap/FeedbackSheet.h"
 #include "mivo/statistics/ComposeScreen.h"
 #include "mivo/statistics/ScreenInput.h"
-#include "mivo/statistics/WeightText.h"
 
 namespace mivo::app {
 namespace {
@@ -164,11 +164,13 @@ void AppModel::follow(const State& state) {
 
 void AppModel::followDestination(const StatisticsFeature::State& state) {
   const auto& destination = state.destination;
+  const auto& texts = *dependency(&Dependencies::texts);
   if (destination) {
     if (const auto* shown = std::get_if<Destination::State::badges>(&*destination))
-      badgeSummary.follow(shown->state, state.streakSettings->countingEntity);
+      badgeSummary.show(composeBadges(shown->state, state.streakSettings->countingEntity, texts,
+                                      *dependency(&Dependencies::numberFormatter)));
     if (const auto* shown = std::get_if<Destination::State::donations>(&*destination))
-      donationSheet.follow(shown->state);
+      donationSheet.show(composeDonations(shown->state, texts));
   }
   const QString name = nameOf(destination);
   if (name == shownDestination) return;
@@ -185,11 +187,10 @@ void AppModel::tellTips(const State& state) const {
 
 QString AppModel::destination() const { return shownDestination; }
 
-QString AppModel::goalWeightText() const {
-  const auto& card = store.state().statistics.goalWeightCardState;
-  if (!*card.goalInKg) return {};
-  return qString(weightFieldText(**card.goalInKg, card.weightUnit, *dependency(&Dependencies::numberFormatter),
-                                 *dependency(&Dependencies::massFormatter)));
+GoalSheet AppModel::goalSheet() const {
+  return goalSheetOf(
+      composeGoalWeightSheet(store.state().statistics.goalWeightCardState, *dependency(&Dependencies::texts),
+                             *dependency(&Dependencies::numberFormatter), *dependency(&Dependencies::massFormatter)));
 }
 
 QString AppModel::failure() const { return qString(store.state().failure); }
@@ -226,17 +227,21 @@ void AppModel::dismiss() {
     sendStatistics(Sent::destination{PresentationAction<Destination::Action>::dismiss{}});
 }
 
-bool AppModel::setGoalWeight(const QString& text) {
-  const auto unit = store.state().statistics.goalWeightCardState.weightUnit;
-  const std::string typed = text.trimmed().toStdString();
-  const auto goal = parseWeight(typed, unit);
-  if (!goal && !typed.empty()) return false;
-  sendStatistics(Sent::goalWeightCardAction{GoalWeightCardFeature::Action::didSetGoal{goal}});
-  return true;
+void AppModel::openGoalWeight() {
+  sendStatistics(Sent::goalWeightCardAction{GoalWeightCardFeature::Action::didOpenGoal{}});
 }
 
+bool AppModel::setGoalWeight(const QString& text) {
+  sendStatistics(Sent::goalWeightCardAction{GoalWeightCardFeature::Action::didTypeGoal{text.toStdString()}});
+  return !store.state().statistics.goalWeightCardState.hasGoalProblem;
+}
+
+FeedbackTexts AppModel::feedback() const { return feedbackTextsOf(composeFeedback(*dependency(&Dependencies::texts))); }
+
+bool AppModel::canSend(const QString& idea) const { return isIdea(idea.toStdString()); }
+
 bool AppModel::sendFeedback(const QString& idea, const QString& replyTo) {
-  const QString body = replyTo.trimmed().isEmpty() ? idea : idea + QStringLiteral("\n\n") + replyTo.trimmed();
+  const QString body = qString(feedbackMessage(idea.toStdString(), replyTo.toStdString()));
   QUrl mail{QStringLiteral("mailto:") + qString(services.feedbackAddress)};
   QUrlQuery fields;
   fields.addQueryItem(QStringLiteral("subject"), QStringLiteral("Mivo"));

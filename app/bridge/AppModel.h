@@ -16,6 +16,8 @@
 #include "app/bridge/DayBarsModel.h"
 #include "app/bridge/DonationsModel.h"
 #include "app/bridge/FastingModel.h"
+#include "app/bridge/FeedbackTexts.h"
+#include "app/bridge/GoalSheet.h"
 #include "app/bridge/PairLineModel.h"
 #include "app/bridge/RepairModel.h"
 #include "app/bridge/RoadmapModel.h"
@@ -64,8 +66,8 @@ class AppModel : public QObject {
   Q_PROPERTY(mivo::app::RoadmapModel* roadmap READ roadmap NOTIFY destinationChanged)
   /// What the statistics present: "badges", "roadmap", "donations", or nothing.
   Q_PROPERTY(QString destination READ destination NOTIFY destinationChanged)
-  /// The goal weight as it is typed; empty without one.
-  Q_PROPERTY(QString goalWeightText READ goalWeightText NOTIFY changed)
+  Q_PROPERTY(mivo::app::GoalSheet goalSheet READ goalSheet NOTIFY changed)
+  Q_PROPERTY(mivo::app::FeedbackTexts feedback READ feedback CONSTANT)
   /// One sentence about what failed; empty where nothing did.
   Q_PROPERTY(QString failure READ failure NOTIFY messagesChanged)
   /// The text of the undo bar; empty without an offer.
@@ -95,7 +97,8 @@ class AppModel : public QObject {
   SettingsModel* settings() { return &chosenSettings; }
   RoadmapModel* roadmap() { return features.get(); }
   QString destination() const;
-  QString goalWeightText() const;
+  GoalSheet goalSheet() const;
+  FeedbackTexts feedback() const;
   QString failure() const;
   QString undoText() const;
 
@@ -118,8 +121,10 @@ class AppModel : public QObject {
   Q_INVOKABLE void dismiss();
   Q_INVOKABLE void undo() { send(Action::didTapUndo{}); }
   Q_INVOKABLE void dismissMessages() { send(Action::didDismissMessages{}); }
-  /// Sets the goal from a text in the unit that is shown; an empty one takes it away. False where it is no weight.
+  Q_INVOKABLE void openGoalWeight();
+  /// False where it is no weight; the sheet says so then.
   Q_INVOKABLE bool setGoalWeight(const QString& text);
+  Q_INVOKABLE bool canSend(const QString& idea) const;
   /// Hands an idea to the user's mail program, with the address for an answer where they give one. False where no mail
   /// program takes it: it is on the clipboard then, and `failure` says so.
   Q_INVOKABLE bool sendFeedback(const QString& idea, const QString& replyTo);

@@ -1,53 +1,35 @@
 // SPDX-License-Identifier: MIT
 #include "BadgesModel.h"
 
-#include <algorithm>
-
 #include "app/bridge/Text.h"
-#include "mivo/achievements/Badges.h"
-#include "mivo/platform/Dependencies.h"
+#include "mivo/store/Names.h"
 
 namespace mivo::app {
 namespace {
 
-using Entity = StreakSettings::CountingEntity;
-constexpr qsizetype shownAround = 5, beforePresent = 2;
-
-QString text(std::string_view key) { return qString(dependency(&Dependencies::texts)->text(key)); }
-
-QString number(std::int64_t value) { return qString(dependency(&Dependencies::numberFormatter)->string(value)); }
-
-QString counted(std::int64_t count, Entity entity) {
-  const auto& texts = *dependency(&Dependencies::texts);
-  const std::string pattern = entity == Entity::days ? texts.plural("{1} day", "{1} days", count)
-                                                     : texts.plural("{1} fast", "{1} fasts", count);
-  return qString(filledIn(pattern, {number(count).toStdString()}));
+BadgeEntry entryOf(const BadgeItem& badge) {
+  return {static_cast<int>(badge.threshold), badge.isEarned, qString(badge.number), qString(badge.label)};
 }
 
-BadgeFamily family(const List<std::int64_t>& thresholds, std::int64_t count, Entity entity) {
-  BadgeFamily made;
-  const BadgeProgress progress = badgeProgress(thresholds.elements(), count);
-  for (const std::int64_t threshold : thresholds)
-    made.all.append({static_cast<int>(threshold), count >= threshold, number(threshold), counted(threshold, entity)});
-  const auto present = static_cast<qsizetype>(std::max<std::int64_t>(0, progress.earnedBadges - 1));
-  made.present = made.all.value(present);
-  const qsizetype first =
-      std::clamp<qsizetype>(present - beforePresent, 0, std::max<qsizetype>(0, made.all.size() - shownAround));
-  made.around = made.all.mid(first, shownAround);
-  made.count = counted(count, entity);
-  made.fraction = progress.fraction();
-  const auto& texts = *dependency(&Dependencies::texts);
-  const auto& numbers = *dependency(&Dependencies::numberFormatter);
-  made.remaining =
-      qString(progress.next ? remainingText(progress, texts, numbers) : progressText(progress, texts, numbers));
-  made.allLabel = qString(filledIn(texts.text("All {1}"), {number(made.all.size()).toStdString()}));
-  return made;
+QList<BadgeEntry> entriesOf(const std::vector<BadgeItem>& badges) {
+  QList<BadgeEntry> all;
+  for (const BadgeItem& badge : badges) all.append(entryOf(badge));
+  return all;
 }
 
-QString nameOf(const Presentation<BadgeSummaryFeature::Destination::State>& list) {
-  if (!list) return {};
-  using Case = BadgeSummaryFeature::Destination::State;
-  return std::holds_alternative<Case::milestones>(*list) ? QStringLiteral("milestones") : QStringLiteral("streaks");
+BadgeFamily familyOf(const BadgeFamilyPage& page) {
+  BadgeFamily family;
+  family.title = qString(page.title);
+  family.count = qString(page.count);
+  family.countLabel = qString(page.countLabel);
+  family.remaining = qString(page.remaining);
+  family.allLabel = qString(page.allLabel);
+  family.spoken = qString(page.spoken);
+  family.fraction = page.fraction;
+  family.present = entryOf(page.present);
+  family.all = entriesOf(page.all);
+  family.around = entriesOf(page.around);
+  return family;
 }
 
 }  // namespace
@@ -55,20 +37,21 @@ QString nameOf(const Presentation<BadgeSummaryFeature::Destination::State>& list
 BadgesModel::BadgesModel(std::function<void(Action)> sends, QObject* parent)
     : QObject{parent}, send{std::move(sends)} {}
 
-void BadgesModel::follow(const BadgeSummaryFeature::State& state, Entity entity) {
-  milestoneFamily = family(state.allMilestones, state.totalFasts, Entity::fasts);
-  milestoneFamily.title = text("Milestones");
-  milestoneFamily.countLabel = text("Number of fasts");
-  streakFamily = family(state.allStreaks, state.maxStreak, entity);
-  streakFamily.title = text("Streaks");
-  streakFamily.countLabel = text("Longest streak");
-  openList = nameOf(state.destination);
+void BadgesModel::show(BadgesPage composed) {
+  if (page == composed) return;
+  page = std::move(composed);
+  milestoneFamily = familyOf(page.milestones);
+  streakFamily = familyOf(page.streaks);
   Q_EMIT changed();
 }
 
+QString BadgesModel::title() const { return qString(page.title); }
+
+QString BadgesModel::list() const { return page.list ? qString(enumeratorText(*page.list)) : QString{}; }
+
 void BadgesModel::closeList() {
   using Closed = PresentationAction<BadgeSummaryFeature::Destination::Action>;
-  if (!openList.isEmpty()) send(Action::destination{Closed::dismiss{}});
+  if (page.list) send(Action::destination{Closed::dismiss{}});
 }
 
 }  // namespace mivo::app

@@ -7,14 +7,12 @@
 #include <QtCore/QString>
 
 #include <functional>
-#include <optional>
 
-#include "mivo/achievements/BadgeSummaryFeature.h"
-#include "mivo/model/StreakSettings.h"
+#include "mivo/achievements/BadgesPage.h"
 
 namespace mivo::app {
 
-/// One badge of a list.
+/// A `BadgeItem`.
 struct BadgeEntry {
   Q_GADGET
   QML_VALUE_TYPE(badgeEntry)
@@ -30,7 +28,7 @@ struct BadgeEntry {
   bool operator==(const BadgeEntry&) const = default;
 };
 
-/// How far the user has come in one family, and all its badges.
+/// A `BadgeFamilyPage`.
 struct BadgeFamily {
   Q_GADGET
   QML_VALUE_TYPE(badgeFamily)
@@ -39,26 +37,26 @@ struct BadgeFamily {
   Q_PROPERTY(QString countLabel MEMBER countLabel CONSTANT)
   Q_PROPERTY(QString remaining MEMBER remaining CONSTANT)
   Q_PROPERTY(QString allLabel MEMBER allLabel CONSTANT)
+  Q_PROPERTY(QString spoken MEMBER spoken CONSTANT)
   Q_PROPERTY(qreal fraction MEMBER fraction CONSTANT)
-  /// The best one earned, or the first.
   Q_PROPERTY(mivo::app::BadgeEntry present MEMBER present CONSTANT)
   Q_PROPERTY(QList<mivo::app::BadgeEntry> all MEMBER all CONSTANT)
-  /// Five around the present one.
   Q_PROPERTY(QList<mivo::app::BadgeEntry> around MEMBER around CONSTANT)
 
  public:
-  QString title, count, countLabel, remaining, allLabel;
+  QString title, count, countLabel, remaining, allLabel, spoken;
   qreal fraction = 0;
   BadgeEntry present;
   QList<BadgeEntry> all, around;
   bool operator==(const BadgeFamily&) const = default;
 };
 
-/// The badge summary and its two lists.
+/// The screen of all badges, as it was composed.
 class BadgesModel : public QObject {
   Q_OBJECT
   QML_ELEMENT
   QML_UNCREATABLE("the app has one")
+  Q_PROPERTY(QString title READ title NOTIFY changed)
   Q_PROPERTY(mivo::app::BadgeFamily milestones READ milestones NOTIFY changed)
   Q_PROPERTY(mivo::app::BadgeFamily streaks READ streaks NOTIFY changed)
   /// The open list: "milestones", "streaks", or none.
@@ -68,11 +66,12 @@ class BadgesModel : public QObject {
   using Action = BadgeSummaryFeature::Action;
   explicit BadgesModel(std::function<void(Action)> send, QObject* parent = nullptr);
 
-  void follow(const BadgeSummaryFeature::State& state, StreakSettings::CountingEntity counted);
+  void show(BadgesPage composed);
 
+  QString title() const;
   BadgeFamily milestones() const { return milestoneFamily; }
   BadgeFamily streaks() const { return streakFamily; }
-  QString list() const { return openList; }
+  QString list() const;
 
   Q_INVOKABLE void openMilestones() { send(Action::didTapMilestones{}); }
   Q_INVOKABLE void openStreaks() { send(Action::didTapStreaks{}); }
@@ -84,7 +83,7 @@ class BadgesModel : public QObject {
  private:
   std::function<void(Action)> send;
   BadgeFamily milestoneFamily, streakFamily;
-  QString openList;
+  BadgesPage page;
 };
 
 }  // namespace mivo::app

@@ -127,9 +127,8 @@ class GoalWeightCardModel : public ContentCard<GoalWeightCard> {
   Q_PROPERTY(QString currentLabel READ currentLabel NOTIFY changed)
   Q_PROPERTY(QString goal READ goal NOTIFY changed)
   Q_PROPERTY(QString goalLabel READ goalLabel NOTIFY changed)
-  /// "-2.6 kg", and the rest of the sentence about the trend with what it leads to.
   Q_PROPERTY(QString trendFigure READ trendFigure NOTIFY changed)
-  Q_PROPERTY(QString trendRest READ trendRest NOTIFY changed)
+  Q_PROPERTY(QString afterFigure READ afterFigure NOTIFY changed)
   Q_PROPERTY(QString button READ button NOTIFY changed)
   /// How much of the way is done, 0 to 1; negative where it cannot be told.
   Q_PROPERTY(qreal fraction READ fraction NOTIFY changed)
@@ -143,8 +142,8 @@ class GoalWeightCardModel : public ContentCard<GoalWeightCard> {
   QString currentLabel() const { return qString(content.currentLabel); }
   QString goal() const { return qString(content.goal); }
   QString goalLabel() const { return qString(content.goalLabel); }
-  QString trendFigure() const;
-  QString trendRest() const;
+  QString trendFigure() const { return qString(content.trendFigure); }
+  QString afterFigure() const { return qString(content.afterFigure); }
   QString button() const { return qString(content.button); }
 };
 

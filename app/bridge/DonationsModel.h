@@ -8,63 +8,75 @@
 
 #include <functional>
 
-#include "mivo/statistics/DonationsFeature.h"
+#include "app/bridge/Text.h"
+#include "mivo/statistics/DonationsPage.h"
 
 namespace mivo::app {
 
-/// One way to give.
-struct DonationChoice {
+/// A `DonationChoice`.
+struct DonationButton {
   Q_GADGET
-  QML_VALUE_TYPE(donationChoice)
+  QML_VALUE_TYPE(donationButton)
   Q_PROPERTY(QString id MEMBER id CONSTANT)
-  Q_PROPERTY(QString title MEMBER title CONSTANT)
   Q_PROPERTY(QString price MEMBER price CONSTANT)
+  Q_PROPERTY(QString spoken MEMBER spoken CONSTANT)
+  Q_PROPERTY(bool chosen MEMBER chosen CONSTANT)
 
  public:
-  QString id, title, price;
-  bool operator==(const DonationChoice&) const = default;
+  QString id, price, spoken;
+  bool chosen = false;
+  bool operator==(const DonationButton&) const = default;
 };
 
-/// The donation sheet: the ways to give, once they are loaded.
+/// A `DonationGroup`.
+struct DonationKind {
+  Q_GADGET
+  QML_VALUE_TYPE(donationKind)
+  Q_PROPERTY(QString label MEMBER label CONSTANT)
+  Q_PROPERTY(QList<mivo::app::DonationButton> choices MEMBER choices CONSTANT)
+
+ public:
+  QString label;
+  QList<DonationButton> choices;
+  bool operator==(const DonationKind&) const = default;
+};
+
+/// The donation sheet, as it was composed.
 class DonationsModel : public QObject {
   Q_OBJECT
   QML_ELEMENT
   QML_UNCREATABLE("the app has one")
-  Q_PROPERTY(QList<mivo::app::DonationChoice> oneTime READ oneTime NOTIFY changed)
-  Q_PROPERTY(QList<mivo::app::DonationChoice> recurring READ recurring NOTIFY changed)
-  Q_PROPERTY(bool loading READ isLoading NOTIFY changed)
-  /// One sentence while there is nothing to choose from.
+  Q_PROPERTY(QString title READ title NOTIFY changed)
+  Q_PROPERTY(QString text READ text NOTIFY changed)
+  Q_PROPERTY(QList<mivo::app::DonationKind> groups READ groups NOTIFY changed)
   Q_PROPERTY(QString failure READ failure NOTIFY changed)
-  Q_PROPERTY(QString chosen READ chosen NOTIFY changed)
-  /// "Donate 10 €"
-  Q_PROPERTY(QString buttonText READ buttonText NOTIFY changed)
+  Q_PROPERTY(QString button READ button NOTIFY changed)
+  Q_PROPERTY(QString close READ close NOTIFY changed)
 
  public:
   using Action = DonationsFeature::Action;
   explicit DonationsModel(std::function<void(Action)> send, QObject* parent = nullptr);
 
-  void follow(const DonationsFeature::State& state);
+  void show(DonationsPage composed);
   void appear() { send(Action::onAppear{}); }
 
-  QList<DonationChoice> oneTime() const { return once; }
-  QList<DonationChoice> recurring() const { return monthly; }
-  bool isLoading() const { return loading; }
-  QString failure() const { return failed; }
-  QString chosen() const { return chosenID; }
-  QString buttonText() const;
+  QString title() const { return qString(page.title); }
+  QString text() const { return qString(page.text); }
+  QList<DonationKind> groups() const { return kinds; }
+  QString failure() const { return qString(page.failure); }
+  QString button() const { return qString(page.button); }
+  QString close() const { return qString(page.close); }
 
-  Q_INVOKABLE void choose(const QString& id);
-  Q_INVOKABLE void donate() { send(Action::didTapProduct{chosenID.toStdString()}); }
-  Q_INVOKABLE void tryAgain() { send(Action::didTapButton{}); }
+  Q_INVOKABLE void choose(const QString& id) { send(Action::didChooseProduct{id.toStdString()}); }
+  Q_INVOKABLE void tapButton() { send(Action::didTapButton{}); }
 
  Q_SIGNALS:
   void changed();
 
  private:
   std::function<void(Action)> send;
-  QList<DonationChoice> once, monthly;
-  bool loading = false;
-  QString failed, chosenID;
+  DonationsPage page;
+  QList<DonationKind> kinds;
 };
 
 }  // namespace mivo::app

@@ -10,7 +10,7 @@ TappableCard {
     required property badgeFamily family
     required property int kind
 
-    text: family.title + ": " + family.count + ", " + family.remaining
+    text: family.spoken
 
     contentItem: face
 

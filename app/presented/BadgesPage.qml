@@ -12,7 +12,7 @@ FocusScope {
         anchors.fill: parent
         visible: !list.covers
         focus: true
-        title: Texts.text("Badges")
+        title: App.badges.title
         onBack: root.back()
 
         BadgeFamilyCard {

@@ -7,30 +7,28 @@ import Mivo
 Sheet {
     id: root
 
-    title: Texts.text("Donate")
+    title: App.donations.title
     spacing: 12
 
     StyledText {
         width: parent.width
-        text: Texts.text("Mivo is free, privacy-friendly and without ads. Donate to support my work. Thank you!")
+        text: App.donations.text
         color: Theme.inkSecondary
     }
 
     Repeater {
-        model: [App.donations.oneTime, App.donations.recurring]
+        model: App.donations.groups
 
         delegate: Column {
             id: kind
-            required property int index
-            required property list<donationChoice> modelData
+            required property donationKind modelData
 
             width: parent.width
             spacing: 8
-            visible: modelData.length > 0
 
             StyledText {
                 width: parent.width
-                text: kind.index === 0 ? Texts.text("Once") : Texts.text("Every month")
+                text: kind.modelData.label
                 style: Theme.labelText
                 color: Theme.inkSecondary
             }
@@ -42,19 +40,19 @@ Sheet {
                 spacing: 8
 
                 Repeater {
-                    model: kind.modelData
+                    model: kind.modelData.choices
 
                     delegate: ActionButton {
-                        required property donationChoice modelData
+                        required property donationButton modelData
 
                         width: (grid.width - (grid.columns - 1) * grid.spacing) / grid.columns
                         implicitHeight: Theme.buttonLargeSize
                         leftPadding: 8
                         rightPadding: 8
-                        kind: App.donations.chosen === modelData.id ? ActionButton.Primary : ActionButton.Field
+                        kind: modelData.chosen ? ActionButton.Primary : ActionButton.Field
                         text: modelData.price
-                        Accessible.name: modelData.title + ", " + modelData.price
-                        Accessible.checked: App.donations.chosen === modelData.id
+                        Accessible.name: modelData.spoken
+                        Accessible.checked: modelData.chosen
                         onClicked: App.donations.choose(modelData.id)
                     }
                 }
@@ -78,16 +76,16 @@ Sheet {
         ActionButton {
             width: parent.width
             leastHeight: Theme.sheetButtonSize
-            visible: !App.donations.loading
-            text: App.donations.failure !== "" ? Texts.text("Try again") : App.donations.buttonText
-            onClicked: App.donations.failure !== "" ? App.donations.tryAgain() : App.donations.donate()
+            visible: text !== ""
+            text: App.donations.button
+            onClicked: App.donations.tapButton()
         }
 
         ActionButton {
             width: parent.width
             leastHeight: Theme.sheetButtonSize
             kind: ActionButton.Plain
-            text: Texts.text("Not now")
+            text: App.donations.close
             onClicked: root.close()
         }
     }

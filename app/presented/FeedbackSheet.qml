@@ -6,14 +6,14 @@ import Mivo
 Sheet {
     id: root
 
-    title: Texts.text("Feedback")
+    title: App.feedback.title
     spacing: 8
 
     onOpened: idea.forceActiveFocus()
 
     StyledText {
         width: parent.width
-        text: Texts.text("Your idea")
+        text: App.feedback.ideaLabel
         style: Theme.labelText
         color: Theme.inkSecondary
     }
@@ -22,13 +22,13 @@ Sheet {
         id: idea
         width: parent.width
         height: 132
-        accessibleName: Texts.text("Your idea")
+        accessibleName: App.feedback.ideaLabel
     }
 
     StyledText {
         width: parent.width
         topPadding: 4
-        text: Texts.text("Reply to (optional)")
+        text: App.feedback.replyLabel
         style: Theme.labelText
         color: Theme.inkSecondary
     }
@@ -36,12 +36,12 @@ Sheet {
     TextField {
         id: reply
         width: parent.width
-        placeholder: Texts.text("E-mail address")
+        placeholder: App.feedback.replyPlaceholder
     }
 
     StyledText {
         width: parent.width
-        text: Texts.text("Only what you write here is sent.")
+        text: App.feedback.note
         style: Theme.captionText
         color: Theme.inkSecondary
     }
@@ -49,8 +49,8 @@ Sheet {
     ActionButton {
         width: parent.width
         leastHeight: Theme.sheetButtonSize
-        text: Texts.text("Send")
-        enabled: idea.text.trim() !== ""
+        text: App.feedback.button
+        enabled: App.canSend(idea.text)
         onClicked: {
             App.sendFeedback(idea.text, reply.text);
             root.close();

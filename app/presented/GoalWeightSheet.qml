@@ -6,36 +6,33 @@ import Mivo
 Sheet {
     id: root
 
-    property bool hasProblem: false
-
-    title: Texts.text("Goal weight")
+    title: App.goalSheet.title
     spacing: 12
 
     onAboutToShow: {
-        field.text = App.goalWeightText;
-        hasProblem = false;
+        App.openGoalWeight();
+        field.text = App.goalSheet.fieldText;
     }
     onOpened: field.forceActiveFocus()
 
     function save() {
-        hasProblem = !App.setGoalWeight(field.text);
-        if (!hasProblem)
+        if (App.setGoalWeight(field.text))
             close();
     }
 
     TextField {
         id: field
         width: parent.width
-        hasProblem: root.hasProblem
+        hasProblem: App.goalSheet.problem !== ""
         accessibleName: root.title
-        placeholder: App.addWeight.unit
+        placeholder: App.goalSheet.unit
         onAccepted: root.save()
     }
 
     StyledText {
         width: parent.width
-        visible: root.hasProblem
-        text: Texts.text("Type your weight as a number, such as 81.4.")
+        visible: text !== ""
+        text: App.goalSheet.problem
         style: Theme.captionText
         color: Theme.danger
         Accessible.role: Accessible.AlertMessage
@@ -45,16 +42,16 @@ Sheet {
     ActionButton {
         width: parent.width
         leastHeight: Theme.sheetButtonSize
-        text: Texts.text("Save")
+        text: App.goalSheet.save
         onClicked: root.save()
     }
 
     ActionButton {
         width: parent.width
         leastHeight: Theme.sheetButtonSize
-        visible: App.goalWeightText !== ""
+        visible: text !== ""
         kind: ActionButton.Plain
-        text: Texts.text("Remove goal")
+        text: App.goalSheet.remove
         onClicked: {
             App.setGoalWeight("");
             root.close();

@@ -11,7 +11,9 @@ Card {
     required property string text
     required property string status
     required property string statusName
+    required property bool hasVotes
     required property string count
+    required property string spokenVote
     required property bool voted
     required property bool open
 
@@ -21,13 +23,13 @@ Card {
 
     Item {
         width: parent.width
-        height: root.stacked ? vote.y + vote.height : Math.max(texts.height, vote.height)
+        height: !root.hasVotes ? texts.height : root.stacked ? vote.y + vote.height : Math.max(texts.height, vote.height)
 
         Column {
             id: texts
             anchors.left: parent.left
-            anchors.right: root.stacked ? parent.right : vote.left
-            anchors.rightMargin: root.stacked ? 0 : 12
+            anchors.right: root.stacked || !root.hasVotes ? parent.right : vote.left
+            anchors.rightMargin: root.stacked || !root.hasVotes ? 0 : 12
 
             StyledText {
                 width: parent.width
@@ -64,9 +66,10 @@ Card {
 
         VoteButton {
             id: vote
+            visible: root.hasVotes
             anchors.right: parent.right
             y: root.stacked ? texts.height + 12 : 0
-            title: root.title
+            spoken: root.spokenVote
             count: root.count
             cast: root.voted
             enabled: root.open

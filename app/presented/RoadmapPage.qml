@@ -11,7 +11,7 @@ PushedPage {
 
     signal feedbackWanted
 
-    title: Texts.text("Roadmap")
+    title: roadmap ? roadmap.title : ""
 
     // A chip is touched 4 beyond what is seen of it.
     Flow {
@@ -19,7 +19,7 @@ PushedPage {
         topPadding: -4
         bottomPadding: -4
         spacing: 8
-        visible: root.roadmap !== null && root.roadmap.filters.length > 1
+        visible: root.roadmap !== null && root.roadmap.filters.length > 0
 
         Repeater {
             model: root.roadmap ? root.roadmap.filters : []
@@ -53,7 +53,7 @@ PushedPage {
 
     Card {
         width: parent.width
-        visible: root.roadmap !== null && (root.roadmap.failed || root.roadmap.empty)
+        visible: root.roadmap !== null && root.roadmap.noticeTitle !== ""
         padding: 24
         spacing: 12
 
@@ -73,22 +73,22 @@ PushedPage {
         StyledText {
             width: parent.width
             horizontalAlignment: Text.AlignHCenter
-            text: root.roadmap && root.roadmap.failed ? Texts.text("The roadmap could not be loaded.") : Texts.text("Nothing is planned at the moment.")
+            text: root.roadmap ? root.roadmap.noticeTitle : ""
             style: Theme.headlineText
         }
 
         StyledText {
             width: parent.width
-            visible: root.roadmap !== null && root.roadmap.failed
+            visible: text !== ""
             horizontalAlignment: Text.AlignHCenter
-            text: Texts.text("Check the connection and try again.")
+            text: root.roadmap ? root.roadmap.noticeText : ""
             color: Theme.inkSecondary
         }
 
         ActionButton {
             width: parent.width
-            visible: root.roadmap !== null && root.roadmap.failed
-            text: Texts.text("Try again")
+            visible: text !== ""
+            text: root.roadmap ? root.roadmap.noticeButton : ""
             onClicked: root.roadmap.tryAgain()
         }
     }

@@ -7,7 +7,7 @@ import Mivo
 T.AbstractButton {
     id: root
 
-    property string title
+    property string spoken
     property string count
     property bool cast: false
 
@@ -19,7 +19,7 @@ T.AbstractButton {
     Accessible.role: Accessible.CheckBox
     Accessible.checkable: true
     Accessible.checked: cast
-    Accessible.name: Texts.text("Vote for {1}").replace("{1}", title) + ", " + count
+    Accessible.name: spoken
 
     background: Rectangle {
         radius: Theme.controlRadius

@@ -103,11 +103,11 @@ Rectangle {
             width: parent.width
             visible: text !== ""
             textFormat: Text.StyledText
-            text: (root.card.trendFigure === "" ? "" : "<b><font color='" + Theme.ink + "'>" + root.card.trendFigure + "</font></b>") + root.card.trendRest
+            text: (root.card.trendFigure === "" ? "" : "<b><font color='" + Theme.ink + "'>" + root.card.trendFigure + "</font></b>") + root.card.afterFigure
             style: Theme.labelText
             color: Theme.inkSecondary
             Accessible.role: Accessible.StaticText
-            Accessible.name: root.card.trendFigure + root.card.trendRest
+            Accessible.name: root.card.trendFigure + root.card.afterFigure
         }
 
         ActionButton {
