@@ -60,8 +60,6 @@ std::vector<FastRecord> repaired(Waiting waiting, Date now) {
   return placed;
 }
 
-bool hasNoLength(const FastRecord& record) { return record.fast.finished && endOf(record, {}) == startOf(record); }
-
 // The one of `placed`, which are by start, that an instant lies within.
 FastRecord* around(Date instant, std::vector<FastRecord>& placed, Date now) {
   const auto after = std::ranges::upper_bound(placed, instant, {}, startOf);

@@ -221,7 +221,7 @@ void Drive::vote() {
   const auto ofWeeklyPlan = [&] {
     return app->find([](const QQuickItem* one) {
       return QByteArray{one->metaObject()->className()}.startsWith("VoteButton") &&
-             one->property("title").toString() == QLatin1String{"Weekly plan"};
+             one->property("spoken").toString().contains(QLatin1String{"Weekly plan"});
     });
   };
   ASSERT_TRUE(eventually([&] { return ofWeeklyPlan() != nullptr; }));

@@ -78,7 +78,7 @@ TEST_P(DraftOverlap, isOfTheOneThatBeganLast) {
 INSTANTIATE_TEST_SUITE_P(Rows, DraftOverlap,
                          testing::Values(OverlapRow{"itself", -20, -10, -1}, OverlapRow{"touching", -24, -3, -1},
                                          OverlapRow{"earlier", -25, -10, 0}, OverlapRow{"running", -4, -1, 3},
-                                         OverlapRow{"both", -25, -2, 3}, OverlapRow{"noLength", -30, -30, -1},
+                                         OverlapRow{"both", -25, -2, 3}, OverlapRow{"noLengthWithinOne", -30, -30, 0},
                                          OverlapRow{"backwards", -2, -30, -1}),
                          [](const auto& row) { return std::string{row.param.name}; });
 
