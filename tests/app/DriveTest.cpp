@@ -291,8 +291,8 @@ void Drive::findEverythingAgain() {
   click("Give feedback, suggest ideas and vote on upcoming features");
   EXPECT_TRUE(eventually([&] {
     return app->find([](const QQuickItem* one) {
-      return one->property("title").toString() == QLatin1String{"Weekly plan"} && one->property("cast").toBool() &&
-             one->property("count") == "1";
+      return one->property("spoken").toString().contains(QLatin1String{"Weekly plan"}) &&
+             one->property("cast").toBool() && one->property("count") == "1";
     }) != nullptr;
   }));
 }
