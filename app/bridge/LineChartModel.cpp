@@ -9,12 +9,12 @@
 namespace mivo::app {
 
 bool LineChartModel::isEmpty() const {
-  return std::ranges::all_of(lines(), [](const Line& line) { return line.points.empty(); });
+  return std::ranges::all_of(lines(), [](const auto& line) { return line.points.empty(); });
 }
 
 int LineChartModel::rowCount() const {
   std::size_t count = 0;
-  for (const Line& line : lines()) count += line.points.size();
+  for (const auto& line : lines()) count += line.points.size();
   return static_cast<int>(count);
 }
 
@@ -41,10 +41,10 @@ QString LineChartModel::value(int row) const {
 QString LineChartModel::spokenSelection() const {
   const auto selected = annotation();
   if (!selected) return {};
-  QString text = selected->date;
-  for (const QString& value : selected->values)
-    if (!value.isEmpty()) text += QStringLiteral(", ") + value;
-  return text;
+  std::string text = selected->date;
+  for (const std::string& value : selected->values)
+    if (!value.empty()) text += ", " + value;
+  return qString(text);
 }
 
 }  // namespace mivo::app

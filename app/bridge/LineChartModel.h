@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "app/bridge/ChartTable.h"
-#include "app/geometry/LineChartLayout.h"
+#include "drawing/charts/LineSelection.h"
 
 namespace mivo::app {
 
@@ -29,35 +29,21 @@ class LineChartModel : public mivo::app::ChartTable {
   Q_PROPERTY(bool scrolls READ scrolls CONSTANT)
 
  public:
-  struct Line {
-    std::vector<LinePoint> points;  ///< ascending; values as they are shown
-    double scale = 1;               ///< what the values are divided by on a shared axis
-  };
-  struct AxisLabel {
-    Date date;
-    QString text;
-    bool isPresent = false;
-    /// The label stands in the middle of [date, until) where that is later.
-    Date until;
-  };
-  struct Annotation {
-    QString date;
-    std::vector<QString> values;  ///< one a line; empty where that line has no selected point
-  };
+  using Lines = std::vector<drawing::LineSeries>;
 
   using ChartTable::ChartTable;
 
-  virtual const std::vector<Line>& lines() const = 0;
+  virtual const Lines& lines() const = 0;
   virtual DateInterval domain() const = 0;
   virtual double span() const = 0;  ///< seconds on screen at once
-  virtual std::vector<AxisLabel> labels(DateInterval visible) const = 0;
-  virtual QString axisText(double value, int fractionDigits) const = 0;
+  virtual std::vector<drawing::TimeAxisLabel> labels(DateInterval visible) const = 0;
+  virtual std::string axisText(double value, int fractionDigits) const = 0;
 
   virtual void didScroll(Date leading) = 0;
   virtual void didTouch(std::optional<Date> date) = 0;
   /// The points chosen by the last touch, one a line.
-  virtual std::vector<std::optional<LinePoint>> selection() const = 0;
-  virtual std::optional<Annotation> annotation() const = 0;
+  virtual std::vector<std::optional<drawing::LinePoint>> selection() const = 0;
+  virtual std::optional<drawing::Annotation> annotation() const = 0;
 
   virtual QString visibleDates() const = 0;
   virtual QString average() const = 0;
@@ -75,7 +61,7 @@ class LineChartModel : public mivo::app::ChartTable {
  private:
   struct Row {
     std::size_t line;
-    LinePoint point;
+    drawing::LinePoint point;
   };
   Row rowOf(int row) const;
 

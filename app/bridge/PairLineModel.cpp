@@ -13,10 +13,11 @@ namespace mivo::app {
 PairLineModel::PairLineModel(QObject* parent)
     : LineChartModel{parent}, hasHeader{lineChartsHaveHeaders(currentDependencies().platformVersion)} {}
 
-void PairLineModel::follow(const StatisticsFeature::State& state, Date now) {
+void PairLineModel::follow(const StatisticsFeature::State& state, Date present) {
   const WeightFastingChart next = weightFastingChart(state.stats, state.timeRange);
   const bool isSame = header && next == chart && unit == state.goalWeightCardState.weightUnit;
-  axis = {state.timeRange, now};
+  range = state.timeRange;
+  now = present;
   if (isSame) return;
   chart = next;
   unit = state.goalWeightCardState.weightUnit;
@@ -39,13 +40,18 @@ DateInterval PairLineModel::domain() const {
   std::optional<Date> first;
   for (const auto& line : series)
     if (!line.points.empty()) first = first ? std::min(*first, line.points[0].date) : line.points[0].date;
-  return axis.domain(first);
+  return drawing::timeAxisDomain(range, first, now, *dependency(&Dependencies::calendar));
 }
 
-double PairLineModel::span() const { return visibleSpan(axis.range); }
+std::vector<drawing::TimeAxisLabel> PairLineModel::labels(DateInterval visible) const {
+  return drawing::timeAxisLabels(range, visible, now, *dependency(&Dependencies::calendar),
+                                 *dependency(&Dependencies::dateFormatter));
+}
 
-QString PairLineModel::axisText(double value, int fractionDigits) const {
-  return qString(dependency(&Dependencies::numberFormatter)->string(value, fractionDigits));
+double PairLineModel::span() const { return visibleSpan(range); }
+
+std::string PairLineModel::axisText(double value, int fractionDigits) const {
+  return dependency(&Dependencies::numberFormatter)->string(value, fractionDigits);
 }
 
 QString PairLineModel::valueText(std::size_t line, double value) const {
@@ -61,8 +67,8 @@ void PairLineModel::didTouch(std::optional<Date> date) {
   if (touched) touched->didUpdateRawSelectedDate(date);
 }
 
-std::vector<std::optional<LinePoint>> PairLineModel::selection() const {
-  std::vector<std::optional<LinePoint>> points(2);
+std::vector<std::optional<drawing::LinePoint>> PairLineModel::selection() const {
+  std::vector<std::optional<drawing::LinePoint>> points(2);
   if (!touched || !touched->selectedEntry()) return points;
   const auto& [weight, fasting] = *touched->selectedEntry();
   if (weight) points[0] = {weight->date, weight->value / kilogramsPer(unit)};
@@ -70,13 +76,13 @@ std::vector<std::optional<LinePoint>> PairLineModel::selection() const {
   return points;
 }
 
-std::optional<LineChartModel::Annotation> PairLineModel::annotation() const {
+std::optional<drawing::Annotation> PairLineModel::annotation() const {
   if (!touched || !touched->selectedEntry()) return std::nullopt;
   const auto& [weight, fasting] = *touched->selectedEntry();
   const Date date = weight ? weight->date : fasting->date;
-  Annotation texts{qString(dependency(&Dependencies::dateFormatter)->string(date, "EEEdMMM").value_or("")), {{}, {}}};
-  if (weight) texts.values[0] = qString(dependency(&Dependencies::massFormatter)->string(weight->value, unit));
-  if (fasting) texts.values[1] = valueText(1, fasting->hours);
+  drawing::Annotation texts{dependency(&Dependencies::dateFormatter)->string(date, "EEEdMMM").value_or(""), {{}, {}}};
+  if (weight) texts.values[0] = dependency(&Dependencies::massFormatter)->string(weight->value, unit);
+  if (fasting) texts.values[1] = valueText(1, fasting->hours).toStdString();
   return texts;
 }
 

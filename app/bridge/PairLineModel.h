@@ -4,7 +4,6 @@
 #include <memory>
 
 #include "app/bridge/LineChartModel.h"
-#include "app/bridge/LineTimeAxis.h"
 #include "mivo/charts/ChartHeaderModel.h"
 #include "mivo/charts/InnerChartSelectionModel.h"
 #include "mivo/charts/WeightFastingChart.h"
@@ -22,24 +21,25 @@ class PairLineModel final : public mivo::app::LineChartModel {
   /// Takes the series of the shown range over where they, the range or the unit are others than before.
   void follow(const StatisticsFeature::State& state, Date now);
 
-  const std::vector<Line>& lines() const override { return series; }
+  const Lines& lines() const override { return series; }
   DateInterval domain() const override;
   double span() const override;
-  std::vector<AxisLabel> labels(DateInterval visible) const override { return axis.labels(visible); }
-  QString axisText(double value, int fractionDigits) const override;
+  std::vector<drawing::TimeAxisLabel> labels(DateInterval visible) const override;
+  std::string axisText(double value, int fractionDigits) const override;
   QString valueText(std::size_t line, double value) const override;
   void didScroll(Date leading) override;
   void didTouch(std::optional<Date> date) override;
-  std::vector<std::optional<LinePoint>> selection() const override;
-  std::optional<Annotation> annotation() const override;
+  std::vector<std::optional<drawing::LinePoint>> selection() const override;
+  std::optional<drawing::Annotation> annotation() const override;
   QString visibleDates() const override;
   QString average() const override { return {}; }
   bool scrolls() const override { return hasHeader; }
 
  private:
   WeightFastingChart chart;
-  std::vector<Line> series{2};
-  LineTimeAxis axis;
+  Lines series{2};
+  TimeRange range = TimeRange::week;
+  Date now;
   WeightUnit unit = WeightUnit::kilograms;
   bool hasHeader;
   std::unique_ptr<ChartHeaderModel> header;

@@ -12,18 +12,19 @@ namespace mivo::app {
 WeightLineModel::WeightLineModel(QObject* parent)
     : LineChartModel{parent}, hasHeader{lineChartsHaveHeaders(currentDependencies().platformVersion)} {}
 
-void WeightLineModel::follow(const StatisticsFeature::State& state, Date now) {
+void WeightLineModel::follow(const StatisticsFeature::State& state, Date present) {
   const auto& logs = weightLogs(state.stats, state.timeRange);
   const bool isSame =
-      header && logs == samples && axis.range == state.timeRange && unit == state.goalWeightCardState.weightUnit;
-  axis = {state.timeRange, now};
+      header && logs == samples && range == state.timeRange && unit == state.goalWeightCardState.weightUnit;
+  range = state.timeRange;
+  now = present;
   if (isSame) return;
   samples = logs;
   unit = state.goalWeightCardState.weightUnit;
   series[0].points.clear();
   for (const auto& sample : samples) series[0].points.push_back({sample.date, sample.weightInKg / kilogramsPer(unit)});
-  header = std::make_unique<BodyWeightChartHeaderModel>(samples, axis.range);
-  touched = std::make_unique<BodyWeightInnerChartSelectionModel>(samples, axis.range);
+  header = std::make_unique<BodyWeightChartHeaderModel>(samples, range);
+  touched = std::make_unique<BodyWeightInnerChartSelectionModel>(samples, range);
   headerChanges = header->observe([this] { Q_EMIT headerChanged(); });
   selectionChanges = touched->observe([this] { Q_EMIT selectionChanged(); });
   Q_EMIT changed();
@@ -32,13 +33,19 @@ void WeightLineModel::follow(const StatisticsFeature::State& state, Date now) {
 }
 
 DateInterval WeightLineModel::domain() const {
-  return axis.domain(samples.empty() ? std::nullopt : std::optional{samples.front().date});
+  const auto first = samples.empty() ? std::nullopt : std::optional{samples.front().date};
+  return drawing::timeAxisDomain(range, first, now, *dependency(&Dependencies::calendar));
 }
 
-double WeightLineModel::span() const { return visibleSpan(axis.range); }
+std::vector<drawing::TimeAxisLabel> WeightLineModel::labels(DateInterval visible) const {
+  return drawing::timeAxisLabels(range, visible, now, *dependency(&Dependencies::calendar),
+                                 *dependency(&Dependencies::dateFormatter));
+}
 
-QString WeightLineModel::axisText(double value, int fractionDigits) const {
-  return qString(dependency(&Dependencies::numberFormatter)->string(value, fractionDigits));
+double WeightLineModel::span() const { return visibleSpan(range); }
+
+std::string WeightLineModel::axisText(double value, int fractionDigits) const {
+  return dependency(&Dependencies::numberFormatter)->string(value, fractionDigits);
 }
 
 QString WeightLineModel::valueText(std::size_t, double value) const {
@@ -53,17 +60,17 @@ void WeightLineModel::didTouch(std::optional<Date> date) {
   if (touched) touched->didUpdateRawSelectedDate(date);
 }
 
-std::vector<std::optional<LinePoint>> WeightLineModel::selection() const {
+std::vector<std::optional<drawing::LinePoint>> WeightLineModel::selection() const {
   if (!touched || !touched->selectedEntry()) return {std::nullopt};
   const auto& sample = *touched->selectedEntry();
-  return {LinePoint{sample.date, sample.weightInKg / kilogramsPer(unit)}};
+  return {drawing::LinePoint{sample.date, sample.weightInKg / kilogramsPer(unit)}};
 }
 
-std::optional<LineChartModel::Annotation> WeightLineModel::annotation() const {
+std::optional<drawing::Annotation> WeightLineModel::annotation() const {
   if (!touched || !touched->selectedEntry()) return std::nullopt;
   const auto& sample = *touched->selectedEntry();
-  return Annotation{qString(dependency(&Dependencies::dateFormatter)->string(sample.date, "EEEdMMM").value_or("")),
-                    {qString(dependency(&Dependencies::massFormatter)->string(sample.weightInKg, unit))}};
+  return drawing::Annotation{dependency(&Dependencies::dateFormatter)->string(sample.date, "EEEdMMM").value_or(""),
+                             {dependency(&Dependencies::massFormatter)->string(sample.weightInKg, unit)}};
 }
 
 QString WeightLineModel::visibleDates() const {

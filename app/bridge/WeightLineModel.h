@@ -4,7 +4,6 @@
 #include <memory>
 
 #include "app/bridge/LineChartModel.h"
-#include "app/bridge/LineTimeAxis.h"
 #include "mivo/charts/BodyWeightChartHeaderModel.h"
 #include "mivo/charts/BodyWeightInnerChartSelectionModel.h"
 #include "mivo/statistics/StatisticsFeature.h"
@@ -21,24 +20,25 @@ class WeightLineModel final : public mivo::app::LineChartModel {
   /// Takes the samples of the shown range over where they, the range or the unit are others than before.
   void follow(const StatisticsFeature::State& state, Date now);
 
-  const std::vector<Line>& lines() const override { return series; }
+  const Lines& lines() const override { return series; }
   DateInterval domain() const override;
   double span() const override;
-  std::vector<AxisLabel> labels(DateInterval visible) const override { return axis.labels(visible); }
-  QString axisText(double value, int fractionDigits) const override;
+  std::vector<drawing::TimeAxisLabel> labels(DateInterval visible) const override;
+  std::string axisText(double value, int fractionDigits) const override;
   QString valueText(std::size_t line, double value) const override;
   void didScroll(Date leading) override;
   void didTouch(std::optional<Date> date) override;
-  std::vector<std::optional<LinePoint>> selection() const override;
-  std::optional<Annotation> annotation() const override;
+  std::vector<std::optional<drawing::LinePoint>> selection() const override;
+  std::optional<drawing::Annotation> annotation() const override;
   QString visibleDates() const override;
   QString average() const override;
   bool scrolls() const override { return hasHeader; }
 
  private:
   List<BodyWeightSample> samples;
-  std::vector<Line> series{1};
-  LineTimeAxis axis;
+  Lines series{1};
+  TimeRange range = TimeRange::week;
+  Date now;
   WeightUnit unit = WeightUnit::kilograms;
   bool hasHeader;
   std::unique_ptr<BodyWeightChartHeaderModel> header;

@@ -4,7 +4,7 @@
 #include <QtGui/QFontMetricsF>
 #include <QtGui/QPainter>
 
-#include "app/items/NumberLayout.h"
+#include "app/items/TextMetrics.h"
 
 namespace mivo::app {
 
@@ -18,23 +18,26 @@ QRectF ChartItem::placed(const QRectF& rectangle) const {
                   : rectangle;
 }
 
-void ChartItem::drawText(QPainter* painter, const QString& text, qreal x, qreal baseline, Anchor anchor) const {
-  const qreal advance = QFontMetricsF{painter->font()}.horizontalAdvance(text);
-  const qreal leading = anchor == Anchor::leading ? x : anchor == Anchor::middle ? x - advance / 2 : x - advance;
-  painter->drawText(QPointF{mirrored ? innerWidth() - leading - advance : leading, baseline}, text);
+QRectF ChartItem::placed(const Rectangle& rectangle) const {
+  return placed(QRectF{rectangle.origin.x, rectangle.origin.y, rectangle.size.width, rectangle.size.height});
 }
 
-void ChartItem::drawNumber(QPainter* painter, const QString& text, qreal x, qreal baseline, Anchor anchor) const {
-  const QFont font = painter->font();
-  const qreal advance = numberWidth(text, font);
+void ChartItem::drawText(QPainter* painter, std::string_view text, qreal x, qreal baseline, Anchor anchor) const {
+  const QString shown = qText(text);
+  const qreal advance = QFontMetricsF{painter->font()}.horizontalAdvance(shown);
   const qreal leading = anchor == Anchor::leading ? x : anchor == Anchor::middle ? x - advance / 2 : x - advance;
-  drawWithEvenDigits(painter, text, {mirrored ? innerWidth() - leading - advance : leading, baseline});
+  painter->drawText(QPointF{mirrored ? innerWidth() - leading - advance : leading, baseline}, shown);
 }
 
-qreal ChartItem::numberWidth(const QString& text, const QFont& font) { return widthWithEvenDigits(text, font); }
+void ChartItem::drawNumber(QPainter* painter, std::string_view text, qreal x, qreal baseline, Anchor anchor) const {
+  const auto [parts, advance] = drawing::evenDigits(text, faceOf(painter->font()));
+  const qreal leading = anchor == Anchor::leading ? x : anchor == Anchor::middle ? x - advance / 2 : x - advance;
+  const qreal left = mirrored ? innerWidth() - leading - advance : leading;
+  for (const auto& part : parts) painter->drawText(QPointF{left + part.x, baseline}, qText(part.text));
+}
 
 void ChartItem::drawHorizontalLine(QPainter* painter, qreal from, qreal to, qreal y, const QColor& color) const {
-  painter->fillRect(placed({from, y - 0.5, to - from, 1}), color);
+  painter->fillRect(placed(QRectF{from, y - 0.5, to - from, 1}), color);
 }
 
 }  // namespace mivo::app

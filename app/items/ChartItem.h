@@ -7,6 +7,10 @@
 #include <QtQuick/QQuickPaintedItem>
 
 #include <algorithm>
+#include <string_view>
+
+#include "drawing/text/NumberLayout.h"
+#include "mivo/charts/Geometry.h"
 
 namespace mivo::app {
 
@@ -48,11 +52,11 @@ class ChartItem : public QQuickPaintedItem {
   qreal fromLeading(qreal x) const { return mirrored ? innerWidth() - x : x; }
   /// A rectangle measured from the leading edge.
   QRectF placed(const QRectF& rectangle) const;
+  QRectF placed(const Rectangle& rectangle) const;
   /// Text on one line whose `anchor` side stands at `x`, measured from the leading edge.
-  void drawText(QPainter* painter, const QString& text, qreal x, qreal baseline, Anchor anchor) const;
+  void drawText(QPainter* painter, std::string_view text, qreal x, qreal baseline, Anchor anchor) const;
   /// The same with every digit in a cell of one width, for texts that change in place.
-  void drawNumber(QPainter* painter, const QString& text, qreal x, qreal baseline, Anchor anchor) const;
-  static qreal numberWidth(const QString& text, const QFont& font);
+  void drawNumber(QPainter* painter, std::string_view text, qreal x, qreal baseline, Anchor anchor) const;
   void drawHorizontalLine(QPainter* painter, qreal from, qreal to, qreal y, const QColor& color) const;
 
   QColor ink, inkSecondary, inkTertiary, gridline, gridlineStrong, card;

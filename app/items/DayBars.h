@@ -4,8 +4,8 @@
 #include <optional>
 
 #include "app/bridge/DayBarsModel.h"
-#include "app/geometry/DayBarsLayout.h"
 #include "app/items/ChartItem.h"
+#include "drawing/charts/DayBarsLayout.h"
 
 namespace mivo::app {
 
@@ -67,21 +67,13 @@ class DayBars : public mivo::app::ChartItem {
   std::optional<std::size_t> selectedBar() const;
   void select(std::size_t bar);
 
-  struct PopupText {
-    QStringList lines;
-    QFont font;
-  };
-  PopupText popupText(const QString& label, qreal width) const;
-  std::size_t labelStride(DayBarsLayout::Range visible) const;
-  QString labelOf(std::size_t bar) const;
-
   void paintLines(QPainter* painter) const;
   void paintBars(QPainter* painter) const;
   void paintLabels(QPainter* painter) const;
   void paintPopup(QPainter* painter) const;
 
   DayBarsModel* shown = nullptr;
-  DayBarsLayout layout;
+  drawing::DayBarsLayout layout;
   qreal offset = 0;
   QColor barTop, barFill, barDim;
   qreal growth = 1;

@@ -4,20 +4,15 @@
 #include <QtGui/QLinearGradient>
 #include <QtGui/QPainter>
 
-#include <algorithm>
-#include <cmath>
+#include "app/items/TextMetrics.h"
 
 namespace mivo::app {
 namespace {
 
-constexpr qreal gutter = 32, plotBottom = 32;
-constexpr qreal weightTop = 8, pairTop = 64, pairBottom = 18;
-constexpr qreal lineWidth = 2.5, markStroke = 2.5, markRadius = 4, pairMarkRadius = 3.8, selectedRadius = 5.5;
-constexpr qreal diamondExtra = 1.2, areaOpacity = 0.2;
-constexpr qreal labelBelow = 8, dotBelow = 30, dotRadius = 2, labelDistance = 4;
-constexpr qreal annotationHeight = 46, annotationWidth = 160, annotationPadding = 12, annotationRadius = 10;
-constexpr qreal captionMiddle = 14, valueMiddle = 32, markRoom = 16, betweenValues = 10;
-constexpr qreal gutterDistance = 14;
+using Layout = drawing::LineChartLayout;
+
+constexpr qreal lineWidth = 2.5, markStroke = 2.5, areaOpacity = 0.2;
+constexpr qreal annotationMarkRadius = 3, annotationMarkStroke = 2;
 
 }  // namespace
 
@@ -62,107 +57,66 @@ void LineChart::setAxisShift(qreal value) {
   update();
 }
 
-qreal LineChart::plotWidth() const { return std::max(0.0, innerWidth() - gutter); }
+qreal LineChart::plotWidth() const { return layout().plotWidth(); }
 
-qreal LineChart::contentWidth() const {
-  if (!shown || !shown->scrolls()) return plotWidth();
-  return std::max(plotWidth(), shown->domain().duration() / shown->span() * plotWidth());
-}
+qreal LineChart::contentWidth() const { return layout().contentWidth(); }
 
 void LineChart::geometryChange(const QRectF& newGeometry, const QRectF& oldGeometry) {
   ChartItem::geometryChange(newGeometry, oldGeometry);
   if (newGeometry.size() != oldGeometry.size()) dataChanged();
 }
 
-// The latest date stands at the trailing edge when everything is scrolled to the end.
-DateInterval LineChart::visible() const {
-  const double span = shown->scrolls() ? shown->span() : std::max(shown->span(), shown->domain().duration());
-  const Date end = shown->domain().end - Duration{(maxScroll() - offset) / plotWidth() * span};
-  return {end - Duration{span}, end};
+Layout LineChart::layout() const {
+  const Size size{innerWidth(), height()};
+  if (!shown) return {.size = size, .domain = {}};
+  return {.size = size,
+          .domain = shown->domain(),
+          .span = shown->span(),
+          .scrolls = shown->scrolls(),
+          .isPair = shown->hasTwoLines()};
 }
 
 void LineChart::updateAxis(bool animated) {
-  const auto& lines = shown->lines();
-  ValueAxis next;
-  if (lines.size() == 1) {
-    next = weightAxis(pointsInside(lines[0].points, visible()));
-  } else {
-    double low = INFINITY, high = -INFINITY;
-    for (const auto& line : lines)
-      for (const LinePoint& point : pointsInside(line.points, visible())) {
-        low = std::min(low, point.value / line.scale);
-        high = std::max(high, point.value / line.scale);
-      }
-    if (low <= high) next = {.low = low, .high = high};
-  }
+  const drawing::ValueAxis next = drawing::valueAxis(shown->lines(), visible());
   if (next == axis) return;
   axisBefore = animated ? axis : next;
   axis = next;
   if (animated) Q_EMIT axisMoved();
 }
 
-LinePlot LineChart::plot() const {
-  const bool isPair = shown->hasTwoLines();
-  const qreal baseline = height() - plotBottom;
-  return {.width = plotWidth(),
-          .top = isPair ? pairTop : weightTop,
-          .bottom = isPair ? baseline - pairBottom : baseline,
-          .visible = visible(),
-          .low = std::lerp(axisBefore.low, axis.low, shift),
-          .high = std::lerp(axisBefore.high, axis.high, shift)};
-}
-
-// Every date that has a point, for the arrow keys.
-std::vector<LinePoint> LineChart::selectable() const {
-  std::vector<LinePoint> all;
-  for (const auto& line : shown->lines()) all.insert(all.end(), line.points.begin(), line.points.end());
-  std::ranges::sort(all, {}, &LinePoint::date);
-  return all;
-}
+drawing::LinePlot LineChart::plot() const { return layout().plot(offset, axisBefore, axis, shift); }
 
 void LineChart::touch(qreal x) {
   if (!shown || shown->isEmpty()) return;
-  shown->didTouch(plot().date(std::clamp(fromLeading(x - roomAtTheSides), 0.0, plotWidth())));
+  shown->didTouch(drawing::touchedDate(plot(), fromLeading(x - roomAtTheSides)));
 }
 
 void LineChart::clearSelection() {
   if (shown) shown->didTouch(std::nullopt);
 }
 
-void LineChart::selectDate(Date date) {
-  const LinePlot place = plot();
-  const double x = place.x(date);
-  if (x < 0 || x > place.width) Q_EMIT scrollWanted(std::clamp(offset + x - place.width / 2, 0.0, maxScroll()));
+void LineChart::selectDate(std::optional<Date> date) {
+  if (!date) return;
+  if (const auto wanted = layout().scrollToSee(plot(), *date, offset)) Q_EMIT scrollWanted(*wanted);
   shown->didTouch(date);
 }
 
 void LineChart::moveSelection(int points) {
-  if (!shown || shown->isEmpty()) return;
-  const auto all = selectable();
-  std::optional<Date> selected;
-  for (const auto& point : shown->selection())
-    if (point) selected = selected ? std::max(*selected, point->date) : point->date;
-  if (!selected) return selectDate(all.back().date);
-  const auto beyond = points > 0 ? std::ranges::upper_bound(all, *selected, {}, &LinePoint::date)
-                                 : std::ranges::lower_bound(all, *selected, {}, &LinePoint::date);
-  if (points > 0 && beyond != all.end()) selectDate(beyond->date);
-  if (points < 0 && beyond != all.begin()) selectDate(std::prev(beyond)->date);
+  if (shown) selectDate(drawing::steppedDate(shown->lines(), shown->selection(), points));
 }
 
 void LineChart::selectEnd(bool latest) {
-  if (!shown || shown->isEmpty()) return;
-  const auto all = selectable();
-  selectDate(latest ? all.back().date : all.front().date);
+  if (shown) selectDate(drawing::endDate(shown->lines(), latest));
 }
 
 void LineChart::paint(QPainter* painter) {
   if (!shown || plotWidth() <= 0) return;
   painter->setRenderHint(QPainter::Antialiasing);
   painter->translate(roomAtTheSides, 0);
-  const LinePlot place = plot();
+  const drawing::LinePlot place = plot();
   paintLines(painter, place);
   painter->save();
-  painter->setClipRect(placed({0, 0, place.width, height()}));
+  painter->setClipRect(placed(QRectF{0, 0, place.width, height()}));
   paintLabels(painter, place);
   for (std::size_t line = 0; line < shown->lines().size(); ++line) paintLine(painter, place, line);
   painter->restore();
@@ -170,69 +124,60 @@ void LineChart::paint(QPainter* painter) {
   paintSelection(painter, place);
 }
 
-void LineChart::paintLines(QPainter* painter, const LinePlot& place) const {
-  const qreal baseline = height() - plotBottom;
-  if (shown->hasTwoLines()) {
-    for (int line = 0; line < 4; ++line)
-      drawHorizontalLine(painter, 0, place.width, place.top + line * (place.bottom - place.top) / 3, gridline);
-  } else {
-    for (const double value : axis.lines) drawHorizontalLine(painter, 0, place.width, place.y(value), gridline);
-  }
-  drawHorizontalLine(painter, 0, place.width, baseline, gridlineStrong);
+void LineChart::paintLines(QPainter* painter, const drawing::LinePlot& place) const {
+  for (const double y : layout().gridlines(place, axis)) drawHorizontalLine(painter, 0, place.width, y, gridline);
+  drawHorizontalLine(painter, 0, place.width, layout().baseline(), gridlineStrong);
 }
 
-void LineChart::paintLabels(QPainter* painter, const LinePlot& place) const {
-  const QFontMetricsF metrics{axisFont};
-  const qreal baseline = height() - plotBottom;
-  qreal free = -INFINITY;
-  for (const auto& label : shown->labels(place.visible)) {
-    const bool isBetween = label.until > label.date;
-    const qreal x = isBetween ? (place.x(label.date) + place.x(label.until)) / 2 : place.x(label.date);
+void LineChart::paintLabels(QPainter* painter, const drawing::LinePlot& place) const {
+  const auto labels = shown->labels(place.visible);
+  const qreal baseline = layout().baseline();
+  const qreal textLine = baseline + Layout::labelBelow + QFontMetricsF{axisFont}.ascent();
+  for (const auto& [index, x, isCentred] :
+       drawing::labelsThatFit(labels, place, widthIn(axisFont), widthIn(axisStrongFont))) {
+    const auto& label = labels[index];
     painter->setFont(label.isPresent ? axisStrongFont : axisFont);
     painter->setPen(label.isPresent ? ink : inkTertiary);
-    const qreal advance = QFontMetricsF{painter->font()}.horizontalAdvance(label.text);
-    const qreal begin = isBetween ? x - advance / 2 : x;
-    if (begin < free) continue;
-    free = begin + advance + labelDistance;
-    drawText(painter, label.text, x, baseline + labelBelow + metrics.ascent(),
-             isBetween ? Anchor::middle : Anchor::leading);
+    drawText(painter, label.text, x, textLine, isCentred ? Anchor::middle : Anchor::leading);
     if (!label.isPresent) continue;
     painter->setPen(Qt::NoPen);
     painter->setBrush(ink);
-    painter->drawEllipse(QPointF{fromLeading(x), baseline + dotBelow}, dotRadius, dotRadius);
+    painter->drawEllipse(QPointF{fromLeading(x), baseline + Layout::dotBelow}, Layout::dotRadius, Layout::dotRadius);
   }
 }
 
-void LineChart::paintLine(QPainter* painter, const LinePlot& place, std::size_t index) const {
+QPointF LineChart::at(const drawing::LinePlot& place, const drawing::LineSeries& line,
+                      const drawing::LinePoint& point) const {
+  return {fromLeading(place.x(point.date)), place.y(point.value / line.scale)};
+}
+
+void LineChart::paintLine(QPainter* painter, const drawing::LinePlot& place, std::size_t index) const {
   const auto& line = shown->lines()[index];
-  const auto points = pointsToDraw(line.points, place.visible);
+  const auto points = drawing::pointsToDraw(line.points, place.visible);
   if (points.empty()) return;
-  const auto at = [&](const LinePoint& point) {
-    return QPointF{fromLeading(place.x(point.date)), place.y(point.value / line.scale)};
-  };
   const QColor color = fills.value(static_cast<qsizetype>(index));
-  QPainterPath path{at(points[0])};
-  for (const LinePoint& point : points.subspan(1)) path.lineTo(at(point));
-  if (!shown->hasTwoLines()) {
-    QPainterPath area = path;
-    area.lineTo(at(points.back()).x(), place.bottom);
-    area.lineTo(at(points.front()).x(), place.bottom);
-    QLinearGradient gradient{0, path.boundingRect().top(), 0, place.bottom};
-    QColor tint = color;
-    tint.setAlphaF(static_cast<float>(areaOpacity));
-    gradient.setColorAt(0, tint);
-    tint.setAlphaF(0);
-    gradient.setColorAt(1, tint);
-    painter->fillPath(area, gradient);
-  }
+  QPainterPath path{at(place, line, points[0])};
+  for (const auto& point : points.subspan(1)) path.lineTo(at(place, line, point));
+  if (!shown->hasTwoLines()) paintArea(painter, path, place.bottom, color);
   painter->setBrush(Qt::NoBrush);
   painter->setPen(QPen{color, lineWidth, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin});
   painter->drawPath(path);
-  // Points so near to each other that marks would cover the line get none.
-  const double distance = place.width / std::max<double>(1, static_cast<double>(points.size()));
-  if (distance < 3 * markRadius) return;
-  const qreal radius = shown->hasTwoLines() ? pairMarkRadius : markRadius;
-  for (const LinePoint& point : points) paintMark(painter, at(point), index, radius, false, markStroke, color, card);
+  if (!drawing::hasMarks(place, points.size())) return;
+  const qreal radius = shown->hasTwoLines() ? drawing::pairMarkRadius : drawing::markRadius;
+  for (const auto& point : points)
+    paintMark(painter, at(place, line, point), index, radius, false, markStroke, color, card);
+}
+
+void LineChart::paintArea(QPainter* painter, const QPainterPath& path, qreal bottom, QColor tint) const {
+  QPainterPath area = path;
+  area.lineTo(path.currentPosition().x(), bottom);
+  area.lineTo(path.elementAt(0).x, bottom);
+  QLinearGradient gradient{0, path.boundingRect().top(), 0, bottom};
+  tint.setAlphaF(static_cast<float>(areaOpacity));
+  gradient.setColorAt(0, tint);
+  tint.setAlphaF(0);
+  gradient.setColorAt(1, tint);
+  painter->fillPath(area, gradient);
 }
 
 void LineChart::paintMark(QPainter* painter, QPointF at, std::size_t line, qreal radius, bool isFilled, qreal stroke,
@@ -240,93 +185,62 @@ void LineChart::paintMark(QPainter* painter, QPointF at, std::size_t line, qreal
   painter->setPen(QPen{color, stroke, Qt::SolidLine, Qt::RoundCap, Qt::MiterJoin});
   painter->setBrush(isFilled ? color : surface);
   if (line == 0) return painter->drawEllipse(at, radius, radius);
-  const qreal reach = radius + diamondExtra;
+  const qreal reach = drawing::diamondReach(radius);
   painter->drawPolygon(QPolygonF{
       {at.x(), at.y() - reach}, {at.x() + reach, at.y()}, {at.x(), at.y() + reach}, {at.x() - reach, at.y()}});
 }
 
-void LineChart::paintGutter(QPainter* painter, const LinePlot& place) const {
-  if (!shown->hasTwoLines()) {
-    const QFontMetricsF metrics{axisFont};
-    painter->setFont(axisFont);
+void LineChart::paintGutter(QPainter* painter, const drawing::LinePlot& place) const {
+  const bool isPair = shown->hasTwoLines();
+  painter->setFont(isPair ? axisStrongFont : axisFont);
+  const qreal belowMiddle = QFontMetricsF{painter->font()}.capHeight() / 2;
+  if (!isPair) {
     painter->setPen(inkTertiary);
     for (const double value : axis.lines)
-      drawNumber(painter, shown->axisText(value, axis.fractionDigits), innerWidth(),
-                 place.y(value) + metrics.capHeight() / 2, Anchor::trailing);
+      drawNumber(painter, shown->axisText(value, axis.fractionDigits), innerWidth(), place.y(value) + belowMiddle,
+                 Anchor::trailing);
     return;
   }
-  const QFontMetricsF metrics{axisStrongFont};
-  painter->setFont(axisStrongFont);
-  std::vector<std::pair<double, std::size_t>> places;
-  for (std::size_t line = 0; line < shown->lines().size(); ++line) {
-    const auto inside = pointsInside(shown->lines()[line].points, place.visible);
-    if (!inside.empty()) places.emplace_back(place.y(inside.back().value / shown->lines()[line].scale), line);
-  }
-  if (places.size() == 2 && std::abs(places[0].first - places[1].first) < gutterDistance) {
-    const double middle = (places[0].first + places[1].first) / 2;
-    const bool isFirstAbove = places[0].first <= places[1].first;
-    places[0].first = middle + (isFirstAbove ? -gutterDistance : gutterDistance) / 2;
-    places[1].first = middle + (isFirstAbove ? gutterDistance : -gutterDistance) / 2;
-  }
-  for (const auto& [y, line] : places) {
-    const auto& series = shown->lines()[line];
+  for (const auto& [line, value, y] : drawing::gutterValues(shown->lines(), place)) {
     painter->setPen(textColors.value(static_cast<qsizetype>(line)));
-    drawNumber(painter, shown->axisText(pointsInside(series.points, place.visible).back().value, line == 0 ? 1 : 0),
-               innerWidth(), y + metrics.capHeight() / 2, Anchor::trailing);
+    drawNumber(painter, shown->axisText(value, line == 0 ? 1 : 0), innerWidth(), y + belowMiddle, Anchor::trailing);
   }
 }
 
-void LineChart::paintSelection(QPainter* painter, const LinePlot& place) const {
+void LineChart::paintSelection(QPainter* painter, const drawing::LinePlot& place) const {
+  using Box = drawing::AnnotationBox;
   const auto annotation = shown->annotation();
-  if (!annotation) return;
   const auto selection = shown->selection();
-  std::optional<double> ruleX;
-  for (const auto& point : selection)
-    if (point) ruleX = ruleX.value_or(place.x(point->date));
-  if (!ruleX || *ruleX < -1 || *ruleX > place.width + 1) return;
-  painter->fillRect(QRectF{fromLeading(*ruleX) - 0.5, annotationHeight, 1, height() - plotBottom - annotationHeight},
-                    inkSecondary);
+  const auto ruleX = drawing::selectionRule(selection, place);
+  if (!annotation || !ruleX) return;
+  painter->fillRect(QRectF{fromLeading(*ruleX) - 0.5, Box::height, 1, layout().baseline() - Box::height}, inkSecondary);
   for (std::size_t line = 0; line < selection.size(); ++line) {
     if (!selection[line]) continue;
-    const QPointF at{fromLeading(place.x(selection[line]->date)),
-                     place.y(selection[line]->value / shown->lines()[line].scale)};
     const QColor color = fills.value(static_cast<qsizetype>(line));
-    paintMark(painter, at, line, selectedRadius, true, 0, color, color);
+    paintMark(painter, at(place, shown->lines()[line], *selection[line]), line, drawing::selectedMarkRadius, true, 0,
+              color, color);
   }
-  paintAnnotation(painter, place, *annotation, *ruleX);
+  paintAnnotation(painter, *annotation, *ruleX);
 }
 
-qreal LineChart::annotationContents(const LineChartModel::Annotation& annotation) const {
-  qreal contents = 0;
-  for (const QString& text : annotation.values)
-    if (!text.isEmpty()) contents += (contents > 0 ? betweenValues : 0) + markRoom + numberWidth(text, valueFont);
-  return std::max(contents, QFontMetricsF{captionFont}.horizontalAdvance(annotation.date));
-}
-
-// Centred on the rule and kept inside the plot.
-void LineChart::paintAnnotation(QPainter* painter, const LinePlot& place, const LineChartModel::Annotation& annotation,
-                                double ruleX) const {
+void LineChart::paintAnnotation(QPainter* painter, const drawing::Annotation& annotation, double ruleX) const {
+  using Box = drawing::AnnotationBox;
   const QFontMetricsF caption{captionFont}, value{valueFont};
-  const qreal wanted = std::max(annotationWidth, annotationContents(annotation) + 2 * annotationPadding);
-  const qreal boxWidth = std::min(wanted, innerWidth());
-  const qreal left = std::clamp(ruleX - boxWidth / 2, 0.0, std::max(0.0, place.width - boxWidth));
+  const Box box = drawing::annotationBox(annotation, ruleX, plotWidth(), innerWidth(), widthIn(captionFont),
+                                         numberWidthIn(valueFont));
   painter->setPen(Qt::NoPen);
   painter->setBrush(inverse);
-  painter->drawRoundedRect(placed({left, 0, boxWidth, annotationHeight}), annotationRadius, annotationRadius);
+  painter->drawRoundedRect(placed(QRectF{box.x, 0, box.width, Box::height}), Box::radius, Box::radius);
   painter->setFont(captionFont);
   painter->setPen(textOnInverseSecondary);
-  drawText(painter, annotation.date, left + annotationPadding, captionMiddle + caption.capHeight() / 2,
+  drawText(painter, annotation.date, box.x + Box::padding, Box::captionMiddle + caption.capHeight() / 2,
            Anchor::leading);
-  qreal x = left + annotationPadding;
-  for (std::size_t line = 0; line < annotation.values.size(); ++line) {
-    const QString& text = annotation.values[line];
-    if (text.isEmpty()) continue;
-    const QColor mark = inverseFills.value(static_cast<qsizetype>(line));
-    paintMark(painter, {fromLeading(x + 5), valueMiddle}, line, 3, false, 2, mark, inverse);
+  for (const auto& [line, mark, text] : box.values) {
+    paintMark(painter, {fromLeading(mark), Box::valueMiddle}, line, annotationMarkRadius, false, annotationMarkStroke,
+              inverseFills.value(static_cast<qsizetype>(line)), inverse);
     painter->setFont(valueFont);
     painter->setPen(textOnInverse);
-    drawNumber(painter, text, x + markRoom, valueMiddle + value.capHeight() / 2, Anchor::leading);
-    x += markRoom + numberWidth(text, valueFont) + betweenValues;
+    drawNumber(painter, annotation.values[line], text, Box::valueMiddle + value.capHeight() / 2, Anchor::leading);
   }
 }
 

@@ -3,11 +3,11 @@
 
 #include <QtGui/QPainterPath>
 
-#include <vector>
+#include <optional>
 
 #include "app/bridge/LineChartModel.h"
-#include "app/geometry/LineChartLayout.h"
 #include "app/items/ChartItem.h"
+#include "drawing/charts/LineSelection.h"
 
 namespace mivo::app {
 
@@ -63,26 +63,26 @@ class LineChart : public mivo::app::ChartItem {
  private:
   void dataChanged();
   void updateAxis(bool animated);
-  DateInterval visible() const;
-  LinePlot plot() const;
-  std::vector<LinePoint> selectable() const;
-  void selectDate(Date date);
+  void selectDate(std::optional<Date> date);
+  drawing::LineChartLayout layout() const;
+  drawing::LinePlot plot() const;
+  DateInterval visible() const { return layout().visible(offset); }
+  QPointF at(const drawing::LinePlot& plot, const drawing::LineSeries& line, const drawing::LinePoint& point) const;
 
-  void paintLines(QPainter* painter, const LinePlot& plot) const;
-  void paintLabels(QPainter* painter, const LinePlot& plot) const;
-  void paintLine(QPainter* painter, const LinePlot& plot, std::size_t index) const;
-  void paintGutter(QPainter* painter, const LinePlot& plot) const;
-  void paintSelection(QPainter* painter, const LinePlot& plot) const;
-  void paintAnnotation(QPainter* painter, const LinePlot& plot, const LineChartModel::Annotation& annotation,
-                       double ruleX) const;
-  qreal annotationContents(const LineChartModel::Annotation& annotation) const;
+  void paintLines(QPainter* painter, const drawing::LinePlot& plot) const;
+  void paintLabels(QPainter* painter, const drawing::LinePlot& plot) const;
+  void paintLine(QPainter* painter, const drawing::LinePlot& plot, std::size_t index) const;
+  void paintArea(QPainter* painter, const QPainterPath& path, qreal bottom, QColor tint) const;
+  void paintGutter(QPainter* painter, const drawing::LinePlot& plot) const;
+  void paintSelection(QPainter* painter, const drawing::LinePlot& plot) const;
+  void paintAnnotation(QPainter* painter, const drawing::Annotation& annotation, double ruleX) const;
   void paintMark(QPainter* painter, QPointF at, std::size_t line, qreal radius, bool isFilled, qreal stroke,
                  const QColor& color, const QColor& surface) const;
 
   LineChartModel* shown = nullptr;
   qreal offset = 0;
   qreal shift = 1;
-  ValueAxis axis, axisBefore;
+  drawing::ValueAxis axis, axisBefore;
   QList<QColor> fills, textColors, inverseFills;
 };
 

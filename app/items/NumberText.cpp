@@ -6,7 +6,7 @@
 
 #include <cmath>
 
-#include "NumberLayout.h"
+#include "app/items/TextMetrics.h"
 
 namespace mivo::app {
 
@@ -26,23 +26,32 @@ QFont NumberText::unitFont() const {
   return unit;
 }
 
+drawing::NumberLayout NumberText::layout() const {
+  const QFont units = unitFont();
+  return drawing::layOut(text.toStdString(), {.number = faceOf(font),
+                                              .unit = widthIn(units),
+                                              .unitSize = static_cast<double>(units.pixelSize()),
+                                              .hasEvenDigits = evenDigits});
+}
+
 void NumberText::measure() {
-  setImplicitSize(std::ceil(layOut(text, {font, unitFont(), evenDigits}).width), lineHeight);
+  setImplicitSize(std::ceil(layout().width), lineHeight);
   setBaselineOffset((lineHeight + QFontMetricsF{font}.capHeight()) / 2);
   update();
 }
 
 void NumberText::paint(QPainter* painter) {
-  const NumberStyle style{font, unitFont(), evenDigits};
-  const NumberLayout layout = layOut(text, style);
+  const QFont units = unitFont();
   painter->setPen(color);
-  for (const NumberRun& run : layout.runs) {
-    painter->setFont(run.isUnit ? style.unit : style.number);
+  for (const drawing::NumberRun& run : layout().runs) {
+    painter->setFont(run.isUnit ? units : font);
     const QPointF start{run.x, baselineOffset()};
-    if (evenDigits && !run.isUnit)
-      drawWithEvenDigits(painter, run.text, start);
-    else
-      painter->drawText(start, run.text);
+    if (!evenDigits || run.isUnit) {
+      painter->drawText(start, qText(run.text));
+      continue;
+    }
+    for (const drawing::PlacedText& part : drawing::evenDigits(run.text, faceOf(font)).parts)
+      painter->drawText(start + QPointF{part.x, 0}, qText(part.text));
   }
 }
 

@@ -6,6 +6,8 @@
 #include <QtGui/QFont>
 #include <QtQuick/QQuickPaintedItem>
 
+#include "drawing/text/NumberLayout.h"
+
 namespace mivo::app {
 
 /// A number with units, such as "16h 34m" or "72.4 kg": digits large, units smaller, on one baseline. Digits may be set
@@ -34,6 +36,7 @@ class NumberText : public QQuickPaintedItem {
 
  private:
   QFont unitFont() const;
+  drawing::NumberLayout layout() const;
   void measure();
 
   QString text;

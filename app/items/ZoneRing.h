@@ -7,6 +7,8 @@
 #include <QtGui/QFont>
 #include <QtQuick/QQuickPaintedItem>
 
+#include "drawing/zones/ZoneRing.h"
+
 namespace mivo::app {
 
 /// The ring of a running fast: one segment a zone, filled as far as the fast has come. Without a fast, one ring of the
@@ -37,14 +39,9 @@ class ZoneRing : public QQuickPaintedItem {
   void changed();
 
  private:
-  struct Segment {
-    qreal from, to;  // seconds
-    QColor fill, tint;
-  };
-  QList<Segment> segments() const;
+  drawing::ZoneRing ring() const;
+  QColor colorOf(const drawing::ZoneRing::Arc& arc) const;
   void paintMarks(QPainter* painter) const;
-  void paintArc(QPainter* painter, qreal from, qreal to, const QColor& color) const;
-  QPointF onRing(qreal seconds, qreal radius) const;
 
   qreal seconds = 0, spanSeconds = 57600;
   bool running = false;

@@ -6,4 +6,4 @@ set -eu
 cmake -S . -B "$1" -G Ninja -DCMAKE_UNITY_BUILD=ON -DCMAKE_UNITY_BUILD_BATCH_SIZE=0 -DMIVO_APP=OFF --log-level=WARNING \
     > /dev/null
 exec "$2" -quiet -clang-tidy-binary "$3" -p "$1" -j "$(nproc)" -extra-arg=-Wno-unknown-warning-option \
-    "^($1|$PWD)/(mivo|adapters|host|cli|tally|data)/.*\.(cpp|cxx)\$"
+    "^($1|$PWD)/(mivo|adapters|drawing|host|cli|tally|data)/.*\.(cpp|cxx)\$"

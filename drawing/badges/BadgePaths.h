@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-namespace mivo::app {
+namespace mivo::drawing {
 
 // The outlines of the badges on a grid of 96 points, as the path data of SVG. The star has radius 1 around 0, 0; the
 // flames stand in a box of 24.
@@ -47,4 +47,4 @@ inline constexpr const char* flamePath =
 inline constexpr const char* flameDropPath =
     "M12.1 12.6C12.4 14.2 14.9 15.2 14.9 18A2.9 2.9 0 0 1 9.1 18C9.1 15.8 11.3 14.8 12.1 12.6z";
 
-}  // namespace mivo::app
+}  // namespace mivo::drawing
