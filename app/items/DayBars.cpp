@@ -6,6 +6,7 @@
 #include <QtGui/QPainterPath>
 
 #include <algorithm>
+#include <utility>
 
 #include "app/items/TextMetrics.h"
 
@@ -95,19 +96,21 @@ void DayBars::relayout() {
   if (isOther) {
     Q_EMIT layoutChanged();
     Q_EMIT scrollWanted(wanted);
-    reportVisibleBars();
   }
+  reportVisibleBars();
   update();
 }
 
-// The state derives the popup's place from what is reported here, so it is told of every move.
+// The state derives the popup's place from what is reported here, so it is told of every move, and of other periods in
+// the place of those that it knows: as many bars may begin on other days.
 void DayBars::reportVisibleBars() {
   if (!shown || layout.pitch <= 0) return;
   const auto& data = *shown->state().data;
   const auto [first, last] = layout.visibleBars(offset);
-  if (first == last) return;
+  auto days = layout.visibleDays(data, offset);
+  if (first == last || days == *shown->state().visibleDays) return;
   shown->setVisible({data[first].dateInterval.start, data[last - 1].dateInterval.end});
-  shown->send(DayBarsModel::Action::didUpdateVisibleDays{layout.visibleDays(data, offset)});
+  shown->send(DayBarsModel::Action::didUpdateVisibleDays{std::move(days)});
   const double midX = offset + layout.plotWidth / 2;
   if (shown->state().scrollViewMidX != midX) shown->send(DayBarsModel::Action::didUpdateMidX{midX});
 }

@@ -91,6 +91,21 @@ TEST(AppWindow, choosesTheRangeByClickAndByKey) {
   EXPECT_EQ(shown.statistics().timeRange, TimeRange::year);
 }
 
+TEST(AppWindow, tellsTheChartOfItsBarsWhereAnotherRangeHasAsMany) {
+  const tests::TemporaryFolder folder;
+  const std::string sample = (folder.path / "today.json").string();
+  std::ofstream{sample} << R"({"version":1,"fasts":[{"start":"2026-03-01T01:00:00Z","end":"2026-03-01T09:00:00Z"}],
+                               "weights":[]})";
+  ShownApp shown{ShownApp::optionsFor(sample), {1280, 800}};  // so wide that a bar of a day is as wide as one of a week
+  const auto& chart = shown.statistics().stats.fastingChartState;
+  for (const TimeRange range : {TimeRange::week, TimeRange::month, TimeRange::year, TimeRange::week}) {
+    shown.model().chooseTimeRange(static_cast<int>(range));
+    settle(shown.window());
+    ASSERT_EQ(chart.data->size(), 1u);
+    EXPECT_EQ(chart.visibleDays->begin()->first, chart.data->front().dateInterval.start) << rawValue(range);
+  }
+}
+
 TEST(AppWindow, selectsABarAndClearsItByASecondTap) {
   Shown shown{threeWeeks};
   DayBars* bars = dayBars(shown);
