@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include <gtest/gtest.h>
 
-#include <atomic>
+#include <condition_variable>
+#include <deque>
+#include <functional>
 #include <latch>
 #include <memory>
+#include <mutex>
+#include <utility>
 
-#include "adapters/system/RunLoop.h"
 #include "adapters/system/ThreadPool.h"
 #include "mivo/store/Store.h"
 #include "tests/statistics/StatisticsWorld.h"
@@ -18,9 +21,39 @@ using Action = StatisticsFeature::Action;
 using Destination = StatisticsFeature::Destination;
 using Sent = PresentationAction<Destination::Action>;
 
+/// The main thread of the test: runs what any thread posts, until one of them stops it.
+class RunLoop final : public MainQueue {
+ public:
+  void post(std::function<void()> work) const override {
+    const std::scoped_lock lock{mutex};
+    waiting.push_back(std::move(work));
+    hasMore.notify_one();
+  }
+  void postAfter(Duration, std::function<void()> work) const override { post(std::move(work)); }
+
+  void stop() { isStopped = true; }
+  void run() {
+    for (isStopped = false; !isStopped;) next()();
+  }
+
+ private:
+  std::function<void()> next() {
+    std::unique_lock lock{mutex};
+    hasMore.wait(lock, [this] { return !waiting.empty(); });
+    auto work = std::move(waiting.front());
+    waiting.pop_front();
+    return work;
+  }
+
+  mutable std::mutex mutex;
+  mutable std::condition_variable hasMore;
+  mutable std::deque<std::function<void()>> waiting;
+  bool isStopped = false;
+};
+
 class Workers : public tests::StatisticsTest {
  protected:
-  std::shared_ptr<adapters::RunLoop> loop = std::make_shared<adapters::RunLoop>();
+  std::shared_ptr<RunLoop> loop = std::make_shared<RunLoop>();
   std::shared_ptr<const adapters::ThreadPool> pool = std::make_shared<adapters::ThreadPool>(4);
 };
 
