@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "adapters/system/FreedMemory.h"
+#include "cli/records/RecordCommands.h"
 #include "cli/records/RecordOptions.h"
 #include "cli/report/ReportCommand.h"
 #include "cli/terminal/StandardOutput.h"
@@ -50,6 +51,16 @@ std::string hint(const CLI::App& program) {
   return name + " --help tells what can";
 }
 
+/// Where nothing was asked for: how far the fast has come, and what can be asked.
+int greet(const CLI::App& program, const RecordOptions& options) {
+  const int status = runStatus(options);
+  if (const auto fault = writeOutput('\n' + program.help())) {
+    complain(*fault);
+    return atFault;
+  }
+  return status;
+}
+
 int run(int count, char** arguments) {
   if (const auto fault = closedOutput()) {
     complain(*fault);
@@ -71,6 +82,7 @@ int run(int count, char** arguments) {
   const std::array foreign{addForeign(program, "roadmap", "List the features that may come, and their votes"),
                            addForeign(program, "vote", "Vote for a feature of the roadmap"),
                            addForeign(program, "unvote", "Take a vote back")};
+  if (count == 1) return greet(program, recordOptions);
   try {
     program.parse(count, arguments);
   } catch (const CLI::ParseError& parsed) {

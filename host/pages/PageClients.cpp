@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: MIT
+#include "host/pages/PageClients.h"
+
+#include <algorithm>
+
+namespace mivo::host {
+
+PageClients pageClients(const Dependencies& dependencies, Date now) {
+  return {.now = now,
+          .calendar = *dependencies.calendar,
+          .texts = *dependencies.texts,
+          .dates = *dependencies.dateFormatter,
+          .hourMin = *dependencies.hourMinDurationUnitFormatter,
+          .hour = *dependencies.hourDurationUnitFormatter,
+          .numbers = *dependencies.numberFormatter};
+}
+
+std::string durationText(double seconds, const PageClients& clients) {
+  return clients.hourMin.string(std::max(0.0, seconds)).value_or("");
+}
+
+}  // namespace mivo::host
