@@ -4,6 +4,7 @@
 #include <SQLiteCpp/Database.h>
 #include <unicode/uversion.h>
 
+#include <rapidjson/rapidjson.h>
 #include <array>
 #include <boost/version.hpp>
 #include <nlohmann/json.hpp>
@@ -34,7 +35,8 @@ std::vector<Version> versionsInUse() {
           {"SQLite", SQLite::getLibVersion()},
           {"Boost", numbered(BOOST_VERSION / 100'000, BOOST_VERSION / 100 % 1000, BOOST_VERSION % 100)},
           {"nlohmann-json",
-           numbered(NLOHMANN_JSON_VERSION_MAJOR, NLOHMANN_JSON_VERSION_MINOR, NLOHMANN_JSON_VERSION_PATCH)}};
+           numbered(NLOHMANN_JSON_VERSION_MAJOR, NLOHMANN_JSON_VERSION_MINOR, NLOHMANN_JSON_VERSION_PATCH)},
+          {"RapidJSON", RAPIDJSON_VERSION_STRING}};
 }
 
 std::string versionText(const std::string& program, const std::vector<Version>& details) {

@@ -52,7 +52,7 @@ TEST(ReportOutput, verboseVersionTellsOfTheMachinesZonesAndLibraries) {
   for (const char* arguments : {"--version --verbose", "--verbose --version"})
     EXPECT_THAT(place.run(arguments, ">output", "TZDIR=zones").output,
                 MatchesRegex("mivo [0-9.]+\n  time-zone data 2019z\n  ICU [0-9.]+\n  SQLite [0-9.]+\n"
-                             "  Boost [0-9.]+\n  nlohmann-json [0-9.]+\n  CLI11 [0-9.]+\n"))
+                             "  Boost [0-9.]+\n  nlohmann-json [0-9.]+\n  RapidJSON [0-9.]+\n  CLI11 [0-9.]+\n"))
         << arguments;
   EXPECT_THAT(place.run("--version --verbose", ">output", "TZDIR=none").output, HasSubstr("time-zone data unknown\n"));
   EXPECT_EQ(place.run("--verbose list").status, 2) << "says more of nothing else";
