@@ -238,13 +238,14 @@ class SnapshotReader {
     return accept();
   }
   bool weighed(std::string_view digits) {
-    const char* const end = digits.data() + digits.size();
-    const bool isNumber = std::from_chars(digits.data(), end, fields.weightInKg).ec == std::errc{};
+    const char* const begin = digits.data();
+    const bool isNumber = std::from_chars(begin, begin + digits.size(), fields.weightInKg).ec == std::errc{};
     return accept(isNumber && isBodyWeight(fields.weightInKg), digits);
   }
   static bool wholeNumber(std::string_view digits, std::int64_t& number) {
-    const char* const end = digits.data() + digits.size();
-    const auto [stop, error] = std::from_chars(digits.data(), end, number);
+    const char* const begin = digits.data();
+    const char* const end = begin + digits.size();
+    const auto [stop, error] = std::from_chars(begin, end, number);
     return error == std::errc{} && stop == end && digits.front() != '-';
   }
 
