@@ -96,7 +96,7 @@ struct CurlURLSession::Pool {
     if (idle.size() < keptConnections) idle.push_back(std::move(connection));
   }
 
-  void prepare(CURL* transfer, const std::string& url, Answer& answer, char* errorText) const {
+  void prepare(CURL* transfer, const std::string& url, Answer& answer, char* errorText, bool isSentOnce) const {
     curl_easy_reset(transfer);  // its connections stay
     curl_easy_setopt(transfer, CURLOPT_URL, url.c_str());
     curl_easy_setopt(transfer, CURLOPT_NOSIGNAL, 1L);
@@ -109,6 +109,9 @@ struct CurlURLSession::Pool {
     curl_easy_setopt(transfer, CURLOPT_WRITEFUNCTION, &receive);
     curl_easy_setopt(transfer, CURLOPT_WRITEDATA, &answer);
     curl_easy_setopt(transfer, CURLOPT_ERRORBUFFER, errorText);
+    // Where a kept connection breaks before the answer the library asks again on a new one: not with what counts.
+    curl_easy_setopt(transfer, CURLOPT_FRESH_CONNECT, isSentOnce ? 1L : 0L);
+    curl_easy_setopt(transfer, CURLOPT_FORBID_REUSE, isSentOnce ? 1L : 0L);
     if (!options.certificateAuthorities.empty())
       curl_easy_setopt(transfer, CURLOPT_CAINFO, options.certificateAuthorities.c_str());
   }
@@ -124,13 +127,21 @@ CurlURLSession::CurlURLSession(Options options) : pool{std::make_unique<Pool>()}
 CurlURLSession::~CurlURLSession() = default;
 
 std::string CurlURLSession::data(std::string_view url, std::stop_token stop) const {
+  return answerOf(url, stop, false);
+}
+
+std::string CurlURLSession::dataSentOnce(std::string_view url, std::stop_token stop) const {
+  return answerOf(url, stop, true);
+}
+
+std::string CurlURLSession::answerOf(std::string_view url, const std::stop_token& stop, bool isSentOnce) const {
   const std::string address{url};
   if (stop.stop_requested()) throw URLError{address + ": the request was stopped"};
   std::array<char, CURL_ERROR_SIZE> details{};
   Answer answer{{}, pool->options.sizeLimit};
   Connection connection = pool->taken();
   CURL* const transfer = connection.transfer.get();
-  pool->prepare(transfer, address, answer, details.data());
+  pool->prepare(transfer, address, answer, details.data(), isSentOnce);
   const CURLcode result = perform(connection, stop);
   long status = 0;
   curl_easy_getinfo(transfer, CURLINFO_RESPONSE_CODE, &status);

@@ -29,8 +29,12 @@ class CurlURLSession final : public URLSession {
 
   /// The sentences of the errors begin with the address. A request ends within a moment of `stop`.
   std::string data(std::string_view url, std::stop_token stop) const override;
+  /// On a connection of its own, which ends with the answer.
+  std::string dataSentOnce(std::string_view url, std::stop_token stop) const override;
 
  private:
+  std::string answerOf(std::string_view url, const std::stop_token& stop, bool isSentOnce) const;
+
   struct Pool;
   std::unique_ptr<Pool> pool;
 };

@@ -47,7 +47,7 @@ std::optional<std::int64_t> FeatureVoterTallyAPI::unvote(const RoadmapFeature& f
 std::optional<std::int64_t> FeatureVoterTallyAPI::add(int delta, const RoadmapFeature& feature) const {
   try {
     const auto url = address("/add/", feature) + "?delta=" + std::to_string(delta);
-    const auto count = JSONDataFetcher::loadJSON<RoadmapFeatureVotingCount>(url).value;
+    const auto count = JSONDataFetcher::loadJSONOnce<RoadmapFeatureVotingCount>(url).value;
     logLine("Successfully voted, count is now: " + debugText(count));
     return count;
   } catch (const std::exception& error) {

@@ -51,10 +51,10 @@ bool isAbsoluteURL(std::string_view url) {
 JSONDataFetcher::Error::Error(Case error, std::string_view url)
     : std::runtime_error{"The address \"" + std::string{url} + "\" is not valid."}, errorCase{error} {}
 
-JSONValue JSONDataFetcher::load(std::string_view url, std::stop_token stop) {
+JSONValue JSONDataFetcher::load(std::string_view url, std::stop_token stop, Request request) {
   if (!isAbsoluteURL(url)) throw Error{Error::invalidURL, url};
   const auto& session = dependency(&Dependencies::urlSession);
-  return dependency(&Dependencies::jsonDecoder)->decoded(session->data(url, std::move(stop)));
+  return dependency(&Dependencies::jsonDecoder)->decoded(((*session).*request)(url, std::move(stop)));
 }
 
 }  // namespace mivo

@@ -8,6 +8,7 @@
 #include <string_view>
 
 #include "mivo/platform/JSONValue.h"
+#include "mivo/platform/URLSession.h"
 
 namespace mivo {
 
@@ -32,11 +33,18 @@ struct JSONDataFetcher {
   /// where the answer is not what was expected. Blocks.
   template <JSONDecodable Type>
   static Type loadJSON(std::string_view url, std::stop_token stop = {}) {
-    return Type::decoded(load(url, std::move(stop)));
+    return Type::decoded(load(url, std::move(stop), &URLSession::data));
+  }
+
+  /// The same for an address that changes something: the request goes out once at most.
+  template <JSONDecodable Type>
+  static Type loadJSONOnce(std::string_view url) {
+    return Type::decoded(load(url, {}, &URLSession::dataSentOnce));
   }
 
  private:
-  static JSONValue load(std::string_view url, std::stop_token stop);
+  using Request = std::string (URLSession::*)(std::string_view, std::stop_token) const;
+  static JSONValue load(std::string_view url, std::stop_token stop, Request request);
 };
 
 }  // namespace mivo

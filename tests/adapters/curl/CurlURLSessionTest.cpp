@@ -59,6 +59,17 @@ TEST_F(CurlURLSessionTest, returnsTheBodyAndKeepsTheConnection) {
   EXPECT_EQ(server.connectionCount(), 1);
 }
 
+// The server takes the request and is gone before it answers: whether it counted nobody knows.
+TEST(CurlURLSession, sendsWhatCountsOnceWhereTheAnswerIsLost) {
+  const HttpServer dying{[](const std::string& target) {
+    return target == "/get" ? tests::ok("7") : HttpReply{"", HttpReply::Then::closes};
+  }};
+  const CurlURLSession own{{.timeLimit = 10s}};
+  EXPECT_EQ(own.data(dying.address() + "/get", {}), "7");  // leaves a connection open
+  EXPECT_THROW(own.dataSentOnce(dying.address() + "/add?delta=1", {}), URLError);
+  EXPECT_THAT(dying.targets(), ElementsAre("/get", "/add?delta=1"));
+}
+
 struct FailureRow {
   const char *name, *path, *reason;
 };
