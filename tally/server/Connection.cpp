@@ -13,7 +13,6 @@ constexpr std::size_t usualInbox = 1024;
 constexpr std::size_t usualOutbox = 4 << 10;
 constexpr std::size_t mostUnsent = 64 << 10;
 constexpr std::chrono::seconds partingTime{2};
-constexpr std::chrono::seconds firstRequestTime{1};  // for one that connected while the server stops
 constexpr Refusal tooSlow{408, "the request did not arrive in time"};
 
 auto now() { return std::chrono::steady_clock::now(); }
@@ -49,7 +48,7 @@ void Connection::enter(Phase phase, Instant deadline) {
 }
 
 void Connection::awaitRequest() {
-  enter(Phase::idle, now() + (isDraining_ ? firstRequestTime : work_.options.idleTime));
+  enter(Phase::idle, now() + (isDraining_ ? work_.options.drainTime : work_.options.idleTime));
 }
 
 void Connection::read() {
@@ -138,7 +137,6 @@ void Connection::finish(Answer answer) {
                 .keepAlive = keepAlive_,
                 .isHttp11 = request_.isHttp11});
   log(answer);
-  hasServed_ = true;
   work_.connections.splice(work_.connections.end(), work_.connections, place_);
 }
 
@@ -194,10 +192,7 @@ void Connection::checkDeadline(Instant now) {
 
 void Connection::drain(Instant now) {
   isDraining_ = true;
-  if (phase_ != Phase::idle) return;
-  error_code error;
-  if (hasServed_ && stream_.socket().available(error) == 0) return close();
-  deadline_ = std::min(deadline_, now + firstRequestTime);
+  if (phase_ == Phase::idle) deadline_ = std::min(deadline_, now + work_.options.drainTime);
 }
 
 void Connection::close() {

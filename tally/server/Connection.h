@@ -41,7 +41,7 @@ class Connection : public std::enable_shared_from_this<Connection> {
   void start(Connections::iterator place);
   /// Cuts off what took too long: with 408 in the middle of a request, without a word between two.
   void checkDeadline(Instant now);
-  /// Closes where nothing is under way; else the next answer says that it is the last.
+  /// The next answer says that it is the last. A request may be on its way to an idle connection, so it is waited for.
   void drain(Instant now);
   /// In every phase but the one in which the store is asked: a client can be slow at a handshake and at reading too.
   bool isWaitingForClient() const { return phase_ != Phase::asking; }
@@ -83,7 +83,6 @@ class Connection : public std::enable_shared_from_this<Connection> {
   bool wasRefused_ = false;
   bool keepAlive_ = true;
   bool isDraining_ = false;
-  bool hasServed_ = false;
 };
 
 }  // namespace mivo::tally

@@ -56,6 +56,9 @@ std::string Metrics::text(const Present& present) const {
   single(out, "store_operations_total", "counter", "Reads and votes in those batches.", operations_);
   single(out, "open_connections", "gauge", "Connections that are open.", present.openConnections);
   single(out, "store_available", "gauge", "1 where a vote is likely to be kept.", present.isStoreAvailable ? 1 : 0);
+  single(out, "store_damaged", "gauge", "1 where a part of the store cannot be read.", present.isStoreDamaged ? 1 : 0);
+  single(out, "store_write_ahead_log_bytes", "gauge", "Size of the log that waits to be folded into the database.",
+         present.writeAheadLogBytes);
   return out.str();
 }
 

@@ -13,6 +13,8 @@ class Metrics {
   struct Present {
     std::size_t openConnections = 0;
     bool isStoreAvailable = false;
+    bool isStoreDamaged = false;
+    std::uintmax_t writeAheadLogBytes = 0;
   };
 
   void answered(unsigned status, std::chrono::microseconds duration);

@@ -51,6 +51,8 @@ struct Texts {
   std::string store = "sqlite:" + defaultDatabase().string();
   unsigned requestSeconds = 10;
   unsigned idleSeconds = 60;
+  unsigned drainSeconds = 2;
+  unsigned storeSeconds = 5;
 };
 
 void addFlags(CLI::App& app, ServeOptions& options, Texts& texts) {
@@ -80,6 +82,14 @@ void addFlags(CLI::App& app, ServeOptions& options, Texts& texts) {
       ->type_name("N")
       ->capture_default_str();
   app.add_option("--idle-seconds", texts.idleSeconds, "Time between requests")
+      ->check(seconds)
+      ->type_name("N")
+      ->capture_default_str();
+  app.add_option("--drain-seconds", texts.drainSeconds, "On SIGTERM, time for what clients have sent already")
+      ->check(seconds)
+      ->type_name("N")
+      ->capture_default_str();
+  app.add_option("--store-seconds", texts.storeSeconds, "Time for what is asked of the store")
       ->check(seconds)
       ->type_name("N")
       ->capture_default_str();
@@ -117,6 +127,8 @@ ServeOptions finished(ServeOptions options, const Texts& texts) {
   options.store = parseStoreAddress(texts.store);
   options.requestTime = std::chrono::seconds{texts.requestSeconds};
   options.idleTime = std::chrono::seconds{texts.idleSeconds};
+  options.drainTime = std::chrono::seconds{texts.drainSeconds};
+  options.storeTime = std::chrono::seconds{texts.storeSeconds};
   check(options);
   return options;
 }

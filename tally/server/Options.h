@@ -23,6 +23,8 @@ struct ServeOptions {
   AllowedOrigins allowedOrigins;
   std::chrono::seconds requestTime{10};  // from a request's first byte to its last, and to take an answer
   std::chrono::seconds idleTime{60};     // between two requests
+  std::chrono::seconds drainTime{2};     // for the next request of a connection that is kept, once told to stop
+  std::chrono::seconds storeTime{5};     // for what is asked of the store
   std::size_t mostConnections = 20'000;
 };
 

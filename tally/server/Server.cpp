@@ -143,7 +143,10 @@ void Server::stopWhenDone() {
 }
 
 std::string Server::metricsText() const {
-  return metrics_.text({.openConnections = connections_.size(), .isStoreAvailable = store_.isAvailable()});
+  return metrics_.text({.openConnections = connections_.size(),
+                        .isStoreAvailable = store_.isAvailable(),
+                        .isStoreDamaged = store_.isDamaged(),
+                        .writeAheadLogBytes = store_.writeAheadLogBytes()});
 }
 
 }  // namespace mivo::tally

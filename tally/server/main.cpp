@@ -32,11 +32,11 @@ std::size_t raiseDescriptorLimit(std::size_t wanted) {
   return limit.rlim_cur > others ? std::min<std::size_t>(wanted, limit.rlim_cur - others) : 1;
 }
 
-std::unique_ptr<CounterStore> makeStore(asio::io_context& loop, const StoreAddress& address, Log& log) {
+std::unique_ptr<CounterStore> makeStore(asio::io_context& loop, const ServeOptions& options, Log& log) {
   const Report report = [&log](std::string_view text) { log.event("store", text); };
-  if (const auto* redis = std::get_if<RedisAddress>(&address))
-    return std::make_unique<RedisStore>(loop, *redis, report);
-  return std::make_unique<SqliteStore>(loop, std::get<SqliteAddress>(address).file, report);
+  if (const auto* redis = std::get_if<RedisAddress>(&options.store))
+    return std::make_unique<RedisStore>(loop, *redis, report, options.storeTime);
+  return std::make_unique<SqliteStore>(loop, std::get<SqliteAddress>(options.store).file, report, options.storeTime);
 }
 
 int run(Exit exit) { return exit.code; }
@@ -45,7 +45,7 @@ int run(ServeOptions options) {
   options.mostConnections = raiseDescriptorLimit(options.mostConnections);
   asio::io_context loop{1};
   Log log{STDERR_FILENO};
-  const auto store = makeStore(loop, options.store, log);
+  const auto store = makeStore(loop, options, log);
   Server{loop, options, *store, log}.run();
   log.event("stopped", "every answered vote is kept");
   return 0;

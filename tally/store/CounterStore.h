@@ -33,8 +33,8 @@ using Results = std::vector<Result>;
 /// Takes one line for the log: what went wrong with the store, or that it is back.
 using Report = std::function<void(std::string_view)>;
 
-/// Where the counters are. Used from the event loop's thread alone; `submit` is called again only from
-/// its `done`, or after it.
+/// Where the counters are. Used from the event loop's thread alone; `submit` is called again only from its `done`, or
+/// after it; where the store reads apart, a batch of reads and one with votes may be under way beside each other.
 class CounterStore {
  public:
   virtual ~CounterStore() = default;
@@ -45,6 +45,11 @@ class CounterStore {
   virtual void submit(Operations operations, std::function<void(Results)> done) = 0;
   /// Whether a vote sent now is likely to be kept.
   virtual bool isAvailable() const = 0;
+  virtual bool readsApart() const { return false; }
+  /// Whether a part of it was found that cannot be read.
+  virtual bool isDamaged() const { return false; }
+  /// How much waits to be folded into the database.
+  virtual std::uintmax_t writeAheadLogBytes() const { return 0; }
 };
 
 /// count + delta, or nothing where that leaves 64 bits.

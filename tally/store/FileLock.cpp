@@ -10,18 +10,28 @@
 #include <stdexcept>
 
 namespace mivo::tally {
+namespace {
 
-FileLock::FileLock(const std::filesystem::path& file) {
+std::filesystem::path withItsFolder(const std::filesystem::path& file) {
   std::filesystem::create_directories(std::filesystem::absolute(file).parent_path());
-  const auto lockFile = file.string() + ".lock";
-  descriptor_ = ::open(lockFile.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0600);
-  if (descriptor_ < 0) throw std::runtime_error(lockFile + ": " + std::strerror(errno));
-  if (::flock(descriptor_, LOCK_EX | LOCK_NB) == 0) return;
-  const auto reason = errno == EWOULDBLOCK ? "another mivo-tally is using it" : std::strerror(errno);
-  ::close(descriptor_);
-  throw std::runtime_error(file.string() + ": " + reason);
+  return file;
 }
 
-FileLock::~FileLock() { ::close(descriptor_); }
+}  // namespace
+
+FileLock::FileLock(const std::filesystem::path& file)
+    : lockFile_(withItsFolder(file).string() + ".lock", file), database_(file, file) {}
+
+FileLock::Descriptor::Descriptor(const std::filesystem::path& path, const std::filesystem::path& database) {
+  constexpr mode_t ownersOnly = 0600;
+  number_ = ::open(path.c_str(), O_RDONLY | O_CREAT | O_CLOEXEC, ownersOnly);
+  if (number_ < 0) throw std::runtime_error(path.string() + ": " + std::strerror(errno));
+  if (::flock(number_, LOCK_EX | LOCK_NB) == 0) return;
+  const auto reason = errno == EWOULDBLOCK ? "another mivo-tally is using it" : std::strerror(errno);
+  ::close(number_);
+  throw std::runtime_error(database.string() + ": " + reason);
+}
+
+FileLock::Descriptor::~Descriptor() { ::close(number_); }
 
 }  // namespace mivo::tally

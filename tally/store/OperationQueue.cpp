@@ -4,30 +4,32 @@
 namespace mivo::tally {
 
 void OperationQueue::add(Operation operation, std::function<void(Result)> done) {
-  operations_.push_back(std::move(operation));
-  callbacks_.push_back(std::move(done));
-  if (!isUnderWay_) sendSoon();
+  auto& lane = operation.delta == 0 && store_.readsApart() ? reads_ : votes_;
+  lane.operations.push_back(std::move(operation));
+  lane.callbacks.push_back(std::move(done));
+  if (!lane.isUnderWay) sendSoon(lane);
 }
 
 // Posted, so that the requests that became readable in the same wake-up come along.
-void OperationQueue::sendSoon() {
-  isUnderWay_ = true;
-  asio::post(loop_, [this] { send(); });
+void OperationQueue::sendSoon(Lane& lane) {
+  lane.isUnderWay = true;
+  asio::post(loop_, [this, &lane] { send(lane); });
 }
 
-void OperationQueue::send() {
-  batchSent_(operations_.size());
-  underWay_ = std::exchange(callbacks_, {});
-  store_.submit(std::exchange(operations_, {}), [this](const Results& results) { didFinish(results); });
+void OperationQueue::send(Lane& lane) {
+  batchSent_(lane.operations.size());
+  lane.underWay = std::exchange(lane.callbacks, {});
+  store_.submit(std::exchange(lane.operations, {}),
+                [this, &lane](const Results& results) { didFinish(lane, results); });
 }
 
-void OperationQueue::didFinish(const Results& results) {
-  isUnderWay_ = false;
-  const auto answered = std::exchange(underWay_, {});
+void OperationQueue::didFinish(Lane& lane, const Results& results) {
+  lane.isUnderWay = false;
+  const auto answered = std::exchange(lane.underWay, {});
   // The next batch is on its way while these are answered.
-  if (!operations_.empty()) {
-    isUnderWay_ = true;
-    send();
+  if (!lane.operations.empty()) {
+    lane.isUnderWay = true;
+    send(lane);
   }
   for (std::size_t i = 0; i < answered.size(); ++i) answered[i](results[i]);
 }

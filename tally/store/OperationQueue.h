@@ -6,7 +6,8 @@
 namespace mivo::tally {
 
 /// Gathers what connections ask of the store while its last batch is under way, and sends that as the next one: however
-/// many vote at once, one flush of the disk or one round trip serves them all.
+/// many vote at once, one flush of the disk or one round trip serves them all. Where the store reads apart, reads do
+/// not wait for votes.
 class OperationQueue {
  public:
   /// Told once a batch: how many operations it held.
@@ -16,22 +17,29 @@ class OperationQueue {
       : loop_(loop), store_(store), batchSent_(std::move(batchSent)) {}
 
   void add(Operation operation, std::function<void(Result)> done);
-  bool isIdle() const { return !isUnderWay_ && operations_.empty(); }
+  bool isIdle() const { return votes_.isIdle() && reads_.isIdle(); }
 
  private:
   using Callbacks = std::vector<std::function<void(Result)>>;
 
-  void sendSoon();
-  void send();
-  void didFinish(const Results& results);
+  struct Lane {
+    bool isIdle() const { return !isUnderWay && operations.empty(); }
+
+    Operations operations;
+    Callbacks callbacks;
+    Callbacks underWay;
+    bool isUnderWay = false;
+  };
+
+  void sendSoon(Lane& lane);
+  void send(Lane& lane);
+  void didFinish(Lane& lane, const Results& results);
 
   asio::io_context& loop_;
   CounterStore& store_;
   BatchSent batchSent_;
-  Operations operations_;
-  Callbacks callbacks_;
-  Callbacks underWay_;
-  bool isUnderWay_ = false;
+  Lane votes_;
+  Lane reads_;
 };
 
 }  // namespace mivo::tally

@@ -4,13 +4,6 @@
 #include <boost/asio/connect.hpp>
 
 namespace mivo::tally {
-namespace {
-
-// Longer than any healthy Redis takes, also one that flushes each write; shorter than a client waits.
-constexpr std::chrono::seconds longestWait{5};
-
-}  // namespace
-
 template <class Next>
 auto RedisLink::step(Next next) {
   return [self = shared_from_this(), next = std::move(next)](error_code error, const auto&... results) {
@@ -21,8 +14,13 @@ auto RedisLink::step(Next next) {
   };
 }
 
-RedisLink::RedisLink(asio::io_context& loop, RedisAddress address)
-    : address_(std::move(address)), loop_(loop), tls_(ssl::context::tls_client), resolver_(loop), deadline_(loop) {
+RedisLink::RedisLink(asio::io_context& loop, RedisAddress address, std::chrono::seconds longestWait)
+    : address_(std::move(address)),
+      longestWait_(longestWait),
+      loop_(loop),
+      tls_(ssl::context::tls_client),
+      resolver_(loop),
+      deadline_(loop) {
   tls_.set_options(ssl::context::no_tlsv1 | ssl::context::no_tlsv1_1);
   error_code ignored;  // without authorities no certificate passes, which then says so
   static_cast<void>(tls_.set_default_verify_paths(ignored));
@@ -100,11 +98,11 @@ void RedisLink::take(std::size_t size) {
 }
 
 void RedisLink::startDeadline() {
-  deadline_.expires_after(longestWait);
+  deadline_.expires_after(longestWait_);
   deadline_.async_wait([self = shared_from_this()](error_code error) {
     // The answer may have come after the time ran out, and before this was called.
     const bool isOver = !error && self->deadline_.expiry() <= std::chrono::steady_clock::now();
-    if (isOver && !self->isClosed_) self->lose("no answer within 5 seconds");
+    if (isOver && !self->isClosed_) self->lose("no answer within " + std::to_string(self->longestWait_.count()) + " s");
   });
 }
 

@@ -20,7 +20,9 @@ class RedisLink : public std::enable_shared_from_this<RedisLink> {
   using Replied = std::function<void(Replies)>;
   using Lost = std::function<void(const std::string& reason)>;
 
-  RedisLink(asio::io_context& loop, RedisAddress address);
+  /// Nothing may take longer than `longestWait`: more than any healthy Redis takes, also one that flushes each write,
+  /// and less than a client waits.
+  RedisLink(asio::io_context& loop, RedisAddress address, std::chrono::seconds longestWait = std::chrono::seconds{5});
 
   /// Connects and logs in. `ready` is called once, unless `lost` is; `lost` is called once, then or later.
   void open(std::function<void()> ready, Lost lost);
@@ -44,6 +46,7 @@ class RedisLink : public std::enable_shared_from_this<RedisLink> {
   auto step(Next next);
 
   RedisAddress address_;
+  std::chrono::seconds longestWait_;
   asio::io_context& loop_;
   ssl::context tls_;
   tcp::resolver resolver_;

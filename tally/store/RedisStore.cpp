@@ -41,43 +41,65 @@ bool asksToReconnect(const RedisReply& reply) {
 
 bool isFault(const RedisReply& reply) { return resultOf(reply).outcome == Outcome::away; }
 
+// What is wrong with one key says nothing of the others: "ERR value is not an integer", "WRONGTYPE ...".
+bool refusesAllVotes(const RedisReply& reply) {
+  return isFault(reply) && !reply.text.starts_with("ERR ") && !reply.text.starts_with("WRONGTYPE ");
+}
+
 }  // namespace
 
-RedisStore::RedisStore(asio::io_context& loop, RedisAddress address, Report report)
-    : loop_(loop), address_(std::move(address)), report_(std::move(report)), retry_(loop), nextDelay_(firstDelay) {
+RedisStore::RedisStore(asio::io_context& loop, RedisAddress address, Report report, std::chrono::seconds longestWait)
+    : loop_(loop),
+      address_(std::move(address)),
+      report_(std::move(report)),
+      retry_(loop),
+      nextDelay_(firstDelay),
+      longestWait_(longestWait),
+      second_(loop) {
   connect();
+  lookAfter();
 }
 
 RedisStore::~RedisStore() { link_->close(); }
 
 void RedisStore::connect() {
-  link_ = std::make_shared<RedisLink>(loop_, address_);
+  link_ = std::make_shared<RedisLink>(loop_, address_, longestWait_);
   link_->open([this] { didConnect(); }, [this](const std::string& reason) { didLose(reason); });
 }
 
 void RedisStore::didConnect() {
-  isReady_ = true;
+  isConnected_ = true;
   nextDelay_ = firstDelay;
   report_("Redis at " + describe(address_.endpoint) + " is there");
-  wasReported_ = false;
+  wasAwayReported_ = false;
+  probe();
 }
 
 void RedisStore::didLose(const std::string& reason) {
-  isReady_ = false;
-  if (!std::exchange(wasReported_, true)) report_("Redis at " + describe(address_.endpoint) + " is away: " + reason);
+  isConnected_ = false;
+  takesVotes_ = false;
+  isProbing_ = false;
+  if (!std::exchange(wasAwayReported_, true))
+    report_("Redis at " + describe(address_.endpoint) + " is away: " + reason);
   retry_.expires_after(nextDelay_);
   nextDelay_ = std::min(nextDelay_ * 2, longestDelay);
   retry_.async_wait([this](error_code error) {
     if (!error) connect();
   });
-  if (isSent_) finish(Results(operations_.size()));
+  if (done_) finish(Results(operations_.size()));
 }
 
 void RedisStore::submit(Operations operations, std::function<void(Results)> done) {
   operations_ = std::move(operations);
   done_ = std::move(done);
-  if (!isReady_) return asio::post(loop_, [this] { finish(Results(operations_.size())); });
-  isSent_ = true;
+  if (isProbing_) return;  // one exchange at a time
+  if (isConnected_) return send();
+  asio::post(loop_, [this] {
+    if (done_) finish(Results(operations_.size()));
+  });
+}
+
+void RedisStore::send() {
   std::string commands;
   for (const auto& operation : operations_) {
     const auto key = redisKey(operation.counter);
@@ -90,19 +112,56 @@ void RedisStore::submit(Operations operations, std::function<void(Results)> done
 void RedisStore::didReply(const std::vector<RedisReply>& replies) {
   Results results(replies.size());
   std::ranges::transform(replies, results.begin(), resultOf);
+  for (std::size_t i = 0; i < replies.size(); ++i)
+    if (operations_[i].delta != 0) learn(replies[i]);
   const auto fault = std::ranges::find_if(replies, isFault);
-  if (fault != replies.end() && !std::exchange(wasReported_, true)) report_("Redis refuses: " + fault->text);
-  if (fault == replies.end()) wasReported_ = false;
-  if (std::ranges::any_of(replies, asksToReconnect)) {
-    link_->close();
-    asio::post(loop_, [this] { didLose("it is a replica"); });
-  }
+  if (fault != replies.end() && !std::exchange(wasRefusalReported_, true)) report_("Redis refuses: " + fault->text);
+  if (fault == replies.end() && takesVotes_) wasRefusalReported_ = false;
+  if (std::ranges::any_of(replies, asksToReconnect)) reconnect();
   finish(std::move(results));
 }
 
-void RedisStore::finish(Results results) {
-  isSent_ = false;
-  std::exchange(done_, {})(std::move(results));
+void RedisStore::lookAfter() {
+  constexpr std::chrono::seconds afterSuccess{30};
+  constexpr std::chrono::seconds afterFailure{2};
+  const auto age = std::chrono::steady_clock::now() - lastWrite_;
+  const bool isFree = isConnected_ && !isProbing_ && !done_;
+  if (isFree && age >= (takesVotes_ ? afterSuccess : afterFailure)) probe();
+  second_.expires_after(std::chrono::seconds{1});
+  second_.async_wait([this](error_code error) {
+    if (!error) lookAfter();
+  });
 }
+
+// The command of a vote, on a key that names no counter.
+void RedisStore::probe() {
+  isProbing_ = true;
+  std::string command;
+  appendCommand(command, {"INCRBY", redisKeyPrefix, "0"});
+  link_->exchange(std::move(command), 1, [this](const auto& replies) { didProbe(replies.front()); });
+}
+
+void RedisStore::didProbe(const RedisReply& reply) {
+  isProbing_ = false;
+  const bool didTakeVotes = takesVotes_;
+  learn(reply);
+  if (isFault(reply) && !std::exchange(wasRefusalReported_, true)) report_("Redis refuses: " + reply.text);
+  if (takesVotes_ && !didTakeVotes && std::exchange(wasRefusalReported_, false)) report_("Redis takes votes again");
+  if (asksToReconnect(reply)) return reconnect();  // which answers what waits
+  if (done_) send();
+}
+
+void RedisStore::learn(const RedisReply& reply) {
+  lastWrite_ = std::chrono::steady_clock::now();
+  takesVotes_ = !refusesAllVotes(reply);
+}
+
+void RedisStore::reconnect() {
+  link_->close();
+  isConnected_ = false;
+  asio::post(loop_, [this] { didLose("it is a replica"); });
+}
+
+void RedisStore::finish(Results results) { std::exchange(done_, {})(std::move(results)); }
 
 }  // namespace mivo::tally

@@ -11,21 +11,29 @@ namespace mivo::tally {
 
 /// Counters in a Redis that several instances share. No count is kept here: each read is a GET and each vote an INCRBY,
 /// which is atomic, refuses to overflow, and is never sent twice. While Redis is away every operation is `away`, and
-/// the store tries to reach it again, every two seconds at the longest.
+/// the store tries to reach it again, every two seconds at the longest. While nobody votes a write that changes nothing
+/// shows whether Redis takes votes: it may refuse them and answer all the rest.
 class RedisStore final : public CounterStore {
  public:
-  RedisStore(asio::io_context& loop, RedisAddress address, Report report);
+  RedisStore(asio::io_context& loop, RedisAddress address, Report report,
+             std::chrono::seconds longestWait = std::chrono::seconds{5});
   ~RedisStore() override;
 
   std::optional<std::int64_t> known(std::string_view) const override { return std::nullopt; }
   void submit(Operations operations, std::function<void(Results)> done) override;
-  bool isAvailable() const override { return isReady_; }
+  bool isAvailable() const override { return isConnected_ && takesVotes_; }
 
  private:
   void connect();
   void didConnect();
   void didLose(const std::string& reason);
+  void send();
   void didReply(const std::vector<RedisReply>& replies);
+  void lookAfter();
+  void probe();
+  void didProbe(const RedisReply& reply);
+  void learn(const RedisReply& reply);
+  void reconnect();
   void finish(Results results);
 
   asio::io_context& loop_;
@@ -34,12 +42,17 @@ class RedisStore final : public CounterStore {
   std::shared_ptr<RedisLink> link_;
   asio::steady_timer retry_;
   std::chrono::milliseconds nextDelay_;
-  bool isReady_ = false;
-  bool wasReported_ = false;
+  std::chrono::seconds longestWait_;
+  asio::steady_timer second_;
+  std::chrono::steady_clock::time_point lastWrite_;
+  bool isConnected_ = false;
+  bool takesVotes_ = false;  // as far as the last write tells
+  bool wasAwayReported_ = false;
+  bool wasRefusalReported_ = false;
 
   Operations operations_;
   std::function<void(Results)> done_;
-  bool isSent_ = false;  // operations_ are in flight
+  bool isProbing_ = false;  // the operations wait
 };
 
 }  // namespace mivo::tally

@@ -71,6 +71,7 @@ void readCounts(RedisConversation& redis, const std::vector<RedisReply>& keys, C
   for (const auto& key : keys) words.emplace_back(key.text);
   const auto values = redis.ask(words).list;
   for (std::size_t i = 0; i < keys.size(); ++i) {
+    if (keys[i].text == redisKeyPrefix) continue;  // what servers probe with
     const auto counter = keys[i].text.substr(redisKeyPrefix.size());
     counts[counter] = numberOf(counter, values.at(i));
   }

@@ -5,8 +5,10 @@
 #include <sqlite3.h>
 
 #include <algorithm>
+#include <optional>
 #include <stdexcept>
 #include <unordered_map>
+#include <utility>
 
 namespace mivo::tally {
 namespace {
@@ -35,32 +37,48 @@ void prepare(SQLite::Database& database) {
   transaction.commit();
 }
 
-SQLite::Database openDatabase(const std::filesystem::path& file, SqliteCounters::Access access) {
+SQLite::Database openDatabase(const std::filesystem::path& file, SqliteCounters::Access access,
+                              std::chrono::milliseconds busyTime) {
   const bool writes = access == SqliteCounters::Access::readWrite;
-  constexpr int busyMilliseconds = 5000;
-  SQLite::Database database{
-      file.string(), writes ? SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE : SQLite::OPEN_READONLY, busyMilliseconds};
+  SQLite::Database database{file.string(),
+                            writes ? SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE : SQLite::OPEN_READONLY,
+                            static_cast<int>(busyTime.count())};
   if (writes) prepare(database);
   return database;
 }
 
 bool isRead(const Operation& operation) { return operation.delta == 0; }
 
+bool isDamage(const SQLite::Exception& error) { return (error.getErrorCode() & 0xff) == SQLITE_CORRUPT; }
+
 }  // namespace
 
 struct SqliteCounters::Database {
-  Database(const std::filesystem::path& file, Access access)
-      : connection(openDatabase(file, access)),
+  Database(const std::filesystem::path& file, Access access, std::chrono::milliseconds busyTime)
+      : connection(openDatabase(file, access, busyTime)),
         select(connection, "SELECT value FROM counter WHERE name = ?"),
         upsert(connection, "INSERT INTO counter VALUES (?1, ?2) ON CONFLICT (name) DO UPDATE SET value = ?2"),
         begin(connection, "BEGIN IMMEDIATE"),
-        commit(connection, "COMMIT") {}
+        commit(connection, "COMMIT"),
+        version(connection, "PRAGMA data_version") {}
+
+  std::int64_t dataVersion() {
+    version.executeStep();
+    const std::int64_t value = version.getColumn(0).getInt64();
+    version.reset();
+    return value;
+  }
 
   std::int64_t count(const std::string& counter) {
-    select.bindNoCopy(1, counter);
-    const std::int64_t value = select.executeStep() ? select.getColumn(0).getInt64() : 0;
-    select.reset();
-    return value;
+    try {
+      select.bindNoCopy(1, counter);
+      const std::int64_t value = select.executeStep() ? select.getColumn(0).getInt64() : 0;
+      select.reset();
+      return value;
+    } catch (...) {
+      select.tryReset();
+      throw;
+    }
   }
 
   void set(const std::string& counter, std::int64_t value) {
@@ -76,8 +94,8 @@ struct SqliteCounters::Database {
 
   template <class Body>
   auto inTransaction(Body body) {
-    run(begin);
     try {
+      run(begin);
       auto result = body();
       run(commit);
       return result;
@@ -89,12 +107,14 @@ struct SqliteCounters::Database {
 
   // Some failures have already rolled back; a statement that failed keeps its lock until it is reset.
   void recover() {
-    for (auto* statement : {&select, &upsert, &begin, &commit}) statement->tryReset();
+    for (auto* statement : {&select, &upsert, &begin, &commit, &version}) statement->tryReset();
     if (sqlite3_get_autocommit(connection.getHandle()) == 0) connection.tryExec("ROLLBACK");
   }
 
   SQLite::Database connection;
-  SQLite::Statement select, upsert, begin, commit;
+  SQLite::Statement select, upsert, begin, commit, version;
+  std::string damage;
+  std::int64_t lastVersion = dataVersion();
 };
 
 // However often a batch votes for a counter, its row is read and written once.
@@ -110,49 +130,110 @@ class SqliteCounters::Batch {
 
   void write() {
     for (const auto& [counter, count] : counts_)
-      if (count.isChanged) database_.set(*count.name, count.value);
+      if (count.isChanged) database_.set(*count.name, *count.value);
   }
 
  private:
   struct Count {
     const std::string* name;
-    std::int64_t value;
+    std::optional<std::int64_t> value;  // nothing where it cannot be read
     bool isChanged = false;
   };
+
+  std::optional<std::int64_t> read(const std::string& counter) {
+    try {
+      return database_.count(counter);
+    } catch (const SQLite::Exception& error) {
+      database_.damage = counter + ": " + error.what();
+      return std::nullopt;
+    }
+  }
 
   Result result(const Operation& operation) {
     auto found = counts_.find(operation.counter);
     if (found == counts_.end()) {
-      const Count count{&operation.counter, database_.count(operation.counter)};
+      const Count count{&operation.counter, read(operation.counter)};
       found = counts_.emplace(operation.counter, count).first;
     }
     auto& count = found->second;
-    const auto after = added(count.value, operation.delta);
-    if (!after) return {Outcome::overflow, count.value};
+    if (!count.value) return {};
+    const auto after = added(*count.value, operation.delta);
+    if (!after) return {Outcome::overflow, *count.value};
     count.isChanged = count.isChanged || !isRead(operation);
-    count.value = *after;
-    return {Outcome::counted, count.value};
+    count.value = after;
+    return {Outcome::counted, *after};
   }
 
   Database& database_;
   std::unordered_map<std::string_view, Count> counts_;
 };
 
-SqliteCounters::SqliteCounters(const std::filesystem::path& file, Access access) : file_(file) {
-  database_ = naming(file, [&] { return std::make_unique<Database>(file, access); });
+SqliteCounters::SqliteCounters(const std::filesystem::path& file, Access access, std::chrono::milliseconds busyTime)
+    : file_(file) {
+  database_ = naming(file, [&] { return std::make_unique<Database>(file, access, busyTime); });
 }
 
 SqliteCounters::~SqliteCounters() = default;
 
 Results SqliteCounters::apply(const Operations& operations) {
   return naming(file_, [&] {
+    if (std::ranges::all_of(operations, isRead)) return Batch{*database_}.results(operations);
+    try {
+      return applyTogether(operations);
+    } catch (const SQLite::Exception& error) {
+      if (!isDamage(error)) throw;
+      return applyOneByOne(operations);
+    }
+  });
+}
+
+Results SqliteCounters::applyTogether(const Operations& operations) {
+  return database_->inTransaction([&] {
     Batch batch{*database_};
-    if (std::ranges::all_of(operations, isRead)) return batch.results(operations);
-    return database_->inTransaction([&] {
-      auto results = batch.results(operations);
-      batch.write();
-      return results;
-    });
+    auto results = batch.results(operations);
+    batch.write();
+    return results;
+  });
+}
+
+// A page that can be read and not be written spoils its batch: the others of it are kept without it.
+Results SqliteCounters::applyOneByOne(const Operations& operations) {
+  Results results;
+  for (const auto& operation : operations) {
+    try {
+      results.push_back(applyTogether({operation}).front());
+    } catch (const SQLite::Exception& error) {
+      if (!isDamage(error)) throw;
+      database_->damage = operation.counter + ": " + error.what();
+      results.emplace_back();
+    }
+  }
+  return results;
+}
+
+std::string SqliteCounters::takeDamage() { return std::exchange(database_->damage, {}); }
+
+std::string SqliteCounters::damage() {
+  try {
+    const std::string found = database_->connection.execAndGet("PRAGMA quick_check(1)").getText();
+    return found == "ok" ? std::string{} : found;
+  } catch (const SQLite::Exception& error) {
+    return error.what();
+  }
+}
+
+void SqliteCounters::probe() {
+  naming(file_, [&] {
+    database_->inTransaction(
+        [&] { return database_->connection.exec("PRAGMA user_version = " + std::to_string(schemaVersion)); });
+  });
+}
+
+bool SqliteCounters::wasChangedByOthers() {
+  return naming(file_, [&] {
+    const auto version = database_->dataVersion();
+    const auto last = std::exchange(database_->lastVersion, version);
+    return last != version;
   });
 }
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
+#include <chrono>
 #include <filesystem>
 #include <functional>
 #include <memory>
@@ -15,12 +16,23 @@ class SqliteCounters {
  public:
   enum class Access { readOnly, readWrite };
 
-  /// Opens the file; for writing, makes it where it is missing.
-  SqliteCounters(const std::filesystem::path& file, Access access);
+  /// Opens the file; for writing, makes it where it is missing. An operation waits up to `busyTime` for another process
+  /// that writes.
+  SqliteCounters(const std::filesystem::path& file, Access access,
+                 std::chrono::milliseconds busyTime = std::chrono::seconds{5});
   ~SqliteCounters();
 
-  /// All votes in one transaction, flushed once. After a throw none of them is kept.
+  /// All votes in one transaction, flushed once. After a throw none of them is kept. A counter that lies on a damaged
+  /// page is `away`, and the others go on.
   Results apply(const Operations& operations);
+  /// What apply could not read since this was asked last; empty for nothing.
+  std::string takeDamage();
+  /// What is wrong with the file, looked at from one end to the other; empty for nothing.
+  std::string damage();
+  /// Writes and flushes as a vote does, and changes no counter. Throws where a vote would not be kept now.
+  void probe();
+  /// Whether another process wrote since this was asked last.
+  bool wasChangedByOthers();
   /// 0 for a counter that nobody voted for.
   std::int64_t count(std::string_view counter);
   /// Every counter in order of its name.
@@ -31,6 +43,9 @@ class SqliteCounters {
  private:
   struct Database;
   class Batch;
+  Results applyTogether(const Operations& operations);
+  Results applyOneByOne(const Operations& operations);
+
   std::filesystem::path file_;
   std::unique_ptr<Database> database_;
 };

@@ -1,55 +1,85 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 #include <chrono>
-#include <condition_variable>
-#include <mutex>
-#include <thread>
+#include <optional>
 #include <unordered_map>
 
 #include "tally/net/Asio.h"
 #include "tally/store/CounterStore.h"
+#include "tally/store/FileIdentity.h"
 #include "tally/store/FileLock.h"
 #include "tally/store/SqliteCounters.h"
+#include "tally/store/Worker.h"
 
 namespace mivo::tally {
 
-/// Counters in a SQLite file that this process alone writes to. A thread of its own commits the batches, so that the
-/// event loop never waits for a disk; counts that were read or committed are kept in memory for the next reader.
+/// Counters in a SQLite file that no other server has. One thread commits the batches and one reads, so that the event
+/// loop never waits for a disk nor a read for a vote; counts that were read or committed are kept in memory for the
+/// next reader, until another process writes to the file. While nobody votes a write that changes nothing shows whether
+/// votes can be kept.
 class SqliteStore final : public CounterStore {
  public:
-  /// Throws std::runtime_error with one sentence where the file cannot be used.
-  SqliteStore(asio::io_context& loop, const std::filesystem::path& file, Report report);
+  /// A batch waits up to `busyTime` for another process that writes. Throws std::runtime_error with one sentence where
+  /// the file cannot be used at all; one that is damaged or cannot be written is served, and reported.
+  SqliteStore(asio::io_context& loop, const std::filesystem::path& file, Report report,
+              std::chrono::milliseconds busyTime = std::chrono::seconds{5});
   ~SqliteStore() override;
 
   std::optional<std::int64_t> known(std::string_view counter) const override;
   void submit(Operations operations, std::function<void(Results)> done) override;
-  bool isAvailable() const override;
+  bool isAvailable() const override { return !isFailing_; }
+  bool readsApart() const override { return true; }
+  bool isDamaged() const override { return isDamaged_; }
+  std::uintmax_t writeAheadLogBytes() const override;
 
  private:
   struct Hash : std::hash<std::string_view> {
     using is_transparent = void;
   };
+  struct Batch {
+    Operations operations;  // the event loop's, except between submit and done
+    std::function<void(Results)> done;
+  };
+  using Instant = std::chrono::steady_clock::time_point;
 
-  void write(const std::stop_token& stop);
-  void readWhatCanBeRead(Results& results);
-  void didWrite(const Results& results, const std::string& fault);
-  void remember(const Results& results);
+  // On the threads.
+  void read();
+  void write();
+  void lookAfter();
+  std::string faultOfProbe();
+  std::string faultOfFile() const;
+  void noteWrite(const std::string& fault);
+
+  // On the event loop.
+  void didRead(Results results, const std::string& damage);
+  void didWrite(const Results& results, const std::string& fault, const std::string& damage);
+  void didLook(bool wasChanged, const std::optional<std::string>& fault);
+  void learnFault(const std::string& fault);
+  void learnDamage(const std::string& damage);
+  void makeRoom(std::size_t counts);
+  void forget();
 
   asio::io_context& loop_;
   Report report_;
   FileLock lock_;
   SqliteCounters counters_;
+  SqliteCounters reads_;
+  FileIdentity database_;
+  FileIdentity writeAheadLog_;
 
   std::unordered_map<std::string, std::int64_t, Hash, std::equal_to<>> counts_;
-  Operations operations_;  // the event loop's, except between submit and done
-  std::function<void(Results)> done_;
-  std::chrono::steady_clock::time_point lastFailure_ = std::chrono::steady_clock::time_point::min();
+  bool wasForgotten_ = false;  // since the present batch of reads was sent
+  Batch reading_;
+  Batch writing_;
   bool isFailing_ = false;
+  bool isDamaged_ = false;
 
-  std::mutex mutex_;
-  std::condition_variable_any wake_;
-  bool hasWork_ = false;
-  std::jthread writer_;
+  // The writer's own.
+  Instant lastWrite_;
+  bool didWriteFail_ = false;
+
+  Worker reader_;
+  std::optional<Worker> writer_;
 };
 
 }  // namespace mivo::tally

@@ -42,6 +42,20 @@ TEST_F(SignalsTest, terminationFinishesTheRequestThatHasBegun) {
   EXPECT_THAT(server.process().output(), HasSubstr("\"stopped\""));
 }
 
+// The client has sent it, or is about to, and cannot know that the server ends.
+TEST_F(SignalsTest, terminationAnswersTheNextRequestOfAKeptConnection) {
+  TallyServer server{store(), {"--drain-seconds", "5"}};
+  HttpClient kept{server.port()};
+  kept.get("/health");
+  server.process().send(SIGTERM);
+  server.process().waitForLine("\"stopping\"");
+  const auto last = kept.get("/add/a/feature1?delta=1");
+  EXPECT_EQ(countOf(last), 1);
+  EXPECT_EQ(last.headers.at("connection"), "close");
+  EXPECT_EQ(kept.receiveAll(), "");
+  EXPECT_EQ(server.process().wait(), 0);
+}
+
 TEST_F(SignalsTest, terminationUnderLoadLosesNoAnsweredVote) {
   std::int64_t kept = 0;
   std::int64_t unknown = 0;

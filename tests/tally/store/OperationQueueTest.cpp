@@ -73,6 +73,27 @@ TEST_F(OperationQueueTest, gathersWhileABatchIsUnderWay) {
   EXPECT_EQ(told, store.sizes);
 }
 
+TEST(OperationQueueLanes, readsDoNotWaitForVotes) {
+  class Apart final : public CounterStore {
+   public:
+    std::optional<std::int64_t> known(std::string_view) const override { return std::nullopt; }
+    bool isAvailable() const override { return true; }
+    bool readsApart() const override { return true; }
+    void submit(Operations operations, std::function<void(Results)> done) override {
+      if (operations.front().delta == 0) done({{Outcome::counted, 7}});  // votes take for ever
+    }
+  };
+  asio::io_context loop;
+  Apart store;
+  OperationQueue queue{loop, store, [](std::size_t) {}};
+  std::int64_t count = 0;
+  queue.add({"a/feature1", 1}, [](const Result&) { FAIL(); });
+  queue.add({"a/feature1", 0}, [&](const Result& result) { count = result.count; });
+  loop.poll();
+  EXPECT_EQ(count, 7);
+  EXPECT_FALSE(queue.isIdle());
+}
+
 TEST_F(OperationQueueTest, takesAnOperationFromInsideAnAnswer) {
   queue.add({"a/feature1", 1}, [this](const Result&) { add(); });
   turn();

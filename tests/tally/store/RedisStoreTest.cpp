@@ -86,6 +86,25 @@ TEST_F(RedisStoreTest, isAwayWithRedisAndComesBackByItself) {
   EXPECT_THAT(reports, ElementsAre(HasSubstr("is there"), HasSubstr("is away"), HasSubstr("is there")));
 }
 
+TEST_F(RedisStoreTest, isNotAvailableWhileRedisRefusesToWrite) {
+  const test::RedisServer redis;
+  const auto set = [&](const char* name, const char* value) {
+    test::ChildProcess{{"redis-cli", "-u", redis.address(), "CONFIG", "SET", name, value}}.wait();
+  };
+  set("min-replicas-to-write", "1");
+  auto& sut = storeAt(redis.address());
+  runUntil([&] { return reports.size() == 2; });
+  EXPECT_THAT(reports.back(), HasSubstr("Redis refuses: NOREPLICAS"));
+  EXPECT_FALSE(sut.isAvailable());
+  EXPECT_THAT(ask({{"a/feature1", 1}, {"a/feature1", 0}}), ElementsAre(away, counted(0)));
+  set("min-replicas-to-write", "0");
+  runUntil([&] { return sut.isAvailable(); });  // nobody votes
+  EXPECT_THAT(reports.back(), HasSubstr("takes votes again"));
+  set("maxmemory", "1");
+  EXPECT_THAT(ask({{"a/feature1", 1}}), ElementsAre(away));
+  EXPECT_FALSE(sut.isAvailable());
+}
+
 TEST_F(RedisStoreTest, doesNotTrustACertificateOfNobodyKnown) {
   const tests::TemporaryFolder folder;
   const test::CertificateFiles files{folder.file("certificate.pem"), folder.file("key.pem")};

@@ -4,6 +4,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <SQLiteCpp/SQLiteCpp.h>
+
 #include <fstream>
 
 #include "PrintedResult.h"
@@ -74,6 +76,68 @@ TEST_F(SqliteCountersTest, belongsToOneProcess) {
   asio::io_context loop;
   EXPECT_EQ(faultOf([&] { const SqliteStore store(loop, file, [](std::string_view) {}); }),
             file + ": another mivo-tally is using it");
+}
+
+TEST_F(SqliteCountersTest, isLockedThroughALinkAndWithoutItsLockFile) {
+  const FileLock lock{file};
+  const auto link = folder.file("link.sqlite");
+  std::filesystem::create_symlink(file, link);
+  std::filesystem::remove(file + ".lock");
+  for (const auto& path : {link, file})
+    EXPECT_EQ(faultOf([&] { const FileLock second{path}; }), path + ": another mivo-tally is using it");
+}
+
+TEST_F(SqliteCountersTest, worksAgainAfterAnotherHeldTheFile) {
+  SqliteCounters hasty{file, SqliteCounters::Access::readWrite, std::chrono::milliseconds{1}};
+  {
+    SQLite::Database other{file, SQLite::OPEN_READWRITE};
+    const SQLite::Transaction held{other, SQLite::TransactionBehavior::IMMEDIATE};
+    EXPECT_THAT(faultOf([&] { hasty.apply({{"a/feature1", 1}}); }), HasSubstr("locked"));
+    EXPECT_THAT(faultOf([&] { hasty.probe(); }), HasSubstr("locked"));
+    EXPECT_EQ(hasty.count("a/feature1"), 0);
+  }
+  EXPECT_THAT(hasty.apply({{"a/feature1", 1}}), ElementsAre(counted(1)));
+  hasty.probe();
+}
+
+TEST_F(SqliteCountersTest, knowsWhetherAnotherWrote) {
+  EXPECT_FALSE(counters.wasChangedByOthers());
+  counters.apply({{"a/feature1", 1}});
+  counters.probe();
+  EXPECT_FALSE(counters.wasChangedByOthers());
+  SqliteCounters{file, SqliteCounters::Access::readWrite}.set({{"a/feature1", 1, 9}});
+  EXPECT_TRUE(counters.wasChangedByOthers());
+  EXPECT_FALSE(counters.wasChangedByOthers());
+}
+
+// Overwrites the page that holds the text, in a file that nobody has open.
+void damagePageWith(const std::string& file, std::string_view text) {
+  constexpr std::size_t pageSize = 4096;
+  std::fstream bytes{file, std::ios::in | std::ios::out | std::ios::binary};
+  const std::string all{std::istreambuf_iterator<char>{bytes}, {}};
+  const auto found = all.find(text);
+  ASSERT_NE(found, std::string::npos);
+  bytes.clear();
+  bytes.seekp(static_cast<std::streamoff>(found / pageSize * pageSize));
+  bytes << std::string(pageSize, '\xff');
+}
+
+TEST(DamagedDatabase, losesOnlyWhatLiesOnTheDamagedPage) {
+  const tests::TemporaryFolder folder;
+  const auto file = folder.file("tally.sqlite");
+  constexpr int counters = 1000;
+  std::vector<Change> changes;
+  for (int i = 0; i < counters; ++i) changes.push_back({"a/feature" + std::to_string(10'000 + i), 0, i});
+  SqliteCounters{file, SqliteCounters::Access::readWrite}.set(changes);
+  damagePageWith(file, changes.back().counter);
+
+  SqliteCounters damaged{file, SqliteCounters::Access::readWrite};
+  EXPECT_NE(damaged.damage(), "");
+  const auto& [first, last] = std::pair{changes.front().counter, changes.back().counter};
+  EXPECT_THAT(damaged.apply({{first, 0}, {last, 0}, {first, 0}}), ElementsAre(counted(0), Result{}, counted(0)));
+  EXPECT_THAT(damaged.takeDamage(), HasSubstr(last));
+  EXPECT_THAT(damaged.apply({{first, 1}, {last, 1}, {first, 1}}), ElementsAre(counted(1), Result{}, counted(2)));
+  EXPECT_EQ(damaged.count(first), 2);
 }
 
 TEST(SqliteStoreTest, knowsWhatItReadOrCounted) {

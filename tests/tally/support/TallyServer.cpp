@@ -4,8 +4,9 @@
 namespace mivo::tally::test {
 namespace {
 
-std::vector<std::string> commandFor(const std::string& store, const std::vector<std::string>& flags) {
-  std::vector<std::string> command{tallyProgram(), "--listen", "127.0.0.1:0", "--store", store};
+std::vector<std::string> commandFor(const std::string& store, const std::vector<std::string>& flags,
+                                    std::vector<std::string> command) {
+  command.insert(command.end(), {tallyProgram(), "--listen", "127.0.0.1:0", "--store", store});
   command.insert(command.end(), flags.begin(), flags.end());
   return command;
 }
@@ -19,7 +20,8 @@ std::uint16_t portIn(const std::string& line) {
 
 std::string tallyProgram() { return MIVO_TALLY_PROGRAM; }
 
-TallyServer::TallyServer(const std::string& store, const std::vector<std::string>& flags)
-    : process_(commandFor(store, flags)), port_(portIn(process_.waitForLine("\"listening\""))) {}
+TallyServer::TallyServer(const std::string& store, const std::vector<std::string>& flags,
+                         const std::vector<std::string>& wrapper)
+    : process_(commandFor(store, flags, wrapper)), port_(portIn(process_.waitForLine("\"listening\""))) {}
 
 }  // namespace mivo::tally::test

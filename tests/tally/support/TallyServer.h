@@ -9,10 +9,12 @@ namespace mivo::tally::test {
 /// The path of the program under test.
 std::string tallyProgram();
 
-/// `mivo-tally` on a free port of this machine. It listens when the constructor returns.
+/// `mivo-tally` on a free port of this machine, started through the wrapper's words where there are any. It listens
+/// when the constructor returns.
 class TallyServer {
  public:
-  explicit TallyServer(const std::string& store, const std::vector<std::string>& flags = {"--votes-per-minute", "0"});
+  explicit TallyServer(const std::string& store, const std::vector<std::string>& flags = {"--votes-per-minute", "0"},
+                       const std::vector<std::string>& wrapper = {});
 
   std::uint16_t port() const { return port_; }
   ChildProcess& process() { return process_; }

@@ -1,0 +1,85 @@
+// SPDX-License-Identifier: MIT
+#include <SQLiteCpp/SQLiteCpp.h>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <thread>
+
+#include "tests/support/TemporaryFolder.h"
+#include "tests/tally_support/HttpClient.h"
+#include "tests/tally_support/TallyServer.h"
+
+// A database that others lock, write, move and fill while the server has it.
+namespace mivo::tally::test {
+namespace {
+
+struct Fixture : testing::Test {
+  std::string file = folder_.file("tally.sqlite");
+  std::string store = "sqlite:" + file;
+
+  // Asks until the answer is as expected, or for 20 seconds: what the server notices, it notices by looking each
+  // second.
+  template <class Condition>
+  void eventually(const Condition& condition) {
+    const auto end = std::chrono::steady_clock::now() + std::chrono::seconds{20};
+    while (!condition() && std::chrono::steady_clock::now() < end)
+      std::this_thread::sleep_for(std::chrono::milliseconds{20});
+    EXPECT_TRUE(condition());
+  }
+
+ private:
+  tests::TemporaryFolder folder_;
+};
+
+using StoreTrouble = Fixture;
+
+TEST_F(StoreTrouble, aLockOfAnotherStopsVotesOnlyAndOnlyWhileItLasts) {
+  TallyServer server{store, {"--store-seconds", "1"}};
+  HttpClient voter{server.port()};
+  HttpClient reader{server.port()};
+  EXPECT_EQ(countOf(voter.get("/add/a/feature1?delta=1")), 1);
+  {
+    SQLite::Database other{file, SQLite::OPEN_READWRITE};
+    const SQLite::Transaction held{other, SQLite::TransactionBehavior::IMMEDIATE};
+    voter.send("GET /add/a/feature1?delta=1 HTTP/1.1\r\nHost: localhost\r\n\r\n");
+    EXPECT_EQ(countOf(reader.get("/get/a/featureThatNobodyReadYet")), 0);
+    EXPECT_EQ(voter.receive().status, 503U);
+    EXPECT_EQ(reader.get("/health").status, 503U);
+  }
+  eventually([&] { return reader.get("/health").status == 200; });  // nobody votes
+  EXPECT_EQ(countOf(voter.get("/add/a/feature1?delta=1")), 2);
+}
+
+TEST_F(StoreTrouble, aCountThatAnotherWroteIsReadAgain) {
+  TallyServer server{store};
+  HttpClient client{server.port()};
+  EXPECT_EQ(countOf(client.get("/add/a/feature1?delta=1")), 1);
+  SQLite::Database{file, SQLite::OPEN_READWRITE}.exec("UPDATE counter SET value = 40");
+  eventually([&] { return countOf(client.get("/get/a/feature1")) == 40; });
+  EXPECT_EQ(countOf(client.get("/add/a/feature1?delta=1")), 41);
+}
+
+TEST_F(StoreTrouble, aDatabaseThatWasTakenAwayKeepsNoVote) {
+  TallyServer server{store};
+  HttpClient client{server.port()};
+  EXPECT_EQ(countOf(client.get("/add/a/feature1?delta=1")), 1);
+  std::filesystem::rename(file, file + ".away");
+  EXPECT_EQ(client.get("/add/a/feature1?delta=1").status, 503U);
+  EXPECT_EQ(client.get("/health").status, 503U);
+  server.process().waitForLine("was removed or replaced while it was open");
+  std::filesystem::rename(file + ".away", file);
+  eventually([&] { return client.get("/health").status == 200; });
+}
+
+TEST_F(StoreTrouble, aFullDiskIsKnownBeforeTheFirstVote) {
+  {
+    const TallyServer maker{store};
+  }
+  TallyServer server{store, {"--votes-per-minute", "0"}, {"sh", "-c", "ulimit -f 0; exec \"$@\"", "sh"}};
+  HttpClient client{server.port()};
+  EXPECT_EQ(client.get("/health").status, 503U);
+  EXPECT_EQ(countOf(client.get("/get/a/feature1")), 0);
+}
+
+}  // namespace
+}  // namespace mivo::tally::test
