@@ -31,6 +31,8 @@ std::string_view statusLine(unsigned status) {
       return "HTTP/1.1 409 Conflict\r\n";
     case 413:
       return "HTTP/1.1 413 Content Too Large\r\n";
+    case 421:
+      return "HTTP/1.1 421 Misdirected Request\r\n";
     case 429:
       return "HTTP/1.1 429 Too Many Requests\r\n";
     case 431:

@@ -25,19 +25,25 @@ std::string_view withoutPort(std::string_view entry) {
 
 }  // namespace
 
-asio::ip::address forwardedAddress(std::string_view forwardedFor, const asio::ip::address& peer) {
-  const auto comma = forwardedFor.rfind(',');
-  const auto last = comma == std::string_view::npos ? forwardedFor : forwardedFor.substr(comma + 1);
-  error_code error;
-  const auto address = asio::ip::make_address(std::string{withoutPort(trimmed(last))}, error);
-  return error ? peer : address;
+asio::ip::address forwardedAddress(std::string_view forwardedFor, const asio::ip::address& peer,
+                                   const Networks& trusted) {
+  auto client = peer;
+  while (contains(trusted, client) && !forwardedFor.empty()) {
+    const auto comma = forwardedFor.rfind(',');
+    const auto entry = comma == std::string_view::npos ? forwardedFor : forwardedFor.substr(comma + 1);
+    forwardedFor = comma == std::string_view::npos ? std::string_view{} : forwardedFor.substr(0, comma);
+    error_code error;
+    const auto address = asio::ip::make_address(std::string{withoutPort(trimmed(entry))}, error);
+    if (error) break;
+    client = address;
+  }
+  return client;
 }
 
 std::uint64_t rateKey(const asio::ip::address& client) {
-  if (client.is_v4()) return client.to_v4().to_uint();
-  const auto v6 = client.to_v6();
-  if (v6.is_v4_mapped()) return asio::ip::make_address_v4(asio::ip::v4_mapped, v6).to_uint();
-  const auto bytes = v6.to_bytes();
+  const auto plain = unmapped(client);
+  if (plain.is_v4()) return plain.to_v4().to_uint();
+  const auto bytes = plain.to_v6().to_bytes();
   return std::accumulate(bytes.begin(), bytes.begin() + 8, std::uint64_t{0},
                          [](std::uint64_t key, std::uint8_t byte) { return key << 8 | byte; });
 }

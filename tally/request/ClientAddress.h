@@ -4,12 +4,16 @@
 #include <string_view>
 
 #include "tally/net/Asio.h"
+#include "tally/net/Network.h"
 
 namespace mivo::tally {
 
-/// Whose vote this is: the last entry of X-Forwarded-For, which the nearest balancer wrote itself (those before it are
-/// the client's own words), or `peer` where that is no address.
-asio::ip::address forwardedAddress(std::string_view forwardedFor, const asio::ip::address& peer);
+/// Whose vote this is. Where `peer` is no proxy that is trusted it is `peer`, whatever the header says. Otherwise the
+/// last entry of X-Forwarded-For that is not itself a trusted proxy: each proxy wrote the one before it, and what
+/// stands before the first untrusted one are the client's own words. Where an entry is no address, what was reached
+/// until then.
+asio::ip::address forwardedAddress(std::string_view forwardedFor, const asio::ip::address& peer,
+                                   const Networks& trusted);
 
 /// What a rate is counted for: the whole of an IPv4 address (also where it comes mapped into IPv6), of an IPv6 one its
 /// first 64 bits, since one household has all the rest.

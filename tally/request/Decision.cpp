@@ -3,11 +3,12 @@
 
 namespace mivo::tally {
 
-Route decide(const Request& request, const AllowedOrigins& allowed) {
+Route decide(const Request& request, const VotePolicy& policy) {
   if (request.method == Method::other) return onlyGetAndHead;
   const auto route = routeOf(request.target);
   if (!std::holds_alternative<AddVote>(route)) return route;
-  if (const auto fault = faultOfVote(request, allowed)) return *fault;
+  if (const auto fault = faultOfVote(request, policy.allowedOrigins)) return *fault;
+  if (const auto fault = faultOfHost(request, policy.hosts)) return *fault;
   return route;
 }
 

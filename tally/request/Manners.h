@@ -13,7 +13,8 @@ namespace mivo::tally {
 using AllowedOrigins = std::vector<std::string>;
 
 /// Why this request must not change a counter, or nothing where it may: only a GET that somebody meant votes. A page of
-/// another site is known by `Origin`, or by `Sec-Fetch-Site` where it asks through an image, which sends no Origin.
+/// another place is known by `Origin`, or by `Referer` and `Sec-Fetch-Site` where it asks through an image, which sends
+/// no Origin; a page of the same site is another place too.
 std::optional<Refusal> faultOfVote(const Request& request, const AllowedOrigins& allowed);
 
 /// The value of Access-Control-Allow-Origin, or nothing where the header is left out.

@@ -14,6 +14,7 @@ struct Request {
   std::string_view target;
   std::string_view host;
   std::string_view origin;
+  std::string_view referer;
   std::string_view fetchSite;     // Sec-Fetch-Site
   std::string_view forwardedFor;  // the last X-Forwarded-For line: the nearest balancer's
   bool isPrefetch = false;

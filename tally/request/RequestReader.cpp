@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "tally/request/RequestReader.h"
 
+#include "tally/request/AsciiCase.h"
+
 #include <algorithm>
 #include <utility>
 
@@ -13,7 +15,6 @@ namespace mivo::tally {
 namespace {
 
 namespace http = boost::beast::http;
-using boost::beast::iequals;
 using boost::system::error_code;
 using View = boost::beast::string_view;  // the library's own kind, which differs between its releases
 
@@ -22,11 +23,6 @@ constexpr Refusal withBody{413, "a request must not have a body"};
 constexpr Refusal tooLong{431, "the request's line and headers must fit 8192 bytes"};
 
 std::string_view standard(View text) { return {text.data(), text.size()}; }
-
-// Which words the library knows differs between its releases too, so what protects is looked up by its name.
-bool isNamed(std::string_view name, std::string_view wanted) {
-  return name.size() == wanted.size() && iequals(View{name.data(), name.size()}, View{wanted.data(), wanted.size()});
-}
 
 // The parser checks the grammar and hands over views; only what Request names is kept.
 class Parser : public http::basic_parser<true> {
@@ -37,23 +33,34 @@ class Parser : public http::basic_parser<true> {
 
  private:
   // The parser unfolds a folded line into a buffer of its own, which would be gone when the view is used.
-  bool isInPlace(std::string_view value) const {
-    return value.empty() || (value.data() >= bytes_.data() && value.data() < bytes_.data() + bytes_.size());
+  bool isInPlace(std::string_view name, std::string_view value) const {
+    if (value.empty()) return !isFoldedAway(name);
+    return value.data() >= bytes_.data() && value.data() < bytes_.data() + bytes_.size();
+  }
+
+  // An empty value that goes on in the next line is unfolded to an empty text.
+  bool isFoldedAway(std::string_view name) const {
+    const auto rest = bytes_.substr(static_cast<std::size_t>(name.data() + name.size() - bytes_.data()));
+    const auto next = rest.find("\r\n");
+    return next != std::string_view::npos && rest.size() > next + 2 &&
+           (rest[next + 2] == ' ' || rest[next + 2] == '\t');
   }
 
   void keepOnce(std::string_view& kept, std::string_view value, error_code& error) {
-    if (!kept.empty()) error = http::error::bad_field;
-    kept = value;
+    if (kept.data() != nullptr) error = http::error::bad_field;
+    kept = value.empty() ? std::string_view{""} : value;
   }
 
   void keep(std::string_view name, std::string_view value, error_code& error) {
-    if (isNamed(name, "Host")) return keepOnce(request_.host, value, error);
-    if (isNamed(name, "Origin")) return keepOnce(request_.origin, value, error);
-    if (isNamed(name, "Transfer-Encoding")) hasTransferEncoding_ = true;
-    if (isNamed(name, "Sec-Fetch-Site")) request_.fetchSite = value;
-    if (isNamed(name, "X-Forwarded-For")) request_.forwardedFor = value;
-    const bool saysPurpose = isNamed(name, "Sec-Purpose") || isNamed(name, "Purpose") || isNamed(name, "X-Purpose") ||
-                             isNamed(name, "X-Moz");
+    if (equalsIgnoringCase(name, "Host")) return keepOnce(request_.host, value, error);
+    if (equalsIgnoringCase(name, "Origin")) return keepOnce(request_.origin, value, error);
+    // Which words the library knows differs between its releases, so what protects is found by its name.
+    if (equalsIgnoringCase(name, "Transfer-Encoding")) hasTransferEncoding_ = true;
+    if (equalsIgnoringCase(name, "Sec-Fetch-Site")) request_.fetchSite = value;
+    if (equalsIgnoringCase(name, "Referer")) request_.referer = value;
+    if (equalsIgnoringCase(name, "X-Forwarded-For")) request_.forwardedFor = value;
+    const bool saysPurpose = equalsIgnoringCase(name, "Sec-Purpose") || equalsIgnoringCase(name, "Purpose") ||
+                             equalsIgnoringCase(name, "X-Purpose") || equalsIgnoringCase(name, "X-Moz");
     if (saysPurpose && value.starts_with("pre")) request_.isPrefetch = true;  // prefetch, prerender, preview
   }
 
@@ -66,7 +73,7 @@ class Parser : public http::basic_parser<true> {
   }
 
   void on_field_impl(http::field, View name, View value, error_code& error) override {
-    if (isInPlace(standard(value))) return keep(standard(name), standard(value), error);
+    if (isInPlace(standard(name), standard(value))) return keep(standard(name), standard(value), error);
     error = http::error::bad_value;
   }
 

@@ -25,8 +25,11 @@ struct ReadHealth {
 struct ReadMetrics {
   bool operator==(const ReadMetrics&) const = default;
 };
+struct ReadRobots {
+  bool operator==(const ReadRobots&) const = default;
+};
 
-using Route = std::variant<Refusal, ReadCount, AddVote, ReadRoadmap, ReadHealth, ReadMetrics>;
+using Route = std::variant<Refusal, ReadCount, AddVote, ReadRoadmap, ReadHealth, ReadMetrics, ReadRobots>;
 
 /// What a request target asks for; a Refusal with 404 for an unknown path, with 400 for a counter's name or a delta
 /// that is wrong. Query parameters that are not `delta` are ignored, as is the query elsewhere. The views are into

@@ -205,7 +205,7 @@ void Connection::close() {
 }
 
 asio::ip::address Connection::client() const {
-  return work_.options.trustForwardedFor ? forwardedAddress(request_.forwardedFor, peer_) : peer_;
+  return forwardedAddress(request_.forwardedFor, peer_, work_.options.trustedProxies);
 }
 
 }  // namespace mivo::tally

@@ -1,11 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "tally/server/Log.h"
 
+#include <poll.h>
+#include <sys/socket.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <charconv>
+#include <nlohmann/json.hpp>
 #include <utility>
 
 namespace mivo::tally {
@@ -14,6 +18,7 @@ namespace {
 constexpr std::size_t mostWaiting = 8 << 20;
 constexpr std::size_t worthWriting = 64 << 10;
 constexpr std::size_t longestTarget = 200;
+constexpr std::size_t longestMethod = 32;
 constexpr std::chrono::milliseconds gatheringTime{50};
 
 void appendNumber(std::string& out, std::int64_t number) {
@@ -24,15 +29,12 @@ void appendNumber(std::string& out, std::int64_t number) {
 bool isPlain(char c) { return c >= ' ' && c <= '~' && c != '"' && c != '\\'; }
 
 void appendEscaped(std::string& out, std::string_view text) {
-  constexpr std::string_view digits = "0123456789abcdef";
-  for (const char c : text) {
-    if (isPlain(c)) {
-      out += c;
-      continue;
-    }
-    const auto byte = static_cast<unsigned char>(c);
-    out.append("\\u00").append(1, digits[byte >> 4U]).append(1, digits[byte & 15U]);
+  if (std::ranges::all_of(text, isPlain)) {
+    out += text;
+    return;
   }
+  const auto quoted = nlohmann::json(text).dump(-1, ' ', false, nlohmann::json::error_handler_t::replace);
+  out.append(quoted, 1, quoted.size() - 2);
 }
 
 void appendText(std::string& out, std::string_view name, std::string_view text) {
@@ -41,13 +43,18 @@ void appendText(std::string& out, std::string_view name, std::string_view text) 
   out += '"';
 }
 
-void writeAll(int descriptor, std::string_view text) {
-  while (!text.empty()) {
-    const auto written = ::write(descriptor, text.data(), text.size());
-    if (written < 0 && errno == EINTR) continue;
-    if (written < 0) return;  // there is nobody left to tell
-    text.remove_prefix(static_cast<std::size_t>(written));
-  }
+// So much a pipe that is ready takes without blocking.
+constexpr std::size_t pieceSize = 4096;
+
+// The number of bytes that were taken, or -1 and errno. A socket may be ready for less than a piece.
+ssize_t writePiece(int descriptor, std::string_view piece) {
+  const auto sent = ::send(descriptor, piece.data(), piece.size(), MSG_DONTWAIT | MSG_NOSIGNAL);
+  return sent < 0 && errno == ENOTSOCK ? ::write(descriptor, piece.data(), piece.size()) : sent;
+}
+
+bool isWritable(int descriptor, std::chrono::milliseconds patience) {
+  pollfd wanted{.fd = descriptor, .events = POLLOUT, .revents = 0};
+  return ::poll(&wanted, 1, static_cast<int>(patience.count())) > 0;
 }
 
 }  // namespace
@@ -58,7 +65,7 @@ Log::~Log() = default;
 
 void Log::request(const Request& request) {
   begin();
-  appendText(line_, "method", request.method);
+  appendText(line_, "method", request.method.substr(0, longestMethod));
   appendText(line_, "target", request.target.substr(0, longestTarget));
   line_ += ",\"status\":";
   appendNumber(line_, request.status);
@@ -87,7 +94,7 @@ void Log::end() {
   {
     const std::lock_guard guard{mutex_};
     if (waiting_.size() + line_.size() > mostWaiting) {
-      ++leftOut_;
+      ++linesLeftOut_;
       return;
     }
     wakes = waiting_.empty() || (waiting_.size() < worthWriting && waiting_.size() + line_.size() >= worthWriting);
@@ -100,7 +107,7 @@ void Log::write(const std::stop_token& stop) {
   for (;;) {
     const auto text = take(stop);
     if (text.empty()) return;
-    writeAll(descriptor_, text);
+    writeOut(stop, text);
   }
 }
 
@@ -110,9 +117,27 @@ std::string Log::take(const std::stop_token& stop) {
   wake_.wait(lock, stop, [this] { return !waiting_.empty(); });
   wake_.wait_for(lock, stop, gatheringTime, [this] { return waiting_.size() >= worthWriting; });
   auto text = std::exchange(waiting_, {});
-  if (leftOut_ > 0) text += "{\"event\":\"log\",\"text\":\"" + std::to_string(leftOut_) + " lines were left out\"}\n";
-  leftOut_ = 0;
+  const auto leftOut = linesLeftOut_ - std::exchange(toldLeftOut_, linesLeftOut_);
+  if (leftOut > 0) text += "{\"event\":\"log\",\"text\":\"" + std::to_string(leftOut) + " lines were left out\"}\n";
   return text;
+}
+
+// A reader that stopped reading must not keep the server from ending, nor may one whose end does not block lose lines.
+void Log::writeOut(const std::stop_token& stop, std::string_view text) {
+  constexpr std::chrono::milliseconds look{50};
+  constexpr std::chrono::seconds lastPatience{2};
+  auto patienceLeft = std::chrono::milliseconds{lastPatience};
+  while (!text.empty() && patienceLeft.count() > 0) {
+    if (!isWritable(descriptor_, look)) {
+      if (stop.stop_requested()) patienceLeft -= look;
+      continue;
+    }
+    const auto written = writePiece(descriptor_, text.substr(0, pieceSize));
+    if (written < 0 && (errno == EINTR || errno == EAGAIN || errno == EWOULDBLOCK)) continue;
+    if (written < 0) break;  // there is nobody left to tell
+    text.remove_prefix(static_cast<std::size_t>(written));
+  }
+  linesLeftOut_ += static_cast<std::uint64_t>(std::ranges::count(text, '\n'));
 }
 
 }  // namespace mivo::tally

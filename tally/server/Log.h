@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
+#include <atomic>
 #include <chrono>
 #include <condition_variable>
+#include <cstdint>
 #include <mutex>
 #include <string>
 #include <string_view>
@@ -12,11 +14,12 @@
 namespace mivo::tally {
 
 /// One JSON object a line, gathered and written by a thread of its own: a reader that stops reading stops no vote.
-/// Where eight megabytes wait, further lines are left out, and their number is said once there is room again.
+/// Where eight megabytes wait, further lines are left out, and their number is said once there is room again. A text is
+/// written as UTF-8; what is not UTF-8 becomes U+FFFD.
 class Log {
  public:
   struct Request {
-    std::string_view method;
+    std::string_view method;  // cut at 32 bytes
     std::string_view target;  // cut at 200 bytes
     unsigned status = 0;
     std::chrono::microseconds duration{};
@@ -25,7 +28,7 @@ class Log {
 
   /// Writes to a file descriptor, which stays the caller's.
   explicit Log(int descriptor);
-  /// Writes what is left.
+  /// Writes what is left, as long as somebody takes it within two seconds.
   ~Log();
   Log(const Log&) = delete;
   Log& operator=(const Log&) = delete;
@@ -33,12 +36,15 @@ class Log {
   /// Thread of both: one, the same.
   void request(const Request& request);
   void event(std::string_view name, std::string_view text);
+  /// Since the start. Thread: any.
+  std::uint64_t linesLeftOut() const { return linesLeftOut_; }
 
  private:
   void begin();
   void end();
   void write(const std::stop_token& stop);
   std::string take(const std::stop_token& stop);
+  void writeOut(const std::stop_token& stop, std::string_view text);
 
   int descriptor_;
   DateTexts dates_;
@@ -47,7 +53,8 @@ class Log {
   std::mutex mutex_;
   std::condition_variable_any wake_;
   std::string waiting_;
-  std::size_t leftOut_ = 0;
+  std::uint64_t toldLeftOut_ = 0;
+  std::atomic<std::uint64_t> linesLeftOut_ = 0;
   std::jthread writer_;
 };
 

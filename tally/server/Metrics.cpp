@@ -23,7 +23,7 @@ double seconds(std::int64_t microseconds) { return static_cast<double>(microseco
 }  // namespace
 
 void Metrics::answered(unsigned status, std::chrono::microseconds duration) {
-  ++answersByStatus_[std::min<std::size_t>(status, answersByStatus_.size() - 1)];
+  ++answersByStatus_[std::min<std::size_t>(status, highestStatus)];
   const auto bucket = std::ranges::lower_bound(bucketMicroseconds, duration.count());
   if (bucket != bucketMicroseconds.end())
     ++answersByDuration_[static_cast<std::size_t>(bucket - bucketMicroseconds.begin())];
@@ -59,6 +59,7 @@ std::string Metrics::text(const Present& present) const {
   single(out, "store_damaged", "gauge", "1 where a part of the store cannot be read.", present.isStoreDamaged ? 1 : 0);
   single(out, "store_write_ahead_log_bytes", "gauge", "Size of the log that waits to be folded into the database.",
          present.writeAheadLogBytes);
+  single(out, "log_lines_left_out_total", "counter", "Lines of the log that nobody took.", present.logLinesLeftOut);
   return out.str();
 }
 

@@ -15,6 +15,7 @@ class Metrics {
     bool isStoreAvailable = false;
     bool isStoreDamaged = false;
     std::uintmax_t writeAheadLogBytes = 0;
+    std::uint64_t logLinesLeftOut = 0;
   };
 
   void answered(unsigned status, std::chrono::microseconds duration);
@@ -25,9 +26,10 @@ class Metrics {
   std::string text(const Present& present) const;
 
  private:
+  static constexpr std::size_t highestStatus = 599;
   static constexpr std::array bucketMicroseconds{100, 250, 500, 1000, 2500, 5000, 10'000, 50'000, 250'000, 1'000'000};
 
-  std::array<std::uint64_t, 600> answersByStatus_{};
+  std::array<std::uint64_t, highestStatus + 1> answersByStatus_{};
   std::array<std::uint64_t, bucketMicroseconds.size()> answersByDuration_{};
   std::uint64_t answers_ = 0;
   std::int64_t microseconds_ = 0;

@@ -49,6 +49,7 @@ void check(const ServeOptions& options) {
 struct Texts {
   std::string listen = "127.0.0.1:8787";
   std::string store = "sqlite:" + defaultDatabase().string();
+  std::string trustedProxies;
   unsigned requestSeconds = 10;
   unsigned idleSeconds = 60;
   unsigned drainSeconds = 2;
@@ -71,8 +72,16 @@ void addFlags(CLI::App& app, ServeOptions& options, Texts& texts) {
   app.add_option("--votes-per-minute", options.votesPerMinute, "Votes taken from one address; 0 takes all")
       ->type_name("N")
       ->capture_default_str();
-  app.add_flag("--trust-forwarded-for", options.trustForwardedFor,
-               "Take the client's address from the last entry of X-Forwarded-For");
+  app.add_option("--trust-forwarded-for", texts.trustedProxies,
+                 "Networks of the balancers whose X-Forwarded-For is believed, 10.0.0.0/8,...; alone: private ones")
+      ->type_name("CIDR")
+      ->expected(0, 1);
+  app.add_option(
+         "--host", options.hosts,
+         "A name that this server answers to, for votes; repeatable. Without: loopback, the address of --listen "
+         "and the certificate's names")
+      ->type_name("NAME")
+      ->delimiter(',');
   app.add_option("--allow-origin", options.allowedOrigins, "A web origin whose pages may vote; repeatable; * for all")
       ->type_name("ORIGIN")
       ->delimiter(',');
@@ -119,12 +128,37 @@ void checkVariables(CLI::App& app) {
   }
 }
 
+// The value was a switch once.
+bool isSwitch(const std::string& text) { return text == "1" || text == "true" || text == "yes" || text == "on"; }
+bool isSwitchedOff(const std::string& text) { return text.empty() || text == "0" || text == "false"; }
+
+Networks parseNetworks(std::string_view text) {
+  Networks networks;
+  while (!text.empty()) {
+    const auto comma = text.find(',');
+    const auto network = parseNetwork(text.substr(0, comma));
+    if (!network)
+      throw std::invalid_argument(
+          "--trust-forwarded-for: expected networks such as 10.0.0.0/8,2001:db8::/32, found \"" +
+          std::string{text.substr(0, comma)} + '"');
+    networks.push_back(*network);
+    text = comma == std::string_view::npos ? std::string_view{} : text.substr(comma + 1);
+  }
+  return networks;
+}
+
 ServeOptions finished(ServeOptions options, const Texts& texts) {
   const auto listen = parseEndpoint(texts.listen);
   if (!listen)
     throw std::invalid_argument("--listen: expected HOST:PORT or [IPV6]:PORT, found \"" + texts.listen + '"');
   options.listen = *listen;
   options.store = parseStoreAddress(texts.store);
+  options.trustsByOldName = isSwitch(texts.trustedProxies);
+  if (options.trustsByOldName) {
+    options.trustedProxies = privateNetworks();
+  } else if (!isSwitchedOff(texts.trustedProxies)) {
+    options.trustedProxies = parseNetworks(texts.trustedProxies);
+  }
   options.requestTime = std::chrono::seconds{texts.requestSeconds};
   options.idleTime = std::chrono::seconds{texts.idleSeconds};
   options.drainTime = std::chrono::seconds{texts.drainSeconds};

@@ -2,9 +2,12 @@
 #pragma once
 #include <chrono>
 #include <filesystem>
+#include <string>
 #include <variant>
+#include <vector>
 
 #include "tally/net/Endpoint.h"
+#include "tally/net/Network.h"
 #include "tally/request/Manners.h"
 #include "tally/store/StoreAddress.h"
 
@@ -17,8 +20,10 @@ struct ServeOptions {
   std::filesystem::path certificate;  // empty: plain HTTP
   std::filesystem::path key;
   bool allowPlainHttp = false;
-  unsigned votesPerMinute = 60;  // from one address; 0: as many as it likes
-  bool trustForwardedFor = false;
+  unsigned votesPerMinute = 60;    // from one address; 0: as many as it likes
+  Networks trustedProxies;         // whose X-Forwarded-For is believed
+  bool trustsByOldName = false;    // the flag was given without networks, as older servers took it
+  std::vector<std::string> hosts;  // names that it answers to; empty: those that it knows itself
   bool logAddresses = false;
   AllowedOrigins allowedOrigins;
   std::chrono::seconds requestTime{10};  // from a request's first byte to its last, and to take an answer

@@ -20,7 +20,10 @@ Server::Server(asio::io_context& loop, const ServeOptions& options, CounterStore
       options_(options),
       store_(store),
       log_(log),
-      service_(options, store, loadRoadmap(options.roadmap), [this] { return metricsText(); }),
+      service_(
+          options, store, loadRoadmap(options.roadmap),
+          [this](const std::string& name) { return certificate_ && hasName(*certificate_, name); },
+          [this] { return metricsText(); }),
       operations_(loop, store, [this](std::size_t operations) { metrics_.batchSent(operations); }),
       workplace_{options, service_, operations_, log, metrics_, connections_, [this] { stopWhenDone(); }},
       acceptor_(loop),
@@ -49,6 +52,8 @@ void Server::run() {
   log_.event("listening", (certificate_ ? "https://" : "http://") +
                               describe(Endpoint{local.address().to_string(), std::to_string(local.port())}) +
                               ", votes in " + describe(options_.store));
+  if (options_.trustsByOldName)
+    log_.event("options", "--trust-forwarded-for without networks believes loopback and private addresses: name yours");
   accept();
   checkDeadlines();
   awaitSignal();
@@ -146,7 +151,8 @@ std::string Server::metricsText() const {
   return metrics_.text({.openConnections = connections_.size(),
                         .isStoreAvailable = store_.isAvailable(),
                         .isStoreDamaged = store_.isDamaged(),
-                        .writeAheadLogBytes = store_.writeAheadLogBytes()});
+                        .writeAheadLogBytes = store_.writeAheadLogBytes(),
+                        .logLinesLeftOut = log_.linesLeftOut()});
 }
 
 }  // namespace mivo::tally

@@ -9,6 +9,7 @@ namespace {
 constexpr unsigned retrySeconds = 5;
 constexpr Refusal storeIsAway{503, "the votes cannot be read or kept just now"};
 constexpr Refusal wouldOverflow{409, "the count cannot go further"};
+constexpr auto robots = "User-agent: *\nDisallow: /\n";  // a crawler that follows links would vote
 constexpr Refusal tooMany{429, "too many votes from this address"};
 
 template <class... Cases>
@@ -16,11 +17,20 @@ struct Overloaded : Cases... {
   using Cases::operator()...;
 };
 
+Hosts hostsOf(const ServeOptions& options, std::function<bool(const std::string&)> isCertified) {
+  if (!options.hosts.empty()) return {.names = options.hosts};
+  error_code error;
+  const auto address = asio::ip::make_address(options.listen.host, error);
+  return {.names = {"localhost", options.listen.host},
+          .isCertified = std::move(isCertified),
+          .isForPagesOnly = !error && address.is_unspecified()};
+}
+
 }  // namespace
 
 Service::Service(const ServeOptions& options, const CounterStore& store, std::string roadmap,
-                 std::function<std::string()> metricsText)
-    : allowedOrigins_(options.allowedOrigins),
+                 std::function<bool(const std::string&)> isCertified, std::function<std::string()> metricsText)
+    : policy_{options.allowedOrigins, hostsOf(options, std::move(isCertified))},
       store_(store),
       roadmap_(std::move(roadmap)),
       metricsText_(std::move(metricsText)),
@@ -42,9 +52,10 @@ std::variant<Answer, Operation> Service::handle(const Request& request, const as
           },
           [&](const ReadRoadmap&) -> Handled { return Answer{.body = roadmap_}; },
           [&](const ReadHealth&) -> Handled { return health(); },
+          [](const ReadRobots&) -> Handled { return Answer{.content = Content::text, .body = robots}; },
           [&](const ReadMetrics&) -> Handled { return Answer{.content = Content::text, .body = metricsText_()}; },
       },
-      decide(request, allowedOrigins_));
+      decide(request, policy_));
 }
 
 Answer Service::answerTo(const Result& result) const {
@@ -60,8 +71,8 @@ Answer Service::answerTo(const Result& result) const {
 }
 
 void Service::allowOrigin(const Request& request, Answer& answer) const {
-  if (allowedOrigins_.empty()) return;
-  answer.allowedOrigin = originToAllow(request, allowedOrigins_);
+  if (policy_.allowedOrigins.empty()) return;
+  answer.allowedOrigin = originToAllow(request, policy_.allowedOrigins);
   answer.variesByOrigin = true;
 }
 

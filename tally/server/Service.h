@@ -16,9 +16,9 @@ namespace mivo::tally {
 /// Turns requests into answers, or into what has to be asked of the store first. Knows no sockets.
 class Service {
  public:
-  /// `metricsText` writes the page of /metrics.
+  /// `isCertified` says whether the certificate has a name; `metricsText` writes the page of /metrics.
   Service(const ServeOptions& options, const CounterStore& store, std::string roadmap,
-          std::function<std::string()> metricsText);
+          std::function<bool(const std::string&)> isCertified, std::function<std::string()> metricsText);
 
   std::variant<Answer, Operation> handle(const Request& request, const asio::ip::address& client,
                                          std::chrono::steady_clock::time_point now);
@@ -31,7 +31,7 @@ class Service {
  private:
   Answer health() const;
 
-  AllowedOrigins allowedOrigins_;
+  VotePolicy policy_;
   const CounterStore& store_;
   std::string roadmap_;
   std::function<std::string()> metricsText_;

@@ -2,6 +2,7 @@
 #pragma once
 #include <filesystem>
 #include <memory>
+#include <string>
 
 #include "tally/net/Asio.h"
 
@@ -11,5 +12,8 @@ namespace mivo::tally {
 /// that was made with it keeps what it needs: the context may be replaced at any time.
 std::shared_ptr<ssl::context> loadCertificate(const std::filesystem::path& certificate,
                                               const std::filesystem::path& key);
+
+/// Whether the certificate was given to a host of this name or address.
+bool hasName(ssl::context& context, const std::string& name);
 
 }  // namespace mivo::tally

@@ -1,12 +1,18 @@
 // SPDX-License-Identifier: MIT
 #include "tally/store/Transfer.h"
 
-#include <fstream>
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <cerrno>
 #include <istream>
 #include <nlohmann/json.hpp>
 #include <optional>
 #include <ostream>
+#include <set>
+#include <sstream>
 #include <stdexcept>
+#include <string_view>
 
 #include "tally/request/CounterName.h"
 #include "tally/store/FileLock.h"
@@ -30,14 +36,54 @@ std::int64_t wholeNumber(const json& value) {
   return value.get<std::int64_t>();
 }
 
+// Which of two members with the same name counts is a matter of the reader: none does here.
+json parseWithoutTwins(const std::string& text) {
+  std::set<std::string> names;
+  const auto isNew = [&names](int depth, json::parse_event_t event, json& parsed) {
+    if (depth == 1 && event == json::parse_event_t::key && !names.insert(parsed.get<std::string>()).second)
+      throw std::runtime_error(parsed.get<std::string>() + ": comes twice");
+    return true;
+  };
+  return json::parse(text, isNew, false);
+}
+
 Line parseLine(const std::string& text) {
-  const auto line = json::parse(text, nullptr, false);
+  const auto line = parseWithoutTwins(text);
   if (!line.is_object()) throw std::runtime_error("expected an object with counter and value");
   if (!line.contains("counter") || !line["counter"].is_string()) throw std::runtime_error("counter: expected a text");
   if (!line.contains("value")) throw std::runtime_error("value: is missing");
   auto counter = line["counter"].get<std::string>();
   if (const auto fault = faultOfCounterName(counter)) throw std::runtime_error("counter: " + std::string{*fault});
   return {std::move(counter), wholeNumber(line["value"])};
+}
+
+bool writeAll(int descriptor, std::string_view text) {
+  while (!text.empty()) {
+    const auto written = ::write(descriptor, text.data(), text.size());
+    if (written < 0 && errno == EINTR) continue;
+    if (written < 0) return false;
+    text.remove_prefix(static_cast<std::size_t>(written));
+  }
+  return true;
+}
+
+// A pipe cannot be flushed, and need not be.
+bool isFlushed(int descriptor) { return ::fsync(descriptor) == 0 || errno == EINVAL || errno == EROFS; }
+
+bool writeAndFlush(const std::filesystem::path& file, std::string_view text, int how) {
+  constexpr mode_t ownersOnly = 0600;
+  const int descriptor = ::open(file.c_str(), O_WRONLY | O_CLOEXEC | how, ownersOnly);
+  if (descriptor < 0) return false;
+  const bool isWritten = writeAll(descriptor, text) && isFlushed(descriptor);
+  return ::close(descriptor) == 0 && isWritten;
+}
+
+// A new name outlives a loss of power once the folder is on the disk.
+bool flushFolderOf(const std::filesystem::path& file) {
+  const int descriptor = ::open(std::filesystem::absolute(file).parent_path().c_str(), O_RDONLY | O_CLOEXEC);
+  if (descriptor < 0) return false;
+  const bool isDone = isFlushed(descriptor);
+  return ::close(descriptor) == 0 && isDone;
 }
 
 Counts readTable(SqliteCounters& table) {
@@ -54,15 +100,17 @@ void writeCounts(std::ostream& out, const Counts& counts) {
 }
 
 void writeCounts(const std::filesystem::path& file, const Counts& counts) {
-  // What is not a file, a pipe say, cannot be replaced by one.
+  std::ostringstream text;
+  writeCounts(text, counts);
   const bool isReplaced = !std::filesystem::exists(file) || std::filesystem::is_regular_file(file);
   const auto target = isReplaced ? std::filesystem::path{file.string() + ".part"} : file;
-  std::ofstream out{target, std::ios::binary};
-  writeCounts(out, counts);
-  out.close();
   std::error_code error;
-  if (out && isReplaced) std::filesystem::rename(target, file, error);
-  if (out && !error) return;
+  if (isReplaced) std::filesystem::remove(target, error);  // left by an export that was killed; others may read it
+  if (writeAndFlush(target, text.view(), isReplaced ? O_CREAT | O_EXCL : 0)) {
+    if (!isReplaced) return;
+    std::filesystem::rename(target, file, error);
+    if (!error && flushFolderOf(file)) return;
+  }
   if (isReplaced) std::filesystem::remove(target, error);
   throw std::runtime_error(file.string() + ": cannot be written");
 }

@@ -24,8 +24,9 @@ struct ImportPlan {
 /// Writes one counter a line, in order of their names: {"counter":"app.example/feature12","value":7}
 void writeCounts(std::ostream& out, const Counts& counts);
 
-/// The same into a file, whose former content, an older backup say, is there until the new one is complete. Throws
-/// std::runtime_error with one sentence.
+/// The same into a file that its owner alone may read, whose former content, an older backup say, is there until the
+/// new one is complete and on the disk. What is not a file, a pipe say, is written into. Throws std::runtime_error with
+/// one sentence.
 void writeCounts(const std::filesystem::path& file, const Counts& counts);
 
 /// Reads what writeCounts wrote. Throws std::runtime_error with file, line and field for a line that is anything else,

@@ -69,7 +69,7 @@ TEST_F(Flood, beyondTheMostConnectionsDropsTheSilent) {
     ASSERT_EQ(working.get("/add/a/feature1?delta=1").status, 200U);
   }
   EXPECT_EQ(slow.front().receiveAll(), "");
-  slow.back().send("TP/1.1\r\nHost: h\r\n\r\n");
+  slow.back().send("TP/1.1\r\nHost: localhost\r\n\r\n");
   EXPECT_EQ(slow.back().receive().status, 200U);
 }
 

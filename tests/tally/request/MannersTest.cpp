@@ -34,6 +34,12 @@ Request voteFrom(std::string_view origin, std::string_view fetchSite = {}) {
   return request;
 }
 
+Request withReferer(std::string_view referer, std::string_view fetchSite = {}) {
+  auto request = voteFrom({}, fetchSite);
+  request.referer = referer;
+  return request;
+}
+
 Request prefetch() {
   auto request = voteFrom({});
   request.isPrefetch = true;
@@ -60,6 +66,13 @@ INSTANTIATE_TEST_SUITE_P(
                     VoteRow{"foreignPort", voteFrom("https://tally.example:444"), none, 403, ""},
                     VoteRow{"hiddenOrigin", voteFrom("null"), none, 403, ""},
                     VoteRow{"foreignImage", voteFrom({}, "cross-site"), none, 403, ""},
+                    VoteRow{"sameSiteImage", voteFrom({}, "same-site"), none, 403, ""},
+                    VoteRow{"shouting", voteFrom("HTTPS://TALLY.EXAMPLE", "SAME-ORIGIN"), none, 0, ""},
+                    VoteRow{"shoutingForeignImage", voteFrom({}, "CROSS-SITE"), none, 403, ""},
+                    VoteRow{"ownReferer", withReferer("https://tally.example/page?x"), none, 0, ""},
+                    VoteRow{"foreignReferer", withReferer("https://evil.example/https://tally.example"), none, 403, ""},
+                    VoteRow{"refererThatIsNoAddress", withReferer("tally.example"), none, 403, ""},
+                    VoteRow{"imageOfAnAllowedPage", withReferer("https://app.example/page", "cross-site"), one, 0, ""},
                     VoteRow{"allowedPage", voteFrom("https://app.example", "cross-site"), one, 0,
                             "https://app.example"},
                     VoteRow{"otherSchemeOfAllowed", voteFrom("http://app.example"), one, 403, ""},
@@ -69,15 +82,58 @@ INSTANTIATE_TEST_SUITE_P(
                     VoteRow{"anyPage", voteFrom("https://x.example", "cross-site"), all, 0, "https://x.example"}),
     [](const auto& row) { return std::string{row.param.name}; });
 
+struct HostRow {
+  const char* name;
+  Request request;
+  Hosts hosts;
+  bool isTaken;
+};
+void PrintTo(const HostRow& row, std::ostream* out) { *out << row.name; }
+
+class VotesByHost : public testing::TestWithParam<HostRow> {};
+
+TEST_P(VotesByHost, areTakenUnderOwnNames) {
+  const auto fault = faultOfHost(GetParam().request, GetParam().hosts);
+  EXPECT_EQ(fault ? fault->status : 0, GetParam().isTaken ? 0U : 421U);
+}
+
+Request voteTo(std::string_view host, std::string_view origin = {}) {
+  auto request = voteFrom(origin);
+  request.host = host;
+  return request;
+}
+
+const Hosts own{.names = {"localhost", "tally.example"}};
+const Hosts wildcard{.names = {"localhost"}, .isForPagesOnly = true};
+const Hosts certified{.names = {"localhost"},
+                      .isCertified = [](const std::string& name) { return name == "c.example"; }};
+
+INSTANTIATE_TEST_SUITE_P(
+    Rows, VotesByHost,
+    testing::Values(HostRow{"own", voteTo("TALLY.example:8787"), own, true},
+                    HostRow{"loopback", voteTo("127.0.0.1:8787"), own, true},
+                    HostRow{"loopbackByName", voteTo("localhost:8787"), own, true},
+                    HostRow{"loopback6", voteTo("[::1]:8787"), own, true},
+                    HostRow{"rebound", voteTo("evil.example:8787", "http://evil.example:8787"), own, false},
+                    HostRow{"longer", voteTo("tally.example.evil"), own, false},
+                    HostRow{"openBracket", voteTo("[::1"), own, false},
+                    HostRow{"oldVersionWithoutHost", voteTo(""), own, true},
+                    HostRow{"anyWhereNoneAreNamed", voteTo("evil.example"), {}, true},
+                    HostRow{"appThroughAWildcard", voteTo("tally.example"), wildcard, true},
+                    HostRow{"pageThroughAWildcard", voteTo("evil.example", "http://evil.example"), wildcard, false},
+                    HostRow{"certified", voteTo("c.example"), certified, true},
+                    HostRow{"notCertified", voteTo("d.example"), certified, false}),
+    [](const auto& row) { return std::string{row.param.name}; });
+
 TEST(Decide, asksForMannersOnlyWhereSomethingChanges) {
   auto request = voteFrom("https://foreign.example");
   request.target = "/get/a/feature1";
-  EXPECT_TRUE(decide(request, none) == Route{ReadCount{"a/feature1"}});
+  EXPECT_TRUE(decide(request, {}) == Route{ReadCount{"a/feature1"}});
   request.target = "/add/a/feature1?delta=1";
-  EXPECT_TRUE(std::holds_alternative<Refusal>(decide(request, none)));
+  EXPECT_TRUE(std::holds_alternative<Refusal>(decide(request, {})));
   request.method = Method::other;
   request.origin = {};
-  EXPECT_TRUE(decide(request, none) == Route{onlyGetAndHead});
+  EXPECT_TRUE(decide(request, {}) == Route{onlyGetAndHead});
 }
 
 }  // namespace

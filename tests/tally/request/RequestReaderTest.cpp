@@ -41,6 +41,8 @@ INSTANTIATE_TEST_SUITE_P(
         ReadingRow{"twoHosts", get("Host: a\r\nHost: b\r\n"), State::refused, 400},
         ReadingRow{"twoOrigins", get("Host: a\r\nOrigin: http://a\r\nOrigin: http://b\r\n"), State::refused, 400},
         ReadingRow{"foldedLine", get("Host: a\r\nOrigin: http://a\r\n b\r\n"), State::refused, 400},
+        ReadingRow{"emptyFoldedLine", get("Host: a\r\nOrigin:\r\n \r\n"), State::refused, 400},
+        ReadingRow{"emptyHostThenAnother", get("Host:\r\nHost: b\r\n"), State::refused, 400},
         ReadingRow{"tlsGreeting", "\x16\x03\x01\x02", State::refused, 400},
         ReadingRow{"lowerCaseMethod", "get / HTTP/1.1\r\n", State::refused, 400},
         ReadingRow{"otherProtocol", "GET / RTSP/1.0\r\nHost: a\r\n\r\n", State::refused, 400},
@@ -91,10 +93,18 @@ TEST(ReadRequest, findsWhatProtectsByItsName) {
     return result.request;
   };
   EXPECT_EQ(reading("Sec-Fetch-Site: cross-site").fetchSite.size(), 10U);
+  EXPECT_EQ(reading("referer: https://a/").referer.size(), 10U);
   EXPECT_EQ(reading("X-Forwarded-For: 192.0.2.1").forwardedFor.size(), 9U);
   for (const std::string name : {"Sec-Purpose", "Purpose", "X-Purpose", "X-Moz", "sec-purpose"})
     EXPECT_TRUE(reading(name + ": prefetch").isPrefetch) << name;
   EXPECT_FALSE(reading("Purposes: prefetch").isPrefetch);
+}
+
+TEST(ReadRequest, knowsTheVersionThatWasSaid) {
+  const auto old = readRequest("GET / HTTP/1.0\r\nHost: a\r\n\r\n").request;
+  EXPECT_FALSE(old.isHttp11);
+  EXPECT_FALSE(old.keepAlive);
+  EXPECT_TRUE(readRequest("GET / HTTP/1.1\r\nHost: a\r\n\r\n").request.isHttp11);
 }
 
 TEST(ReadRequest, forgetsBlankLinesOfARequestThatHasNotCome) { EXPECT_EQ(readRequest("\r\n\r\n").consumed, 4U); }

@@ -6,7 +6,10 @@
 #include <gtest/gtest.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <array>
+#include <optional>
+#include <thread>
 
 namespace mivo::tally {
 namespace {
@@ -44,7 +47,8 @@ TEST(LogTest, writesOneObjectALine) {
   EXPECT_TRUE(text.starts_with("{\"time\":\"20")) << text;
   EXPECT_THAT(
       text.substr(0, second),
-      HasSubstr(R"(Z","method":"GET","target":"/get/a\u0022\u005c\u000a\u00ff","status":200,"microseconds":42})"));
+      HasSubstr(
+          "Z\",\"method\":\"GET\",\"target\":\"/get/a\\\"\\\\\\n\xef\xbf\xbd\",\"status\":200,\"microseconds\":42}"));
   EXPECT_THAT(text,
               HasSubstr("/" + std::string(199, 'x') + R"(","status":429,"microseconds":1,"address":"192.0.2.7"})"));
   EXPECT_TRUE(text.ends_with("\"event\":\"store\",\"text\":\"Redis is there\"}\n"));
@@ -69,6 +73,49 @@ TEST(LogTest, neverWaitsForAReader) {
   }
   EXPECT_THAT(text, HasSubstr("lines were left out"));
   EXPECT_LT(std::ranges::count(text, '\n'), lines);
+}
+
+TEST(LogTest, keepsUtf8AndCutsWhatIsLong) {
+  const Pipe pipe;
+  {
+    Log log{pipe.writeEnd()};
+    log.event("store", "Größe \xe2\x80\xa6");
+    log.request({std::string(7000, 'M'), "/", 400, {}, {}});
+  }
+  const auto text = pipe.read();
+  EXPECT_THAT(text, HasSubstr("Größe \xe2\x80\xa6"));
+  EXPECT_THAT(text, HasSubstr('"' + std::string(32, 'M') + '"'));
+}
+
+TEST(LogTest, endsWhereNobodyReads) {
+  const Pipe pipe;
+  std::optional<Log> log{std::in_place, pipe.writeEnd()};
+  for (int i = 0; i < 2000; ++i) log->event("filler", std::string(100, 'x'));  // three times what the pipe holds
+  const auto begin = std::chrono::steady_clock::now();
+  log.reset();
+  EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::seconds{20});
+}
+
+// Whoever shares the terminal may have made it non-blocking: a full pipe is then waited for, and no line is lost.
+TEST(LogTest, losesNothingWhereItsEndDoesNotBlock) {
+  const Pipe pipe;
+  ::fcntl(pipe.ends[1], F_SETFL, O_NONBLOCK);
+  constexpr int lines = 5000;
+  std::string text;
+  std::jthread reader{[&] {
+    std::array<char, 1000> bytes{};
+    while (std::ranges::count(text, '\n') < lines) {
+      const auto size = ::read(pipe.ends[0], bytes.data(), bytes.size());
+      if (size <= 0) break;
+      text.append(bytes.data(), static_cast<std::size_t>(size));
+    }
+  }};
+  {
+    Log log{pipe.writeEnd()};
+    for (int i = 0; i < lines; ++i) log.event("filler", std::string(100, 'x'));
+  }
+  reader.join();
+  EXPECT_EQ(std::ranges::count(text, '\n'), lines);
 }
 
 }  // namespace

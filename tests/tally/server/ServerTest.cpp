@@ -90,6 +90,9 @@ INSTANTIATE_TEST_SUITE_P(
         AnswerRow{"prefetch", "GET", vote, {"Sec-Purpose: prefetch;prerender"}, 403, "a prefetch does not vote"},
         AnswerRow{"foreignOrigin", "GET", vote, {"Origin: https://evil.example"}, 403, "a page of another site"},
         AnswerRow{"foreignImage", "GET", vote, {"Sec-Fetch-Site: cross-site"}, 403, "a page of another site"},
+        AnswerRow{"sameSiteImage", "GET", vote, {"Sec-Fetch-Site: same-site"}, 403, "a page of another site"},
+        AnswerRow{"foreignReferer", "GET", vote, {"Referer: https://evil.example/"}, 403, "a page of another site"},
+        AnswerRow{"robots", "GET", "/robots.txt", {}, 200, "Disallow: /"},
         AnswerRow{"allowedOrigin", "GET", vote, {"Origin: https://app.example"}, 200, R"({"value":1})"},
         AnswerRow{"ownOrigin", "GET", vote, {"Origin: http://localhost"}, 200, R"({"value":1})"},
         AnswerRow{"body", "GET", vote, {"Content-Length: 5"}, 413, "a request must not have a body"},
@@ -116,7 +119,7 @@ TEST_F(ServerTest, answersPipelinedRequestsInOrder) {
   std::string all;
   for (int i = 0; i < rounds; ++i)
     all +=
-        "GET /add/a/feature1?delta=1 HTTP/1.1\r\nHost: h\r\n\r\nGET /get/a/feature1 HTTP/1.1\r\nHost: h\r\n\r\n"
+        "GET /add/a/feature1?delta=1 HTTP/1.1\r\nHost: localhost\r\n\r\nGET /get/a/feature1 HTTP/1.1\r\nHost: h\r\n\r\n"
         "HEAD /health HTTP/1.1\r\nHost: h\r\n\r\n";
   client.send(all);
   for (int i = 1; i <= rounds; ++i) {
@@ -147,8 +150,34 @@ TEST_F(ServerTest, endsAConnectionAsTheClientAsks) {
   EXPECT_EQ(closing.receiveAll(), "");
 }
 
+// A page whose own name leads to this machine is of the same origin for a browser.
+TEST_F(ServerTest, votesUnderItsOwnNamesOnly) {
+  const std::string vote = "GET /add/a/feature1?delta=1 HTTP/1.1\r\nHost: ";
+  const std::string page = "evil.example:8787\r\nOrigin: http://evil.example:8787\r\n\r\n";
+  const auto statusOf = [&](TallyServer& server, const std::string& rest) {
+    HttpClient client{server.port()};
+    client.send(vote + rest);
+    return client.receive().status;
+  };
+  TallyServer own{store()};
+  EXPECT_EQ(statusOf(own, page), 421U);
+  EXPECT_EQ(statusOf(own, "evil.example\r\n\r\n"), 421U);
+  EXPECT_EQ(statusOf(own, "127.0.0.1\r\n\r\n"), 200U);
+  TallyServer named{"sqlite:" + folder.file("named.sqlite"), {"--host", "tally.example,other.example"}};
+  EXPECT_EQ(statusOf(named, "Other.example\r\n\r\n"), 200U);
+  EXPECT_EQ(statusOf(named, "localhost\r\n\r\n"), 421U);
+}
+
+TEST_F(ServerTest, believesForwardedAddressesOfTheNamedProxiesOnly) {
+  TallyServer server{store(), {"--votes-per-minute", "1", "--trust-forwarded-for", "192.0.2.0/24"}};
+  HttpClient client{server.port()};
+  EXPECT_EQ(client.get("/add/a/feature1?delta=1", {"X-Forwarded-For: 198.51.100.1"}).status, 200U);
+  EXPECT_EQ(client.get("/add/a/feature1?delta=1", {"X-Forwarded-For: 198.51.100.2"}).status, 429U);
+}
+
 TEST_F(ServerTest, limitsTheVotesOfAnAddressOnly) {
   TallyServer server{store(), {"--votes-per-minute", "3", "--trust-forwarded-for"}};
+  server.process().waitForLine("believes loopback and private addresses");
   HttpClient client{server.port()};
   const auto voteAs = [&](const std::string& address) {
     return client.get("/add/a/feature1?delta=1", {"X-Forwarded-For: 9.9.9.9, " + address}).status;
@@ -194,7 +223,8 @@ TEST_F(ServerTest, outlivesGarbage) {
   TallyServer server{store()};
   std::mt19937 random{7};
   const auto below = [&](std::size_t end) { return std::uniform_int_distribution<std::size_t>{0, end - 1}(random); };
-  constexpr std::string_view original = "GET /add/a/feature1?delta=1 HTTP/1.1\r\nHost: h\r\nContent-Length: 0\r\n\r\n";
+  constexpr std::string_view original =
+      "GET /add/a/feature1?delta=1 HTTP/1.1\r\nHost: localhost\r\nContent-Length: 0\r\n\r\n";
   int votes = 0;
   for (int i = 0; i < 2000; ++i) {
     std::string bytes{original};

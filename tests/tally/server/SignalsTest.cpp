@@ -33,7 +33,7 @@ TEST_F(SignalsTest, terminationFinishesTheRequestThatHasBegun) {
   server.process().waitForLine("\"stopping\"");
   EXPECT_EQ(idle.receiveAll(), "");
   EXPECT_THROW(HttpClient{server.port()}, std::runtime_error);
-  begun.send("st: h\r\n\r\n");
+  begun.send("st: localhost\r\n\r\n");
   const auto answer = begun.receive();
   EXPECT_EQ(countOf(answer), 1);
   EXPECT_EQ(answer.headers.at("connection"), "close");

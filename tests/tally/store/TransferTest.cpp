@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <fstream>
 #include <functional>
 #include <sstream>
 
@@ -46,19 +47,32 @@ TEST_P(BadLines, areNamedWithTheirField) {
 
 INSTANTIATE_TEST_SUITE_P(
     Rows, BadLines,
-    testing::Values(BadLineRow{"notJson", "\nfeature1 7", "c.jsonl:2: expected an object with counter and value"},
-                    BadLineRow{"noCounter", R"({"value":7})", "c.jsonl:1: counter: expected a text"},
-                    BadLineRow{"badCounter", R"({"counter":"a/1","value":7})",
-                               "c.jsonl:1: counter: the counter must be named NAMESPACE/featureID"},
-                    BadLineRow{"noValue", R"({"counter":"a/feature1"})", "c.jsonl:1: value: is missing"},
-                    BadLineRow{"textValue", R"({"counter":"a/feature1","value":"7"})",
-                               "c.jsonl:1: value: expected a whole number of 64 bits, found \"7\""},
-                    BadLineRow{"tooLarge", R"({"counter":"a/feature1","value":9223372036854775808})",
-                               "c.jsonl:1: value: expected a whole number of 64 bits, found 9223372036854775808"},
-                    BadLineRow{"twice",
-                               "{\"counter\":\"a/feature1\",\"value\":7}\n{\"counter\":\"a/feature1\",\"value\":7}",
-                               "c.jsonl:2: counter: a/feature1 comes twice"}),
+    testing::Values(
+        BadLineRow{"notJson", "\nfeature1 7", "c.jsonl:2: expected an object with counter and value"},
+        BadLineRow{"noCounter", R"({"value":7})", "c.jsonl:1: counter: expected a text"},
+        BadLineRow{"badCounter", R"({"counter":"a/1","value":7})",
+                   "c.jsonl:1: counter: the counter must be named NAMESPACE/featureID"},
+        BadLineRow{"noValue", R"({"counter":"a/feature1"})", "c.jsonl:1: value: is missing"},
+        BadLineRow{"textValue", R"({"counter":"a/feature1","value":"7"})",
+                   "c.jsonl:1: value: expected a whole number of 64 bits, found \"7\""},
+        BadLineRow{"tooLarge", R"({"counter":"a/feature1","value":9223372036854775808})",
+                   "c.jsonl:1: value: expected a whole number of 64 bits, found 9223372036854775808"},
+        BadLineRow{"memberTwice", R"({"counter":"a/feature1","value":7,"value":8})", "c.jsonl:1: value: comes twice"},
+        BadLineRow{"twice", "{\"counter\":\"a/feature1\",\"value\":7}\n{\"counter\":\"a/feature1\",\"value\":7}",
+                   "c.jsonl:2: counter: a/feature1 comes twice"}),
     [](const auto& row) { return std::string{row.param.name}; });
+
+TEST(WriteCounts, letsOnlyTheOwnerReadAlsoWhereOthersCould) {
+  const tests::TemporaryFolder folder;
+  const std::filesystem::path file = folder.file("counters.jsonl");
+  for (const auto& readable : {file, std::filesystem::path{file.string() + ".part"}}) {
+    std::ofstream{readable} << "older";
+    std::filesystem::permissions(readable, std::filesystem::perms{0644});
+  }
+  writeCounts(file, {{"a/feature1", 7}});
+  EXPECT_EQ(std::filesystem::status(file).permissions(), std::filesystem::perms{0600});
+  EXPECT_FALSE(std::filesystem::exists(file.string() + ".part"));
+}
 
 TEST(PlanImport, neverOverwritesUnasked) {
   const Counts present{{"a/feature1", 7}, {"a/feature2", 1}};
