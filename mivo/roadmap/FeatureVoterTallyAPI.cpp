@@ -2,6 +2,7 @@
 #include "mivo/roadmap/FeatureVoterTallyAPI.h"
 
 #include <exception>
+#include <string_view>
 
 #include "mivo/platform/Dependencies.h"
 #include "mivo/platform/LogOutput.h"
@@ -21,6 +22,26 @@ std::string debugText(const std::exception& error) {
   return named("Error");
 }
 
+/// What a server or an address brought into a sentence must not command the terminal that shows it: control characters
+/// other than line feed are written as \\x1b.
+std::string escaped(std::string_view text) {
+  constexpr std::string_view digits = "0123456789abcdef";
+  std::string result;
+  for (std::size_t index = 0; index < text.size(); ++index) {
+    const auto byte = static_cast<unsigned char>(text[index]);
+    const auto next = index + 1 < text.size() ? static_cast<unsigned char>(text[index + 1]) : 0;
+    const bool isUnicodeControl = byte == 0xc2 && next >= 0x80 && next <= 0x9f;
+    if (byte != '\n' && (byte < 0x20 || byte == 0x7f || isUnicodeControl)) {
+      const unsigned code = isUnicodeControl ? next : byte;
+      result.append("\\x").append(1, digits[code >> 4U]).append(1, digits[code & 15U]);
+      index += isUnicodeControl ? 1 : 0;
+    } else {
+      result += text[index];
+    }
+  }
+  return result;
+}
+
 std::string debugText(const std::optional<std::int64_t>& count) {
   return count ? "Optional(" + std::to_string(*count) + ")" : "nil";
 }
@@ -33,7 +54,7 @@ std::int64_t FeatureVoterTallyAPI::fetch(const RoadmapFeature& feature, std::sto
     return JSONDataFetcher::loadJSON<RoadmapFeatureVotingCount>(url, std::move(stop)).value.value_or(0);
   } catch (const std::exception& error) {
     // In one piece, because several features are fetched beside each other.
-    logLine(debugText(error) + "\nFetching voting count failed with error: " + error.what());
+    logLine(escaped(debugText(error) + "\nFetching voting count failed with error: " + error.what()));
     return 0;
   }
 }
@@ -51,7 +72,7 @@ std::optional<std::int64_t> FeatureVoterTallyAPI::add(int delta, const RoadmapFe
     logLine("Successfully voted, count is now: " + debugText(count));
     return count;
   } catch (const std::exception& error) {
-    logLine(std::string{"Voting failed: "} + error.what());
+    logLine(escaped(std::string{"Voting failed: "} + error.what()));
     return std::nullopt;
   }
 }

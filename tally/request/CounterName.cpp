@@ -31,4 +31,6 @@ std::optional<std::string_view> faultOfCounterName(std::string_view name) {
   return std::nullopt;
 }
 
+std::string_view featureIdOf(std::string_view name) { return name.substr(name.find('/') + 1 + featureWord.size()); }
+
 }  // namespace mivo::tally

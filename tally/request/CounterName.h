@@ -15,4 +15,7 @@ inline constexpr std::size_t longestFeatureId = 128;
 ///     faultOfCounterName("app.example/12");         // "the counter must be named NAMESPACE/featureID"
 std::optional<std::string_view> faultOfCounterName(std::string_view name);
 
+/// "12" in "app.example/feature12"; the name must be without a fault.
+std::string_view featureIdOf(std::string_view name);
+
 }  // namespace mivo::tally

@@ -102,6 +102,11 @@ void addFlags(CLI::App& app, ServeOptions& options, Texts& texts) {
       ->check(seconds)
       ->type_name("N")
       ->capture_default_str();
+  app.add_flag("--any-counter", options.countsAny, "Take votes for features that the roadmap does not list");
+  app.add_option("--max-counters", options.mostCounters, "Counters kept; votes for a further one are refused (SQLite)")
+      ->check(CLI::Range(std::int64_t{1}, std::int64_t{1} << 40))
+      ->type_name("N")
+      ->capture_default_str();
   app.add_option("--max-connections", options.mostConnections,
                  "Connections held; beyond, the one that was silent longest is dropped")
       ->check(CLI::Range(1, 1'000'000))

@@ -31,6 +31,8 @@ struct ServeOptions {
   std::chrono::seconds drainTime{2};     // for the next request of a connection that is kept, once told to stop
   std::chrono::seconds storeTime{5};     // for what is asked of the store
   std::size_t mostConnections = 20'000;
+  bool countsAny = false;               // also what the roadmap does not list
+  std::int64_t mostCounters = 100'000;  // in SQLite
 };
 
 struct ExportOptions {

@@ -18,6 +18,13 @@ class RateLimiter {
   unsigned secondsToWait(std::uint64_t client, Instant now);
 
  private:
+  // Clients choose their addresses, whole networks of them: not those that fall together.
+  struct SeededHash {
+    SeededHash();
+    std::size_t operator()(std::uint64_t client) const;
+    std::uint64_t seed;
+  };
+
   struct Bucket {
     double tokens = 0;
     Instant filled;
@@ -27,7 +34,7 @@ class RateLimiter {
 
   // A bucket that was left alone for a minute is full, as one that was never used: so the younger generation becomes
   // the elder each minute, and the elder is forgotten.
-  using Buckets = std::unordered_map<std::uint64_t, Bucket>;
+  using Buckets = std::unordered_map<std::uint64_t, Bucket, SeededHash>;
   Buckets young_;
   Buckets old_;
   Instant generationEnd_{};

@@ -4,25 +4,48 @@
 #include <cerrno>
 #include <cstring>
 #include <fstream>
-#include <iterator>
-#include <nlohmann/json.hpp>
 #include <stdexcept>
 
+#include "adapters/json/NlohmannDecoder.h"
+#include "mivo/roadmap/RoadmapFeature.h"
+#include "tally/request/CounterName.h"
 #include "tally/server/ExampleRoadmap.h"
 
 namespace mivo::tally {
+namespace {
 
-std::string loadRoadmap(const std::filesystem::path& file) {
-  if (file.empty()) return exampleRoadmap;
+std::string textOf(const std::filesystem::path& file) {
   std::ifstream in{file, std::ios::binary};
-  if (!in) throw std::runtime_error(file.string() + ": " + std::strerror(errno));
-  std::string text{std::istreambuf_iterator<char>{in}, {}};
-  try {
-    [[maybe_unused]] const auto checked = nlohmann::json::parse(text);
-  } catch (const nlohmann::json::parse_error& error) {
-    throw std::runtime_error(file.string() + ": byte " + std::to_string(error.byte) + ": not JSON");
-  }
+  if (!in) throw std::runtime_error(std::strerror(errno));
+  std::string text(largestRoadmap + 1, ' ');
+  in.read(text.data(), static_cast<std::streamsize>(text.size()));
+  text.resize(static_cast<std::size_t>(in.gcount()));
+  if (in.bad()) throw std::runtime_error("cannot be read to its end");
+  if (text.size() > largestRoadmap) throw std::runtime_error("is larger than 1 MiB");
   return text;
+}
+
+Roadmap::Ids idsOf(const std::string& text) {
+  Roadmap::Ids ids;
+  for (const auto& entry : RoadmapFile::decoded(adapters::NlohmannDecoder{}.decoded(text)).entries) {
+    if (const auto fault = faultOfCounterName("any/feature" + entry.id))
+      throw std::runtime_error("the roadmap: feature \"" + entry.id + "\": " + std::string{*fault});
+    ids.insert(entry.id);
+  }
+  return ids;
+}
+
+}  // namespace
+
+Roadmap loadRoadmap(const std::filesystem::path& file) {
+  if (file.empty()) return {exampleRoadmap, std::nullopt};
+  try {
+    auto text = textOf(file);
+    auto ids = idsOf(text);
+    return {std::move(text), std::move(ids)};
+  } catch (const std::exception& error) {
+    throw std::runtime_error(file.string() + ": " + error.what());
+  }
 }
 
 }  // namespace mivo::tally

@@ -1,12 +1,26 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 #include <filesystem>
+#include <functional>
+#include <optional>
+#include <set>
 #include <string>
 
 namespace mivo::tally {
 
-/// The list of features that is served to the apps: the file's text, checked to be JSON, or the example that is built
-/// in where `file` is empty. Throws std::runtime_error with one sentence that names file and byte.
-std::string loadRoadmap(const std::filesystem::path& file);
+/// The list of features that is served to the apps.
+struct Roadmap {
+  using Ids = std::set<std::string, std::less<>>;
+  std::string text;
+  /// Of its features; nothing for the example, which says nothing of what others vote on.
+  std::optional<Ids> ids;
+};
+
+inline constexpr std::size_t largestRoadmap = std::size_t{1} << 20;  // bytes
+
+/// Reads the file as the apps do, or takes the example that is built in where `file` is empty. Throws
+/// std::runtime_error with one sentence that names the file for one that cannot be read, is larger than a mebibyte,
+/// that the apps would refuse, or with an id that cannot be counted.
+Roadmap loadRoadmap(const std::filesystem::path& file);
 
 }  // namespace mivo::tally

@@ -2,6 +2,7 @@
 #include "tally/server/Service.h"
 
 #include "tally/request/ClientAddress.h"
+#include "tally/request/CounterName.h"
 
 namespace mivo::tally {
 namespace {
@@ -10,6 +11,8 @@ constexpr unsigned retrySeconds = 5;
 constexpr Refusal storeIsAway{503, "the votes cannot be read or kept just now"};
 constexpr Refusal wouldOverflow{409, "the count cannot go further"};
 constexpr auto robots = "User-agent: *\nDisallow: /\n";  // a crawler that follows links would vote
+constexpr Refusal notOnTheRoadmap{404, "the roadmap has no such feature"};
+constexpr Refusal noFurtherCounter{409, "no further counters are taken"};
 constexpr Refusal tooMany{429, "too many votes from this address"};
 
 template <class... Cases>
@@ -28,11 +31,12 @@ Hosts hostsOf(const ServeOptions& options, std::function<bool(const std::string&
 
 }  // namespace
 
-Service::Service(const ServeOptions& options, const CounterStore& store, std::string roadmap,
+Service::Service(const ServeOptions& options, const CounterStore& store, Roadmap roadmap,
                  std::function<bool(const std::string&)> isCertified, std::function<std::string()> metricsText)
     : policy_{options.allowedOrigins, hostsOf(options, std::move(isCertified))},
       store_(store),
       roadmap_(std::move(roadmap)),
+      countsAny_(options.countsAny),
       metricsText_(std::move(metricsText)),
       limiter_(options.votesPerMinute) {}
 
@@ -47,10 +51,12 @@ std::variant<Answer, Operation> Service::handle(const Request& request, const as
             return Operation{std::string{read.counter}, 0};
           },
           [&](const AddVote& vote) -> Handled {
+            if (!countsAny_ && roadmap_.ids && !roadmap_.ids->contains(featureIdOf(vote.counter)))
+              return refusalAnswer(notOnTheRoadmap);
             if (const auto wait = limiter_.secondsToWait(rateKey(client), now)) return refusalAnswer(tooMany, wait);
             return Operation{std::string{vote.counter}, vote.delta};
           },
-          [&](const ReadRoadmap&) -> Handled { return Answer{.body = roadmap_}; },
+          [&](const ReadRoadmap&) -> Handled { return Answer{.body = roadmap_.text}; },
           [&](const ReadHealth&) -> Handled { return health(); },
           [](const ReadRobots&) -> Handled { return Answer{.content = Content::text, .body = robots}; },
           [&](const ReadMetrics&) -> Handled { return Answer{.content = Content::text, .body = metricsText_()}; },
@@ -64,6 +70,8 @@ Answer Service::answerTo(const Result& result) const {
       return countAnswer(result.count);
     case Outcome::overflow:
       return refusalAnswer(wouldOverflow);
+    case Outcome::full:
+      return refusalAnswer(noFurtherCounter);
     case Outcome::away:
       break;
   }

@@ -9,6 +9,7 @@
 #include "tally/server/Metrics.h"
 #include "tally/server/Options.h"
 #include "tally/server/RateLimiter.h"
+#include "tally/server/Roadmap.h"
 #include "tally/store/CounterStore.h"
 
 namespace mivo::tally {
@@ -17,7 +18,7 @@ namespace mivo::tally {
 class Service {
  public:
   /// `isCertified` says whether the certificate has a name; `metricsText` writes the page of /metrics.
-  Service(const ServeOptions& options, const CounterStore& store, std::string roadmap,
+  Service(const ServeOptions& options, const CounterStore& store, Roadmap roadmap,
           std::function<bool(const std::string&)> isCertified, std::function<std::string()> metricsText);
 
   std::variant<Answer, Operation> handle(const Request& request, const asio::ip::address& client,
@@ -26,14 +27,15 @@ class Service {
   Answer answerTo(const Result& result) const;
   /// Adds what a web page needs to be allowed to read the answer.
   void allowOrigin(const Request& request, Answer& answer) const;
-  void replaceRoadmap(std::string roadmap) { roadmap_ = std::move(roadmap); }
+  void replaceRoadmap(Roadmap roadmap) { roadmap_ = std::move(roadmap); }
 
  private:
   Answer health() const;
 
   VotePolicy policy_;
   const CounterStore& store_;
-  std::string roadmap_;
+  Roadmap roadmap_;
+  bool countsAny_;
   std::function<std::string()> metricsText_;
   RateLimiter limiter_;
 };

@@ -18,6 +18,7 @@ struct Operation {
 
 enum class Outcome {
   counted,   // the count is that after the operation, and it is kept
+  full,      // the counter would be one too many: nothing was changed
   overflow,  // the count would leave 64 bits: nothing was changed
   away,  // the store cannot say now. A vote was not kept, or, where a connection broke before its answer, may have been
 };

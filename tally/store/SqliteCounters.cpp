@@ -5,9 +5,9 @@
 #include <sqlite3.h>
 
 #include <algorithm>
+#include <map>
 #include <optional>
 #include <stdexcept>
-#include <unordered_map>
 #include <utility>
 
 namespace mivo::tally {
@@ -69,16 +69,23 @@ struct SqliteCounters::Database {
     return value;
   }
 
-  std::int64_t count(const std::string& counter) {
+  // Nothing for a counter that nobody voted for.
+  std::optional<std::int64_t> find(const std::string& counter) {
     try {
       select.bindNoCopy(1, counter);
-      const std::int64_t value = select.executeStep() ? select.getColumn(0).getInt64() : 0;
+      std::optional<std::int64_t> value;
+      if (select.executeStep()) value = select.getColumn(0).getInt64();
       select.reset();
       return value;
     } catch (...) {
       select.tryReset();
       throw;
     }
+  }
+
+  bool hasRoomFor(std::int64_t further) {
+    if (counters < 0) counters = connection.execAndGet("SELECT count(*) FROM counter").getInt64();
+    return counters + further <= mostCounters;
   }
 
   void set(const std::string& counter, std::int64_t value) {
@@ -114,6 +121,8 @@ struct SqliteCounters::Database {
   SQLite::Database connection;
   SQLite::Statement select, upsert, begin, commit, version;
   std::string damage;
+  std::int64_t mostCounters = std::numeric_limits<std::int64_t>::max();
+  std::int64_t counters = -1;  // not counted yet
   std::int64_t lastVersion = dataVersion();
 };
 
@@ -133,44 +142,52 @@ class SqliteCounters::Batch {
       if (count.isChanged) database_.set(*count.name, *count.value);
   }
 
+  std::int64_t newCounters() const { return newCounters_; }
+
  private:
   struct Count {
     const std::string* name;
-    std::optional<std::int64_t> value;  // nothing where it cannot be read
+    std::optional<std::int64_t> value = {};  // nothing where it cannot be read
+    bool isNew = false;
     bool isChanged = false;
   };
 
-  std::optional<std::int64_t> read(const std::string& counter) {
+  Count read(const std::string& counter) {
     try {
-      return database_.count(counter);
+      const auto value = database_.find(counter);
+      return {.name = &counter, .value = value.value_or(0), .isNew = !value};
     } catch (const SQLite::Exception& error) {
       database_.damage = counter + ": " + error.what();
-      return std::nullopt;
+      return {.name = &counter};
     }
   }
 
   Result result(const Operation& operation) {
     auto found = counts_.find(operation.counter);
-    if (found == counts_.end()) {
-      const Count count{&operation.counter, read(operation.counter)};
-      found = counts_.emplace(operation.counter, count).first;
-    }
+    if (found == counts_.end()) found = counts_.emplace(operation.counter, read(operation.counter)).first;
     auto& count = found->second;
     if (!count.value) return {};
     const auto after = added(*count.value, operation.delta);
     if (!after) return {Outcome::overflow, *count.value};
+    if (count.isNew && !isRead(operation) && !count.isChanged) {
+      if (!database_.hasRoomFor(newCounters_ + 1)) return {Outcome::full, 0};
+      ++newCounters_;
+    }
     count.isChanged = count.isChanged || !isRead(operation);
     count.value = after;
     return {Outcome::counted, *after};
   }
 
   Database& database_;
-  std::unordered_map<std::string_view, Count> counts_;
+  std::map<std::string_view, Count> counts_;
+  std::int64_t newCounters_ = 0;
 };
 
-SqliteCounters::SqliteCounters(const std::filesystem::path& file, Access access, std::chrono::milliseconds busyTime)
+SqliteCounters::SqliteCounters(const std::filesystem::path& file, Access access, std::chrono::milliseconds busyTime,
+                               std::int64_t mostCounters)
     : file_(file) {
   database_ = naming(file, [&] { return std::make_unique<Database>(file, access, busyTime); });
+  database_->mostCounters = mostCounters;
 }
 
 SqliteCounters::~SqliteCounters() = default;
@@ -188,12 +205,14 @@ Results SqliteCounters::apply(const Operations& operations) {
 }
 
 Results SqliteCounters::applyTogether(const Operations& operations) {
-  return database_->inTransaction([&] {
-    Batch batch{*database_};
-    auto results = batch.results(operations);
+  Batch batch{*database_};
+  auto results = database_->inTransaction([&] {
+    auto found = batch.results(operations);
     batch.write();
-    return results;
+    return found;
   });
+  if (database_->counters >= 0) database_->counters += batch.newCounters();
+  return results;
 }
 
 // A page that can be read and not be written spoils its batch: the others of it are kept without it.
@@ -233,12 +252,13 @@ bool SqliteCounters::wasChangedByOthers() {
   return naming(file_, [&] {
     const auto version = database_->dataVersion();
     const auto last = std::exchange(database_->lastVersion, version);
+    if (last != version) database_->counters = -1;
     return last != version;
   });
 }
 
 std::int64_t SqliteCounters::count(std::string_view counter) {
-  return naming(file_, [&] { return database_->count(std::string{counter}); });
+  return naming(file_, [&] { return database_->find(std::string{counter}).value_or(0); });
 }
 
 void SqliteCounters::forEach(const std::function<void(std::string_view, std::int64_t)>& visit) {
@@ -251,6 +271,7 @@ void SqliteCounters::forEach(const std::function<void(std::string_view, std::int
 void SqliteCounters::set(const std::vector<Change>& changes) {
   naming(file_, [&] {
     database_->inTransaction([&] {
+      database_->counters = -1;
       for (const auto& change : changes) database_->set(change.counter, change.to);
       return changes.size();
     });

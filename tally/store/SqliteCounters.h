@@ -3,6 +3,7 @@
 #include <chrono>
 #include <filesystem>
 #include <functional>
+#include <limits>
 #include <memory>
 
 #include "tally/store/Change.h"
@@ -19,11 +20,12 @@ class SqliteCounters {
   /// Opens the file; for writing, makes it where it is missing. An operation waits up to `busyTime` for another process
   /// that writes.
   SqliteCounters(const std::filesystem::path& file, Access access,
-                 std::chrono::milliseconds busyTime = std::chrono::seconds{5});
+                 std::chrono::milliseconds busyTime = std::chrono::seconds{5},
+                 std::int64_t mostCounters = std::numeric_limits<std::int64_t>::max());
   ~SqliteCounters();
 
   /// All votes in one transaction, flushed once. After a throw none of them is kept. A counter that lies on a damaged
-  /// page is `away`, and the others go on.
+  /// page is `away`, and the others go on; one that nobody voted for before is `full` beyond `mostCounters`.
   Results apply(const Operations& operations);
   /// What apply could not read since this was asked last; empty for nothing.
   std::string takeDamage();

@@ -17,11 +17,11 @@ bool isVote(const Operation& operation) { return operation.delta != 0; }
 }  // namespace
 
 SqliteStore::SqliteStore(asio::io_context& loop, const std::filesystem::path& file, Report report,
-                         std::chrono::milliseconds busyTime)
+                         std::chrono::milliseconds busyTime, std::int64_t mostCounters)
     : loop_(loop),
       report_(std::move(report)),
       lock_(file),
-      counters_(file, SqliteCounters::Access::readWrite, busyTime),
+      counters_(file, SqliteCounters::Access::readWrite, busyTime, mostCounters),
       reads_(file, SqliteCounters::Access::readOnly, busyTime),
       database_(file),
       writeAheadLog_(file.string() + "-wal") {

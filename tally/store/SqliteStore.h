@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 #include <chrono>
+#include <limits>
+#include <map>
 #include <optional>
-#include <unordered_map>
 
 #include "tally/net/Asio.h"
 #include "tally/store/CounterStore.h"
@@ -19,10 +20,12 @@ namespace mivo::tally {
 /// votes can be kept.
 class SqliteStore final : public CounterStore {
  public:
-  /// A batch waits up to `busyTime` for another process that writes. Throws std::runtime_error with one sentence where
-  /// the file cannot be used at all; one that is damaged or cannot be written is served, and reported.
+  /// Votes for a counter beyond `mostCounters` are `full`. A batch waits up to `busyTime` for another process that
+  /// writes. Throws std::runtime_error with one sentence where the file cannot be used at all; one that is damaged or
+  /// cannot be written is served, and reported.
   SqliteStore(asio::io_context& loop, const std::filesystem::path& file, Report report,
-              std::chrono::milliseconds busyTime = std::chrono::seconds{5});
+              std::chrono::milliseconds busyTime = std::chrono::seconds{5},
+              std::int64_t mostCounters = std::numeric_limits<std::int64_t>::max());
   ~SqliteStore() override;
 
   std::optional<std::int64_t> known(std::string_view counter) const override;
@@ -33,9 +36,6 @@ class SqliteStore final : public CounterStore {
   std::uintmax_t writeAheadLogBytes() const override;
 
  private:
-  struct Hash : std::hash<std::string_view> {
-    using is_transparent = void;
-  };
   struct Batch {
     Operations operations;  // the event loop's, except between submit and done
     std::function<void(Results)> done;
@@ -67,7 +67,8 @@ class SqliteStore final : public CounterStore {
   FileIdentity database_;
   FileIdentity writeAheadLog_;
 
-  std::unordered_map<std::string, std::int64_t, Hash, std::equal_to<>> counts_;
+  // A tree: strangers choose the names, and could choose them to collide.
+  std::map<std::string, std::int64_t, std::less<>> counts_;
   bool wasForgotten_ = false;  // since the present batch of reads was sent
   Batch reading_;
   Batch writing_;

@@ -131,13 +131,29 @@ TEST_F(ServerTest, answersPipelinedRequestsInOrder) {
 
 TEST_F(ServerTest, sendsManyLargeAnswersToASlowReader) {
   const auto roadmap = folder.file("roadmap.json");
-  std::ofstream{roadmap} << "[\"" << std::string(300'000, 'x') << "\"]";
+  std::ofstream{roadmap} << R"([{"id": 1, "title": ")" << std::string(300'000, 'x') << "\"}]";
   TallyServer server{store(), {"--roadmap", roadmap}};
   HttpClient client{server.port()};
   constexpr int times = 40;
   for (int i = 0; i < times; ++i) client.send("GET /data/roadmap-mivo.json HTTP/1.1\r\nHost: h\r\n\r\n");
   EXPECT_EQ(countOf(HttpClient{server.port()}.get("/get/a/feature1")), 0);  // while the first is stuffed
-  for (int i = 0; i < times; ++i) ASSERT_EQ(client.receive().body.size(), 300'004U);
+  for (int i = 0; i < times; ++i) ASSERT_EQ(client.receive().body.size(), 300'023U);
+}
+
+TEST_F(ServerTest, countsTheFeaturesOfItsRoadmapOnly) {
+  const auto roadmap = folder.file("roadmap.json");
+  std::ofstream{roadmap} << R"([{"id": 1, "title": "One"}, {"id": "two", "title": "Two"}])";
+  {
+    TallyServer server{store(), {"--roadmap", roadmap, "--max-counters", "2"}};
+    HttpClient client{server.port()};
+    EXPECT_EQ(client.get("/add/a/feature1?delta=1").status, 200U);
+    EXPECT_EQ(client.get("/add/a/featuretwo?delta=1").status, 200U);
+    EXPECT_EQ(client.get("/add/a/feature3?delta=1").status, 404U);
+    EXPECT_EQ(client.get("/add/b/feature1?delta=1").status, 409U) << "a third counter";
+    EXPECT_EQ(countOf(client.get("/get/a/feature3")), 0);
+  }
+  TallyServer open{store(), {"--roadmap", roadmap, "--any-counter"}};
+  EXPECT_EQ(HttpClient{open.port()}.get("/add/a/feature3?delta=1").status, 200U);
 }
 
 TEST_F(ServerTest, endsAConnectionAsTheClientAsks) {

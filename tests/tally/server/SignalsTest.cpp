@@ -5,6 +5,7 @@
 #include <csignal>
 #include <fstream>
 
+#include "tally/server/Roadmap.h"
 #include "tests/support/TemporaryFolder.h"
 #include "tests/tally_support/HttpClient.h"
 #include "tests/tally_support/TallyServer.h"
@@ -88,18 +89,27 @@ TEST_F(SignalsTest, aSecondTerminationDoesNotWait) {
 
 TEST_F(SignalsTest, hangUpReadsTheRoadmapAgainAndKeepsAGoodOne) {
   const auto roadmap = folder.file("roadmap.json");
-  std::ofstream{roadmap} << "[1]";
+  std::ofstream{roadmap} << "[]";
   TallyServer server{store(), {"--roadmap", roadmap}};
   HttpClient client{server.port()};
-  EXPECT_EQ(client.get("/data/roadmap-mivo.json").body, "[1]");
-  std::ofstream{roadmap} << "[1, 2]";
+  EXPECT_EQ(client.get("/data/roadmap-mivo.json").body, "[]");
+  const std::string two = R"([{"id": 1, "title": "One"}])";
+  std::ofstream{roadmap} << two;
   server.process().send(SIGHUP);
   server.process().waitForLine("\"reloaded\"");
-  EXPECT_EQ(client.get("/data/roadmap-mivo.json").body, "[1, 2]");
-  std::ofstream{roadmap} << "[1, 2";
-  server.process().send(SIGHUP);
-  EXPECT_THAT(server.process().waitForLine("\"not reloaded\""), HasSubstr("roadmap.json: byte 6: not JSON"));
-  EXPECT_EQ(client.get("/data/roadmap-mivo.json").body, "[1, 2]");
+  EXPECT_EQ(client.get("/data/roadmap-mivo.json").body, two);
+  for (const auto& [wrong, reason] : std::vector<std::pair<std::string, std::string>>{
+           {"[1, 2", "roadmap.json: not JSON"},
+           {R"({"id": 1})", "expected a list of features"},
+           {R"([{"id": "1?delta=-1", "title": "a"}])", "feature 1: id: expected an id without"},
+           {R"([{"id": "äöü", "title": "a"}])", "must be made of letters, digits, dots"},
+           {R"([{"id": 1, "title": "\u001b[2J"}])", "without control characters"},
+           {std::string(largestRoadmap + 1, ' '), "is larger than 1 MiB"}}) {
+    std::ofstream{roadmap} << wrong;
+    server.process().send(SIGHUP);
+    EXPECT_THAT(server.process().waitForLine(reason), HasSubstr("\"not reloaded\""));
+  }
+  EXPECT_EQ(client.get("/data/roadmap-mivo.json").body, two);
 }
 
 }  // namespace

@@ -78,6 +78,15 @@ TEST_F(SqliteCountersTest, belongsToOneProcess) {
             file + ": another mivo-tally is using it");
 }
 
+TEST_F(SqliteCountersTest, takesNoMoreCountersThanToldAndForgetsNone) {
+  const auto full = Result{Outcome::full, 0};
+  counters.apply({{"a/feature1", 1}});
+  SqliteCounters bounded{file, SqliteCounters::Access::readWrite, std::chrono::seconds{1}, 2};
+  EXPECT_THAT(bounded.apply({{"a/feature2", 1}, {"a/feature3", 1}, {"a/feature2", 1}, {"a/feature3", 0}}),
+              ElementsAre(counted(1), full, counted(2), counted(0)));
+  EXPECT_THAT(bounded.apply({{"a/feature4", 1}, {"a/feature1", 1}}), ElementsAre(full, counted(2)));
+}
+
 TEST_F(SqliteCountersTest, isLockedThroughALinkAndWithoutItsLockFile) {
   const FileLock lock{file};
   const auto link = folder.file("link.sqlite");
