@@ -107,7 +107,7 @@ void Log::write(const std::stop_token& stop) {
   for (;;) {
     const auto text = take(stop);
     if (text.empty()) return;
-    writeOut(stop, text);
+    if (!writeOut(stop, text) && stop.stop_requested()) return;
   }
 }
 
@@ -123,7 +123,7 @@ std::string Log::take(const std::stop_token& stop) {
 }
 
 // A reader that stopped reading must not keep the server from ending, nor may one whose end does not block lose lines.
-void Log::writeOut(const std::stop_token& stop, std::string_view text) {
+bool Log::writeOut(const std::stop_token& stop, std::string_view text) {
   constexpr std::chrono::milliseconds look{50};
   constexpr std::chrono::seconds lastPatience{2};
   auto patienceLeft = std::chrono::milliseconds{lastPatience};
@@ -138,6 +138,7 @@ void Log::writeOut(const std::stop_token& stop, std::string_view text) {
     text.remove_prefix(static_cast<std::size_t>(written));
   }
   linesLeftOut_ += static_cast<std::uint64_t>(std::ranges::count(text, '\n'));
+  return text.empty();
 }
 
 }  // namespace mivo::tally

@@ -44,7 +44,7 @@ class Log {
   void end();
   void write(const std::stop_token& stop);
   std::string take(const std::stop_token& stop);
-  void writeOut(const std::stop_token& stop, std::string_view text);
+  bool writeOut(const std::stop_token& stop, std::string_view text);
 
   int descriptor_;
   DateTexts dates_;

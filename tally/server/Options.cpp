@@ -49,7 +49,7 @@ void check(const ServeOptions& options) {
 struct Texts {
   std::string listen = "127.0.0.1:8787";
   std::string store = "sqlite:" + defaultDatabase().string();
-  std::string trustedProxies;
+  std::string trustedProxies = "0";
   unsigned requestSeconds = 10;
   unsigned idleSeconds = 60;
   unsigned drainSeconds = 2;
@@ -133,9 +133,11 @@ void checkVariables(CLI::App& app) {
   }
 }
 
-// The value was a switch once.
-bool isSwitch(const std::string& text) { return text == "1" || text == "true" || text == "yes" || text == "on"; }
-bool isSwitchedOff(const std::string& text) { return text.empty() || text == "0" || text == "false"; }
+// The value was a switch once; without a value the text is empty, or "true".
+bool isSwitch(const std::string& text) {
+  return text.empty() || text == "1" || text == "true" || text == "yes" || text == "on";
+}
+bool isSwitchedOff(const std::string& text) { return text == "0" || text == "false" || text == "no" || text == "off"; }
 
 Networks parseNetworks(std::string_view text) {
   Networks networks;

@@ -168,11 +168,11 @@ TEST_F(ServerTest, endsAConnectionAsTheClientAsks) {
 
 // A page whose own name leads to this machine is of the same origin for a browser.
 TEST_F(ServerTest, votesUnderItsOwnNamesOnly) {
-  const std::string vote = "GET /add/a/feature1?delta=1 HTTP/1.1\r\nHost: ";
+  const std::string beginning = "GET /add/a/feature1?delta=1 HTTP/1.1\r\nHost: ";
   const std::string page = "evil.example:8787\r\nOrigin: http://evil.example:8787\r\n\r\n";
   const auto statusOf = [&](TallyServer& server, const std::string& rest) {
     HttpClient client{server.port()};
-    client.send(vote + rest);
+    client.send(beginning + rest);
     return client.receive().status;
   };
   TallyServer own{store()};
