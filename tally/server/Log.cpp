@@ -136,6 +136,7 @@ bool Log::writeOut(const std::stop_token& stop, std::string_view text) {
     if (written < 0 && (errno == EINTR || errno == EAGAIN || errno == EWOULDBLOCK)) continue;
     if (written < 0) break;  // there is nobody left to tell
     text.remove_prefix(static_cast<std::size_t>(written));
+    patienceLeft = lastPatience;
   }
   linesLeftOut_ += static_cast<std::uint64_t>(std::ranges::count(text, '\n'));
   return text.empty();

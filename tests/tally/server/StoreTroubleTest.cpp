@@ -14,7 +14,8 @@ namespace mivo::tally::test {
 namespace {
 
 struct Fixture : testing::Test {
-  std::string file = folder_.file("tally.sqlite");
+  tests::TemporaryFolder folder;
+  std::string file = folder.file("tally.sqlite");
   std::string store = "sqlite:" + file;
 
   // Asks until the answer is as expected, or for 20 seconds: what the server notices, it notices by looking each
@@ -26,9 +27,6 @@ struct Fixture : testing::Test {
       std::this_thread::sleep_for(std::chrono::milliseconds{20});
     EXPECT_TRUE(condition());
   }
-
- private:
-  tests::TemporaryFolder folder_;
 };
 
 using StoreTrouble = Fixture;
