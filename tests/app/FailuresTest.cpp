@@ -2,41 +2,23 @@
 // What can go wrong around the app: each is said on the screen in the user's language, and nothing is lost.
 #include <gtest/gtest.h>
 #include <linux/capability.h>
-#include <sys/resource.h>
 #include <sys/syscall.h>
 #include <unistd.h>
 
 #include <cerrno>
-#include <csignal>
 #include <filesystem>
 #include <fstream>
 #include <system_error>
 
 #include "host/database/Database.h"
 #include "tests/app/ShownApp.h"
+#include "tests/support/FullDisk.h"
 #include "tests/support/TemporaryFolder.h"
 
 namespace mivo::app {
 namespace {
 
 namespace fs = std::filesystem;
-
-/// To this process the disk is full for as long as it lives: no file may grow.
-class FullDisk {
- public:
-  FullDisk() {
-    ::getrlimit(RLIMIT_FSIZE, &before);
-    std::signal(SIGXFSZ, SIG_IGN);
-    const rlimit full{1, before.rlim_max};
-    ::setrlimit(RLIMIT_FSIZE, &full);
-  }
-  ~FullDisk() { ::setrlimit(RLIMIT_FSIZE, &before); }
-  FullDisk(const FullDisk&) = delete;
-  FullDisk& operator=(const FullDisk&) = delete;
-
- private:
-  rlimit before{};
-};
 
 // Root may write wherever it likes; without its capabilities it is a user like any other.
 void giveUpCapabilities() {
@@ -91,7 +73,7 @@ class Failures : public testing::Test {
 TEST_F(Failures, aFullDiskIsSaidAndTheFastCanBeStartedLater) {
   open("de-DE");
   {
-    const FullDisk full;
+    const tests::FullDisk full;
     click("Fasten starten");
     EXPECT_TRUE(eventuallySays(
         "Es wurde nichts gespeichert: Der Datenträger ist voll. Schaffe Platz und versuche es noch einmal."));
@@ -106,7 +88,7 @@ TEST_F(Failures, aFullDiskIsSaidAndTheFastCanBeStartedLater) {
 
 TEST_F(Failures, settingsThatCannotBeSavedAreSaidAndHoldUntilTheEnd) {
   open("de-DE");
-  const FullDisk full;
+  const tests::FullDisk full;
   app->app.appearance().setTextScale(1.5);
   EXPECT_TRUE(eventuallySays("Einstellungen können nicht in " + (folder.path / "mivo" / "app.json").string() +
                              " gespeichert werden: " + std::generic_category().message(EFBIG)));

@@ -3,37 +3,19 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 
-#include <csignal>
 #include <filesystem>
 #include <fstream>
 #include <sstream>
 #include <system_error>
 
+#include "tests/support/FullDisk.h"
 #include "tests/support/TemporaryFolder.h"
 
 namespace mivo::adapters {
 namespace {
 
 namespace fs = std::filesystem;
-
-/// No file may grow for as long as it lives.
-class FullDisk {
- public:
-  FullDisk() {
-    ::getrlimit(RLIMIT_FSIZE, &before);
-    std::signal(SIGXFSZ, SIG_IGN);
-    const rlimit full{1, before.rlim_max};
-    ::setrlimit(RLIMIT_FSIZE, &full);
-  }
-  ~FullDisk() { ::setrlimit(RLIMIT_FSIZE, &before); }
-  FullDisk(const FullDisk&) = delete;
-  FullDisk& operator=(const FullDisk&) = delete;
-
- private:
-  rlimit before{};
-};
 
 class AtomicFile : public testing::Test {
  protected:
@@ -74,7 +56,7 @@ TEST_F(AtomicFile, isReplacedOnlyWhereThatIsMeant) {
 TEST_F(AtomicFile, staysAsItWasWhereTheDiskIsFull) {
   std::ofstream{file} << "older";
   {
-    const FullDisk full;
+    const tests::FullDisk full;
     EXPECT_EQ(codeOf(Existing::replaced), EFBIG);
   }
   EXPECT_EQ(contents(), "older");
