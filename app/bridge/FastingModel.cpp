@@ -8,7 +8,7 @@
 #include "app/bridge/DateTimeText.h"
 #include "app/bridge/GoalTime.h"
 #include "app/bridge/Text.h"
-#include "host/fasting/GoalTime.h"
+#include "mivo/fasting/GoalTime.h"
 #include "mivo/platform/Dependencies.h"
 
 namespace mivo::app {
@@ -195,10 +195,10 @@ void FastingModel::add() { send(Action::didTapAddFast{}); }
 
 QString FastingModel::hoursText(double seconds) const { return app::goalText(seconds); }
 
-QString FastingModel::typedGoal(double seconds) const { return qString(host::typedGoal(seconds)); }
+QString FastingModel::typedGoal(double seconds) const { return qString(mivo::typedGoal(seconds)); }
 
 double FastingModel::parsedGoal(const QString& text) const {
-  return static_cast<double>(host::parseGoal(text.toStdString()).value_or(0));
+  return static_cast<double>(parseGoal(text.toStdString()).value_or(0));
 }
 
 }  // namespace mivo::app

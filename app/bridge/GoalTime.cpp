@@ -2,13 +2,13 @@
 #include "GoalTime.h"
 
 #include "app/bridge/Text.h"
-#include "host/fasting/GoalTime.h"
+#include "mivo/fasting/GoalTime.h"
 #include "mivo/platform/Dependencies.h"
 
 namespace mivo::app {
 
 QString goalText(double seconds) {
-  return qString(host::goalText(seconds, *dependency(&Dependencies::hourDurationUnitFormatter),
+  return qString(mivo::goalText(seconds, *dependency(&Dependencies::hourDurationUnitFormatter),
                                 *dependency(&Dependencies::hourMinDurationUnitFormatter)));
 }
 

@@ -15,9 +15,9 @@
 #include "cli/terminal/StandardOutput.h"
 #include "cli/usage/Usage.h"
 #include "host/app/Settings.h"
-#include "host/fasting/GoalTime.h"
 #include "host/history/FieldRules.h"
 #include "host/text/BadRecord.h"
+#include "mivo/fasting/GoalTime.h"
 
 namespace mivo::cli {
 namespace {
@@ -106,7 +106,7 @@ Date RecordRun::dateOrNow(std::string_view name, const std::optional<std::string
 
 std::int64_t RecordRun::goalSeconds(std::int64_t fallback) const {
   if (!options.goalHours) return fallback;
-  const auto seconds = host::parseGoal(*options.goalHours);
+  const auto seconds = parseGoal(*options.goalHours);
   if (!seconds)
     throw Refused{
         wrongUsage,

@@ -8,8 +8,8 @@
 
 #include "cli/terminal/Paint.h"
 #include "cli/terminal/TextWidth.h"
-#include "host/fasting/GoalTime.h"
 #include "host/fasting/OverlappingFasts.h"
+#include "mivo/fasting/GoalTime.h"
 
 namespace mivo::cli {
 namespace {
@@ -31,7 +31,7 @@ std::string durationText(double seconds, const RecordRun& run) {
 }
 
 std::string goalText(std::int64_t goalSeconds, const RecordRun& run) {
-  return host::goalText(static_cast<double>(goalSeconds), *run.formatters.hourDurationUnitFormatter,
+  return mivo::goalText(static_cast<double>(goalSeconds), *run.formatters.hourDurationUnitFormatter,
                         *run.formatters.hourMinDurationUnitFormatter);
 }
 

@@ -146,7 +146,7 @@ FastingPage composeFastingPage(const FastingPageFacts& facts, const PageClients&
   page.title = texts.text("Fasting");
   page.goalLabel = texts.text("Goal");
   page.goalSeconds = static_cast<double>(facts.running ? facts.running->fast.goalSeconds : facts.nextGoalSeconds);
-  page.goal = goalText(page.goalSeconds, clients.hourMin, clients.hour);
+  page.goal = goalText(page.goalSeconds, clients.hour, clients.hourMin);
   page.button = texts.text("Start fast");
   page.zoneName = texts.text(displayString(page.zone));
   page.duration = durationText(seconds, clients);
@@ -161,7 +161,7 @@ FastingPage composeFastingPage(const FastingPageFacts& facts, const PageClients&
   page.ringSeconds = std::floor(seconds / ringStep) * ringStep;
   page.ringSpan = ringSpan(seconds, page.goalSeconds, page.isEating);
   for (const double place : markPlaces(page.ringSpan, page.isEating))
-    page.marks.push_back({place, goalText(place, clients.hourMin, clients.hour)});
+    page.marks.push_back({place, goalText(place, clients.hour, clients.hourMin)});
   return page;
 }
 

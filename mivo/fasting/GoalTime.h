@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -9,14 +10,17 @@
 
 namespace mivo {
 
-/// A goal as people type it, in seconds: "17" and "16.5" or "16,5" are hours, "16:30" hours and minutes; an "h" may
-/// follow. Whole minutes. Nothing for another text, for no time at all and for more than a year of hours.
-std::optional<double> parseGoalTime(std::string_view text);
+/// The longest goal that can be typed: a week. Files may bring longer ones.
+inline constexpr int mostTypedGoalHours = 168;
 
-/// "16h", "16h 30m", in the user's language.
-std::string goalText(double seconds, const DurationFormatter& hourMin, const DurationFormatter& hour);
+/// A goal as people type it, in seconds, to the minute: "17", "17 h" and "16.5" or "16,5" are hours, "16:30" hours and
+/// minutes; 0 is no goal. Nothing for another text and for more than `mostTypedGoalHours`.
+std::optional<std::int64_t> parseGoal(std::string_view text);
 
-/// For a field to type in: "16:30"; "16" where no minutes are left over. What `parseGoalTime` reads back.
-std::string goalTimeText(double seconds);
+/// "16h", "16h 30m": by one formatter for whole hours, and one for hours and minutes.
+std::string goalText(double seconds, const DurationFormatter& hours, const DurationFormatter& hoursAndMinutes);
+
+/// For a field to type in: "16:30"; "16" where no minutes are left over.
+std::string typedGoal(double seconds);
 
 }  // namespace mivo

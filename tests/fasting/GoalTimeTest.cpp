@@ -3,52 +3,51 @@
 
 #include <gtest/gtest.h>
 
+#include <ostream>
+#include <string>
+
 #include "tests/support/FixedClients.h"
 
 namespace mivo {
 namespace {
 
-struct TypedRow {
+struct GoalRow {
   const char* name;
-  std::string text;
-  std::optional<double> minutes;
+  const char* typed;
+  std::optional<std::int64_t> seconds;
 };
-void PrintTo(const TypedRow& row, std::ostream* out) { *out << row.name; }
+void PrintTo(const GoalRow& row, std::ostream* out) { *out << row.name; }
+class ParsedGoal : public testing::TestWithParam<GoalRow> {};
 
-class TypedGoal : public testing::TestWithParam<TypedRow> {};
-
-TEST_P(TypedGoal, isHours) {
-  const auto seconds = parseGoalTime(GetParam().text);
-  EXPECT_EQ(seconds, GetParam().minutes ? std::optional{*GetParam().minutes * 60} : std::nullopt);
-}
+TEST_P(ParsedGoal, isHoursOrHoursAndMinutes) { EXPECT_EQ(parseGoal(GetParam().typed), GetParam().seconds); }
 
 INSTANTIATE_TEST_SUITE_P(
-    Rows, TypedGoal,
-    testing::Values(TypedRow{"whole", "17", 1020}, TypedRow{"point", "16.5", 990}, TypedRow{"comma", "16,25", 975},
-                    TypedRow{"minutes", "16:30", 990}, TypedRow{"blanksAndUnit", " 16:05 h ", 965},
-                    TypedRow{"unitAtOnce", "20h", 1200}, TypedRow{"roundedToMinutes", "0.3333", 20},
-                    TypedRow{"aYear", "8784", 527040}, TypedRow{"moreThanAYear", "8784:01", {}},
-                    TypedRow{"noTime", "0", {}}, TypedRow{"lessThanAMinute", "0.008", {}},
-                    TypedRow{"halfAMinute", "0.0084", 1}, TypedRow{"nothing", "", {}}, TypedRow{"unitAlone", "h", {}},
-                    TypedRow{"sixtyMinutes", "16:60", {}}, TypedRow{"oneDigitOfMinutes", "16:5", {}},
-                    TypedRow{"nothingBehindThePoint", "16.", {}}, TypedRow{"tooManyDigits", "00016", {}},
-                    TypedRow{"negative", "-16", {}}, TypedRow{"words", "sixteen", {}}, TypedRow{"twoUnits", "16hh", {}},
-                    TypedRow{"blankInside", "1 6", {}}),
+    Rows, ParsedGoal,
+    testing::Values(GoalRow{"hours", "17", 61200}, GoalRow{"unit", " 17 h ", 61200}, GoalRow{"point", "16.5", 59400},
+                    GoalRow{"comma", "16,5", 59400}, GoalRow{"minutes", "16:30", 59400},
+                    GoalRow{"toTheMinute", "0.333333333333", 1200}, GoalRow{"none", "0", 0},
+                    GoalRow{"week", "168", 604800}, GoalRow{"aMinuteMore", "168:01", std::nullopt},
+                    GoalRow{"slipOfThePen", "1613", std::nullopt}, GoalRow{"empty", "", std::nullopt},
+                    GoalRow{"unitAlone", "h", std::nullopt}, GoalRow{"word", "all day", std::nullopt},
+                    GoalRow{"negative", "-1", std::nullopt}, GoalRow{"infinite", "inf", std::nullopt},
+                    GoalRow{"sixtyMinutes", "16:60", std::nullopt}, GoalRow{"oneDigitOfMinutes", "16:3", std::nullopt},
+                    GoalRow{"noHours", ":30", std::nullopt}, GoalRow{"signedMinutes", "16:-1", std::nullopt},
+                    GoalRow{"twoColons", "1:30:00", std::nullopt}, GoalRow{"twoPoints", "1.5.0", std::nullopt},
+                    GoalRow{"nothingAfterThePoint", "16.", std::nullopt}),
     [](const auto& row) { return std::string{row.param.name}; });
 
-TEST(GoalText, namesMinutesOnlyWhereThereAreSome) {
-  const tests::EnglishHoursAndMinutes hourMin;
-  const tests::EnglishHours hour;
-  EXPECT_EQ(goalText(16 * 3600, hourMin, hour), "16h");
-  EXPECT_EQ(goalText(16 * 3600 + 59, hourMin, hour), "16h");
-  EXPECT_EQ(goalText(16 * 3600 + 60, hourMin, hour), "16h 1m");
+TEST(GoalText, namesMinutesWhereThereAreAny) {
+  const tests::EnglishHours hours;
+  const tests::EnglishHoursAndMinutes both;
+  EXPECT_EQ(goalText(57600, hours, both), "16h");
+  EXPECT_EQ(goalText(57659, hours, both), "16h") << "seconds are not shown";
+  EXPECT_EQ(goalText(59400, hours, both), "16h 30m");
 }
 
-TEST(GoalTimeText, isReadBack) {
-  EXPECT_EQ(goalTimeText(16 * 3600), "16");
-  EXPECT_EQ(goalTimeText(16 * 3600 + 5 * 60), "16:05");
-  for (const double minutes : {1, 59, 60, 61, 990, 1439})
-    EXPECT_EQ(parseGoalTime(goalTimeText(minutes * 60)), minutes * 60);
+TEST(TypedGoal, readsBackAsItself) {
+  for (const std::int64_t seconds : {57600, 59400, 300, 604800})
+    EXPECT_EQ(parseGoal(typedGoal(double(seconds))), seconds);
+  EXPECT_EQ(typedGoal(57900), "16:05");
 }
 
 }  // namespace
