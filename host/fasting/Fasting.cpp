@@ -11,17 +11,11 @@ namespace {
 
 tl::unexpected<Refusal> refused(Refusal why) { return tl::unexpected{std::move(why)}; }
 
-template <class Record>
-std::optional<Refusal> faultOf(const Record& record, const std::optional<Record>& before, Date now) {
-  const auto fault = recordFault(record, before, now);
-  return fault ? std::optional<Refusal>{IsNoRecord{*fault}} : std::nullopt;
-}
-
 // Of a record that is as it was nothing is to be written.
 template <class Record>
 Outcome replacedBy(const Record& before, const Record& after, Date now) {
   if (before == after) return HistoryChange{};
-  if (auto fault = faultOf(after, std::optional{before}, now)) return refused(std::move(*fault));
+  if (const auto fault = recordFault(after, std::optional{before}, now)) return refused(IsNoRecord{*fault});
   return replacing(before, after);
 }
 
@@ -54,7 +48,7 @@ const BodyWeightSample* weightWithID(std::span<const BodyWeightSample> weights, 
 Outcome addingFast(std::span<const FastRecord> fasts, FastRecord fast, Date now) {
   const FastRecord* running = runningFast(fasts);
   if (running && !fast.fast.finished) return refused(FastIsRunning{*running});
-  if (auto fault = faultOf(fast, {}, now)) return refused(std::move(*fault));
+  if (const auto fault = recordFault(fast, now)) return refused(IsNoRecord{*fault});
   return adding(std::move(fast));
 }
 
@@ -80,7 +74,7 @@ Outcome changingStart(std::span<const FastRecord> fasts, Date start, Date now) {
   FastRecord after = *running;
   after.fast.start = keepingSeconds(running->fast.start, start);
   // A start that was wrong before is no excuse: it is what is being set.
-  if (auto fault = faultOf(after, {}, now)) return refused(std::move(*fault));
+  if (const auto fault = recordFault(after, now)) return refused(IsNoRecord{*fault});
   return replacedBy(*running, after, now);
 }
 
@@ -106,7 +100,7 @@ Outcome removingFast(std::span<const FastRecord> fasts, UUID id) {
 
 Outcome addingWeight(std::span<const BodyWeightSample> weights, const BodyWeightSample& sample, WeightUnit unit,
                      const MassFormatter& masses, Date now) {
-  if (auto fault = faultOf(sample, {}, now)) return refused(std::move(*fault));
+  if (const auto fault = recordFault(sample, now)) return refused(IsNoRecord{*fault});
   if (const auto* same = sameWeight(weights, sample, unit, masses)) return refused(IsSavedAlready{*same});
   return adding(sample);
 }
