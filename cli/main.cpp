@@ -31,11 +31,16 @@ const CLI::App* addForeign(CLI::App& program, const char* name, const char* desc
 
 /// The roadmap is a program of its own beside this one: to load the network's libraries alone takes as long as a whole
 /// report.
-int becomeRoadmapProgram(char** arguments) {
+int becomeRoadmapProgram(std::vector<std::string> arguments) {
   std::error_code failure;
   const auto self = std::filesystem::read_symlink("/proc/self/exe", failure);
   const auto program = self.parent_path() / "mivo-roadmap";
-  ::execv(program.c_str(), arguments);
+  arguments.insert(arguments.begin(), "mivo");
+  std::vector<char*> texts;
+  texts.reserve(arguments.size() + 1);
+  for (std::string& argument : arguments) texts.push_back(argument.data());
+  texts.push_back(nullptr);
+  ::execv(program.c_str(), texts.data());
   complain(program.string() + ": " + std::generic_category().message(errno));
   return atFault;
 }
@@ -61,7 +66,11 @@ int greet(const CLI::App& program, const RecordOptions& options) {
   return status;
 }
 
-int run(int count, char** arguments) {
+void parse(CLI::App& program, const std::vector<std::string>& arguments) {
+  program.parse(std::vector<std::string>{arguments.rbegin(), arguments.rend()});  // takes them from the end
+}
+
+int run(const std::vector<std::string>& arguments) {
   if (const auto fault = closedOutput()) {
     complain(*fault);
     return atFault;
@@ -75,6 +84,7 @@ int run(int count, char** arguments) {
     return host::versionText("mivo " MIVO_VERSION, details);
   }));
   program.require_subcommand(1);
+  program.footer("mivo start begins a fast, mivo stop ends it. mivo help COMMAND tells more of each, with examples.");
   ReportOptions reportOptions;
   const CLI::App& report = addReport(program, reportOptions);
   RecordOptions recordOptions;
@@ -82,9 +92,14 @@ int run(int count, char** arguments) {
   const std::array foreign{addForeign(program, "roadmap", "List the features that may come, and their votes"),
                            addForeign(program, "vote", "Vote for a feature of the roadmap"),
                            addForeign(program, "unvote", "Take a vote back")};
-  if (count == 1) return greet(program, recordOptions);
+  program.add_subcommand("help", "Tell what a command can do: mivo help add");  // for the list; it never comes here
+  if (arguments.empty()) return greet(program, recordOptions);
+  if (const auto wrong = wrongCommand(program, arguments)) {
+    complain(*wrong);
+    return wrongUsage;
+  }
   try {
-    program.parse(count, arguments);
+    parse(program, arguments);
   } catch (const CLI::ParseError& parsed) {
     return answer(program, parsed, hint(program).c_str());
   }
@@ -101,7 +116,7 @@ int run(int count, char** arguments) {
 int main(int count, char** arguments) {
   mivo::adapters::keepFreedMemory();
   try {
-    return mivo::cli::run(count, arguments);
+    return mivo::cli::run(mivo::cli::helpAsOption({arguments + 1, arguments + count}));
   } catch (const std::exception& error) {
     mivo::cli::complain(error.what());
     return mivo::cli::atFault;

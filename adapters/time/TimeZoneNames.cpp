@@ -7,9 +7,10 @@
 #include <cstdlib>
 #include <fstream>
 #include <iterator>
-#include <numeric>
 #include <optional>
 #include <system_error>
+
+#include "adapters/spelling/ClosestSpelling.h"
 
 namespace mivo::adapters {
 
@@ -43,36 +44,16 @@ std::string lowerCase(std::string_view text) {
   return lower;
 }
 
-// How many letters must be put in, left out or replaced.
-std::size_t editDistance(std::string_view a, std::string_view b) {
-  std::vector<std::size_t> row(b.size() + 1);
-  std::iota(row.begin(), row.end(), std::size_t{0});
-  for (std::size_t i = 0; i < a.size(); ++i) {
-    std::size_t diagonal = std::exchange(row[0], i + 1);
-    for (std::size_t j = 0; j < b.size(); ++j) {
-      const std::size_t replaced = diagonal + (a[i] == b[j] ? 0 : 1);
-      diagonal = row[j + 1];
-      row[j + 1] = std::min({replaced, row[j] + 1, row[j + 1] + 1});
-    }
-  }
-  return row.back();
-}
-
 // The zone whose name, or whose city, is spelled most like this; none where nothing comes close.
 std::optional<std::string> closestName(std::string_view name) {
-  if (name.empty() || name.size() > 64) return std::nullopt;
-  const std::string wanted = lowerCase(name);
-  std::size_t best = std::min<std::size_t>(3, name.size() / 3 + 1);
-  std::optional<std::string> closest;
-  for (std::string& candidate : timeZoneNames()) {
-    const std::string lower = lowerCase(candidate);
-    const std::string_view city = std::string_view{lower}.substr(lower.rfind('/') + 1);
-    const std::size_t distance = std::min(editDistance(wanted, lower), editDistance(wanted, city));
-    if (distance >= best) continue;
-    best = distance;
-    closest = std::move(candidate);
-  }
-  return closest;
+  const std::vector<std::string> names = timeZoneNames();
+  std::vector<std::string> spellings;
+  spellings.reserve(2 * names.size());
+  for (const std::string& whole : names) spellings.push_back(lowerCase(whole));
+  for (std::size_t place = 0; place < names.size(); ++place)
+    spellings.push_back(spellings[place].substr(spellings[place].rfind('/') + 1));
+  const auto closest = closestSpelling(lowerCase(name), spellings);
+  return closest ? std::optional{names[*closest % names.size()]} : std::nullopt;
 }
 
 // "/usr/share/zoneinfo/Europe/Berlin" and links to it give "Europe/Berlin".
