@@ -4,7 +4,7 @@
 #include "app/bridge/DateTimeText.h"
 #include "app/bridge/Text.h"
 #include "mivo/platform/Dependencies.h"
-#include "mivo/statistics/WeightText.h"
+#include "mivo/weights/WeightText.h"
 
 namespace mivo::app {
 

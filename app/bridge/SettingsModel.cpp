@@ -13,6 +13,7 @@
 #include "mivo/model/Translatable.h"
 #include "mivo/platform/Dependencies.h"
 #include "mivo/statistics/CardTexts.h"
+#include "mivo/weights/WeightUnits.h"
 
 namespace mivo::app {
 namespace {
@@ -21,7 +22,6 @@ using Flags = DashboardSettingsFeature::State;
 using Entity = StreakSettings::CountingEntity;
 
 constexpr int daysOfWeek = 7;
-constexpr std::array<const char*, 3> unitTexts{"kg", "lb", "st"};
 
 struct Language {
   const char *tag, *name;  // in itself, so that whoever reads only it finds it
@@ -149,7 +149,7 @@ void SettingsModel::setWeightUnit(int place) {
   tell();
 }
 
-QString SettingsModel::weightUnitText() const { return QString::fromUtf8(unitTexts[static_cast<std::size_t>(unit)]); }
+QString SettingsModel::weightUnitText() const { return qString(std::string{weightUnitSign(unit)}); }
 
 QStringList SettingsModel::firstWeekdays() const {
   const std::string usual = dependency(&Dependencies::texts)->text("System ({1})");

@@ -60,9 +60,7 @@ struct Help {
       case noteTooLong:
         return {"--note: " + std::string{host::expectedNote}, wrongUsage};
       case weightOutOfRange:
-        return {
-            wrong("WEIGHT", "expected a weight as in 81.4, 81.4kg, 179lb or \"12st 11lb\"", run.options.weight).value(),
-            wrongUsage};
+        return {wrong("WEIGHT", host::expectedTypedWeight, run.options.weight).value(), wrongUsage};
     }
     return {"", atFault};
   }

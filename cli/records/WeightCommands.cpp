@@ -7,7 +7,7 @@
 #include "cli/usage/Usage.h"
 #include "host/fasting/Fasting.h"
 #include "host/history/Snapshot.h"
-#include "mivo/statistics/WeightText.h"
+#include "mivo/weights/WeightText.h"
 
 namespace mivo::cli {
 namespace {
@@ -20,7 +20,7 @@ std::string answer(const RecordRun& run, std::string_view pattern, const BodyWei
 std::string add(const RecordRun& run) {
   constexpr double noWeight = 0;  // which no body has
   const BodyWeightSample sample{adapters::LocalUUIDGenerator{}.next(), run.dateOrNow("--at", run.options.at),
-                                parseWeight(run.options.weight, WeightUnit::kilograms).value_or(noWeight)};
+                                parseTypedWeight(run.options.weight, WeightUnit::kilograms).value_or(noWeight)};
   host::Database database = run.open();
   const auto weights = database.history().weights;
   const auto outcome = host::addingWeight(weights, sample, run.weightUnit(), *run.formatters.massFormatter, run.now);

@@ -7,6 +7,7 @@
 #include "adapters/icu/Calendars.h"
 #include "adapters/system/SystemClock.h"
 #include "cli/options/OptionValues.h"
+#include "mivo/weights/WeightUnits.h"
 
 namespace mivo::cli {
 namespace {
@@ -15,8 +16,6 @@ constexpr std::array<Choice<TimeRange>, 3> ranges{
     {{"week", TimeRange::week}, {"month", TimeRange::month}, {"year", TimeRange::year}}};
 constexpr std::array<Choice<StreakSettings::CountingEntity>, 2> countingEntities{
     {{"days", StreakSettings::CountingEntity::days}, {"fasts", StreakSettings::CountingEntity::fasts}}};
-constexpr std::array<Choice<WeightUnit>, 3> weightUnits{
-    {{"kg", WeightUnit::kilograms}, {"lb", WeightUnit::pounds}, {"st", WeightUnit::stones}}};
 
 Read<int> firstWeekday(const std::string& text, const adapters::UserLocale& locale) {
   if (text.empty()) return locale.firstWeekday();
@@ -50,12 +49,9 @@ tl::expected<RunSettings, std::string> runSettings(const ReportOptions& options)
   if (!range) return tl::unexpected{range.error()};
   const auto asJson = readFormat(options.format);
   if (!asJson) return tl::unexpected{asJson.error()};
-  std::optional<WeightUnit> weightUnit;
-  if (!options.weightUnit.empty()) {
-    const auto unit = readChoice<WeightUnit>("--weight-unit", "expected kg, lb or st", weightUnits, options.weightUnit);
-    if (!unit) return tl::unexpected{unit.error()};
-    weightUnit = *unit;
-  }
+  const auto weightUnit = weightUnitNamed(options.weightUnit);
+  if (!weightUnit && !options.weightUnit.empty())
+    return wrong("--weight-unit", "expected kg, lb or st", options.weightUnit);
   const auto streaks = streakSettings(options);
   if (!streaks) return tl::unexpected{streaks.error()};
   const auto zone = readTimeZone(options.timeZone);

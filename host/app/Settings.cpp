@@ -2,10 +2,10 @@
 #include "host/app/Settings.h"
 
 #include <algorithm>
-#include <array>
 #include <string_view>
 
 #include "host/history/FieldRules.h"
+#include "mivo/weights/WeightUnits.h"
 
 namespace mivo::host {
 namespace {
@@ -13,7 +13,6 @@ namespace {
 constexpr std::string_view goalWeightKey = "goalWeightInKg", weightUnitKey = "weightUnit",
                            goalSecondsKey = "fastGoalSeconds", languageKey = "language",
                            firstWeekdayKey = "firstWeekday";
-constexpr std::array<std::string_view, 3> unitNames{"kg", "lb", "st"};
 
 }  // namespace
 
@@ -27,13 +26,11 @@ void setGoalWeight(const UserDefaults& defaults, std::optional<double> goalInKg)
 }
 
 std::optional<WeightUnit> weightUnit(const UserDefaults& defaults) {
-  const auto name = std::ranges::find(unitNames, defaults.text(weightUnitKey, ""));
-  if (name == unitNames.end()) return std::nullopt;
-  return static_cast<WeightUnit>(name - unitNames.begin());
+  return weightUnitNamed(defaults.text(weightUnitKey, ""));
 }
 
 void setWeightUnit(const UserDefaults& defaults, WeightUnit unit) {
-  defaults.setValue(weightUnitKey, std::string{unitNames[static_cast<std::size_t>(unit)]});
+  defaults.setValue(weightUnitKey, std::string{weightUnitSign(unit)});
 }
 
 std::int64_t goalSeconds(const UserDefaults& defaults) {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "host/fasting/Refusal.h"
 
+#include "mivo/weights/WeightText.h"
+
 namespace mivo::host {
 namespace {
 
@@ -39,7 +41,7 @@ std::string faultText(RecordFault fault, const TextLookup& texts) {
     case RecordFault::noteTooLong:
       return texts.text("Write a shorter note.");
     case RecordFault::weightOutOfRange:
-      return texts.text("Type your weight as a number, such as 81.4.");
+      return refusedWeightText(texts);
   }
   return {};
 }

@@ -8,6 +8,7 @@
 #include <string_view>
 
 #include "host/history/History.h"
+#include "mivo/weights/WeightUnits.h"
 
 namespace mivo::host {
 
@@ -19,17 +20,16 @@ inline constexpr std::int64_t defaultGoalSeconds = 57600;
 /// Ten thousand years.
 inline constexpr double largestGoalHours = 87'660'000;
 
-/// Heavier ones are a slipped decimal sign or grams.
-inline constexpr double largestWeightInKg = 1000;
-
 inline constexpr std::size_t longestNoteInBytes = 65536;
-
-constexpr bool isBodyWeight(double weightInKg) { return weightInKg > 0 && weightInKg <= largestWeightInKg; }
 
 inline constexpr std::string_view expectedDate =
     "expected a date and time of the years 1 to 9999, as in 2026-03-01T12:00:00Z";
 inline constexpr std::string_view expectedNote = "expected UTF-8 text of at most 65536 bytes";
 inline constexpr std::string_view expectedWeight = "expected kilograms above 0 and at most 1000";
+static_assert(largestWeightInKg == 1000);
+inline constexpr std::string_view expectedTypedWeight =
+    "expected a weight above 0 and at most 700 kg, as in 81.4, 81.4kg, 179lb or \"12st 11lb\"";
+static_assert(largestTypedWeightInKg == 700);
 
 /// Whether a text can be kept as a note.
 bool isNote(std::string_view text);

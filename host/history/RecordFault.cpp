@@ -23,7 +23,7 @@ std::optional<RecordFault> recordFault(const FastRecord& record, Date now) {
 std::optional<RecordFault> recordFault(const BodyWeightSample& sample, Date now) {
   if (!isRepresentable(sample.date)) return RecordFault::dateOutOfRange;
   if (sample.date > now) return RecordFault::dateInFuture;
-  if (!isBodyWeight(sample.weightInKg)) return RecordFault::weightOutOfRange;
+  if (!isTypedWeight(sample.weightInKg)) return RecordFault::weightOutOfRange;
   return std::nullopt;
 }
 

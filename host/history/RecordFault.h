@@ -18,7 +18,7 @@ enum class RecordFault {
   noteTooLong,     ///< or not UTF-8
   dateOutOfRange,  ///< of a weighing
   dateInFuture,
-  weightOutOfRange,  ///< not above 0, or more than `largestWeightInKg`
+  weightOutOfRange,  ///< not above 0, or more than `largestTypedWeightInKg`
 };
 
 /// The first fault of a record, if it has one. Nobody records what has not happened yet, so a date after `now` is one:

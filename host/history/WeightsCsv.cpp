@@ -10,7 +10,7 @@
 #include "host/history/FieldRules.h"
 #include "host/history/Header.h"
 #include "host/history/History.h"
-#include "host/history/WeightText.h"
+#include "mivo/weights/WeightText.h"
 
 namespace mivo::host {
 namespace {
@@ -50,9 +50,9 @@ bool saysNotWeighed(std::string_view cell) { return cell.empty() || cell == "NA"
 
 class WeightsReader {
  public:
-  WeightsReader(const std::string& fileName, char separator, const adapters::TimeZone& timeZone,
-                std::optional<WeightUnit> fallback, const UUIDGenerator& uuids)
-      : file{fileName}, zone{timeZone}, ids{uuids}, unit{fallback}, decimalComma{separator != ','} {}
+  WeightsReader(const std::string& fileName, const adapters::TimeZone& timeZone, std::optional<WeightUnit> fallback,
+                const UUIDGenerator& uuids)
+      : file{fileName}, zone{timeZone}, ids{uuids}, unit{fallback} {}
 
   std::optional<BadRecord> row(const CsvRow& row) {
     if (fieldCount == 0) return header(row);
@@ -78,7 +78,7 @@ class WeightsReader {
     weight = *weightColumn;
     std::string plain = plainHeader(weight.name);
     if (plain.ends_with(')')) plain.pop_back();
-    if (const auto named = splitUnit(plain).second) unit = named;
+    if (const auto named = weightUnitAtEnd(plain)) unit = named;
     fieldCount = row.fields.size();
     return std::nullopt;
   }
@@ -87,13 +87,12 @@ class WeightsReader {
     const auto dateText = parseDateText(row.fields[date.index]);
     const auto when = dateText ? instant(*dateText, zone) : std::nullopt;
     if (!when) return bad(row, date, expectedDate);
-    const auto [digits, cellUnit] = splitUnit(row.fields[weight.index]);
-    const auto number = decimalNumber(digits, decimalComma);
-    const auto unitOfCell = cellUnit ? cellUnit : unit;
-    if (number && !unitOfCell) return bad(row, weight, "expected a unit in the header or the cell: kg, lb or st");
-    const double weightInKg = number ? *number * kilogramsPer(*unitOfCell) : 0;
-    if (!isBodyWeight(weightInKg)) return bad(row, weight, expectedWeight);
-    samples.push_back({ids.next(), *when, weightInKg});
+    const auto read = readWeight(row.fields[weight.index], unit);
+    const double* const weightInKg = std::get_if<double>(&read);
+    if (!weightInKg && std::get<WeightTextFault>(read) == WeightTextFault::noUnit)
+      return bad(row, weight, "expected a unit in the header or the cell: kg, lb or st");
+    if (!weightInKg || !isBodyWeight(*weightInKg)) return bad(row, weight, expectedWeight);
+    samples.push_back({ids.next(), *when, *weightInKg});
     return std::nullopt;
   }
 
@@ -105,7 +104,6 @@ class WeightsReader {
   const adapters::TimeZone& zone;
   const UUIDGenerator& ids;
   std::optional<WeightUnit> unit;
-  bool decimalComma;
   std::size_t fieldCount = 0;
   Column date, weight;
 };
@@ -116,9 +114,8 @@ tl::expected<std::vector<BodyWeightSample>, BadRecord> readWeightsCsv(std::strin
                                                                       const adapters::TimeZone& zone,
                                                                       std::optional<WeightUnit> unit,
                                                                       const UUIDGenerator& ids) {
-  const char separator = csvSeparator(text);
-  WeightsReader reader{file, separator, zone, unit, ids};
-  auto bad = readCsv(text, separator, file, [&](const CsvRow& row) { return reader.row(row); });
+  WeightsReader reader{file, zone, unit, ids};
+  auto bad = readCsv(text, csvSeparator(text), file, [&](const CsvRow& row) { return reader.row(row); });
   if (!bad && !reader.hasHeader())
     bad = BadRecord{.file = file,
                     .reason = "expected a header with the columns \"date\" and \"weight_kg\", found an empty file"};

@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "mivo/statistics/WeightText.h"
+#include "mivo/weights/WeightText.h"
 
 namespace mivo {
 namespace {
@@ -27,14 +27,14 @@ void edited(State& state) {
 void step(State& state, int direction) {
   const double inKg = stepInKg(state.weightUnit);
   const double steps = std::round(state.weightInKg / inKg) + direction;
-  if (steps < 1 || steps * inKg >= heaviestWeightInKg) return;
+  if (!isTypedWeight(steps * inKg)) return;
   state.weightInKg = steps * inKg;
   state.typedText = std::nullopt;
   edited(state);
 }
 
 void didChangeText(State& state, const std::string& text) {
-  const auto weight = parseWeight(text, state.weightUnit);
+  const auto weight = parseTypedWeight(text, state.weightUnit);
   if (weight) state.weightInKg = *weight;
   state.typedText = text;
   edited(state);
@@ -42,7 +42,7 @@ void didChangeText(State& state, const std::string& text) {
 
 std::optional<Feature::Problem> problemOf(const State& state, Date now) {
   const auto& typed = *state.typedText;
-  if (typed && !parseWeight(*typed, state.weightUnit)) return Feature::Problem::notAWeight;
+  if (typed && !parseTypedWeight(*typed, state.weightUnit)) return Feature::Problem::notAWeight;
   if (*state.logDate > now) return Feature::Problem::dateInFuture;
   return std::nullopt;
 }
@@ -101,7 +101,7 @@ std::string weightFieldText(const AddWeightLogFeature::State& state, const Numbe
 
 std::string problemText(const AddWeightLogFeature::State& state, const TextLookup& texts) {
   if (state.savingState == Feature::SavingState::failed) return state.failure;
-  if (state.problem == Feature::Problem::notAWeight) return texts.text("Type your weight as a number, such as 81.4.");
+  if (state.problem == Feature::Problem::notAWeight) return refusedWeightText(texts);
   if (state.problem == Feature::Problem::dateInFuture) return texts.text("This date has not come yet.");
   return {};
 }

@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "mivo/statistics/WeightText.h"
+#include "mivo/weights/WeightText.h"
 
 namespace mivo {
 namespace {
@@ -33,7 +33,7 @@ bool hasPassed(double goalInKg, double currentInKg, const std::optional<Trend>& 
 }
 
 void didTypeGoal(State& state, const std::string& text) {
-  const auto goal = parseWeight(text, state.weightUnit);
+  const auto goal = parseTypedWeight(text, state.weightUnit);
   const bool isEmpty = text.find_first_not_of(" \t\n") == std::string::npos;
   state.hasGoalProblem = !goal && !isEmpty;
   if (goal || isEmpty) state.goalInKg = goal;
@@ -43,7 +43,7 @@ void didTypeGoal(State& state, const std::string& text) {
 
 auto GoalWeightCardFeature::reduce(State& state, const Action& action) const -> Effect<Action> {
   if (const auto* set = std::get_if<Action::didSetGoal>(&action)) {
-    const bool isWeight = !set->goalInKg || (*set->goalInKg > 0 && *set->goalInKg < heaviestWeightInKg);
+    const bool isWeight = !set->goalInKg || isBodyWeight(*set->goalInKg);
     if (isWeight) state.goalInKg = set->goalInKg;
   }
   if (std::holds_alternative<Action::didOpenGoal>(action)) state.hasGoalProblem = false;

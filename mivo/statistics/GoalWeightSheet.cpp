@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "mivo/statistics/GoalWeightSheet.h"
 
-#include "mivo/statistics/WeightText.h"
+#include "mivo/weights/WeightText.h"
 
 namespace mivo {
 
@@ -11,7 +11,7 @@ GoalWeightSheet composeGoalWeightSheet(const GoalWeightCardFeature::State& state
   return {.title = texts.text("Goal weight"),
           .fieldText = goal ? weightFieldText(*goal, state.weightUnit, numbers, masses) : "",
           .unit = weightFieldUnit(state.weightUnit),
-          .problem = state.hasGoalProblem ? texts.text("Type your weight as a number, such as 81.4.") : "",
+          .problem = state.hasGoalProblem ? refusedWeightText(texts) : "",
           .save = texts.text("Save"),
           .remove = goal ? texts.text("Remove goal") : ""};
 }

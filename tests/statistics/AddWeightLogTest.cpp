@@ -55,7 +55,7 @@ TEST_F(AddWeightLog, handsAGoodEntryToTheHostAndIsReadyForTheNext) {
 TEST_F(AddWeightLog, refusesWhatIsNoWeightAndKeepsTheText) {
   store.send(Action::didChangeText{"8x"}, [](State& state) { state.typedText = "8x"; });
   store.send(Action::didTapSave{}, [](State& state) { state.problem = Feature::Problem::notAWeight; });
-  EXPECT_EQ(problemText(store.state(), tests::EnglishTexts{}), "Type your weight as a number, such as 81.4.");
+  EXPECT_EQ(problemText(store.state(), tests::EnglishTexts{}), "Type up to 700 kg or 1543 lb, such as 81.4.");
   store.send(Action::didChangeText{"80"}, [](State& state) {
     state.typedText = "80";
     state.weightInKg = 80.0;

@@ -72,7 +72,7 @@ TEST(GoalWeightCard, readsAGoalAsItIsTyped) {
   store.send(Action::didTypeGoal{"150"}, [](Feature::State& card) { card.goalInKg = 150 * 0.45359237; });
   EXPECT_EQ(sheet(), (GoalWeightSheet{"Goal weight", "150.0", "lb", "", "Save", "Remove goal"}));
   store.send(Action::didTypeGoal{"light"}, [](Feature::State& card) { card.hasGoalProblem = true; });
-  EXPECT_EQ(sheet().problem, "Type your weight as a number, such as 81.4.");
+  EXPECT_EQ(sheet().problem, "Type up to 700 kg or 1543 lb, such as 81.4.");
   EXPECT_EQ(sheet().fieldText, "150.0") << "the goal stays";
   store.send(Action::didOpenGoal{}, [](Feature::State& card) { card.hasGoalProblem = false; });
   store.send(Action::didTypeGoal{" "}, [](Feature::State& card) { card.goalInKg = std::nullopt; });
@@ -90,7 +90,7 @@ TEST(GoalWeightCard, takesAGoalThatIsAWeightAndDropsIt) {
   const DependencyScope scope = world.enter();
   tests::TestStore<Feature> store{world, Feature::State{}, Feature{}};
   store.send(Feature::Action::didSetGoal{72.5}, [](Feature::State& card) { card.goalInKg = 72.5; });
-  for (const double noWeight : {-1.0, 0.0, 1000.0}) store.send(Feature::Action::didSetGoal{noWeight});
+  for (const double noWeight : {-1.0, 0.0, 1000.5}) store.send(Feature::Action::didSetGoal{noWeight});
   store.send(Feature::Action::didSetGoal{std::nullopt}, [](Feature::State& card) { card.goalInKg = std::nullopt; });
 }
 

@@ -41,8 +41,8 @@ TEST_P(RecordErrors, areOneSentenceAndChangeNothing) {
 
 const std::string now = "2[0-9-]+ [0-9:]+";
 const std::string noWeight =
-    "Type your weight as a number, such as 81.4. "
-    "\\(WEIGHT: expected a weight as in 81.4, 81.4kg, 179lb or \"12st 11lb\", ";
+    "Type up to 700 kg or 1543 lb, such as 81.4. "
+    "\\(WEIGHT: expected a weight above 0 and at most 700 kg, as in 81.4, 81.4kg, 179lb or \"12st 11lb\", ";
 const std::string notADate = "expected a date and time of the years 1 to 9999, as in 2026-03-01T12:00:00Z, found ";
 
 INSTANTIATE_TEST_SUITE_P(
@@ -85,6 +85,7 @@ INSTANTIATE_TEST_SUITE_P(
         ErrorRow{"noWeight", "weight add heavy", noWeight + "found \"heavy\"\\)", wrongUsage},
         ErrorRow{"tooManyPounds", "weight add '12st 14lb'", noWeight + "found \"12st 14lb\"\\)", wrongUsage},
         ErrorRow{"grams", "weight add 81400", noWeight + "found \"81400\"\\)", wrongUsage},
+        ErrorRow{"heavierThanAnyone", "weight add 1544lb", noWeight + "found \"1544lb\"\\)", wrongUsage},
         ErrorRow{"badNote", "edit 11 --note \"$(printf '\\377')\"",
                  "Write a shorter note. \\(--note: expected UTF-8 text of at most 65536 bytes\\)", wrongUsage},
         ErrorRow{"format", "list --format xml", "--format: expected text or json, found \"xml\"", wrongUsage},

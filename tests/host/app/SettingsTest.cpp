@@ -21,5 +21,15 @@ TEST(Settings, giveAnyWeekdayBackAndNothingElse) {
   }
 }
 
+TEST(Settings, keepTheUnitOfWeights) {
+  const tests::MemoryDefaults defaults;
+  EXPECT_EQ(weightUnit(defaults), std::nullopt);
+  for (const WeightUnit unit : {WeightUnit::kilograms, WeightUnit::pounds, WeightUnit::stones}) {
+    setWeightUnit(defaults, unit);
+    EXPECT_EQ(weightUnit(defaults), unit);
+  }
+  EXPECT_EQ(defaults.text("weightUnit", ""), "st") << "what older versions wrote";
+}
+
 }  // namespace
 }  // namespace mivo::host

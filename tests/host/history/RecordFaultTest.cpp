@@ -53,7 +53,8 @@ TEST(WeightFault, isTheFirst) {
   EXPECT_EQ(fault(dateSince1970(infinity), 81.4), RecordFault::dateOutOfRange);
   EXPECT_EQ(fault(hoursAgo(-1), 81.4), RecordFault::dateInFuture);
   EXPECT_EQ(fault(now, 0), RecordFault::weightOutOfRange);
-  EXPECT_EQ(fault(now, 1000.1), RecordFault::weightOutOfRange);
+  EXPECT_EQ(fault(now, 700), std::nullopt);
+  EXPECT_EQ(fault(now, 700.1), RecordFault::weightOutOfRange);
 }
 
 }  // namespace

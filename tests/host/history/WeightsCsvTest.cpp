@@ -46,19 +46,22 @@ constexpr std::string_view halfStone = "2026-03-01T07:00:00Z 3.17514659";
 
 INSTANTIATE_TEST_SUITE_P(
     Accepted, WeightsCsv,
-    testing::Values(Row{"ownForm", "date,weight_kg\n2026-03-01T07:00:00Z,81.4\n", "2026-03-01T07:00:00Z 81.4"},
-                    Row{"sortedByDate", "date,weight_kg\n2026-03-02,82\n2026-03-01,81\n2026-03-02,83\n",
-                        "2026-02-28T23:00:00Z 81; 2026-03-01T23:00:00Z 82; 2026-03-01T23:00:00Z 83"},
-                    Row{"poundsByHeader", "time,Weight (lb)\n2026-03-01T07:00Z,7\n", halfStone},
-                    Row{"stonesByHeader", "Weight (st);log date\n0,5;2026-03-01T07:00Z\n", halfStone},
-                    Row{"unitInTheCell", "date,weight\n2026-03-01T07:00Z,7 lbs\n2026-03-01T08:00Z,81.4kg\n",
-                        "2026-03-01T07:00:00Z 3.17514659; 2026-03-01T08:00:00Z 81.4"},
-                    Row{"cellBeatsHeader", "date,weight_kg\n2026-03-01T07:00Z,7 lb\n", halfStone},
-                    Row{"unitAsTold", "date,value\n2026-03-01T07:00Z,7\n", halfStone, WeightUnit::pounds},
-                    Row{"headerBeatsWhatWasTold", "date,kg\n2026-03-01T07:00Z,81.4\n", "2026-03-01T07:00:00Z 81.4",
-                        WeightUnit::pounds},
-                    Row{"notWeighed", "date,weight_kg\n2026-03-01,\n2026-03-02,NA\n2026-03-03,--\n2026-03-04,null\n",
-                        ""}),
+    testing::Values(
+        Row{"ownForm", "date,weight_kg\n2026-03-01T07:00:00Z,81.4\n", "2026-03-01T07:00:00Z 81.4"},
+        Row{"sortedByDate", "date,weight_kg\n2026-03-02,82\n2026-03-01,81\n2026-03-02,83\n",
+            "2026-02-28T23:00:00Z 81; 2026-03-01T23:00:00Z 82; 2026-03-01T23:00:00Z 83"},
+        Row{"poundsByHeader", "time,Weight (lb)\n2026-03-01T07:00Z,7\n", halfStone},
+        Row{"stonesByHeader", "Weight (st);log date\n0,5;2026-03-01T07:00Z\n", halfStone},
+        Row{"unitInTheCell", "date,weight\n2026-03-01T07:00Z,7 lbs\n2026-03-01T08:00Z,81.4kg\n",
+            "2026-03-01T07:00:00Z 3.17514659; 2026-03-01T08:00:00Z 81.4"},
+        Row{"cellBeatsHeader", "date,weight_kg\n2026-03-01T07:00Z,7 lb\n", halfStone},
+        Row{"stonesAndPounds", "date,weight\n2026-03-01T07:00Z,0 st 7 lb\n", halfStone},
+        Row{"quotedDecimalComma", "date,weight_kg\n2026-03-01T07:00Z,\"81,4\"\n", "2026-03-01T07:00:00Z 81.4"},
+        Row{"heavierThanMayBeTyped", "date,weight_kg\n2026-03-01T07:00Z,1000\n", "2026-03-01T07:00:00Z 1000"},
+        Row{"unitAsTold", "date,value\n2026-03-01T07:00Z,7\n", halfStone, WeightUnit::pounds},
+        Row{"headerBeatsWhatWasTold", "date,kg\n2026-03-01T07:00Z,81.4\n", "2026-03-01T07:00:00Z 81.4",
+            WeightUnit::pounds},
+        Row{"notWeighed", "date,weight_kg\n2026-03-01,\n2026-03-02,NA\n2026-03-03,--\n2026-03-04,null\n", ""}),
     [](const auto& row) { return std::string{row.param.name}; });
 
 INSTANTIATE_TEST_SUITE_P(

@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include "mivo/statistics/WeightText.h"
+#include "mivo/weights/WeightText.h"
 
 #include <gtest/gtest.h>
 
 #include <string>
+#include <utility>
+
+#include "tests/support/FixedClients.h"
 
 namespace mivo {
 namespace {
@@ -21,7 +24,7 @@ void PrintTo(const WeightRow& row, std::ostream* out) { *out << row.name; }
 class TypedWeight : public testing::TestWithParam<WeightRow> {};
 
 TEST_P(TypedWeight, isReadInKilograms) {
-  const auto weight = parseWeight(GetParam().text, GetParam().unit);
+  const auto weight = parseTypedWeight(GetParam().text, GetParam().unit);
   if (GetParam().kilograms == refused)
     EXPECT_FALSE(weight);
   else
@@ -47,9 +50,39 @@ INSTANTIATE_TEST_SUITE_P(
         WeightRow{"word", "heavy", kg, refused}, WeightRow{"zero", "0", kg, refused},
         WeightRow{"negative", "-81", kg, refused}, WeightRow{"rest", "81.4 or so", kg, refused},
         WeightRow{"twoNumbers", "81 4", kg, refused}, WeightRow{"tooManyPounds", "12 st 14 lb", st, refused},
-        WeightRow{"twoSigns", "1.081,4", kg, refused}, WeightRow{"elephant", "1000", kg, refused},
+        WeightRow{"twoSigns", "1.081,4", kg, refused}, WeightRow{"heaviest", "700", kg, 700},
+        WeightRow{"heavier", "700.1", kg, refused}, WeightRow{"heavierInPounds", "1543.3", lb, refused},
         WeightRow{"infinite", "inf", kg, refused}, WeightRow{"brokenText", "81\xE2", kg, refused}),
     [](const auto& row) { return std::string{row.param.name}; });
+
+TEST(TypedWeight, isRefusedWithTheLimitInBothUnits) {
+  EXPECT_EQ(refusedWeightText(tests::EnglishTexts{}), "Type up to 700 kg or 1543 lb, such as 81.4.");
+}
+
+TEST(WrittenWeight, isReadWithoutALimitAndSaysWhatIsMissing) {
+  using enum WeightTextFault;
+  using Read = std::variant<double, WeightTextFault>;
+  EXPECT_EQ(readWeight("81400", kg), Read{81400.0}) << "a table may be in grams, which its reader refuses";
+  EXPECT_EQ(readWeight("8.14e1", kg), Read{81.4}) << "as spreadsheets write it";
+  EXPECT_EQ(readWeight("81.4", {}), Read{noUnit});
+  EXPECT_EQ(readWeight("81.4 kgs", {}), Read{81.4});
+  EXPECT_EQ(readWeight("heavy", {}), Read{noNumber});
+  EXPECT_EQ(readWeight("12 11", {}), Read{noNumber}) << "stones nobody spoke of";
+}
+
+TEST(WeightUnits, areKnownByEachOfTheirNames) {
+  for (const auto& [sign, unit] : {std::pair{"kg", kg}, std::pair{"lb", lb}, std::pair{"st", st}}) {
+    EXPECT_EQ(weightUnitSign(unit), sign);
+    EXPECT_EQ(weightUnitNamed(sign), unit);
+    EXPECT_EQ(weightUnitAtEnd(std::string{"weight"} + sign), unit);
+  }
+  EXPECT_EQ(weightUnitNamed("stones"), st);
+  EXPECT_EQ(weightUnitNamed("k"), std::nullopt);
+  EXPECT_EQ(weightUnitAtEnd("weight"), std::nullopt);
+  std::string_view text = "stones and more";
+  EXPECT_EQ(takeWeightUnit(text), st);
+  EXPECT_EQ(text, " and more") << "the longest name";
+}
 
 }  // namespace
 }  // namespace mivo

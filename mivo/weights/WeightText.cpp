@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "mivo/statistics/WeightText.h"
+#include "mivo/weights/WeightText.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
@@ -46,7 +47,7 @@ void skipBlanks(std::string_view& text) { text.remove_prefix(std::min(text.find_
 std::optional<double> takeNumber(std::string_view& text) {
   skipBlanks(text);
   double number = 0;
-  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number, std::chars_format::fixed);
+  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
   if (error != std::errc{} || !std::isfinite(number) || number < 0 || text.front() == '-') return std::nullopt;
   text.remove_prefix(static_cast<std::size_t>(end - text.data()));
   return number;
@@ -54,45 +55,51 @@ std::optional<double> takeNumber(std::string_view& text) {
 
 std::optional<WeightUnit> takeUnit(std::string_view& text) {
   skipBlanks(text);
-  struct Name {
-    std::string_view text;
-    WeightUnit unit;
-  };
-  static constexpr std::array<Name, 8> names{{{"kgs", WeightUnit::kilograms},
-                                              {"kg", WeightUnit::kilograms},
-                                              {"lbs", WeightUnit::pounds},
-                                              {"lb", WeightUnit::pounds},
-                                              {"pounds", WeightUnit::pounds},
-                                              {"stones", WeightUnit::stones},
-                                              {"stone", WeightUnit::stones},
-                                              {"st", WeightUnit::stones}}};
-  for (const Name& name : names) {
-    if (!text.starts_with(name.text)) continue;
-    text.remove_prefix(name.text.size());
-    return name.unit;
-  }
-  return std::nullopt;
+  return takeWeightUnit(text);
+}
+
+/// The pounds that may follow stones, in kilograms.
+std::optional<double> takePounds(std::string_view& text) {
+  const auto pounds = takeNumber(text);
+  if (!pounds || *pounds >= poundsPerStone) return std::nullopt;
+  if (takeUnit(text).value_or(WeightUnit::pounds) != WeightUnit::pounds) return std::nullopt;
+  return *pounds * kilogramsPer(WeightUnit::pounds);
 }
 
 }  // namespace
 
-std::optional<double> parseWeight(std::string_view typed, WeightUnit unit) {
-  const std::string all = plain(typed);
+std::variant<double, WeightTextFault> readWeight(std::string_view written, std::optional<WeightUnit> unit) {
+  const std::string all = plain(written);
   std::string_view text = all;
   const auto number = takeNumber(text);
-  if (!number) return std::nullopt;
-  const WeightUnit given = takeUnit(text).value_or(unit);
+  if (!number) return WeightTextFault::noNumber;
+  const auto named = takeUnit(text);
+  const WeightUnit given = named ? *named : unit.value_or(WeightUnit::kilograms);
   double weightInKg = *number * kilogramsPer(given);
   skipBlanks(text);
   if (given == WeightUnit::stones && !text.empty()) {
-    const auto pounds = takeNumber(text);
-    if (!pounds || *pounds >= 14 || takeUnit(text).value_or(WeightUnit::pounds) != WeightUnit::pounds)
-      return std::nullopt;
-    weightInKg += *pounds * kilogramsPer(WeightUnit::pounds);
+    const auto pounds = takePounds(text);
+    if (!pounds) return WeightTextFault::noNumber;
+    weightInKg += *pounds;
     skipBlanks(text);
   }
-  const bool isWeight = text.empty() && weightInKg > 0 && weightInKg < heaviestWeightInKg;
-  return isWeight ? std::optional{weightInKg} : std::nullopt;
+  if (!text.empty()) return WeightTextFault::noNumber;
+  if (!named && !unit) return WeightTextFault::noUnit;
+  return weightInKg;
+}
+
+std::optional<double> parseTypedWeight(std::string_view text, WeightUnit unit) {
+  const auto read = readWeight(text, unit);
+  const double* const weightInKg = std::get_if<double>(&read);
+  return weightInKg && isTypedWeight(*weightInKg) ? std::optional{*weightInKg} : std::nullopt;
+}
+
+std::string refusedWeightText(const TextLookup& texts) {
+  const auto largest = [](WeightUnit unit) {
+    return std::to_string(static_cast<int>(largestTypedWeightInKg / kilogramsPer(unit)));
+  };
+  return filledIn(texts.text("Type up to {1} kg or {2} lb, such as 81.4."),
+                  {largest(WeightUnit::kilograms), largest(WeightUnit::pounds)});
 }
 
 std::string weightFieldText(double weightInKg, WeightUnit unit, const NumberFormatter& numbers,
@@ -102,15 +109,7 @@ std::string weightFieldText(double weightInKg, WeightUnit unit, const NumberForm
 }
 
 std::string weightFieldUnit(WeightUnit unit) {
-  switch (unit) {
-    case WeightUnit::kilograms:
-      return "kg";
-    case WeightUnit::pounds:
-      return "lb";
-    case WeightUnit::stones:
-      break;
-  }
-  return {};
+  return unit == WeightUnit::stones ? std::string{} : std::string{weightUnitSign(unit)};
 }
 
 }  // namespace mivo
