@@ -6,6 +6,9 @@ if command -v ccache > /dev/null; then
     export CCACHE_SLOPPINESS=pch_defines,time_macros  # or it leaves what has a precompiled header to the compiler
 fi
 
+# A bare machine names no locale; Qt would say at every start that text is UTF-8 all the same.
+[ -n "${LC_ALL-}${LC_CTYPE-}${LANG-}" ] || export LC_CTYPE=C.UTF-8
+
 # step TEXT...: says what begins; took: how long the last one did.
 step_began=
 took() {
