@@ -5,11 +5,11 @@
 #include <utility>
 
 #include "tally/request/ClientAddress.h"
+#include "tally/request/RequestReader.h"
 
 namespace mivo::tally {
 namespace {
 
-constexpr std::size_t usualInbox = 1024;
 constexpr std::size_t usualOutbox = 4 << 10;
 constexpr std::size_t mostUnsent = 64 << 10;
 constexpr std::chrono::seconds partingTime{2};
@@ -53,32 +53,17 @@ void Connection::awaitRequest() {
 
 void Connection::read() {
   if (std::exchange(isReading_, true)) return;  // 408 was sent while bytes were waited for
-  makeRoom();
-  stream_.readSome(asio::buffer(inbox_.data() + end_, inbox_.size() - end_),
-                   [self = shared_from_this()](error_code error, std::size_t size) {
-                     self->isReading_ = false;
-                     if (error) return self->close();
-                     self->didRead(size);
-                   });
+  stream_.readSome(inbox_.room(), [self = shared_from_this()](error_code error, std::size_t size) {
+    self->isReading_ = false;
+    if (error) return self->close();
+    self->didRead(size);
+  });
 }
-
-// The inbox grows only for a request that needs it, so that an idle connection holds little.
-void Connection::makeRoom() {
-  if (begin_ == end_) begin_ = end_ = 0;
-  if (end_ == 0 && inbox_.size() != usualInbox) inbox_ = std::vector<char>(usualInbox);
-  if (end_ < inbox_.size()) return;
-  std::copy(inbox_.begin() + static_cast<std::ptrdiff_t>(begin_), inbox_.end(), inbox_.begin());
-  end_ -= begin_;
-  begin_ = 0;
-  if (end_ == inbox_.size()) inbox_.resize(std::min(2 * inbox_.size(), largestRequest + usualInbox));
-}
-
-std::string_view Connection::unread() const { return {inbox_.data() + begin_, end_ - begin_}; }
 
 void Connection::didRead(std::size_t size) {
   if (phase_ == Phase::parting) return read();
   if (phase_ == Phase::closed || !keepAlive_) return;  // the last answer is on its way
-  end_ += size;
+  inbox_.took(size);
   received_ = now();
   if (phase_ == Phase::idle) enter(Phase::receiving, received_ + work_.options.requestTime);
   answerWhatCame();
@@ -92,8 +77,8 @@ void Connection::answerWhatCame() {
 
 // Whether a request was there to be taken.
 bool Connection::takeRequest() {
-  const auto reading = readRequest(unread());
-  begin_ += reading.consumed;
+  const auto reading = readRequest(inbox_.unread());
+  inbox_.drop(reading.consumed);
   if (reading.state == RequestReading::State::needsMore) return false;
   request_ = reading.request;
   if (reading.state == RequestReading::State::refused) {
@@ -164,7 +149,7 @@ void Connection::didWrite() {
   outbox_.clear();
   if (outbox_.capacity() > usualOutbox) outbox_.shrink_to_fit();
   if (!keepAlive_) return part();
-  if (begin_ == end_) {
+  if (inbox_.isEmpty()) {
     awaitRequest();
     return read();
   }
@@ -174,10 +159,10 @@ void Connection::didWrite() {
 
 // Closing while bytes come in would reset the connection, and the client might lose the last answer.
 void Connection::part() {
-  const bool mayHaveMore = wasRefused_ || begin_ != end_;
+  const bool mayHaveMore = wasRefused_ || !inbox_.isEmpty();
   if (!mayHaveMore && !stream_.isSecure()) return close();
   enter(Phase::parting, now() + partingTime);
-  if (!isReading_) begin_ = end_ = 0;
+  if (!isReading_) inbox_.clear();
   stream_.finishSending([self = shared_from_this()] { self->stream_.isSecure() ? self->close() : self->read(); });
 }
 

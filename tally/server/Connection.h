@@ -5,10 +5,10 @@
 #include <list>
 #include <memory>
 #include <string>
-#include <vector>
 
 #include "tally/net/Stream.h"
-#include "tally/request/RequestReader.h"
+#include "tally/request/Request.h"
+#include "tally/server/Inbox.h"
 #include "tally/server/Log.h"
 #include "tally/server/Service.h"
 #include "tally/store/OperationQueue.h"
@@ -54,8 +54,6 @@ class Connection : public std::enable_shared_from_this<Connection> {
   void awaitRequest();
   void read();
   void didRead(std::size_t size);
-  void makeRoom();
-  std::string_view unread() const;
   void answerWhatCame();
   bool takeRequest();
   void ask(Operation operation);
@@ -73,9 +71,7 @@ class Connection : public std::enable_shared_from_this<Connection> {
   Connections::iterator place_;
   Phase phase_ = Phase::handshaking;
   Instant deadline_;
-  std::vector<char> inbox_;  // what was read lies in [begin_, end_)
-  std::size_t begin_ = 0;
-  std::size_t end_ = 0;
+  Inbox inbox_;
   std::string outbox_;
   Request request_;  // being answered; its views are into inbox_
   Instant received_;
