@@ -103,7 +103,8 @@ void addFlags(CLI::App& app, ServeOptions& options, Texts& texts) {
       ->type_name("N")
       ->capture_default_str();
   app.add_flag("--any-counter", options.countsAny, "Take votes for features that the roadmap does not list");
-  app.add_option("--max-counters", options.mostCounters, "Counters kept; votes for a further one are refused (SQLite)")
+  app.add_option("--max-counters", options.mostCounters,
+                 "Counters kept; votes for a further one are refused. In Redis all keys of the database count")
       ->check(CLI::Range(std::int64_t{1}, std::int64_t{1} << 40))
       ->type_name("N")
       ->capture_default_str();

@@ -32,7 +32,7 @@ struct ServeOptions {
   std::chrono::seconds storeTime{5};     // for what is asked of the store
   std::size_t mostConnections = 20'000;
   bool countsAny = false;               // also what the roadmap does not list
-  std::int64_t mostCounters = 100'000;  // in SQLite
+  std::int64_t mostCounters = 100'000;
 };
 
 struct ExportOptions {

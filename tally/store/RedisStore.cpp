@@ -9,6 +9,7 @@ namespace {
 
 constexpr std::chrono::milliseconds firstDelay{50};
 constexpr std::chrono::milliseconds longestDelay{2000};
+constexpr std::size_t mostNamesInMemory = 100'000;
 
 Result counted(const std::string& text) {
   std::int64_t count = 0;
@@ -48,14 +49,16 @@ bool refusesAllVotes(const RedisReply& reply) {
 
 }  // namespace
 
-RedisStore::RedisStore(asio::io_context& loop, RedisAddress address, Report report, std::chrono::seconds longestWait)
+RedisStore::RedisStore(asio::io_context& loop, RedisAddress address, Report report, std::chrono::seconds longestWait,
+                       std::int64_t mostCounters)
     : loop_(loop),
       address_(std::move(address)),
       report_(std::move(report)),
       retry_(loop),
       nextDelay_(firstDelay),
       longestWait_(longestWait),
-      second_(loop) {
+      second_(loop),
+      mostCounters_(mostCounters) {
   connect();
   lookAfter();
 }
@@ -69,6 +72,7 @@ void RedisStore::connect() {
 
 void RedisStore::didConnect() {
   isConnected_ = true;
+  there_.clear();  // it may be another one, or have been emptied
   nextDelay_ = firstDelay;
   report_("Redis at " + describe(address_.endpoint) + " is there");
   wasAwayReported_ = false;
@@ -100,20 +104,72 @@ void RedisStore::submit(Operations operations, std::function<void(Results)> done
 }
 
 void RedisStore::send() {
+  full_.clear();
+  if (auto counters = strangers(); !counters.empty()) return askForRoom(std::move(counters));
+  sendOperations();
+}
+
+// Those that the batch votes for and that may be new, each once, in the order in which they come.
+std::vector<std::string> RedisStore::strangers() const {
+  std::vector<std::string> counters;
+  std::set<std::string_view> seen;
+  for (const auto& [counter, delta] : operations_)
+    if (delta != 0 && !there_.contains(counter) && seen.insert(counter).second) counters.push_back(counter);
+  return counters;
+}
+
+void RedisStore::askForRoom(std::vector<std::string> counters) {
   std::string commands;
+  for (const auto& counter : counters) appendCommand(commands, {"EXISTS", redisKey(counter)});
+  appendCommand(commands, {"DBSIZE"});
+  const auto count = counters.size() + 1;
+  link_->exchange(std::move(commands), count, [this, counters = std::move(counters)](const auto& replies) {
+    admit(counters, replies);
+    sendOperations();
+  });
+}
+
+// Where Redis does not say, the vote itself will tell what is wrong.
+void RedisStore::admit(const std::vector<std::string>& counters, const std::vector<RedisReply>& replies) {
+  if (there_.size() + counters.size() > mostNamesInMemory) there_.clear();
+  const auto& size = replies.back();
+  auto room = size.kind == RedisReply::Kind::integer ? mostCounters_ - size.integer : mostCounters_;
+  for (std::size_t i = 0; i < counters.size(); ++i) {
+    const bool isNew = replies[i].kind == RedisReply::Kind::integer && replies[i].integer == 0;
+    if (isNew && room-- <= 0) {
+      full_.insert(counters[i]);
+    } else {
+      there_.insert(counters[i]);
+    }
+  }
+}
+
+void RedisStore::sendOperations() {
+  std::string commands;
+  std::size_t count = 0;
   for (const auto& operation : operations_) {
+    if (isFull(operation)) continue;
     const auto key = redisKey(operation.counter);
     if (operation.delta == 0) appendCommand(commands, {"GET", key});
     if (operation.delta != 0) appendCommand(commands, {"INCRBY", key, operation.delta > 0 ? "1" : "-1"});
+    ++count;
   }
-  link_->exchange(std::move(commands), operations_.size(), [this](const auto& replies) { didReply(replies); });
+  if (count == 0) return didReply({});
+  link_->exchange(std::move(commands), count, [this](const auto& replies) { didReply(replies); });
 }
 
+// The replies of those that were sent.
 void RedisStore::didReply(const std::vector<RedisReply>& replies) {
-  Results results(replies.size());
-  std::ranges::transform(replies, results.begin(), resultOf);
-  for (std::size_t i = 0; i < replies.size(); ++i)
-    if (operations_[i].delta != 0) learn(replies[i]);
+  Results results;
+  auto reply = replies.begin();
+  for (const auto& operation : operations_) {
+    if (isFull(operation)) {
+      results.push_back({Outcome::full, 0});
+      continue;
+    }
+    if (operation.delta != 0) learn(*reply);
+    results.push_back(resultOf(*reply++));
+  }
   const auto fault = std::ranges::find_if(replies, isFault);
   if (fault != replies.end() && !std::exchange(wasRefusalReported_, true)) report_("Redis refuses: " + fault->text);
   if (fault == replies.end() && takesVotes_) wasRefusalReported_ = false;

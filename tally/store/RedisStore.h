@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 #include <chrono>
+#include <limits>
 #include <memory>
+#include <set>
 
 #include "tally/net/Asio.h"
 #include "tally/store/CounterStore.h"
@@ -13,10 +15,15 @@ namespace mivo::tally {
 /// which is atomic, refuses to overflow, and is never sent twice. While Redis is away every operation is `away`, and
 /// the store tries to reach it again, every two seconds at the longest. While nobody votes a write that changes nothing
 /// shows whether Redis takes votes: it may refuse them and answer all the rest.
+///
+/// Before the first vote for a counter Redis is asked whether it is there and how many keys its database holds, those
+/// of others too: votes for a counter beyond `mostCounters` are `full`. Instances that ask at once may go beyond it by
+/// what they have under way.
 class RedisStore final : public CounterStore {
  public:
   RedisStore(asio::io_context& loop, RedisAddress address, Report report,
-             std::chrono::seconds longestWait = std::chrono::seconds{5});
+             std::chrono::seconds longestWait = std::chrono::seconds{5},
+             std::int64_t mostCounters = std::numeric_limits<std::int64_t>::max());
   ~RedisStore() override;
 
   std::optional<std::int64_t> known(std::string_view) const override { return std::nullopt; }
@@ -28,6 +35,11 @@ class RedisStore final : public CounterStore {
   void didConnect();
   void didLose(const std::string& reason);
   void send();
+  std::vector<std::string> strangers() const;
+  void askForRoom(std::vector<std::string> counters);
+  void admit(const std::vector<std::string>& counters, const std::vector<RedisReply>& replies);
+  void sendOperations();
+  bool isFull(const Operation& operation) const { return operation.delta != 0 && full_.contains(operation.counter); }
   void didReply(const std::vector<RedisReply>& replies);
   void lookAfter();
   void probe();
@@ -49,6 +61,11 @@ class RedisStore final : public CounterStore {
   bool takesVotes_ = false;  // as far as the last write tells
   bool wasAwayReported_ = false;
   bool wasRefusalReported_ = false;
+
+  std::int64_t mostCounters_;
+  // Trees: strangers choose the names, and could choose them to collide.
+  std::set<std::string, std::less<>> there_;  // counters that Redis has, as far as this connection has seen
+  std::set<std::string, std::less<>> full_;   // counters of the present batch that there is no room for
 
   Operations operations_;
   std::function<void(Results)> done_;

@@ -19,9 +19,10 @@ Result counted(std::int64_t count) { return {Outcome::counted, count}; }
 const Result away{};
 
 struct Fixture : testing::Test {
-  RedisStore& storeAt(const std::string& address) {
-    store.emplace(loop, std::get<RedisAddress>(parseStoreAddress(address)),
-                  [this](std::string_view text) { reports.emplace_back(text); });
+  RedisStore& storeAt(const std::string& address, std::int64_t mostCounters = 1000) {
+    store.emplace(
+        loop, std::get<RedisAddress>(parseStoreAddress(address)),
+        [this](std::string_view text) { reports.emplace_back(text); }, std::chrono::seconds{5}, mostCounters);
     return *store;
   }
 
@@ -70,6 +71,25 @@ TEST_F(RedisStoreTest, leavesAnOverflowToRedisAndTellsOfStrangeValues) {
   EXPECT_EQ(results.at(2), away);
   EXPECT_EQ(results.at(3), away);
   EXPECT_THAT(reports.back(), HasSubstr("Redis refuses"));
+}
+
+// What the server probes with is a key too.
+TEST_F(RedisStoreTest, takesNoFurtherCounterThanItMay) {
+  const test::RedisServer redis;
+  const auto set = [&](const char* key) {
+    test::ChildProcess{{"redis-cli", "-u", redis.address(), "SET", key, "5"}}.wait();
+  };
+  set("mivo-tally:a/feature1");
+  auto& sut = storeAt(redis.address(), 3);
+  runUntil([&] { return sut.isAvailable(); });
+  const Result full{Outcome::full, 0};
+  EXPECT_THAT(ask({{"a/feature2", 1}, {"a/feature3", 1}, {"a/feature3", 0}, {"a/feature1", 1}, {"a/feature2", -1}}),
+              ElementsAre(counted(1), full, counted(0), counted(6), counted(0)));
+  EXPECT_THAT(ask({{"a/feature3", -1}}), ElementsAre(full));
+  EXPECT_THAT(ask({{"a/feature2", 1}, {"a/feature1", 1}}), ElementsAre(counted(1), counted(7)));
+  EXPECT_TRUE(sut.isAvailable());
+  set("mivo-tally:a/feature4");  // by another instance
+  EXPECT_THAT(ask({{"a/feature4", 1}}), ElementsAre(counted(6)));
 }
 
 TEST_F(RedisStoreTest, isAwayWithRedisAndComesBackByItself) {
