@@ -8,6 +8,11 @@ tcp::socket& Stream::socket() {
   return std::get<tcp::socket>(stream_);
 }
 
+void Stream::secure(ssl::context& context) {
+  auto socket = std::move(std::get<tcp::socket>(stream_));
+  stream_.emplace<Secure>(std::move(socket), context);
+}
+
 error_code Stream::expectHost(const std::string& host) {
   auto& secure = std::get<Secure>(stream_);
   error_code error;
@@ -19,13 +24,6 @@ error_code Stream::expectHost(const std::string& host) {
   if (notAnAddress && SSL_set_tlsext_host_name(secure.native_handle(), host.c_str()) != 1)
     return asio::error::invalid_argument;
   return {};
-}
-
-std::size_t Stream::writeNow(asio::const_buffer bytes, error_code& error) {
-  if (isSecure()) return 0;
-  const auto taken = std::get<tcp::socket>(stream_).write_some(bytes, error);
-  if (error == asio::error::would_block) error = {};
-  return taken;
 }
 
 void Stream::finishSending(std::function<void()> done) {
@@ -41,6 +39,12 @@ void Stream::finishSending(std::function<void()> done) {
 void Stream::close() {
   error_code ignored;
   static_cast<void>(socket().close(ignored));
+}
+
+void Stream::abandon() {
+  error_code ignored;
+  static_cast<void>(socket().set_option(tcp::socket::linger{true, 0}, ignored));
+  close();
 }
 
 }  // namespace mivo::tally

@@ -21,6 +21,8 @@ class Stream {
   bool isSecure() const { return std::holds_alternative<Secure>(stream_); }
   tcp::socket& socket();
 
+  /// Goes on under TLS; nothing must be under way. This is where the memory that TLS needs is taken.
+  void secure(ssl::context& context);
   /// Before the handshake: checks the peer's certificate against `host` and asks for that name.
   error_code expectHost(const std::string& host);
 
@@ -34,18 +36,26 @@ class Stream {
     std::visit([&](auto& stream) { stream.async_read_some(into, std::move(done)); }, stream_);
   }
 
-  template <class Done>
-  void write(asio::const_buffer bytes, Done done) {
-    std::visit([&](auto& stream) { asio::async_write(stream, bytes, std::move(done)); }, stream_);
+  template <class Buffers, class Done>
+  void write(const Buffers& buffers, Done done) {
+    std::visit([&](auto& stream) { asio::async_write(stream, buffers, std::move(done)); }, stream_);
   }
 
   /// Hands over what the kernel takes without waiting, and says how much that was; nothing under TLS. The socket must
   /// be non-blocking.
-  std::size_t writeNow(asio::const_buffer bytes, error_code& error);
+  template <class Buffers>
+  std::size_t writeNow(const Buffers& buffers, error_code& error) {
+    if (isSecure()) return 0;
+    const auto taken = std::get<tcp::socket>(stream_).write_some(buffers, error);
+    if (error == asio::error::would_block) error = {};
+    return taken;
+  }
 
   /// Says that nothing more will be sent; `done` is called when the peer was told.
   void finishSending(std::function<void()> done);
   void close();
+  /// Closes without waiting for the peer to take what was sent: the kernel forgets it too.
+  void abandon();
 
  private:
   std::variant<tcp::socket, Secure> stream_;

@@ -77,7 +77,7 @@ void appendAnswer(std::string& out, const Answer& answer, const AnswerFrame& fra
   appendHeader(out, "Date", frame.date);
   out += contentType(answer.content);
   out += "Content-Length: ";
-  appendNumber(out, static_cast<std::int64_t>(answer.body.size()));
+  appendNumber(out, static_cast<std::int64_t>((answer.shared ? *answer.shared : answer.body).size()));
   out += "\r\nCache-Control: no-store\r\nX-Content-Type-Options: nosniff\r\n";
   if (answer.retryAfterSeconds > 0) appendHeader(out, "Retry-After", std::to_string(answer.retryAfterSeconds));
   if (!answer.allow.empty()) appendHeader(out, "Allow", answer.allow);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <string_view>
 
@@ -21,9 +22,10 @@ struct Answer {
   unsigned status = 200;
   Content content = Content::json;
   std::string body = {};
-  unsigned retryAfterSeconds = 0;       // 0 leaves the header out
-  std::string_view allow = {};          // the methods of a 405
-  std::string_view allowedOrigin = {};  // for other sites' pages; empty leaves the header out
+  std::shared_ptr<const std::string> shared = {};  // a body that many answers have, instead of their own
+  unsigned retryAfterSeconds = 0;                  // 0 leaves the header out
+  std::string_view allow = {};                     // the methods of a 405
+  std::string_view allowedOrigin = {};             // for other sites' pages; empty leaves the header out
   bool variesByOrigin = false;
 };
 
@@ -40,7 +42,7 @@ struct AnswerFrame {
 };
 
 /// Appends the answer as it goes over the wire. Every answer is `Cache-Control: no-store`: a count that is served from
-/// a cache is a wrong one.
+/// a cache is a wrong one. A shared body is left to whoever sends it, behind this.
 void appendAnswer(std::string& out, const Answer& answer, const AnswerFrame& frame);
 
 }  // namespace mivo::tally

@@ -10,8 +10,6 @@
 namespace mivo::tally {
 namespace {
 
-constexpr std::size_t usualOutbox = 4 << 10;
-constexpr std::size_t mostUnsent = 64 << 10;
 constexpr std::chrono::seconds partingTime{2};
 constexpr Refusal tooSlow{408, "the request did not arrive in time"};
 
@@ -24,16 +22,33 @@ DateTexts& dates() {
 
 }  // namespace
 
-Connection::Connection(Stream stream, const Workplace& workplace, asio::ip::address peer)
-    : stream_(std::move(stream)), work_(workplace), peer_(std::move(peer)) {}
+Connection::Connection(tcp::socket socket, std::shared_ptr<ssl::context> certificate, const Workplace& workplace,
+                       asio::ip::address peer)
+    : stream_(std::move(socket)), certificate_(std::move(certificate)), work_(workplace), peer_(std::move(peer)) {}
 
 void Connection::start(Connections::iterator place) {
   place_ = place;
-  if (!stream_.isSecure()) {
-    awaitRequest();
-    return read();
-  }
-  enter(Phase::handshaking, now() + work_.options.requestTime);
+  if (certificate_) return awaitGreeting();
+  awaitRequest();
+  read();
+}
+
+// A connection costs the memory of TLS once its client has said something.
+void Connection::awaitGreeting() {
+  enter(Phase::silent, now() + work_.options.requestTime);
+  stream_.socket().async_wait(tcp::socket::wait_read, [self = shared_from_this()](error_code error) {
+    if (error || self->stream_.socket().available(error) == 0) return self->close();
+    self->greet();
+  });
+}
+
+void Connection::greet() {
+  if (!work_.crowd.addresses.mayGreet(peer_, now())) return giveWay(Limit::handshakeRate);
+  auto& line = work_.crowd.handshaking;
+  if (line.size() >= work_.options.mostHandshakes) line.front()->giveWay(Limit::handshakes);
+  enter(Phase::handshaking, deadline_);
+  standIn(line);
+  stream_.secure(*std::exchange(certificate_, nullptr));
   stream_.handshake(ssl::stream_base::server, [self = shared_from_this()](error_code error) {
     if (error) return self->close();
     self->awaitRequest();
@@ -41,8 +56,21 @@ void Connection::start(Connections::iterator place) {
   });
 }
 
+void Connection::standIn(Line& line) {
+  line.splice(line.end(), self_);
+  line_ = &line;
+}
+
+void Connection::leaveLine() {
+  if (line_ == nullptr) return;
+  self_.splice(self_.begin(), *line_, node_);
+  line_ = nullptr;
+  work_.crowd.unsentBytes -= std::exchange(held_, 0);
+}
+
 void Connection::enter(Phase phase, Instant deadline) {
   if (phase_ == Phase::closed) return;
+  leaveLine();
   phase_ = phase;
   deadline_ = deadline;
 }
@@ -70,9 +98,9 @@ void Connection::didRead(std::size_t size) {
 }
 
 void Connection::answerWhatCame() {
-  while (keepAlive_ && outbox_.size() < mostUnsent && takeRequest())
+  while (keepAlive_ && !outbox_.isFull() && takeRequest())
     if (phase_ == Phase::asking) return;
-  outbox_.empty() ? read() : write();
+  outbox_.isEmpty() ? read() : write();
 }
 
 // Whether a request was there to be taken.
@@ -116,13 +144,12 @@ void Connection::refuse(const Refusal& refusal) {
 void Connection::finish(Answer answer) {
   work_.service.allowOrigin(request_, answer);
   keepAlive_ = request_.keepAlive && !isDraining_;
-  appendAnswer(outbox_, answer,
-               {.date = dates().http(std::chrono::system_clock::now()),
-                .withBody = request_.method != Method::head,
-                .keepAlive = keepAlive_,
-                .isHttp11 = request_.isHttp11});
+  outbox_.append(answer, {.date = dates().http(std::chrono::system_clock::now()),
+                          .withBody = request_.method != Method::head,
+                          .keepAlive = keepAlive_,
+                          .isHttp11 = request_.isHttp11});
   log(answer);
-  work_.connections.splice(work_.connections.end(), work_.connections, place_);
+  work_.crowd.open.splice(work_.crowd.open.end(), work_.crowd.open, place_);
 }
 
 void Connection::log(const Answer& answer) {
@@ -134,20 +161,29 @@ void Connection::log(const Answer& answer) {
 
 void Connection::write() {
   error_code error;
-  const auto taken = stream_.writeNow(asio::buffer(outbox_), error);
+  outbox_.sent(stream_.writeNow(outbox_.unsent(), error));
   if (error) return close();
-  if (taken == outbox_.size()) return didWrite();
-  outbox_.erase(0, taken);
+  if (outbox_.isEmpty()) return didWrite();
   enter(Phase::sending, now() + work_.options.requestTime);
-  stream_.write(asio::buffer(outbox_), [self = shared_from_this()](error_code failure, std::size_t) {
+  holdUnsent();
+  if (phase_ == Phase::closed) return;
+  stream_.write(outbox_.unsent(), [self = shared_from_this()](error_code failure, std::size_t) {
     if (failure) return self->close();
     self->didWrite();
   });
 }
 
+// Where all clients together leave too much to be sent, whoever has been slow longest gives way.
+void Connection::holdUnsent() {
+  auto& crowd = work_.crowd;
+  held_ = outbox_.ownBytes();
+  crowd.unsentBytes += held_;
+  standIn(crowd.sending);
+  while (crowd.unsentBytes > work_.options.mostUnsentBytes) crowd.sending.front()->giveWay(Limit::unsent);
+}
+
 void Connection::didWrite() {
   outbox_.clear();
-  if (outbox_.capacity() > usualOutbox) outbox_.shrink_to_fit();
   if (!keepAlive_) return part();
   if (inbox_.isEmpty()) {
     awaitRequest();
@@ -177,15 +213,21 @@ void Connection::checkDeadline(Instant now) {
 
 void Connection::drain(Instant now) {
   isDraining_ = true;
-  if (phase_ == Phase::idle) deadline_ = std::min(deadline_, now + work_.options.drainTime);
+  if (phase_ == Phase::idle || phase_ == Phase::silent) deadline_ = std::min(deadline_, now + work_.options.drainTime);
+}
+
+void Connection::giveWay(Limit limit) {
+  work_.metrics.reached(limit);
+  close();
 }
 
 void Connection::close() {
   if (phase_ == Phase::closed) return;
-  phase_ = Phase::closed;
-  stream_.close();
+  phase_ == Phase::sending ? stream_.abandon() : stream_.close();
+  enter(Phase::closed, Instant::max());
+  work_.crowd.addresses.leave(peer_);
   const auto self = shared_from_this();
-  work_.connections.erase(place_);
+  work_.crowd.open.erase(place_);
   work_.didClose();
 }
 

@@ -2,22 +2,19 @@
 #pragma once
 #include <chrono>
 #include <functional>
-#include <list>
 #include <memory>
 #include <string>
 
 #include "tally/net/Stream.h"
 #include "tally/request/Request.h"
+#include "tally/server/Crowd.h"
 #include "tally/server/Inbox.h"
 #include "tally/server/Log.h"
+#include "tally/server/Outbox.h"
 #include "tally/server/Service.h"
 #include "tally/store/OperationQueue.h"
 
 namespace mivo::tally {
-
-class Connection;
-/// Open connections, the one that was silent longest first.
-using Connections = std::list<std::shared_ptr<Connection>>;
 
 /// What all connections share.
 struct Workplace {
@@ -26,7 +23,7 @@ struct Workplace {
   OperationQueue& operations;
   Log& log;
   Metrics& metrics;
-  Connections& connections;
+  Crowd& crowd;
   std::function<void()> didClose;  // a connection left the list
 };
 
@@ -35,7 +32,9 @@ class Connection : public std::enable_shared_from_this<Connection> {
  public:
   using Instant = std::chrono::steady_clock::time_point;
 
-  Connection(Stream stream, const Workplace& workplace, asio::ip::address peer);
+  /// Under TLS where there is a certificate, which is held until the handshake begins.
+  Connection(tcp::socket socket, std::shared_ptr<ssl::context> certificate, const Workplace& workplace,
+             asio::ip::address peer);
 
   /// Begins, once the connection stands in the list.
   void start(Connections::iterator place);
@@ -46,11 +45,17 @@ class Connection : public std::enable_shared_from_this<Connection> {
   /// In every phase but the one in which the store is asked: a client can be slow at a handshake and at reading too.
   bool isWaitingForClient() const { return phase_ != Phase::asking; }
   void close();
+  /// Closes because a limit was reached.
+  void giveWay(Limit limit);
 
  private:
-  enum class Phase { handshaking, idle, receiving, asking, sending, parting, closed };
+  enum class Phase { silent, handshaking, idle, receiving, asking, sending, parting, closed };
 
   void enter(Phase phase, Instant deadline);
+  void standIn(Line& line);
+  void leaveLine();
+  void awaitGreeting();
+  void greet();
   void awaitRequest();
   void read();
   void didRead(std::size_t size);
@@ -61,18 +66,24 @@ class Connection : public std::enable_shared_from_this<Connection> {
   void finish(Answer answer);
   void log(const Answer& answer);
   void write();
+  void holdUnsent();
   void didWrite();
   void part();
   asio::ip::address client() const;
 
   Stream stream_;
+  std::shared_ptr<ssl::context> certificate_;
   const Workplace& work_;
   asio::ip::address peer_;
   Connections::iterator place_;
-  Phase phase_ = Phase::handshaking;
+  Line self_{this};  // this connection's node, while it stands in no line
+  Line::iterator node_ = self_.begin();
+  Line* line_ = nullptr;  // in which it stands
+  std::size_t held_ = 0;  // unsent bytes that the crowd counts
+  Phase phase_ = Phase::silent;
   Instant deadline_;
   Inbox inbox_;
-  std::string outbox_;
+  Outbox outbox_;
   Request request_;  // being answered; its views are into inbox_
   Instant received_;
   bool isReading_ = false;

@@ -55,6 +55,11 @@ std::string Metrics::text(const Present& present) const {
   single(out, "store_batches_total", "counter", "Batches sent to the store.", batches_);
   single(out, "store_operations_total", "counter", "Reads and votes in those batches.", operations_);
   single(out, "open_connections", "gauge", "Connections that are open.", present.openConnections);
+  single(out, "unfinished_handshakes", "gauge", "TLS handshakes that have begun.", present.unfinishedHandshakes);
+  single(out, "unsent_bytes", "gauge", "Answers that wait until clients take them.", present.unsentBytes);
+  describe(out, "connections_cut_total", "counter", "Connections that a limit turned away or cut off.");
+  for (std::size_t i = 0; i < reached_.size(); ++i)
+    out << "mivo_tally_connections_cut_total{limit=\"" << limitNames[i] << "\"} " << reached_[i] << '\n';
   single(out, "store_available", "gauge", "1 where a vote is likely to be kept.", present.isStoreAvailable ? 1 : 0);
   single(out, "store_damaged", "gauge", "1 where a part of the store cannot be read.", present.isStoreDamaged ? 1 : 0);
   single(out, "store_write_ahead_log_bytes", "gauge", "Size of the log that waits to be folded into the database.",

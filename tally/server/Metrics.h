@@ -7,11 +7,16 @@
 
 namespace mivo::tally {
 
+/// What a connection was turned away or cut off for.
+enum class Limit { connections, address, handshakes, handshakeRate, unsent };
+
 /// What the server counts of itself since it started. Thread: the event loop's.
 class Metrics {
  public:
   struct Present {
     std::size_t openConnections = 0;
+    std::size_t unfinishedHandshakes = 0;
+    std::size_t unsentBytes = 0;
     bool isStoreAvailable = false;
     bool isStoreDamaged = false;
     std::uintmax_t writeAheadLogBytes = 0;
@@ -21,6 +26,7 @@ class Metrics {
   void answered(unsigned status, std::chrono::microseconds duration);
   void voted(int delta) { ++(delta > 0 ? votesUp_ : votesDown_); }
   void batchSent(std::size_t operations);
+  void reached(Limit limit) { ++reached_[static_cast<std::size_t>(limit)]; }
 
   /// Prometheus' text format.
   std::string text(const Present& present) const;
@@ -31,6 +37,8 @@ class Metrics {
 
   std::array<std::uint64_t, highestStatus + 1> answersByStatus_{};
   std::array<std::uint64_t, bucketMicroseconds.size()> answersByDuration_{};
+  static constexpr std::array limitNames{"connections", "address", "handshakes", "handshake_rate", "unsent"};
+  std::array<std::uint64_t, limitNames.size()> reached_{};
   std::uint64_t answers_ = 0;
   std::int64_t microseconds_ = 0;
   std::uint64_t votesUp_ = 0;

@@ -15,6 +15,8 @@ namespace mivo::tally {
 namespace {
 
 constexpr int wrongUsage = 2;
+constexpr std::size_t plainConnections = 20'000;
+constexpr std::size_t tlsConnections = 5'000;
 
 std::string variable(const char* name) {
   const char* value = std::getenv(name);
@@ -54,6 +56,8 @@ struct Texts {
   unsigned idleSeconds = 60;
   unsigned drainSeconds = 2;
   unsigned storeSeconds = 5;
+  std::size_t mostConnections = 0;
+  std::size_t mostUnsentMegabytes = 64;
 };
 
 void addFlags(CLI::App& app, ServeOptions& options, Texts& texts) {
@@ -108,9 +112,28 @@ void addFlags(CLI::App& app, ServeOptions& options, Texts& texts) {
       ->check(CLI::Range(std::int64_t{1}, std::int64_t{1} << 40))
       ->type_name("N")
       ->capture_default_str();
-  app.add_option("--max-connections", options.mostConnections,
-                 "Connections held; beyond, the one that was silent longest is dropped")
-      ->check(CLI::Range(1, 1'000'000))
+}
+
+void addLimits(CLI::App& app, ServeOptions& options, Texts& texts) {
+  const auto count = CLI::Range(1, 1'000'000);
+  app.add_option("--max-connections", texts.mostConnections,
+                 "Connections held; beyond, the one that was silent longest is dropped [20000, under TLS 5000]")
+      ->check(count)
+      ->type_name("N");
+  app.add_option("--max-connections-per-address", options.mostConnectionsOfAnAddress,
+                 "Connections of one address; further ones are refused; 0 takes all")
+      ->type_name("N")
+      ->capture_default_str();
+  app.add_option("--max-handshakes", options.mostHandshakes, "TLS handshakes under way; beyond, the oldest is dropped")
+      ->check(count)
+      ->type_name("N")
+      ->capture_default_str();
+  app.add_option("--handshakes-per-minute", options.handshakesPerMinute, "TLS handshakes of one address; 0 takes all")
+      ->type_name("N")
+      ->capture_default_str();
+  app.add_option("--max-unsent-megabytes", texts.mostUnsentMegabytes,
+                 "Answers that clients do not take; beyond, the connection that was slow longest is dropped")
+      ->check(CLI::Range(1, 1024))
       ->type_name("N")
       ->capture_default_str();
 }
@@ -171,6 +194,10 @@ ServeOptions finished(ServeOptions options, const Texts& texts) {
   options.idleTime = std::chrono::seconds{texts.idleSeconds};
   options.drainTime = std::chrono::seconds{texts.drainSeconds};
   options.storeTime = std::chrono::seconds{texts.storeSeconds};
+  options.mostUnsentBytes = texts.mostUnsentMegabytes << 20U;
+  options.mostConnections = texts.mostConnections;
+  if (options.mostConnections == 0)
+    options.mostConnections = options.certificate.empty() ? plainConnections : tlsConnections;
   check(options);
   return options;
 }
@@ -191,6 +218,7 @@ Command parseCommandLine(int argc, const char* const* argv) {
       "mivo-tally: counts votes for the features of a roadmap.\n"
       "Without a command it serves; without flags, on this machine alone, into a SQLite file."};
   addFlags(app, serve, texts);
+  addLimits(app, serve, texts);
   addVariables(app);
   bool tellsVersion = false;
   bool tellsLibraries = false;

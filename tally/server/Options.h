@@ -31,7 +31,11 @@ struct ServeOptions {
   std::chrono::seconds drainTime{2};     // for the next request of a connection that is kept, once told to stop
   std::chrono::seconds storeTime{5};     // for what is asked of the store
   std::size_t mostConnections = 20'000;
-  bool countsAny = false;               // also what the roadmap does not list
+  std::size_t mostConnectionsOfAnAddress = 256;  // 0: as many as it likes
+  std::size_t mostHandshakes = 512;              // begun and not ended
+  unsigned handshakesPerMinute = 300;            // of one address; 0: as many as it likes
+  std::size_t mostUnsentBytes = 64 << 20;        // of all clients together
+  bool countsAny = false;                        // also what the roadmap does not list
   std::int64_t mostCounters = 100'000;
 };
 

@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <random>
 #include <utility>
 
 namespace mivo::tally {
@@ -14,17 +13,6 @@ constexpr std::chrono::minutes generation{1};
 constexpr std::size_t mostClients = 200'000;
 
 }  // namespace
-
-RateLimiter::SeededHash::SeededHash() {
-  std::random_device random;
-  seed = std::uint64_t{random()} << 32U | random();
-}
-
-std::size_t RateLimiter::SeededHash::operator()(std::uint64_t client) const {
-  auto mixed = (client ^ seed) * 0x9e3779b97f4a7c15U;
-  mixed = (mixed ^ mixed >> 32U ^ seed) * 0xd6e8feb86659fd93U;
-  return mixed ^ mixed >> 29U;
-}
 
 unsigned RateLimiter::secondsToWait(std::uint64_t client, Instant now) {
   if (perMinute_ == 0) return 0;

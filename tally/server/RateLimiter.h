@@ -4,6 +4,8 @@
 #include <cstdint>
 #include <unordered_map>
 
+#include "tally/server/SeededHash.h"
+
 namespace mivo::tally {
 
 /// A token bucket for each client: a burst of a minute's worth, then one at a time as they grow back.
@@ -18,13 +20,6 @@ class RateLimiter {
   unsigned secondsToWait(std::uint64_t client, Instant now);
 
  private:
-  // Clients choose their addresses, whole networks of them: not those that fall together.
-  struct SeededHash {
-    SeededHash();
-    std::size_t operator()(std::uint64_t client) const;
-    std::uint64_t seed;
-  };
-
   struct Bucket {
     double tokens = 0;
     Instant filled;

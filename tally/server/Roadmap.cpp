@@ -38,11 +38,11 @@ Roadmap::Ids idsOf(const std::string& text) {
 }  // namespace
 
 Roadmap loadRoadmap(const std::filesystem::path& file) {
-  if (file.empty()) return {exampleRoadmap, std::nullopt};
+  if (file.empty()) return {std::make_shared<const std::string>(exampleRoadmap), std::nullopt};
   try {
     auto text = textOf(file);
     auto ids = idsOf(text);
-    return {std::move(text), std::move(ids)};
+    return {std::make_shared<const std::string>(std::move(text)), std::move(ids)};
   } catch (const std::exception& error) {
     throw std::runtime_error(file.string() + ": " + error.what());
   }

@@ -2,6 +2,7 @@
 #pragma once
 #include <filesystem>
 #include <functional>
+#include <memory>
 #include <optional>
 #include <set>
 #include <string>
@@ -11,7 +12,7 @@ namespace mivo::tally {
 /// The list of features that is served to the apps.
 struct Roadmap {
   using Ids = std::set<std::string, std::less<>>;
-  std::string text;
+  std::shared_ptr<const std::string> text;  // every answer that has it on its way holds it
   /// Of its features; nothing for the example, which says nothing of what others vote on.
   std::optional<Ids> ids;
 };

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "tally/server/Server.h"
 
+#include <netinet/tcp.h>
+
+#include <algorithm>
 #include <csignal>
 #include <stdexcept>
 
@@ -12,6 +15,13 @@ namespace {
 
 constexpr int waitingToBeAccepted = 4096;
 constexpr std::chrono::milliseconds acceptPause{100};
+
+// Of an answer that the client does not take, so much waits in the kernel and not megabytes; what is on its way does
+// not count, so a far client is served no slower.
+void boundUnsent(tcp::socket& socket) {
+  constexpr int bytes = 16 << 10;
+  ::setsockopt(socket.native_handle(), IPPROTO_TCP, TCP_NOTSENT_LOWAT, &bytes, sizeof bytes);
+}
 
 }  // namespace
 
@@ -25,7 +35,13 @@ Server::Server(asio::io_context& loop, const ServeOptions& options, CounterStore
           [this](const std::string& name) { return certificate_ && hasName(*certificate_, name); },
           [this] { return metricsText(); }),
       operations_(loop, store, [this](std::size_t operations) { metrics_.batchSent(operations); }),
-      workplace_{options, service_, operations_, log, metrics_, connections_, [this] { stopWhenDone(); }},
+      crowd_{.open = {},
+             .handshaking = {},
+             .sending = {},
+             .addresses = AddressLimits{{.connections = options.mostConnectionsOfAnAddress,
+                                         .handshakesPerMinute = options.handshakesPerMinute,
+                                         .exempt = options.trustedProxies}}},
+      workplace_{options, service_, operations_, log, metrics_, crowd_, [this] { stopWhenDone(); }},
       acceptor_(loop),
       signals_(loop, SIGTERM, SIGINT, SIGHUP),
       second_(loop),
@@ -78,25 +94,26 @@ void Server::accept() {
 }
 
 void Server::add(tcp::socket socket) {
-  if (connections_.size() >= options_.mostConnections) makeRoom();
   error_code error;
-  const auto peer = socket.remote_endpoint(error);
+  const auto peer = socket.remote_endpoint(error).address();
   const bool isGone = error || socket.set_option(tcp::no_delay{true}, error) || socket.non_blocking(true, error);
   if (isGone) return;
-  auto stream = certificate_ ? Stream{std::move(socket), *certificate_} : Stream{std::move(socket)};
-  connections_.push_back(std::make_shared<Connection>(std::move(stream), workplace_, peer.address()));
-  connections_.back()->start(std::prev(connections_.end()));
+  boundUnsent(socket);
+  if (!crowd_.addresses.admit(peer)) return metrics_.reached(Limit::address);
+  if (crowd_.open.size() >= options_.mostConnections) makeRoom();
+  crowd_.open.push_back(std::make_shared<Connection>(std::move(socket), certificate_, workplace_, peer));
+  crowd_.open.back()->start(std::prev(crowd_.open.end()));
 }
 
 // A connection that answers were sent to lately stands behind those that only hold a place.
 void Server::makeRoom() {
-  const auto silent = std::ranges::find_if(connections_, [](const auto& each) { return each->isWaitingForClient(); });
-  if (silent != connections_.end()) (*silent)->close();
+  const auto silent = std::ranges::find_if(crowd_.open, [](const auto& each) { return each->isWaitingForClient(); });
+  if (silent != crowd_.open.end()) (*silent)->giveWay(Limit::connections);
 }
 
 void Server::checkDeadlines() {
   const auto now = std::chrono::steady_clock::now();
-  for (auto next = connections_.begin(); next != connections_.end();) {
+  for (auto next = crowd_.open.begin(); next != crowd_.open.end();) {
     const auto connection = *next++;  // which may leave the list
     connection->checkDeadline(now);
   }
@@ -136,7 +153,7 @@ void Server::stop() {
   static_cast<void>(acceptor_.close(error));
   log_.event("stopping", "finishing what is in flight");
   const auto now = std::chrono::steady_clock::now();
-  for (auto next = connections_.begin(); next != connections_.end();) {
+  for (auto next = crowd_.open.begin(); next != crowd_.open.end();) {
     const auto connection = *next++;
     connection->drain(now);
   }
@@ -144,11 +161,13 @@ void Server::stop() {
 }
 
 void Server::stopWhenDone() {
-  if (isStopping_ && connections_.empty() && operations_.isIdle()) loop_.stop();
+  if (isStopping_ && crowd_.open.empty() && operations_.isIdle()) loop_.stop();
 }
 
 std::string Server::metricsText() const {
-  return metrics_.text({.openConnections = connections_.size(),
+  return metrics_.text({.openConnections = crowd_.open.size(),
+                        .unfinishedHandshakes = crowd_.handshaking.size(),
+                        .unsentBytes = crowd_.unsentBytes,
                         .isStoreAvailable = store_.isAvailable(),
                         .isStoreDamaged = store_.isDamaged(),
                         .writeAheadLogBytes = store_.writeAheadLogBytes(),

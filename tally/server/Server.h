@@ -34,7 +34,7 @@ class Server {
   Metrics metrics_;
   Service service_;
   OperationQueue operations_;
-  Connections connections_;
+  Crowd crowd_;
   Workplace workplace_;
   std::shared_ptr<ssl::context> certificate_;
   tcp::acceptor acceptor_;

@@ -56,7 +56,7 @@ std::variant<Answer, Operation> Service::handle(const Request& request, const as
             if (const auto wait = limiter_.secondsToWait(rateKey(client), now)) return refusalAnswer(tooMany, wait);
             return Operation{std::string{vote.counter}, vote.delta};
           },
-          [&](const ReadRoadmap&) -> Handled { return Answer{.body = roadmap_.text}; },
+          [&](const ReadRoadmap&) -> Handled { return Answer{.shared = roadmap_.text}; },
           [&](const ReadHealth&) -> Handled { return health(); },
           [](const ReadRobots&) -> Handled { return Answer{.content = Content::text, .body = robots}; },
           [&](const ReadMetrics&) -> Handled { return Answer{.content = Content::text, .body = metricsText_()}; },

@@ -48,7 +48,8 @@ struct Fixture : testing::Test {
 using Flood = Fixture;
 
 TEST_F(Flood, ofSlowClientsKeepsNobodyFromVoting) {
-  TallyServer server{store, {"--votes-per-minute", "0", "--request-seconds", "5"}};
+  TallyServer server{store,
+                     {"--votes-per-minute", "0", "--request-seconds", "5", "--max-connections-per-address", "0"}};
   HttpClient early{server.port()};
   open(server, slowClients);
   HttpClient late{server.port()};

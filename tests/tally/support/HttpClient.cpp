@@ -18,7 +18,7 @@ constexpr int patienceSeconds = 30;
 
 [[noreturn]] void fail(const std::string& what) { throw std::runtime_error("client: " + what); }
 
-int connectedTo(std::uint16_t port) {
+int connectedTo(std::uint16_t port, int receiveBuffer) {
   const int socket = ::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
   if (socket < 0) fail("no socket");
   const timeval patience{patienceSeconds, 0};
@@ -26,6 +26,7 @@ int connectedTo(std::uint16_t port) {
   ::setsockopt(socket, SOL_SOCKET, SO_SNDTIMEO, &patience, sizeof patience);
   const int on = 1;
   ::setsockopt(socket, IPPROTO_TCP, TCP_NODELAY, &on, sizeof on);
+  if (receiveBuffer > 0) ::setsockopt(socket, SOL_SOCKET, SO_RCVBUF, &receiveBuffer, sizeof receiveBuffer);
   sockaddr_in address{};
   address.sin_family = AF_INET;
   address.sin_port = htons(port);
@@ -56,9 +57,11 @@ HttpAnswer parseHeader(const std::string& header) {
 
 }  // namespace
 
-HttpClient::HttpClient(std::uint16_t port, Security security) : socket_(connectedTo(port)) {
+HttpClient::HttpClient(std::uint16_t port, Security security, int receiveBuffer)
+    : socket_(connectedTo(port, receiveBuffer)) {
   if (security == Security::plain) return;
   context_.reset(SSL_CTX_new(TLS_client_method()));
+  if (security == Security::tls12) SSL_CTX_set_max_proto_version(context_.get(), TLS1_2_VERSION);
   tls_.reset(SSL_new(context_.get()));
   SSL_set_fd(tls_.get(), socket_);
   if (SSL_connect(tls_.get()) == 1) return;
@@ -133,6 +136,8 @@ long HttpClient::certificateSerial() const {
   const std::unique_ptr<X509, decltype(&X509_free)> certificate{SSL_get1_peer_certificate(tls_.get()), X509_free};
   return ASN1_INTEGER_get(X509_get0_serialNumber(certificate.get()));
 }
+
+bool HttpClient::renegotiates() { return SSL_renegotiate(tls_.get()) == 1 && SSL_do_handshake(tls_.get()) == 1; }
 
 std::int64_t countOf(const HttpAnswer& answer) {
   constexpr std::string_view before = "{\"value\":";

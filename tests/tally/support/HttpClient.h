@@ -21,9 +21,10 @@ struct HttpAnswer {
 /// std::runtime_error.
 class HttpClient {
  public:
-  enum class Security { plain, tls };
+  enum class Security { plain, tls, tls12 };
 
-  explicit HttpClient(std::uint16_t port, Security security = Security::plain);
+  /// A receive buffer of 0 bytes leaves its size to the system.
+  explicit HttpClient(std::uint16_t port, Security security = Security::plain, int receiveBuffer = 0);
   ~HttpClient();
   HttpClient(const HttpClient&) = delete;
   HttpClient& operator=(const HttpClient&) = delete;
@@ -39,6 +40,8 @@ class HttpClient {
   std::string receiveAll();
   /// The serial number of the server's certificate.
   long certificateSerial() const;
+  /// Whether the server goes along with a new handshake inside this connection.
+  bool renegotiates();
 
  private:
   std::size_t receiveSome();
