@@ -23,6 +23,7 @@ std::array<asio::const_buffer, 2> Outbox::unsent() const {
 void Outbox::sent(std::size_t size) {
   const auto ofOwn = std::min(size, own.size());
   own.erase(0, ofOwn);
+  if (own.capacity() > 2 * own.size() + usualSize) own.shrink_to_fit();  // the rest may wait for long
   sharedSent += size - ofOwn;
   if (shared && sharedSent == shared->size()) clear();
 }

@@ -22,8 +22,8 @@ class Outbox {
   /// So many bytes of it were handed over.
   void sent(std::size_t size);
   void clear();
-  /// Bytes that are held for this client alone.
-  std::size_t ownBytes() const { return own.size(); }
+  /// Bytes of memory that are held for this client alone.
+  std::size_t ownBytes() const { return own.capacity(); }
 
   static constexpr std::size_t mostOwnBytes = 16 << 10;
 

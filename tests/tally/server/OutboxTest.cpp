@@ -66,6 +66,10 @@ TEST(OutboxTest, isFullAtSixteenKilobytes) {
   answer.body = std::string(1000, 'x');
   outbox.append(answer, frame);
   EXPECT_TRUE(outbox.isFull());
+  EXPECT_GE(outbox.ownBytes(), Outbox::mostOwnBytes);
+  outbox.sent(Outbox::mostOwnBytes - 100);
+  EXPECT_FALSE(outbox.isFull());
+  EXPECT_LT(outbox.ownBytes(), Outbox::mostOwnBytes / 2) << "what was sent is not held";
 }
 
 }  // namespace
