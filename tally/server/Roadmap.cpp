@@ -37,12 +37,15 @@ Roadmap::Ids idsOf(const std::string& text) {
 
 }  // namespace
 
+Roadmap readRoadmap(std::string text) {
+  auto ids = idsOf(text);
+  return {std::make_shared<const std::string>(std::move(text)), std::move(ids)};
+}
+
 Roadmap loadRoadmap(const std::filesystem::path& file) {
   if (file.empty()) return {std::make_shared<const std::string>(exampleRoadmap), std::nullopt};
   try {
-    auto text = textOf(file);
-    auto ids = idsOf(text);
-    return {std::make_shared<const std::string>(std::move(text)), std::move(ids)};
+    return readRoadmap(textOf(file));
   } catch (const std::exception& error) {
     throw std::runtime_error(file.string() + ": " + error.what());
   }

@@ -19,7 +19,11 @@ struct Roadmap {
 
 inline constexpr std::size_t largestRoadmap = std::size_t{1} << 20;  // bytes
 
-/// Reads the file as the apps do, or takes the example that is built in where `file` is empty. Throws
+/// Reads the text as the apps do. Throws std::exception with what is wrong where they would refuse it, or an id cannot
+/// be counted.
+Roadmap readRoadmap(std::string text);
+
+/// Reads the file so, or takes the example that is built in where `file` is empty. Throws
 /// std::runtime_error with one sentence that names the file for one that cannot be read, is larger than a mebibyte,
 /// that the apps would refuse, or with an id that cannot be counted.
 Roadmap loadRoadmap(const std::filesystem::path& file);
