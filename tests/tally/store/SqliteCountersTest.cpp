@@ -166,5 +166,31 @@ TEST(SqliteStoreTest, knowsWhatItReadOrCounted) {
   EXPECT_EQ(store.known("a/feature2"), 0);
 }
 
+// A database as the first release wrote it: what an upgrade must read, whatever the present one writes.
+constexpr auto firstRelease = R"(
+  PRAGMA journal_mode = WAL;
+  CREATE TABLE counter (name TEXT PRIMARY KEY, value INTEGER NOT NULL) STRICT, WITHOUT ROWID;
+  PRAGMA user_version = 1;
+  INSERT INTO counter VALUES ('app.example/feature12', 7), ('app.example/featureäöü', 3), ('b/feature1', -2),
+                             ('b/feature2', 9223372036854775807);
+)";
+
+TEST(Upgrade, keepsEveryCountOfTheFirstRelease) {
+  const tests::TemporaryFolder folder;
+  const auto file = folder.file("tally.sqlite");
+  SQLite::Database{file, SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE}.exec(firstRelease);
+  {
+    SqliteCounters counters{file, SqliteCounters::Access::readWrite, std::chrono::seconds{5}, 4};
+    EXPECT_EQ(counters.damage(), "");
+    EXPECT_THAT(counters.apply({{"app.example/feature12", 1}, {"b/feature1", 0}, {"b/feature2", 1}, {"b/feature3", 1}}),
+                ElementsAre(counted(8), counted(-2), Result{Outcome::overflow, largest}, Result{Outcome::full, 0}));
+  }
+  SqliteCounters again{file, SqliteCounters::Access::readOnly};
+  std::vector<std::pair<std::string, std::int64_t>> kept;
+  again.forEach([&](std::string_view name, std::int64_t count) { kept.emplace_back(name, count); });
+  EXPECT_THAT(kept, ElementsAre(testing::Pair("app.example/feature12", 8), testing::Pair("app.example/featureäöü", 3),
+                                testing::Pair("b/feature1", -2), testing::Pair("b/feature2", largest)));
+}
+
 }  // namespace
 }  // namespace mivo::tally
