@@ -48,4 +48,9 @@ std::uint64_t rateKey(const asio::ip::address& client) {
                          [](std::uint64_t key, std::uint8_t byte) { return key << 8 | byte; });
 }
 
+std::optional<std::uint64_t> siteKey(const asio::ip::address& client) {
+  if (unmapped(client).is_v4()) return std::nullopt;
+  return rateKey(client) >> 16U;
+}
+
 }  // namespace mivo::tally

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 #include <cstdint>
+#include <optional>
 #include <string_view>
 
 #include "tally/net/Asio.h"
@@ -18,5 +19,8 @@ asio::ip::address forwardedAddress(std::string_view forwardedFor, const asio::ip
 /// What a rate is counted for: the whole of an IPv4 address (also where it comes mapped into IPv6), of an IPv6 one its
 /// first 64 bits, since one household has all the rest.
 std::uint64_t rateKey(const asio::ip::address& client);
+
+/// The first 48 bits of an IPv6 address, of which one customer may have all that begin alike; nothing for IPv4.
+std::optional<std::uint64_t> siteKey(const asio::ip::address& client);
 
 }  // namespace mivo::tally

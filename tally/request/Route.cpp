@@ -8,7 +8,6 @@
 namespace mivo::tally {
 namespace {
 
-constexpr Refusal notFound{404, "there is nothing at this path"};
 constexpr Refusal wrongDelta{400, "delta must be given once and be 1 or -1"};
 
 // A client may send the whole address ("http://host/path"): only its path counts.
@@ -60,7 +59,7 @@ Route routeOf(std::string_view target) {
   if (path == "/health") return ReadHealth{};
   if (path == "/metrics") return ReadMetrics{};
   if (path == "/robots.txt") return ReadRobots{};
-  return notFound;
+  return nothingThere;
 }
 
 }  // namespace mivo::tally

@@ -29,6 +29,8 @@ struct ReadRobots {
   bool operator==(const ReadRobots&) const = default;
 };
 
+inline constexpr Refusal nothingThere{404, "there is nothing at this path"};
+
 using Route = std::variant<Refusal, ReadCount, AddVote, ReadRoadmap, ReadHealth, ReadMetrics, ReadRobots>;
 
 /// What a request target asks for; a Refusal with 404 for an unknown path, with 400 for a counter's name or a delta

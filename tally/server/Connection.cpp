@@ -23,8 +23,12 @@ DateTexts& dates() {
 }  // namespace
 
 Connection::Connection(tcp::socket socket, std::shared_ptr<ssl::context> certificate, const Workplace& workplace,
-                       asio::ip::address peer)
-    : stream_(std::move(socket)), certificate_(std::move(certificate)), work_(workplace), peer_(std::move(peer)) {}
+                       asio::ip::address peer, Door door)
+    : stream_(std::move(socket)),
+      certificate_(std::move(certificate)),
+      work_(workplace),
+      peer_(std::move(peer)),
+      door_(door) {}
 
 void Connection::start(Connections::iterator place) {
   place_ = place;
@@ -113,7 +117,7 @@ bool Connection::takeRequest() {
     refuse(reading.refusal);
     return true;
   }
-  auto outcome = work_.service.handle(request_, client(), received_);
+  auto outcome = work_.service.handle(request_, door_, client(), received_);
   if (auto* operation = std::get_if<Operation>(&outcome)) {
     ask(std::move(*operation));
   } else {
@@ -225,7 +229,7 @@ void Connection::close() {
   if (phase_ == Phase::closed) return;
   phase_ == Phase::sending ? stream_.abandon() : stream_.close();
   enter(Phase::closed, Instant::max());
-  work_.crowd.addresses.leave(peer_);
+  if (door_ == Door::everyones) work_.crowd.addresses.leave(peer_);
   const auto self = shared_from_this();
   work_.crowd.open.erase(place_);
   work_.didClose();

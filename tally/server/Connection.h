@@ -34,7 +34,7 @@ class Connection : public std::enable_shared_from_this<Connection> {
 
   /// Under TLS where there is a certificate, which is held until the handshake begins.
   Connection(tcp::socket socket, std::shared_ptr<ssl::context> certificate, const Workplace& workplace,
-             asio::ip::address peer);
+             asio::ip::address peer, Door door);
 
   /// Begins, once the connection stands in the list.
   void start(Connections::iterator place);
@@ -75,6 +75,7 @@ class Connection : public std::enable_shared_from_this<Connection> {
   std::shared_ptr<ssl::context> certificate_;
   const Workplace& work_;
   asio::ip::address peer_;
+  Door door_;
   Connections::iterator place_;
   Line self_{this};  // this connection's node, while it stands in no line
   Line::iterator node_ = self_.begin();

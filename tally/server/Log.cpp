@@ -59,11 +59,21 @@ bool isWritable(int descriptor, std::chrono::milliseconds patience) {
 
 }  // namespace
 
-Log::Log(int descriptor) : descriptor_(descriptor), writer_([this](const std::stop_token& stop) { write(stop); }) {}
+Log::Log(int descriptor, LogDetail detail)
+    : descriptor_(descriptor), detail_(detail), writer_([this](const std::stop_token& stop) { write(stop); }) {}
 
 Log::~Log() = default;
 
+bool Log::isWanted(unsigned status) {
+  if (status >= 500) return true;
+  if (status >= 400) return detail_.level != LogDetail::Level::error;
+  if (detail_.level != LogDetail::Level::info || ++passedOver_ < detail_.oneIn) return false;
+  passedOver_ = 0;
+  return true;
+}
+
 void Log::request(const Request& request) {
+  if (!isWanted(request.status)) return;
   begin();
   appendText(line_, "method", request.method.substr(0, longestMethod));
   appendText(line_, "target", request.target.substr(0, longestTarget));
@@ -72,6 +82,10 @@ void Log::request(const Request& request) {
   line_ += ",\"microseconds\":";
   appendNumber(line_, request.duration.count());
   if (!request.address.empty()) appendText(line_, "address", request.address);
+  if (detail_.oneIn > 1 && request.status < 400) {
+    line_ += ",\"oneIn\":";
+    appendNumber(line_, detail_.oneIn);
+  }
   end();
 }
 

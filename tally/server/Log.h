@@ -13,6 +13,13 @@
 
 namespace mivo::tally {
 
+/// Which requests are logged; what the server says of itself always is.
+struct LogDetail {
+  enum class Level { info, warning, error };
+  Level level = Level::info;  // all; those refused or failed; those failed here (a status of 500 and above)
+  unsigned oneIn = 1;         // of those that went well, one of so many, which its line says
+};
+
 /// One JSON object a line, gathered and written by a thread of its own: a reader that stops reading stops no vote.
 /// Where eight megabytes wait, further lines are left out, and their number is said once there is room again. A text is
 /// written as UTF-8; what is not UTF-8 becomes U+FFFD.
@@ -27,7 +34,7 @@ class Log {
   };
 
   /// Writes to a file descriptor, which stays the caller's.
-  explicit Log(int descriptor);
+  explicit Log(int descriptor, LogDetail detail = {});
   /// Writes what is left, as long as somebody takes it within two seconds.
   ~Log();
   Log(const Log&) = delete;
@@ -40,6 +47,7 @@ class Log {
   std::uint64_t linesLeftOut() const { return linesLeftOut_; }
 
  private:
+  bool isWanted(unsigned status);
   void begin();
   void end();
   void write(const std::stop_token& stop);
@@ -47,6 +55,8 @@ class Log {
   bool writeOut(const std::stop_token& stop, std::string_view text);
 
   int descriptor_;
+  LogDetail detail_;
+  unsigned passedOver_ = 0;  // requests that went well, since the last that was logged
   DateTexts dates_;
   std::string line_;
 

@@ -64,6 +64,8 @@ std::string Metrics::text(const Present& present) const {
   single(out, "store_damaged", "gauge", "1 where a part of the store cannot be read.", present.isStoreDamaged ? 1 : 0);
   single(out, "store_write_ahead_log_bytes", "gauge", "Size of the log that waits to be folded into the database.",
          present.writeAheadLogBytes);
+  if (present.certificateDays)
+    single(out, "certificate_days", "gauge", "Days until the certificate ends.", *present.certificateDays);
   single(out, "log_lines_left_out_total", "counter", "Lines of the log that nobody took.", present.logLinesLeftOut);
   return out.str();
 }

@@ -3,6 +3,7 @@
 #include <array>
 #include <chrono>
 #include <cstdint>
+#include <optional>
 #include <string>
 
 namespace mivo::tally {
@@ -21,6 +22,7 @@ class Metrics {
     bool isStoreDamaged = false;
     std::uintmax_t writeAheadLogBytes = 0;
     std::uint64_t logLinesLeftOut = 0;
+    std::optional<int> certificateDays = {};
   };
 
   void answered(unsigned status, std::chrono::microseconds duration);

@@ -5,10 +5,14 @@
 #include <algorithm>
 #include <cctype>
 #include <cstdlib>
+#include <fstream>
 #include <iostream>
+#include <map>
 #include <stdexcept>
 
 #include "tally/net/Asio.h"
+#include "tally/request/CounterName.h"
+#include "tally/server/Listener.h"
 #include "tally/server/Versions.h"
 
 namespace mivo::tally {
@@ -42,16 +46,25 @@ bool isLoopback(const std::string& host) {
 void check(const ServeOptions& options) {
   if (options.certificate.empty() != options.key.empty())
     throw std::invalid_argument("--certificate and --key are given together");
+  if (options.admin && !options.allowPlainHttp && !isLoopback(options.admin->host))
+    throw std::invalid_argument("--admin " + describe(*options.admin) +
+                                ": others can reach it, so give --allow-plain-http where the network is your own");
   if (options.certificate.empty() && !options.allowPlainHttp && !isLoopback(options.listen.host))
     throw std::invalid_argument("--listen " + describe(options.listen) +
                                 ": others can reach it, so give --certificate and --key, or --allow-plain-http where a "
                                 "balancer in front does TLS");
 }
 
+// "debug" and the like would promise lines that there are none of.
+const std::map<std::string, LogDetail::Level> logLevels{
+    {"info", LogDetail::Level::info}, {"warning", LogDetail::Level::warning}, {"error", LogDetail::Level::error}};
+
 struct Texts {
   std::string listen = "127.0.0.1:8787";
   std::string store = "sqlite:" + defaultDatabase().string();
   std::string trustedProxies = "0";
+  std::string admin;
+  std::filesystem::path redisPassword;
   unsigned requestSeconds = 10;
   unsigned idleSeconds = 60;
   unsigned drainSeconds = 2;
@@ -68,12 +81,22 @@ void addFlags(CLI::App& app, ServeOptions& options, Texts& texts) {
   app.add_option("--store", texts.store, "sqlite:FILE, redis://[USER:PASSWORD@]HOST:PORT/DB, or rediss:// for TLS")
       ->type_name("ADDRESS")
       ->capture_default_str();
+  app.add_option("--redis-password-file", texts.redisPassword,
+                 "Holds the password of --store; the variable MIVO_TALLY_REDIS_PASSWORD may too")
+      ->type_name("FILE");
+  app.add_option("--admin", texts.admin, "Answer /metrics and /health there, in plain HTTP, and nowhere else")
+      ->type_name("HOST:PORT");
   app.add_option("--roadmap", options.roadmap, "The list served as /data/roadmap-mivo.json")->type_name("FILE");
   app.add_option("--certificate", options.certificate, "Certificate chain (PEM); read again on SIGHUP")
       ->type_name("FILE");
   app.add_option("--key", options.key, "Its private key (PEM)")->type_name("FILE");
   app.add_flag("--allow-plain-http", options.allowPlainHttp, "Answer without TLS beyond this machine");
   app.add_option("--votes-per-minute", options.votesPerMinute, "Votes taken from one address; 0 takes all")
+      ->type_name("N")
+      ->capture_default_str();
+  app.add_option("--votes-per-day", options.votesPerDay,
+                 "Votes up, and down, that one address has for a feature a day; 0 takes all")
+      ->check(CLI::Range(0U, 1'000'000U))
       ->type_name("N")
       ->capture_default_str();
   app.add_option("--trust-forwarded-for", texts.trustedProxies,
@@ -90,6 +113,14 @@ void addFlags(CLI::App& app, ServeOptions& options, Texts& texts) {
       ->type_name("ORIGIN")
       ->delimiter(',');
   app.add_flag("--log-addresses", options.logAddresses, "Write clients' addresses into the log");
+  app.add_option("--log-level", options.logDetail.level,
+                 "Requests that are logged: info all, warning those refused or failed, error those failed")
+      ->transform(CLI::CheckedTransformer(logLevels))
+      ->type_name("LEVEL");
+  app.add_option("--log-one-in", options.logDetail.oneIn, "Log one of so many requests that went well")
+      ->check(CLI::Range(1U, 1'000'000U))
+      ->type_name("N")
+      ->capture_default_str();
   app.add_option("--request-seconds", texts.requestSeconds, "Time to send a request, and to take its answer")
       ->check(seconds)
       ->type_name("N")
@@ -178,12 +209,60 @@ Networks parseNetworks(std::string_view text) {
   return networks;
 }
 
+Endpoint endpointOf(const char* flag, const std::string& text) {
+  const auto endpoint = parseEndpoint(text);
+  if (!endpoint)
+    throw std::invalid_argument(flag + std::string{": expected HOST:PORT or [IPV6]:PORT, found \""} + text + '"');
+  return *endpoint;
+}
+
+std::string firstLineOf(const std::filesystem::path& file) {
+  std::ifstream in{file};
+  std::string line;
+  if (!std::getline(in, line) || line.empty())
+    throw std::invalid_argument("--redis-password-file " + file.string() + ": expected a line with the password");
+  return line;
+}
+
+// A password comes from one place, so that nobody wonders which of two is used.
+StoreAddress storeOf(const Texts& texts) {
+  auto store = parseStoreAddress(texts.store);
+  auto* redis = std::get_if<RedisAddress>(&store);
+  if (redis == nullptr) return store;
+  auto password = variable("MIVO_TALLY_REDIS_PASSWORD");
+  const bool hasFile = !texts.redisPassword.empty();
+  if (int{!redis->password.empty()} + int{!password.empty()} + int{hasFile} > 1)
+    throw std::invalid_argument(
+        "the password of Redis is given in --store, in MIVO_TALLY_REDIS_PASSWORD or in --redis-password-file: in one");
+  if (hasFile) password = firstLineOf(texts.redisPassword);
+  if (!password.empty()) redis->password = std::move(password);
+  return store;
+}
+
+bool showsPassword(int argc, const char* const* argv) {
+  return std::any_of(argv, argv + argc, [](std::string_view word) {
+    return word.find("redis") != word.npos && word.find("://") != word.npos && word.find('@') != word.npos;
+  });
+}
+
+// A server that listens everywhere is asked on this machine.
+HealthOptions healthOf(const ServeOptions& options, const Texts& texts) {
+  const bool isAdmins = !texts.admin.empty();
+  auto endpoint = isAdmins ? endpointOf("--admin", texts.admin) : endpointOf("--listen", texts.listen);
+  error_code error;
+  const auto address = asio::ip::make_address(endpoint.host, error);
+  if (!error && address.is_unspecified()) endpoint.host = address.is_v4() ? "127.0.0.1" : "::1";
+  return {std::move(endpoint), !isAdmins && !options.certificate.empty()};
+}
+
 ServeOptions finished(ServeOptions options, const Texts& texts) {
-  const auto listen = parseEndpoint(texts.listen);
-  if (!listen)
-    throw std::invalid_argument("--listen: expected HOST:PORT or [IPV6]:PORT, found \"" + texts.listen + '"');
-  options.listen = *listen;
-  options.store = parseStoreAddress(texts.store);
+  options.listen = endpointOf("--listen", texts.listen);
+  if (!texts.admin.empty()) options.admin = endpointOf("--admin", texts.admin);
+  if (const auto inherited = inheritedSocket()) {
+    options.inherited = inherited->descriptor;
+    options.listen = inherited->endpoint;
+  }
+  options.store = storeOf(texts);
   options.trustsByOldName = isSwitch(texts.trustedProxies);
   if (options.trustsByOldName) {
     options.trustedProxies = privateNetworks();
@@ -202,6 +281,11 @@ ServeOptions finished(ServeOptions options, const Texts& texts) {
   return options;
 }
 
+const std::string& checkedName(const std::string& counter) {
+  if (const auto fault = faultOfCounterName(counter)) throw std::invalid_argument(counter + ": " + std::string{*fault});
+  return counter;
+}
+
 Exit told(const std::string& text) {
   std::cout << text;
   return Exit{};
@@ -213,6 +297,7 @@ Command parseCommandLine(int argc, const char* const* argv) {
   ServeOptions serve;
   ExportOptions exported;
   ImportOptions imported;
+  CorrectOptions corrected;
   Texts texts;
   CLI::App app{
       "mivo-tally: counts votes for the features of a roadmap.\n"
@@ -229,16 +314,25 @@ Command parseCommandLine(int argc, const char* const* argv) {
   auto* importing = app.add_subcommand("import", "Bring counters that export wrote into --store");
   importing->fallthrough()->add_option("FILE", imported.from, "What export wrote")->required();
   importing->add_flag("--replace", imported.replace, "Overwrite counters that have another count");
+  auto* correcting = app.add_subcommand("correct", "Set one counter of --store, also while a server has it");
+  correcting->fallthrough()->add_option("NAME", corrected.counter, "NAMESPACE/featureID")->required();
+  correcting->add_option("VALUE", corrected.value, "Its count from now on")->required();
+  auto* checking = app.add_subcommand("health", "Ask the server at --admin, or --listen, whether it is well: 0 if so");
+  checking->fallthrough();
   app.footer(
       "Examples:\n  mivo-tally\n  mivo-tally --store redis://localhost/0 --roadmap roadmap.json\n"
       "  mivo-tally export --store sqlite:tally.sqlite > counters.jsonl\n"
-      "  mivo-tally import --store redis://localhost/0 counters.jsonl");
+      "  mivo-tally import --store redis://localhost/0 counters.jsonl\n"
+      "  mivo-tally correct --store sqlite:tally.sqlite app.example/feature12 40");
   try {
     app.parse(argc, argv);
     if (tellsVersion) return told(versionText(tellsLibraries));
     checkVariables(app);
-    if (exporting->parsed()) return ExportOptions{parseStoreAddress(texts.store), exported.to};
-    if (importing->parsed()) return ImportOptions{parseStoreAddress(texts.store), imported.from, imported.replace};
+    if (exporting->parsed()) return ExportOptions{storeOf(texts), exported.to};
+    if (importing->parsed()) return ImportOptions{storeOf(texts), imported.from, imported.replace};
+    if (correcting->parsed()) return CorrectOptions{storeOf(texts), checkedName(corrected.counter), corrected.value};
+    if (checking->parsed()) return healthOf(serve, texts);
+    serve.showsPassword = showsPassword(argc, argv);
     return finished(serve, texts);
   } catch (const CLI::ParseError& error) {
     return Exit{app.exit(error) == 0 ? 0 : wrongUsage};

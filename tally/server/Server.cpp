@@ -13,9 +13,6 @@
 namespace mivo::tally {
 namespace {
 
-constexpr int waitingToBeAccepted = 4096;
-constexpr std::chrono::milliseconds acceptPause{100};
-
 // Of an answer that the client does not take, so much waits in the kernel and not megabytes; what is on its way does
 // not count, so a far client is served no slower.
 void boundUnsent(tcp::socket& socket) {
@@ -42,66 +39,52 @@ Server::Server(asio::io_context& loop, const ServeOptions& options, CounterStore
                                          .handshakesPerMinute = options.handshakesPerMinute,
                                          .exempt = options.trustedProxies}}},
       workplace_{options, service_, operations_, log, metrics_, crowd_, [this] { stopWhenDone(); }},
-      acceptor_(loop),
+      listener_(
+          loop, [this](tcp::socket socket) { add(std::move(socket), Door::everyones); }, [this] { makeRoom(); }),
+      adminListener_(
+          loop, [this](tcp::socket socket) { add(std::move(socket), Door::admins); }, [this] { makeRoom(); }),
       signals_(loop, SIGTERM, SIGINT, SIGHUP),
-      second_(loop),
-      acceptAgain_(loop) {
+      second_(loop) {
   if (!options.certificate.empty()) certificate_ = loadCertificate(options.certificate, options.key);
   listen();
 }
 
 void Server::listen() {
-  try {
-    const tcp::endpoint endpoint = *tcp::resolver{loop_}.resolve(options_.listen.host, options_.listen.port).begin();
-    acceptor_.open(endpoint.protocol());
-    acceptor_.set_option(tcp::acceptor::reuse_address{true});
-    acceptor_.bind(endpoint);
-    acceptor_.listen(waitingToBeAccepted);
-    acceptor_.non_blocking(true);
-  } catch (const boost::system::system_error& error) {
-    throw std::runtime_error("--listen " + describe(options_.listen) + ": " + error.code().message());
+  if (options_.inherited) {
+    listener_.adopt(*options_.inherited);
+  } else {
+    listener_.listen("--listen", options_.listen);
   }
+  if (options_.admin) adminListener_.listen("--admin", *options_.admin);
 }
 
 void Server::run() {
-  const auto local = acceptor_.local_endpoint();
-  log_.event("listening", (certificate_ ? "https://" : "http://") +
-                              describe(Endpoint{local.address().to_string(), std::to_string(local.port())}) +
-                              ", votes in " + describe(options_.store));
+  log_.event("listening", (certificate_ ? "https://" : "http://") + describe(listener_.endpoint()) + ", votes in " +
+                              describe(options_.store));
+  if (options_.admin) log_.event("admin", "http://" + describe(adminListener_.endpoint()));
+  if (options_.showsPassword)
+    log_.event("options", "everyone on this machine can read a password among the flags: use a variable or a file");
   if (options_.trustsByOldName)
     log_.event("options", "--trust-forwarded-for without networks believes loopback and private addresses: name yours");
-  accept();
+  listener_.start();
+  if (options_.admin) adminListener_.start();
   checkDeadlines();
   awaitSignal();
   loop_.run();
 }
 
-void Server::accept() {
-  acceptor_.async_accept([this](error_code error, tcp::socket socket) {
-    if (!acceptor_.is_open()) return;
-    if (!error) {
-      add(std::move(socket));
-      return accept();
-    }
-    if (error == asio::error::connection_aborted) return accept();
-    // Out of descriptors: give one back, and do not spin.
-    makeRoom();
-    acceptAgain_.expires_after(acceptPause);
-    acceptAgain_.async_wait([this](error_code cancelled) {
-      if (!cancelled) accept();
-    });
-  });
-}
-
-void Server::add(tcp::socket socket) {
+void Server::add(tcp::socket socket, Door door) {
   error_code error;
   const auto peer = socket.remote_endpoint(error).address();
   const bool isGone = error || socket.set_option(tcp::no_delay{true}, error) || socket.non_blocking(true, error);
   if (isGone) return;
   boundUnsent(socket);
-  if (!crowd_.addresses.admit(peer)) return metrics_.reached(Limit::address);
+  const bool isAdmins = door == Door::admins;
+  if (!isAdmins && !crowd_.addresses.admit(peer)) return metrics_.reached(Limit::address);
   if (crowd_.open.size() >= options_.mostConnections) makeRoom();
-  crowd_.open.push_back(std::make_shared<Connection>(std::move(socket), certificate_, workplace_, peer));
+  auto certificate = isAdmins ? nullptr : certificate_;
+  crowd_.open.push_back(
+      std::make_shared<Connection>(std::move(socket), std::move(certificate), workplace_, peer, door));
   crowd_.open.back()->start(std::prev(crowd_.open.end()));
 }
 
@@ -117,10 +100,19 @@ void Server::checkDeadlines() {
     const auto connection = *next++;  // which may leave the list
     connection->checkDeadline(now);
   }
+  if (certificate_ && now >= certificateLook_) {
+    certificateLook_ = now + std::chrono::days{1};
+    tellOfCertificate();
+  }
   second_.expires_after(std::chrono::seconds{1});
   second_.async_wait([this](error_code error) {
     if (!error) checkDeadlines();
   });
+}
+
+void Server::tellOfCertificate() {
+  const auto days = daysLeft(*certificate_);
+  log_.event("certificate", days < 0 ? "has ended" : "ends in " + std::to_string(days) + " days");
 }
 
 void Server::awaitSignal() {
@@ -136,6 +128,7 @@ void Server::reload() {
   try {
     service_.replaceRoadmap(loadRoadmap(options_.roadmap));
     if (certificate_) certificate_ = loadCertificate(options_.certificate, options_.key);
+    if (certificate_) tellOfCertificate();
     log_.event("reloaded", certificate_ ? "certificate and roadmap" : "roadmap");
   } catch (const std::exception& error) {
     log_.event("not reloaded", error.what());
@@ -144,13 +137,8 @@ void Server::reload() {
 
 void Server::stop() {
   isStopping_ = true;
-  error_code error;
-  for (;;) {  // those the system has connected already were promised an answer
-    auto socket = acceptor_.accept(error);
-    if (error) break;
-    add(std::move(socket));
-  }
-  static_cast<void>(acceptor_.close(error));
+  listener_.stop();
+  adminListener_.stop();
   log_.event("stopping", "finishing what is in flight");
   const auto now = std::chrono::steady_clock::now();
   for (auto next = crowd_.open.begin(); next != crowd_.open.end();) {
@@ -171,7 +159,8 @@ std::string Server::metricsText() const {
                         .isStoreAvailable = store_.isAvailable(),
                         .isStoreDamaged = store_.isDamaged(),
                         .writeAheadLogBytes = store_.writeAheadLogBytes(),
-                        .logLinesLeftOut = log_.linesLeftOut()});
+                        .logLinesLeftOut = log_.linesLeftOut(),
+                        .certificateDays = certificate_ ? std::optional{daysLeft(*certificate_)} : std::nullopt});
 }
 
 }  // namespace mivo::tally

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 #include "tally/server/Connection.h"
+#include "tally/server/Listener.h"
 
 namespace mivo::tally {
 
@@ -17,10 +18,10 @@ class Server {
 
  private:
   void listen();
-  void accept();
-  void add(tcp::socket socket);
+  void add(tcp::socket socket, Door door);
   void makeRoom();
   void checkDeadlines();
+  void tellOfCertificate();
   void awaitSignal();
   void reload();
   void stop();
@@ -37,10 +38,11 @@ class Server {
   Crowd crowd_;
   Workplace workplace_;
   std::shared_ptr<ssl::context> certificate_;
-  tcp::acceptor acceptor_;
+  std::chrono::steady_clock::time_point certificateLook_;  // when the log next says how long it is good
+  Listener listener_;
+  Listener adminListener_;
   asio::signal_set signals_;
   asio::steady_timer second_;
-  asio::steady_timer acceptAgain_;
   bool isStopping_ = false;
 };
 

@@ -14,6 +14,8 @@ constexpr auto robots = "User-agent: *\nDisallow: /\n";  // a crawler that follo
 constexpr Refusal notOnTheRoadmap{404, "the roadmap has no such feature"};
 constexpr Refusal noFurtherCounter{409, "no further counters are taken"};
 constexpr Refusal tooMany{429, "too many votes from this address"};
+constexpr Refusal enoughForToday{429, "this address has voted for this feature enough today"};
+constexpr unsigned householdsOfASite = 10;
 
 template <class... Cases>
 struct Overloaded : Cases... {
@@ -38,9 +40,34 @@ Service::Service(const ServeOptions& options, const CounterStore& store, Roadmap
       roadmap_(std::move(roadmap)),
       countsAny_(options.countsAny),
       metricsText_(std::move(metricsText)),
-      limiter_(options.votesPerMinute) {}
+      hasAdminsDoor_(options.admin.has_value()),
+      limiter_(options.votesPerMinute),
+      siteLimiter_(options.votesPerMinute * householdsOfASite),
+      allowance_(options.votesPerDay) {}
 
-std::variant<Answer, Operation> Service::handle(const Request& request, const asio::ip::address& client,
+Route Service::routeOf(const Request& request, Door door) const {
+  const auto route = decide(request, policy_);
+  const bool isAdmins = std::holds_alternative<ReadHealth>(route) || std::holds_alternative<ReadMetrics>(route);
+  if (isAdmins && door == Door::everyones && hasAdminsDoor_) return nothingThere;
+  if (!isAdmins && door == Door::admins && !std::holds_alternative<Refusal>(route)) return nothingThere;
+  return route;
+}
+
+std::optional<Answer> Service::faultOf(const AddVote& vote, const asio::ip::address& client,
+                                       std::chrono::steady_clock::time_point now) {
+  if (!countsAny_ && roadmap_.ids && !roadmap_.ids->contains(featureIdOf(vote.counter)))
+    return refusalAnswer(notOnTheRoadmap);
+  if (const auto wait = limiter_.secondsToWait(rateKey(client), now)) return refusalAnswer(tooMany, wait);
+  const auto site = siteKey(client);
+  if (const auto wait = site ? siteLimiter_.secondsToWait(*site, now) : 0) return refusalAnswer(tooMany, wait);
+  const auto time = std::chrono::system_clock::now();
+  const auto today = std::chrono::floor<std::chrono::days>(time);
+  if (allowance_.take(client, vote.counter, vote.delta, today)) return std::nullopt;
+  const auto untilTomorrow = std::chrono::ceil<std::chrono::seconds>(today + std::chrono::days{1} - time);
+  return refusalAnswer(enoughForToday, static_cast<unsigned>(untilTomorrow.count()));
+}
+
+std::variant<Answer, Operation> Service::handle(const Request& request, Door door, const asio::ip::address& client,
                                                 std::chrono::steady_clock::time_point now) {
   using Handled = std::variant<Answer, Operation>;
   return std::visit(
@@ -51,9 +78,7 @@ std::variant<Answer, Operation> Service::handle(const Request& request, const as
             return Operation{std::string{read.counter}, 0};
           },
           [&](const AddVote& vote) -> Handled {
-            if (!countsAny_ && roadmap_.ids && !roadmap_.ids->contains(featureIdOf(vote.counter)))
-              return refusalAnswer(notOnTheRoadmap);
-            if (const auto wait = limiter_.secondsToWait(rateKey(client), now)) return refusalAnswer(tooMany, wait);
+            if (auto fault = faultOf(vote, client, now)) return std::move(*fault);
             return Operation{std::string{vote.counter}, vote.delta};
           },
           [&](const ReadRoadmap&) -> Handled { return Answer{.shared = roadmap_.text}; },
@@ -61,7 +86,7 @@ std::variant<Answer, Operation> Service::handle(const Request& request, const as
           [](const ReadRobots&) -> Handled { return Answer{.content = Content::text, .body = robots}; },
           [&](const ReadMetrics&) -> Handled { return Answer{.content = Content::text, .body = metricsText_()}; },
       },
-      decide(request, policy_));
+      routeOf(request, door));
 }
 
 Answer Service::answerTo(const Result& result) const {

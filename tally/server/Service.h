@@ -10,9 +10,13 @@
 #include "tally/server/Options.h"
 #include "tally/server/RateLimiter.h"
 #include "tally/server/Roadmap.h"
+#include "tally/server/VoteAllowance.h"
 #include "tally/store/CounterStore.h"
 
 namespace mivo::tally {
+
+/// Where a request came in.
+enum class Door { everyones, admins };
 
 /// Turns requests into answers, or into what has to be asked of the store first. Knows no sockets.
 class Service {
@@ -21,7 +25,7 @@ class Service {
   Service(const ServeOptions& options, const CounterStore& store, Roadmap roadmap,
           std::function<bool(const std::string&)> isCertified, std::function<std::string()> metricsText);
 
-  std::variant<Answer, Operation> handle(const Request& request, const asio::ip::address& client,
+  std::variant<Answer, Operation> handle(const Request& request, Door door, const asio::ip::address& client,
                                          std::chrono::steady_clock::time_point now);
   /// The answer after the store was asked.
   Answer answerTo(const Result& result) const;
@@ -30,6 +34,9 @@ class Service {
   void replaceRoadmap(Roadmap roadmap) { roadmap_ = std::move(roadmap); }
 
  private:
+  Route routeOf(const Request& request, Door door) const;
+  std::optional<Answer> faultOf(const AddVote& vote, const asio::ip::address& client,
+                                std::chrono::steady_clock::time_point now);
   Answer health() const;
 
   VotePolicy policy_;
@@ -37,7 +44,10 @@ class Service {
   Roadmap roadmap_;
   bool countsAny_;
   std::function<std::string()> metricsText_;
+  bool hasAdminsDoor_;
   RateLimiter limiter_;
+  RateLimiter siteLimiter_;
+  VoteAllowance allowance_;
 };
 
 }  // namespace mivo::tally

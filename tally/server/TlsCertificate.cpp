@@ -39,6 +39,15 @@ std::shared_ptr<ssl::context> loadCertificate(const std::filesystem::path& certi
   return context;
 }
 
+int daysLeft(const ssl::context& context) {
+  auto* handle = const_cast<ssl::context&>(context).native_handle();  // asks, and changes nothing
+  const auto* certificate = SSL_CTX_get0_certificate(handle);
+  int days = 0;
+  int seconds = 0;
+  if (certificate != nullptr) ASN1_TIME_diff(&days, &seconds, nullptr, X509_get0_notAfter(certificate));
+  return seconds < 0 ? days - 1 : days;
+}
+
 bool hasName(ssl::context& context, const std::string& name) {
   auto* certificate = SSL_CTX_get0_certificate(context.native_handle());
   if (certificate == nullptr) return false;

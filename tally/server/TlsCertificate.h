@@ -13,6 +13,9 @@ namespace mivo::tally {
 std::shared_ptr<ssl::context> loadCertificate(const std::filesystem::path& certificate,
                                               const std::filesystem::path& key);
 
+/// Whole days until the certificate ends; negative once it has.
+int daysLeft(const ssl::context& context);
+
 /// Whether the certificate was given to a host of this name or address.
 bool hasName(ssl::context& context, const std::string& name);
 

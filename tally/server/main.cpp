@@ -7,6 +7,7 @@
 #include <iostream>
 #include <memory>
 
+#include "tally/server/HealthCheck.h"
 #include "tally/server/Options.h"
 #include "tally/server/Server.h"
 #include "tally/store/RedisStore.h"
@@ -45,7 +46,7 @@ int run(Exit exit) { return exit.code; }
 int run(ServeOptions options) {
   options.mostConnections = raiseDescriptorLimit(options.mostConnections);
   asio::io_context loop{1};
-  Log log{STDERR_FILENO};
+  Log log{STDERR_FILENO, options.logDetail};
   const auto store = makeStore(loop, options, log);
   Server{loop, options, *store, log}.run();
   log.event("stopped", "every answered vote is kept");
@@ -74,6 +75,15 @@ int run(const ImportOptions& options) {
   std::cout << plan.changes.size() << " counters imported, " << plan.equal << " were there already\n";
   return 0;
 }
+
+int run(const CorrectOptions& options) {
+  const auto former = correctCount(options.store, options.counter, options.value);
+  std::cout << options.counter << ": " << (former ? std::to_string(*former) : "no votes") << " -> " << options.value
+            << '\n';
+  return 0;
+}
+
+int run(const HealthOptions& options) { return isHealthy(options) ? 0 : 1; }
 
 }  // namespace
 }  // namespace mivo::tally

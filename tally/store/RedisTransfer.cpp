@@ -110,4 +110,15 @@ void changeRedis(const RedisAddress& address, const std::vector<Change>& changes
   }
 }
 
+std::optional<std::int64_t> replaceInRedis(const RedisAddress& address, const std::string& counter,
+                                           std::int64_t count) {
+  RedisConversation redis{address};
+  const auto key = redisKey(counter);
+  const auto value = std::to_string(count);
+  const std::array<std::string_view, 3> set{"GETSET", key, value};
+  const auto former = redis.ask(set);
+  if (former.kind == RedisReply::Kind::nothing) return std::nullopt;
+  return numberOf(counter, former);
+}
+
 }  // namespace mivo::tally

@@ -268,6 +268,16 @@ void SqliteCounters::forEach(const std::function<void(std::string_view, std::int
   });
 }
 
+std::optional<std::int64_t> SqliteCounters::replace(const std::string& counter, std::int64_t count) {
+  return naming(file_, [&] {
+    return database_->inTransaction([&] {
+      const auto former = database_->find(counter);
+      database_->set(counter, count);
+      return former;
+    });
+  });
+}
+
 void SqliteCounters::set(const std::vector<Change>& changes) {
   naming(file_, [&] {
     database_->inTransaction([&] {

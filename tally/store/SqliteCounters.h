@@ -39,6 +39,8 @@ class SqliteCounters {
   std::int64_t count(std::string_view counter);
   /// Every counter in order of its name.
   void forEach(const std::function<void(std::string_view counter, std::int64_t count)>& visit);
+  /// Writes one count as it is; the count that it replaced, or nothing for a counter that nobody voted for.
+  std::optional<std::int64_t> replace(const std::string& counter, std::int64_t count);
   /// Writes counts as they are, all or none.
   void set(const std::vector<Change>& changes);
 

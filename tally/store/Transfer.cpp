@@ -152,6 +152,13 @@ Counts readStore(const StoreAddress& address) {
   return readTable(counters);
 }
 
+std::optional<std::int64_t> correctCount(const StoreAddress& address, const std::string& counter, std::int64_t count) {
+  if (const auto* redis = std::get_if<RedisAddress>(&address)) return replaceInRedis(*redis, counter, count);
+  const auto& file = std::get<SqliteAddress>(address).file;
+  if (!std::filesystem::exists(file)) throw std::runtime_error(file.string() + ": there is no such database");
+  return SqliteCounters{file, SqliteCounters::Access::readWrite}.replace(counter, count);
+}
+
 ImportPlan importCounts(const StoreAddress& address, const Counts& wanted, bool replace) {
   if (const auto* redis = std::get_if<RedisAddress>(&address)) {
     auto plan = planImport(readRedis(*redis), wanted, replace);

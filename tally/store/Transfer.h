@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <iosfwd>
 #include <map>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -37,6 +38,10 @@ ImportPlan planImport(const Counts& present, const Counts& wanted, bool replace)
 
 /// Every counter of a store. Throws std::runtime_error with one sentence.
 Counts readStore(const StoreAddress& address);
+
+/// Sets one counter, also of a store that a server uses: it sees the new count within a second. What it was, or nothing
+/// for a counter that nobody voted for. Throws as readStore does, also for a SQLite file that is not there.
+std::optional<std::int64_t> correctCount(const StoreAddress& address, const std::string& counter, std::int64_t count);
 
 /// Brings counts into a store, where the plan has no conflicts: otherwise nothing is changed. A SQLite file, which must
 /// not be in a server's use, takes all of them or none; Redis takes them one by one. Throws as readStore does.

@@ -49,7 +49,8 @@ using Flood = Fixture;
 
 TEST_F(Flood, ofSlowClientsKeepsNobodyFromVoting) {
   TallyServer server{store,
-                     {"--votes-per-minute", "0", "--request-seconds", "5", "--max-connections-per-address", "0"}};
+                     {"--votes-per-minute", "0", "--votes-per-day", "0", "--request-seconds", "5",
+                      "--max-connections-per-address", "0"}};
   HttpClient early{server.port()};
   open(server, slowClients);
   HttpClient late{server.port()};
@@ -63,7 +64,9 @@ TEST_F(Flood, ofSlowClientsKeepsNobodyFromVoting) {
 
 // Beyond the most connections, those that were silent longest give way, and not the one that works.
 TEST_F(Flood, beyondTheMostConnectionsDropsTheSilent) {
-  TallyServer server{store, {"--votes-per-minute", "0", "--max-connections", "100", "--request-seconds", "60"}};
+  TallyServer server{
+      store,
+      {"--votes-per-minute", "0", "--votes-per-day", "0", "--max-connections", "100", "--request-seconds", "60"}};
   HttpClient working{server.port()};
   for (int i = 0; i < 3; ++i) {
     openOneByOne(server, 90);

@@ -41,6 +41,14 @@ TEST(Forwarded, isNotBelievedOfAStranger) {
   EXPECT_EQ(forwardedAddress("198.51.100.7", stranger, privateNetworks()), stranger);
 }
 
+TEST(SiteKey, isOfTheFirst48BitsOfAnIPv6Address) {
+  const auto key = [](const char* text) { return siteKey(asio::ip::make_address(text)); };
+  EXPECT_EQ(key("2001:db8:1:2::3"), 0x2001'0db8'0001U);
+  EXPECT_EQ(key("2001:db8:1:ffff:1::"), 0x2001'0db8'0001U);
+  EXPECT_EQ(key("192.0.2.1"), std::nullopt);
+  EXPECT_EQ(key("::ffff:192.0.2.1"), std::nullopt);
+}
+
 TEST(Network, holdsWhatBeginsWithItsBits) {
   const auto holds = [](const char* network, const char* address) {
     return parseNetwork(network).value().contains(asio::ip::make_address(address));

@@ -30,7 +30,8 @@ TEST(MetricsTest, countsAnswersVotesAndBatches) {
                                   .isStoreAvailable = true,
                                   .isStoreDamaged = true,
                                   .writeAheadLogBytes = 4096,
-                                  .logLinesLeftOut = 5});
+                                  .logLinesLeftOut = 5,
+                                  .certificateDays = 8});
   for (const auto* line : {"answers_total{status=\"200\"} 2",
                            "answers_total{status=\"503\"} 1",
                            "answers_total{status=\"599\"} 2",
@@ -47,6 +48,7 @@ TEST(MetricsTest, countsAnswersVotesAndBatches) {
                            "store_available 1",
                            "store_damaged 1",
                            "log_lines_left_out_total 5",
+                           "certificate_days 8",
                            "unfinished_handshakes 6",
                            "unsent_bytes 7",
                            "connections_cut_total{limit=\"connections\"} 1",

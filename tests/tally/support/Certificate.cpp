@@ -34,14 +34,13 @@ void nameLocalhost(X509* certificate) {
 
 }  // namespace
 
-void makeCertificate(const CertificateFiles& files, long serial) {
-  constexpr long dayInSeconds = 86400;
+void makeCertificate(const CertificateFiles& files, long serial, std::chrono::seconds valid) {
   const Owned<EVP_PKEY, EVP_PKEY_free> key{EVP_EC_gen("P-256")};
   const Owned<X509, X509_free> certificate{X509_new()};
   X509_set_version(certificate.get(), X509_VERSION_3);
   ASN1_INTEGER_set(X509_get_serialNumber(certificate.get()), serial);
   X509_gmtime_adj(X509_getm_notBefore(certificate.get()), 0);
-  X509_gmtime_adj(X509_getm_notAfter(certificate.get()), dayInSeconds);
+  X509_gmtime_adj(X509_getm_notAfter(certificate.get()), valid.count());
   X509_set_pubkey(certificate.get(), key.get());
   nameLocalhost(certificate.get());
   if (X509_sign(certificate.get(), key.get(), EVP_sha256()) == 0) throw std::runtime_error("cannot sign");

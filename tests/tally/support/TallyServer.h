@@ -13,7 +13,8 @@ std::string tallyProgram();
 /// when the constructor returns.
 class TallyServer {
  public:
-  explicit TallyServer(const std::string& store, const std::vector<std::string>& flags = {"--votes-per-minute", "0"},
+  explicit TallyServer(const std::string& store,
+                       const std::vector<std::string>& flags = {"--votes-per-minute", "0", "--votes-per-day", "0"},
                        const std::vector<std::string>& wrapper = {});
 
   std::uint16_t port() const { return port_; }
