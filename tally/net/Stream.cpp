@@ -4,17 +4,17 @@
 namespace mivo::tally {
 
 tcp::socket& Stream::socket() {
-  if (auto* secure = std::get_if<Secure>(&stream_)) return secure->next_layer();
-  return std::get<tcp::socket>(stream_);
+  if (auto* secure = std::get_if<Secure>(&either)) return secure->next_layer();
+  return std::get<tcp::socket>(either);
 }
 
 void Stream::secure(ssl::context& context) {
-  auto socket = std::move(std::get<tcp::socket>(stream_));
-  stream_.emplace<Secure>(std::move(socket), context);
+  auto socket = std::move(std::get<tcp::socket>(either));
+  either.emplace<Secure>(std::move(socket), context);
 }
 
 error_code Stream::expectHost(const std::string& host) {
-  auto& secure = std::get<Secure>(stream_);
+  auto& secure = std::get<Secure>(either);
   error_code error;
   if (secure.set_verify_mode(ssl::verify_peer, error)) return error;
   if (secure.set_verify_callback(ssl::host_name_verification(host), error)) return error;
@@ -27,7 +27,7 @@ error_code Stream::expectHost(const std::string& host) {
 }
 
 void Stream::finishSending(std::function<void()> done) {
-  if (auto* secure = std::get_if<Secure>(&stream_)) {
+  if (auto* secure = std::get_if<Secure>(&either)) {
     secure->async_shutdown([done = std::move(done)](error_code) { done(); });
     return;
   }

@@ -15,10 +15,10 @@ class Stream {
  public:
   using Secure = ssl::stream<tcp::socket>;
 
-  explicit Stream(tcp::socket socket) : stream_(std::move(socket)) {}
-  Stream(tcp::socket socket, ssl::context& context) : stream_(std::in_place_type<Secure>, std::move(socket), context) {}
+  explicit Stream(tcp::socket socket) : either(std::move(socket)) {}
+  Stream(tcp::socket socket, ssl::context& context) : either(std::in_place_type<Secure>, std::move(socket), context) {}
 
-  bool isSecure() const { return std::holds_alternative<Secure>(stream_); }
+  bool isSecure() const { return std::holds_alternative<Secure>(either); }
   tcp::socket& socket();
 
   /// Goes on under TLS; nothing must be under way. This is where the memory that TLS needs is taken.
@@ -28,17 +28,17 @@ class Stream {
 
   template <class Done>
   void handshake(ssl::stream_base::handshake_type role, Done done) {
-    std::get<Secure>(stream_).async_handshake(role, std::move(done));
+    std::get<Secure>(either).async_handshake(role, std::move(done));
   }
 
   template <class Done>
   void readSome(asio::mutable_buffer into, Done done) {
-    std::visit([&](auto& stream) { stream.async_read_some(into, std::move(done)); }, stream_);
+    std::visit([&](auto& stream) { stream.async_read_some(into, std::move(done)); }, either);
   }
 
   template <class Buffers, class Done>
   void write(const Buffers& buffers, Done done) {
-    std::visit([&](auto& stream) { asio::async_write(stream, buffers, std::move(done)); }, stream_);
+    std::visit([&](auto& stream) { asio::async_write(stream, buffers, std::move(done)); }, either);
   }
 
   /// Hands over what the kernel takes without waiting, and says how much that was; nothing under TLS. The socket must
@@ -46,7 +46,7 @@ class Stream {
   template <class Buffers>
   std::size_t writeNow(const Buffers& buffers, error_code& error) {
     if (isSecure()) return 0;
-    const auto taken = std::get<tcp::socket>(stream_).write_some(buffers, error);
+    const auto taken = std::get<tcp::socket>(either).write_some(buffers, error);
     if (error == asio::error::would_block) error = {};
     return taken;
   }
@@ -58,7 +58,7 @@ class Stream {
   void abandon();
 
  private:
-  std::variant<tcp::socket, Secure> stream_;
+  std::variant<tcp::socket, Secure> either;
 };
 
 }  // namespace mivo::tally

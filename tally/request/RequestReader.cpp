@@ -27,20 +27,20 @@ std::string_view standard(View text) { return {text.data(), text.size()}; }
 // The parser checks the grammar and hands over views; only what Request names is kept.
 class Parser : public http::basic_parser<true> {
  public:
-  explicit Parser(std::string_view bytes) : bytes_(bytes) { header_limit(largestRequest); }
-  const Request& request() const { return request_; }
-  bool hasBody() const { return hasTransferEncoding_ || content_length_remaining().value_or(0) > 0; }
+  explicit Parser(std::string_view bytes) : whole(bytes) { header_limit(largestRequest); }
+  const Request& request() const { return found; }
+  bool hasBody() const { return hasTransferEncoding || content_length_remaining().value_or(0) > 0; }
 
  private:
   // The parser unfolds a folded line into a buffer of its own, which would be gone when the view is used.
   bool isInPlace(std::string_view name, std::string_view value) const {
     if (value.empty()) return !isFoldedAway(name);
-    return value.data() >= bytes_.data() && value.data() < bytes_.data() + bytes_.size();
+    return value.data() >= whole.data() && value.data() < whole.data() + whole.size();
   }
 
   // An empty value that goes on in the next line is unfolded to an empty text.
   bool isFoldedAway(std::string_view name) const {
-    const auto rest = bytes_.substr(static_cast<std::size_t>(name.data() + name.size() - bytes_.data()));
+    const auto rest = whole.substr(static_cast<std::size_t>(name.data() + name.size() - whole.data()));
     const auto next = rest.find("\r\n");
     return next != std::string_view::npos && rest.size() > next + 2 &&
            (rest[next + 2] == ' ' || rest[next + 2] == '\t');
@@ -52,24 +52,24 @@ class Parser : public http::basic_parser<true> {
   }
 
   void keep(std::string_view name, std::string_view value, error_code& error) {
-    if (equalsIgnoringCase(name, "Host")) return keepOnce(request_.host, value, error);
-    if (equalsIgnoringCase(name, "Origin")) return keepOnce(request_.origin, value, error);
+    if (equalsIgnoringCase(name, "Host")) return keepOnce(found.host, value, error);
+    if (equalsIgnoringCase(name, "Origin")) return keepOnce(found.origin, value, error);
     // Which words the library knows differs between its releases, so what protects is found by its name.
-    if (equalsIgnoringCase(name, "Transfer-Encoding")) hasTransferEncoding_ = true;
-    if (equalsIgnoringCase(name, "Sec-Fetch-Site")) request_.fetchSite = value;
-    if (equalsIgnoringCase(name, "Referer")) request_.referer = value;
-    if (equalsIgnoringCase(name, "X-Forwarded-For")) request_.forwardedFor = value;
+    if (equalsIgnoringCase(name, "Transfer-Encoding")) hasTransferEncoding = true;
+    if (equalsIgnoringCase(name, "Sec-Fetch-Site")) found.fetchSite = value;
+    if (equalsIgnoringCase(name, "Referer")) found.referer = value;
+    if (equalsIgnoringCase(name, "X-Forwarded-For")) found.forwardedFor = value;
     const bool saysPurpose = equalsIgnoringCase(name, "Sec-Purpose") || equalsIgnoringCase(name, "Purpose") ||
                              equalsIgnoringCase(name, "X-Purpose") || equalsIgnoringCase(name, "X-Moz");
-    if (saysPurpose && value.starts_with("pre")) request_.isPrefetch = true;  // prefetch, prerender, preview
+    if (saysPurpose && value.starts_with("pre")) found.isPrefetch = true;  // prefetch, prerender, preview
   }
 
   void on_request_impl(http::verb, View name, View target, int version, error_code&) override {
-    request_.methodName = standard(name);
-    if (request_.methodName == "GET") request_.method = Method::get;
-    if (request_.methodName == "HEAD") request_.method = Method::head;
-    request_.target = standard(target);
-    request_.isHttp11 = version == 11;
+    found.methodName = standard(name);
+    if (found.methodName == "GET") found.method = Method::get;
+    if (found.methodName == "HEAD") found.method = Method::head;
+    found.target = standard(target);
+    found.isHttp11 = version == 11;
   }
 
   void on_field_impl(http::field, View name, View value, error_code& error) override {
@@ -78,8 +78,8 @@ class Parser : public http::basic_parser<true> {
   }
 
   void on_header_impl(error_code& error) override {
-    request_.keepAlive = keep_alive();
-    if (request_.isHttp11 && request_.host.empty()) error = http::error::bad_field;
+    found.keepAlive = keep_alive();
+    if (found.isHttp11 && found.host.empty()) error = http::error::bad_field;
   }
 
   void on_response_impl(int, View, int, error_code&) override {}
@@ -89,9 +89,9 @@ class Parser : public http::basic_parser<true> {
   std::size_t on_chunk_body_impl(std::uint64_t, View body, error_code&) override { return body.size(); }
   void on_finish_impl(error_code&) override {}
 
-  std::string_view bytes_;
-  Request request_;
-  bool hasTransferEncoding_ = false;
+  std::string_view whole;
+  Request found;
+  bool hasTransferEncoding = false;
 };
 
 RequestReading refused(Refusal refusal) {

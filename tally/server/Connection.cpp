@@ -22,38 +22,38 @@ DateTexts& dates() {
 
 }  // namespace
 
-Connection::Connection(tcp::socket socket, std::shared_ptr<ssl::context> certificate, const Workplace& workplace,
-                       asio::ip::address peer, Door door)
-    : stream_(std::move(socket)),
-      certificate_(std::move(certificate)),
-      work_(workplace),
-      peer_(std::move(peer)),
-      door_(door) {}
+Connection::Connection(tcp::socket socket, std::shared_ptr<ssl::context> ownCertificate, const Workplace& workplace,
+                       asio::ip::address peerAddress, Door throughDoor)
+    : stream(std::move(socket)),
+      certificate(std::move(ownCertificate)),
+      work(workplace),
+      peer(std::move(peerAddress)),
+      door(throughDoor) {}
 
 void Connection::start(Connections::iterator place) {
-  place_ = place;
-  if (certificate_) return awaitGreeting();
+  listPlace = place;
+  if (certificate) return awaitGreeting();
   awaitRequest();
   read();
 }
 
 // A connection costs the memory of TLS once its client has said something.
 void Connection::awaitGreeting() {
-  enter(Phase::silent, now() + work_.options.requestTime);
-  stream_.socket().async_wait(tcp::socket::wait_read, [self = shared_from_this()](error_code error) {
-    if (error || self->stream_.socket().available(error) == 0) return self->close();
+  enter(Phase::silent, now() + work.options.requestTime);
+  stream.socket().async_wait(tcp::socket::wait_read, [self = shared_from_this()](error_code error) {
+    if (error || self->stream.socket().available(error) == 0) return self->close();
     self->greet();
   });
 }
 
 void Connection::greet() {
-  if (!work_.crowd.addresses.mayGreet(peer_, now())) return giveWay(Limit::handshakeRate);
-  auto& line = work_.crowd.handshaking;
-  if (line.size() >= work_.options.mostHandshakes) line.front()->giveWay(Limit::handshakes);
-  enter(Phase::handshaking, deadline_);
+  if (!work.crowd.addresses.mayGreet(peer, now())) return giveWay(Limit::handshakeRate);
+  auto& line = work.crowd.handshaking;
+  if (line.size() >= work.options.mostHandshakes) line.front()->giveWay(Limit::handshakes);
+  enter(Phase::handshaking, deadline);
   standIn(line);
-  stream_.secure(*std::exchange(certificate_, nullptr));
-  stream_.handshake(ssl::stream_base::server, [self = shared_from_this()](error_code error) {
+  stream.secure(*std::exchange(certificate, nullptr));
+  stream.handshake(ssl::stream_base::server, [self = shared_from_this()](error_code error) {
     if (error) return self->close();
     self->awaitRequest();
     self->read();
@@ -61,63 +61,63 @@ void Connection::greet() {
 }
 
 void Connection::standIn(Line& line) {
-  line.splice(line.end(), self_);
-  line_ = &line;
+  line.splice(line.end(), ownNode);
+  lineStoodIn = &line;
 }
 
 void Connection::leaveLine() {
-  if (line_ == nullptr) return;
-  self_.splice(self_.begin(), *line_, node_);
-  line_ = nullptr;
-  work_.crowd.unsentBytes -= std::exchange(held_, 0);
+  if (lineStoodIn == nullptr) return;
+  ownNode.splice(ownNode.begin(), *lineStoodIn, nodePlace);
+  lineStoodIn = nullptr;
+  work.crowd.unsentBytes -= std::exchange(held, 0);
 }
 
-void Connection::enter(Phase phase, Instant deadline) {
-  if (phase_ == Phase::closed) return;
+void Connection::enter(Phase next, Instant until) {
+  if (phase == Phase::closed) return;
   leaveLine();
-  phase_ = phase;
-  deadline_ = deadline;
+  phase = next;
+  deadline = until;
 }
 
 void Connection::awaitRequest() {
-  enter(Phase::idle, now() + (isDraining_ ? work_.options.drainTime : work_.options.idleTime));
+  enter(Phase::idle, now() + (isDraining ? work.options.drainTime : work.options.idleTime));
 }
 
 void Connection::read() {
-  if (std::exchange(isReading_, true)) return;  // 408 was sent while bytes were waited for
-  stream_.readSome(inbox_.room(), [self = shared_from_this()](error_code error, std::size_t size) {
-    self->isReading_ = false;
+  if (std::exchange(isReading, true)) return;  // 408 was sent while bytes were waited for
+  stream.readSome(inbox.room(), [self = shared_from_this()](error_code error, std::size_t size) {
+    self->isReading = false;
     if (error) return self->close();
     self->didRead(size);
   });
 }
 
 void Connection::didRead(std::size_t size) {
-  if (phase_ == Phase::parting) return read();
-  if (phase_ == Phase::closed || !keepAlive_) return;  // the last answer is on its way
-  inbox_.took(size);
-  received_ = now();
-  if (phase_ == Phase::idle) enter(Phase::receiving, received_ + work_.options.requestTime);
+  if (phase == Phase::parting) return read();
+  if (phase == Phase::closed || !keepAlive) return;  // the last answer is on its way
+  inbox.took(size);
+  received = now();
+  if (phase == Phase::idle) enter(Phase::receiving, received + work.options.requestTime);
   answerWhatCame();
 }
 
 void Connection::answerWhatCame() {
-  while (keepAlive_ && !outbox_.isFull() && takeRequest())
-    if (phase_ == Phase::asking) return;
-  outbox_.isEmpty() ? read() : write();
+  while (keepAlive && !outbox.isFull() && takeRequest())
+    if (phase == Phase::asking) return;
+  outbox.isEmpty() ? read() : write();
 }
 
 // Whether a request was there to be taken.
 bool Connection::takeRequest() {
-  const auto reading = readRequest(inbox_.unread());
-  inbox_.drop(reading.consumed);
+  const auto reading = readRequest(inbox.unread());
+  inbox.drop(reading.consumed);
   if (reading.state == RequestReading::State::needsMore) return false;
-  request_ = reading.request;
+  request = reading.request;
   if (reading.state == RequestReading::State::refused) {
     refuse(reading.refusal);
     return true;
   }
-  auto outcome = work_.service.handle(request_, door_, client(), received_);
+  auto outcome = work.service.handle(request, door, client(), received);
   if (auto* operation = std::get_if<Operation>(&outcome)) {
     ask(std::move(*operation));
   } else {
@@ -129,49 +129,49 @@ bool Connection::takeRequest() {
 void Connection::ask(Operation operation) {
   enter(Phase::asking, Instant::max());  // the store has deadlines of its own
   const int delta = operation.delta;
-  work_.operations.add(std::move(operation), [self = shared_from_this(), delta](const Result& result) {
-    if (self->phase_ == Phase::closed) return;
-    if (delta != 0 && result.outcome == Outcome::counted) self->work_.metrics.voted(delta);
-    self->enter(Phase::receiving, self->received_ + self->work_.options.requestTime);
-    self->finish(self->work_.service.answerTo(result));
+  work.operations.add(std::move(operation), [self = shared_from_this(), delta](const Result& result) {
+    if (self->phase == Phase::closed) return;
+    if (delta != 0 && result.outcome == Outcome::counted) self->work.metrics.voted(delta);
+    self->enter(Phase::receiving, self->received + self->work.options.requestTime);
+    self->finish(self->work.service.answerTo(result));
     self->answerWhatCame();
   });
 }
 
 // After a request that was not understood nobody knows where the next one begins.
 void Connection::refuse(const Refusal& refusal) {
-  request_.keepAlive = false;
-  wasRefused_ = true;
+  request.keepAlive = false;
+  wasRefused = true;
   finish(refusalAnswer(refusal));
 }
 
 void Connection::finish(Answer answer) {
-  work_.service.allowOrigin(request_, answer);
-  keepAlive_ = request_.keepAlive && !isDraining_;
-  outbox_.append(answer, {.date = dates().http(std::chrono::system_clock::now()),
-                          .withBody = request_.method != Method::head,
-                          .keepAlive = keepAlive_,
-                          .isHttp11 = request_.isHttp11});
+  work.service.allowOrigin(request, answer);
+  keepAlive = request.keepAlive && !isDraining;
+  outbox.append(answer, {.date = dates().http(std::chrono::system_clock::now()),
+                         .withBody = request.method != Method::head,
+                         .keepAlive = keepAlive,
+                         .isHttp11 = request.isHttp11});
   log(answer);
-  work_.crowd.open.splice(work_.crowd.open.end(), work_.crowd.open, place_);
+  work.crowd.open.splice(work.crowd.open.end(), work.crowd.open, listPlace);
 }
 
 void Connection::log(const Answer& answer) {
-  const auto duration = std::chrono::duration_cast<std::chrono::microseconds>(now() - received_);
-  const auto address = work_.options.logAddresses ? client().to_string() : std::string{};
-  work_.metrics.answered(answer.status, duration);
-  work_.log.request({request_.methodName, request_.target, answer.status, duration, address});
+  const auto duration = std::chrono::duration_cast<std::chrono::microseconds>(now() - received);
+  const auto address = work.options.logAddresses ? client().to_string() : std::string{};
+  work.metrics.answered(answer.status, duration);
+  work.log.request({request.methodName, request.target, answer.status, duration, address});
 }
 
 void Connection::write() {
   error_code error;
-  outbox_.sent(stream_.writeNow(outbox_.unsent(), error));
+  outbox.sent(stream.writeNow(outbox.unsent(), error));
   if (error) return close();
-  if (outbox_.isEmpty()) return didWrite();
-  enter(Phase::sending, now() + work_.options.requestTime);
+  if (outbox.isEmpty()) return didWrite();
+  enter(Phase::sending, now() + work.options.requestTime);
   holdUnsent();
-  if (phase_ == Phase::closed) return;
-  stream_.write(outbox_.unsent(), [self = shared_from_this()](error_code failure, std::size_t) {
+  if (phase == Phase::closed) return;
+  stream.write(outbox.unsent(), [self = shared_from_this()](error_code failure, std::size_t) {
     if (failure) return self->close();
     self->didWrite();
   });
@@ -179,64 +179,64 @@ void Connection::write() {
 
 // Where all clients together leave too much to be sent, whoever has been slow longest gives way.
 void Connection::holdUnsent() {
-  auto& crowd = work_.crowd;
-  held_ = outbox_.ownBytes();
-  crowd.unsentBytes += held_;
+  auto& crowd = work.crowd;
+  held = outbox.ownBytes();
+  crowd.unsentBytes += held;
   standIn(crowd.sending);
-  while (crowd.unsentBytes > work_.options.mostUnsentBytes) crowd.sending.front()->giveWay(Limit::unsent);
+  while (crowd.unsentBytes > work.options.mostUnsentBytes) crowd.sending.front()->giveWay(Limit::unsent);
 }
 
 void Connection::didWrite() {
-  outbox_.clear();
-  if (!keepAlive_) return part();
-  if (inbox_.isEmpty()) {
+  outbox.clear();
+  if (!keepAlive) return part();
+  if (inbox.isEmpty()) {
     awaitRequest();
     return read();
   }
-  enter(Phase::receiving, now() + work_.options.requestTime);
+  enter(Phase::receiving, now() + work.options.requestTime);
   answerWhatCame();
 }
 
 // Closing while bytes come in would reset the connection, and the client might lose the last answer.
 void Connection::part() {
-  const bool mayHaveMore = wasRefused_ || !inbox_.isEmpty();
-  if (!mayHaveMore && !stream_.isSecure()) return close();
+  const bool mayHaveMore = wasRefused || !inbox.isEmpty();
+  if (!mayHaveMore && !stream.isSecure()) return close();
   enter(Phase::parting, now() + partingTime);
-  if (!isReading_) inbox_.clear();
-  stream_.finishSending([self = shared_from_this()] { self->stream_.isSecure() ? self->close() : self->read(); });
+  if (!isReading) inbox.clear();
+  stream.finishSending([self = shared_from_this()] { self->stream.isSecure() ? self->close() : self->read(); });
 }
 
 void Connection::checkDeadline(Instant now) {
-  if (now < deadline_ || phase_ == Phase::closed) return;
-  if (phase_ != Phase::receiving) return close();
-  request_ = {};
-  received_ = now;
+  if (now < deadline || phase == Phase::closed) return;
+  if (phase != Phase::receiving) return close();
+  request = {};
+  received = now;
   refuse(tooSlow);
   write();
 }
 
 void Connection::drain(Instant now) {
-  isDraining_ = true;
-  if (phase_ == Phase::idle || phase_ == Phase::silent) deadline_ = std::min(deadline_, now + work_.options.drainTime);
+  isDraining = true;
+  if (phase == Phase::idle || phase == Phase::silent) deadline = std::min(deadline, now + work.options.drainTime);
 }
 
 void Connection::giveWay(Limit limit) {
-  work_.metrics.reached(limit);
+  work.metrics.reached(limit);
   close();
 }
 
 void Connection::close() {
-  if (phase_ == Phase::closed) return;
-  phase_ == Phase::sending ? stream_.abandon() : stream_.close();
+  if (phase == Phase::closed) return;
+  phase == Phase::sending ? stream.abandon() : stream.close();
   enter(Phase::closed, Instant::max());
-  if (door_ == Door::everyones) work_.crowd.addresses.leave(peer_);
+  if (door == Door::everyones) work.crowd.addresses.leave(peer);
   const auto self = shared_from_this();
-  work_.crowd.open.erase(place_);
-  work_.didClose();
+  work.crowd.open.erase(listPlace);
+  work.didClose();
 }
 
 asio::ip::address Connection::client() const {
-  return forwardedAddress(request_.forwardedFor, peer_, work_.options.trustedProxies);
+  return forwardedAddress(request.forwardedFor, peer, work.options.trustedProxies);
 }
 
 }  // namespace mivo::tally

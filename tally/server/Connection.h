@@ -43,7 +43,7 @@ class Connection : public std::enable_shared_from_this<Connection> {
   /// The next answer says that it is the last. A request may be on its way to an idle connection, so it is waited for.
   void drain(Instant now);
   /// In every phase but the one in which the store is asked: a client can be slow at a handshake and at reading too.
-  bool isWaitingForClient() const { return phase_ != Phase::asking; }
+  bool isWaitingForClient() const { return phase != Phase::asking; }
   void close();
   /// Closes because a limit was reached.
   void giveWay(Limit limit);
@@ -51,7 +51,7 @@ class Connection : public std::enable_shared_from_this<Connection> {
  private:
   enum class Phase { silent, handshaking, idle, receiving, asking, sending, parting, closed };
 
-  void enter(Phase phase, Instant deadline);
+  void enter(Phase next, Instant until);
   void standIn(Line& line);
   void leaveLine();
   void awaitGreeting();
@@ -71,26 +71,26 @@ class Connection : public std::enable_shared_from_this<Connection> {
   void part();
   asio::ip::address client() const;
 
-  Stream stream_;
-  std::shared_ptr<ssl::context> certificate_;
-  const Workplace& work_;
-  asio::ip::address peer_;
-  Door door_;
-  Connections::iterator place_;
-  Line self_{this};  // this connection's node, while it stands in no line
-  Line::iterator node_ = self_.begin();
-  Line* line_ = nullptr;  // in which it stands
-  std::size_t held_ = 0;  // unsent bytes that the crowd counts
-  Phase phase_ = Phase::silent;
-  Instant deadline_;
-  Inbox inbox_;
-  Outbox outbox_;
-  Request request_;  // being answered; its views are into inbox_
-  Instant received_;
-  bool isReading_ = false;
-  bool wasRefused_ = false;
-  bool keepAlive_ = true;
-  bool isDraining_ = false;
+  Stream stream;
+  std::shared_ptr<ssl::context> certificate;
+  const Workplace& work;
+  asio::ip::address peer;
+  Door door;
+  Connections::iterator listPlace;
+  Line ownNode{this};  // this connection's node, while it stands in no line
+  Line::iterator nodePlace = ownNode.begin();
+  Line* lineStoodIn = nullptr;  // in which it stands
+  std::size_t held = 0;         // unsent bytes that the crowd counts
+  Phase phase = Phase::silent;
+  Instant deadline;
+  Inbox inbox;
+  Outbox outbox;
+  Request request;  // being answered; its views are into inbox
+  Instant received;
+  bool isReading = false;
+  bool wasRefused = false;
+  bool keepAlive = true;
+  bool isDraining = false;
 };
 
 }  // namespace mivo::tally

@@ -18,24 +18,25 @@ std::string formatted(const std::tm& time, const char* format) {
 
 std::string_view DateTexts::http(Instant now) {
   refresh(std::chrono::system_clock::to_time_t(std::chrono::floor<std::chrono::seconds>(now)));
-  return http_;
+  return httpText;
 }
 
 std::string_view DateTexts::log(Instant now) {
   const auto second = std::chrono::floor<std::chrono::seconds>(now);
   refresh(std::chrono::system_clock::to_time_t(second));
   auto rest = std::chrono::floor<std::chrono::milliseconds>(now - second).count();
-  for (auto at = millisecondsAt + 3; at-- > millisecondsAt; rest /= 10) log_[at] = static_cast<char>('0' + rest % 10);
-  return log_;
+  for (auto at = millisecondsAt + 3; at-- > millisecondsAt; rest /= 10)
+    logText[at] = static_cast<char>('0' + rest % 10);
+  return logText;
 }
 
 void DateTexts::refresh(std::time_t second) {
-  if (second == second_) return;
-  second_ = second;
+  if (second == secondShown) return;
+  secondShown = second;
   std::tm time{};
   ::gmtime_r(&second, &time);
-  http_ = formatted(time, "%a, %d %b %Y %H:%M:%S GMT");
-  log_ = formatted(time, "%Y-%m-%dT%H:%M:%S.000Z");
+  httpText = formatted(time, "%a, %d %b %Y %H:%M:%S GMT");
+  logText = formatted(time, "%Y-%m-%dT%H:%M:%S.000Z");
 }
 
 }  // namespace mivo::tally

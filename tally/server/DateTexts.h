@@ -18,9 +18,9 @@ class DateTexts {
  private:
   void refresh(std::time_t second);
 
-  std::time_t second_ = -1;
-  std::string http_;
-  std::string log_;
+  std::time_t secondShown = -1;
+  std::string httpText;
+  std::string logText;
 };
 
 }  // namespace mivo::tally

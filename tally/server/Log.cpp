@@ -59,62 +59,62 @@ bool isWritable(int descriptor, std::chrono::milliseconds patience) {
 
 }  // namespace
 
-Log::Log(int descriptor, LogDetail detail)
-    : descriptor_(descriptor), detail_(detail), writer_([this](const std::stop_token& stop) { write(stop); }) {}
+Log::Log(int output, LogDetail wanted)
+    : descriptor(output), detail(wanted), writer([this](const std::stop_token& stop) { write(stop); }) {}
 
 Log::~Log() = default;
 
 bool Log::isWanted(unsigned status) {
   if (status >= 500) return true;
-  if (status >= 400) return detail_.level != LogDetail::Level::error;
-  if (detail_.level != LogDetail::Level::info || ++passedOver_ < detail_.oneIn) return false;
-  passedOver_ = 0;
+  if (status >= 400) return detail.level != LogDetail::Level::error;
+  if (detail.level != LogDetail::Level::info || ++passedOver < detail.oneIn) return false;
+  passedOver = 0;
   return true;
 }
 
 void Log::request(const Request& request) {
   if (!isWanted(request.status)) return;
   begin();
-  appendText(line_, "method", request.method.substr(0, longestMethod));
-  appendText(line_, "target", request.target.substr(0, longestTarget));
-  line_ += ",\"status\":";
-  appendNumber(line_, request.status);
-  line_ += ",\"microseconds\":";
-  appendNumber(line_, request.duration.count());
-  if (!request.address.empty()) appendText(line_, "address", request.address);
-  if (detail_.oneIn > 1 && request.status < 400) {
-    line_ += ",\"oneIn\":";
-    appendNumber(line_, detail_.oneIn);
+  appendText(line, "method", request.method.substr(0, longestMethod));
+  appendText(line, "target", request.target.substr(0, longestTarget));
+  line += ",\"status\":";
+  appendNumber(line, request.status);
+  line += ",\"microseconds\":";
+  appendNumber(line, request.duration.count());
+  if (!request.address.empty()) appendText(line, "address", request.address);
+  if (detail.oneIn > 1 && request.status < 400) {
+    line += ",\"oneIn\":";
+    appendNumber(line, detail.oneIn);
   }
   end();
 }
 
 void Log::event(std::string_view name, std::string_view text) {
   begin();
-  appendText(line_, "event", name);
-  appendText(line_, "text", text);
+  appendText(line, "event", name);
+  appendText(line, "text", text);
   end();
 }
 
 void Log::begin() {
-  line_ = "{\"time\":\"";
-  line_ += dates_.log(std::chrono::system_clock::now());
-  line_ += '"';
+  line = "{\"time\":\"";
+  line += dates.log(std::chrono::system_clock::now());
+  line += '"';
 }
 
 void Log::end() {
-  line_ += "}\n";
+  line += "}\n";
   bool wakes = false;
   {
-    const std::lock_guard guard{mutex_};
-    if (waiting_.size() + line_.size() > mostWaiting) {
-      ++linesLeftOut_;
+    const std::lock_guard guard{mutex};
+    if (waiting.size() + line.size() > mostWaiting) {
+      ++leftOut;
       return;
     }
-    wakes = waiting_.empty() || (waiting_.size() < worthWriting && waiting_.size() + line_.size() >= worthWriting);
-    waiting_ += line_;
+    wakes = waiting.empty() || (waiting.size() < worthWriting && waiting.size() + line.size() >= worthWriting);
+    waiting += line;
   }
-  if (wakes) wake_.notify_one();
+  if (wakes) wake.notify_one();
 }
 
 void Log::write(const std::stop_token& stop) {
@@ -127,12 +127,12 @@ void Log::write(const std::stop_token& stop) {
 
 // Waits for a first line, then a moment for more; empty when it is to stop and nothing is left.
 std::string Log::take(const std::stop_token& stop) {
-  std::unique_lock lock{mutex_};
-  wake_.wait(lock, stop, [this] { return !waiting_.empty(); });
-  wake_.wait_for(lock, stop, gatheringTime, [this] { return waiting_.size() >= worthWriting; });
-  auto text = std::exchange(waiting_, {});
-  const auto leftOut = linesLeftOut_ - std::exchange(toldLeftOut_, linesLeftOut_);
-  if (leftOut > 0) text += "{\"event\":\"log\",\"text\":\"" + std::to_string(leftOut) + " lines were left out\"}\n";
+  std::unique_lock lock{mutex};
+  wake.wait(lock, stop, [this] { return !waiting.empty(); });
+  wake.wait_for(lock, stop, gatheringTime, [this] { return waiting.size() >= worthWriting; });
+  auto text = std::exchange(waiting, {});
+  const auto untold = leftOut - std::exchange(toldLeftOut, leftOut);
+  if (untold > 0) text += "{\"event\":\"log\",\"text\":\"" + std::to_string(untold) + " lines were left out\"}\n";
   return text;
 }
 
@@ -142,17 +142,17 @@ bool Log::writeOut(const std::stop_token& stop, std::string_view text) {
   constexpr std::chrono::seconds lastPatience{2};
   auto patienceLeft = std::chrono::milliseconds{lastPatience};
   while (!text.empty() && patienceLeft.count() > 0) {
-    if (!isWritable(descriptor_, look)) {
+    if (!isWritable(descriptor, look)) {
       if (stop.stop_requested()) patienceLeft -= look;
       continue;
     }
-    const auto written = writePiece(descriptor_, text.substr(0, pieceSize));
+    const auto written = writePiece(descriptor, text.substr(0, pieceSize));
     if (written < 0 && (errno == EINTR || errno == EAGAIN || errno == EWOULDBLOCK)) continue;
     if (written < 0) break;  // there is nobody left to tell
     text.remove_prefix(static_cast<std::size_t>(written));
     patienceLeft = lastPatience;
   }
-  linesLeftOut_ += static_cast<std::uint64_t>(std::ranges::count(text, '\n'));
+  leftOut += static_cast<std::uint64_t>(std::ranges::count(text, '\n'));
   return text.empty();
 }
 

@@ -44,7 +44,7 @@ class Log {
   void request(const Request& request);
   void event(std::string_view name, std::string_view text);
   /// Since the start. Thread: any.
-  std::uint64_t linesLeftOut() const { return linesLeftOut_; }
+  std::uint64_t linesLeftOut() const { return leftOut; }
 
  private:
   bool isWanted(unsigned status);
@@ -54,18 +54,18 @@ class Log {
   std::string take(const std::stop_token& stop);
   bool writeOut(const std::stop_token& stop, std::string_view text);
 
-  int descriptor_;
-  LogDetail detail_;
-  unsigned passedOver_ = 0;  // requests that went well, since the last that was logged
-  DateTexts dates_;
-  std::string line_;
+  int descriptor;
+  LogDetail detail;
+  unsigned passedOver = 0;  // requests that went well, since the last that was logged
+  DateTexts dates;
+  std::string line;
 
-  std::mutex mutex_;
-  std::condition_variable_any wake_;
-  std::string waiting_;
-  std::uint64_t toldLeftOut_ = 0;
-  std::atomic<std::uint64_t> linesLeftOut_ = 0;
-  std::jthread writer_;
+  std::mutex mutex;
+  std::condition_variable_any wake;
+  std::string waiting;
+  std::uint64_t toldLeftOut = 0;
+  std::atomic<std::uint64_t> leftOut = 0;
+  std::jthread writer;
 };
 
 }  // namespace mivo::tally

@@ -23,43 +23,43 @@ double seconds(std::int64_t microseconds) { return static_cast<double>(microseco
 }  // namespace
 
 void Metrics::answered(unsigned status, std::chrono::microseconds duration) {
-  ++answersByStatus_[std::min<std::size_t>(status, highestStatus)];
+  ++answersByStatus[std::min<std::size_t>(status, highestStatus)];
   const auto bucket = std::ranges::lower_bound(bucketMicroseconds, duration.count());
   if (bucket != bucketMicroseconds.end())
-    ++answersByDuration_[static_cast<std::size_t>(bucket - bucketMicroseconds.begin())];
-  ++answers_;
-  microseconds_ += duration.count();
+    ++answersByDuration[static_cast<std::size_t>(bucket - bucketMicroseconds.begin())];
+  ++answers;
+  microseconds += duration.count();
 }
 
-void Metrics::batchSent(std::size_t operations) {
-  ++batches_;
-  operations_ += operations;
+void Metrics::batchSent(std::size_t count) {
+  ++batches;
+  operations += count;
 }
 
 std::string Metrics::text(const Present& present) const {
   std::ostringstream out;
   describe(out, "answers_total", "counter", "Answers by HTTP status.");
-  for (std::size_t status = 0; status < answersByStatus_.size(); ++status)
-    if (answersByStatus_[status] > 0)
-      out << "mivo_tally_answers_total{status=\"" << status << "\"} " << answersByStatus_[status] << '\n';
+  for (std::size_t status = 0; status < answersByStatus.size(); ++status)
+    if (answersByStatus[status] > 0)
+      out << "mivo_tally_answers_total{status=\"" << status << "\"} " << answersByStatus[status] << '\n';
   describe(out, "votes_total", "counter", "Votes that were kept.");
-  out << "mivo_tally_votes_total{delta=\"1\"} " << votesUp_ << "\nmivo_tally_votes_total{delta=\"-1\"} " << votesDown_
+  out << "mivo_tally_votes_total{delta=\"1\"} " << votesUp << "\nmivo_tally_votes_total{delta=\"-1\"} " << votesDown
       << '\n';
   describe(out, "answer_seconds", "histogram", "Time from a request's last byte to its answer.");
   std::uint64_t upTo = 0;
   for (std::size_t i = 0; i < bucketMicroseconds.size(); ++i)
     out << "mivo_tally_answer_seconds_bucket{le=\"" << seconds(bucketMicroseconds[i]) << "\"} "
-        << (upTo += answersByDuration_[i]) << '\n';
-  out << "mivo_tally_answer_seconds_bucket{le=\"+Inf\"} " << answers_ << "\nmivo_tally_answer_seconds_sum "
-      << seconds(microseconds_) << "\nmivo_tally_answer_seconds_count " << answers_ << '\n';
-  single(out, "store_batches_total", "counter", "Batches sent to the store.", batches_);
-  single(out, "store_operations_total", "counter", "Reads and votes in those batches.", operations_);
+        << (upTo += answersByDuration[i]) << '\n';
+  out << "mivo_tally_answer_seconds_bucket{le=\"+Inf\"} " << answers << "\nmivo_tally_answer_seconds_sum "
+      << seconds(microseconds) << "\nmivo_tally_answer_seconds_count " << answers << '\n';
+  single(out, "store_batches_total", "counter", "Batches sent to the store.", batches);
+  single(out, "store_operations_total", "counter", "Reads and votes in those batches.", operations);
   single(out, "open_connections", "gauge", "Connections that are open.", present.openConnections);
   single(out, "unfinished_handshakes", "gauge", "TLS handshakes that have begun.", present.unfinishedHandshakes);
   single(out, "unsent_bytes", "gauge", "Answers that wait until clients take them.", present.unsentBytes);
   describe(out, "connections_cut_total", "counter", "Connections that a limit turned away or cut off.");
-  for (std::size_t i = 0; i < reached_.size(); ++i)
-    out << "mivo_tally_connections_cut_total{limit=\"" << limitNames[i] << "\"} " << reached_[i] << '\n';
+  for (std::size_t i = 0; i < limitsReached.size(); ++i)
+    out << "mivo_tally_connections_cut_total{limit=\"" << limitNames[i] << "\"} " << limitsReached[i] << '\n';
   single(out, "store_available", "gauge", "1 where a vote is likely to be kept.", present.isStoreAvailable ? 1 : 0);
   single(out, "store_damaged", "gauge", "1 where a part of the store cannot be read.", present.isStoreDamaged ? 1 : 0);
   single(out, "store_write_ahead_log_bytes", "gauge", "Size of the log that waits to be folded into the database.",

@@ -26,9 +26,9 @@ class Metrics {
   };
 
   void answered(unsigned status, std::chrono::microseconds duration);
-  void voted(int delta) { ++(delta > 0 ? votesUp_ : votesDown_); }
-  void batchSent(std::size_t operations);
-  void reached(Limit limit) { ++reached_[static_cast<std::size_t>(limit)]; }
+  void voted(int delta) { ++(delta > 0 ? votesUp : votesDown); }
+  void batchSent(std::size_t count);
+  void reached(Limit limit) { ++limitsReached[static_cast<std::size_t>(limit)]; }
 
   /// Prometheus' text format.
   std::string text(const Present& present) const;
@@ -37,16 +37,16 @@ class Metrics {
   static constexpr std::size_t highestStatus = 599;
   static constexpr std::array bucketMicroseconds{100, 250, 500, 1000, 2500, 5000, 10'000, 50'000, 250'000, 1'000'000};
 
-  std::array<std::uint64_t, highestStatus + 1> answersByStatus_{};
-  std::array<std::uint64_t, bucketMicroseconds.size()> answersByDuration_{};
+  std::array<std::uint64_t, highestStatus + 1> answersByStatus{};
+  std::array<std::uint64_t, bucketMicroseconds.size()> answersByDuration{};
   static constexpr std::array limitNames{"connections", "address", "handshakes", "handshake_rate", "unsent"};
-  std::array<std::uint64_t, limitNames.size()> reached_{};
-  std::uint64_t answers_ = 0;
-  std::int64_t microseconds_ = 0;
-  std::uint64_t votesUp_ = 0;
-  std::uint64_t votesDown_ = 0;
-  std::uint64_t batches_ = 0;
-  std::uint64_t operations_ = 0;
+  std::array<std::uint64_t, limitNames.size()> limitsReached{};
+  std::uint64_t answers = 0;
+  std::int64_t microseconds = 0;
+  std::uint64_t votesUp = 0;
+  std::uint64_t votesDown = 0;
+  std::uint64_t batches = 0;
+  std::uint64_t operations = 0;
 };
 
 }  // namespace mivo::tally

@@ -15,11 +15,11 @@ constexpr std::size_t mostClients = 200'000;
 }  // namespace
 
 unsigned RateLimiter::secondsToWait(std::uint64_t client, Instant now) {
-  if (perMinute_ == 0) return 0;
-  const double perSecond = perMinute_ / 60.0;
+  if (perMinute == 0) return 0;
+  const double perSecond = perMinute / 60.0;
   auto& bucket = bucketOf(client, now);
   const double passed = std::chrono::duration<double>(now - bucket.filled).count();
-  bucket.tokens = std::min<double>(perMinute_, bucket.tokens + passed * perSecond);
+  bucket.tokens = std::min<double>(perMinute, bucket.tokens + passed * perSecond);
   bucket.filled = now;
   if (bucket.tokens >= 1) {
     bucket.tokens -= 1;
@@ -29,12 +29,12 @@ unsigned RateLimiter::secondsToWait(std::uint64_t client, Instant now) {
 }
 
 RateLimiter::Bucket& RateLimiter::bucketOf(std::uint64_t client, Instant now) {
-  if (now >= generationEnd_ || young_.size() >= mostClients) {
-    old_ = std::exchange(young_, {});
-    generationEnd_ = now + generation;
+  if (now >= generationEnd || young.size() >= mostClients) {
+    old = std::exchange(young, {});
+    generationEnd = now + generation;
   }
-  const auto [found, isNew] = young_.try_emplace(client, Bucket{static_cast<double>(perMinute_), now});
-  if (const auto elder = isNew ? old_.find(client) : old_.end(); elder != old_.end()) found->second = elder->second;
+  const auto [found, isNew] = young.try_emplace(client, Bucket{static_cast<double>(perMinute), now});
+  if (const auto elder = isNew ? old.find(client) : old.end(); elder != old.end()) found->second = elder->second;
   return found->second;
 }
 

@@ -14,7 +14,7 @@ class RateLimiter {
   using Instant = std::chrono::steady_clock::time_point;
 
   /// 0 a minute lets everything through.
-  explicit RateLimiter(unsigned perMinute) : perMinute_(perMinute) {}
+  explicit RateLimiter(unsigned votesPerMinute) : perMinute(votesPerMinute) {}
 
   /// Takes a token and gives 0, or gives the whole seconds after which there will be one.
   unsigned secondsToWait(std::uint64_t client, Instant now);
@@ -30,10 +30,10 @@ class RateLimiter {
   // A bucket that was left alone for a minute is full, as one that was never used: so the younger generation becomes
   // the elder each minute, and the elder is forgotten.
   using Buckets = std::unordered_map<std::uint64_t, Bucket, SeededHash>;
-  Buckets young_;
-  Buckets old_;
-  Instant generationEnd_{};
-  unsigned perMinute_;
+  Buckets young;
+  Buckets old;
+  Instant generationEnd{};
+  unsigned perMinute;
 };
 
 }  // namespace mivo::tally

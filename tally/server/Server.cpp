@@ -22,55 +22,55 @@ void boundUnsent(tcp::socket& socket) {
 
 }  // namespace
 
-Server::Server(asio::io_context& loop, const ServeOptions& options, CounterStore& store, Log& log)
-    : loop_(loop),
-      options_(options),
-      store_(store),
-      log_(log),
-      service_(
-          options, store, loadRoadmap(options.roadmap),
-          [this](const std::string& name) { return certificate_ && hasName(*certificate_, name); },
+Server::Server(asio::io_context& eventLoop, const ServeOptions& given, CounterStore& counters, Log& lines)
+    : loop(eventLoop),
+      options(given),
+      store(counters),
+      log(lines),
+      service(
+          given, counters, loadRoadmap(given.roadmap),
+          [this](const std::string& name) { return certificate && hasName(*certificate, name); },
           [this] { return metricsText(); }),
-      operations_(loop, store, [this](std::size_t operations) { metrics_.batchSent(operations); }),
-      crowd_{.open = {},
-             .handshaking = {},
-             .sending = {},
-             .addresses = AddressLimits{{.connections = options.mostConnectionsOfAnAddress,
-                                         .handshakesPerMinute = options.handshakesPerMinute,
-                                         .exempt = options.trustedProxies}}},
-      workplace_{options, service_, operations_, log, metrics_, crowd_, [this] { stopWhenDone(); }},
-      listener_(
-          loop, [this](tcp::socket socket) { add(std::move(socket), Door::everyones); }, [this] { makeRoom(); }),
-      adminListener_(
-          loop, [this](tcp::socket socket) { add(std::move(socket), Door::admins); }, [this] { makeRoom(); }),
-      signals_(loop, SIGTERM, SIGINT, SIGHUP),
-      second_(loop) {
-  if (!options.certificate.empty()) certificate_ = loadCertificate(options.certificate, options.key);
+      operations(eventLoop, counters, [this](std::size_t count) { metrics.batchSent(count); }),
+      crowd{.open = {},
+            .handshaking = {},
+            .sending = {},
+            .addresses = AddressLimits{{.connections = given.mostConnectionsOfAnAddress,
+                                        .handshakesPerMinute = given.handshakesPerMinute,
+                                        .exempt = given.trustedProxies}}},
+      workplace{given, service, operations, lines, metrics, crowd, [this] { stopWhenDone(); }},
+      listener(
+          eventLoop, [this](tcp::socket socket) { add(std::move(socket), Door::everyones); }, [this] { makeRoom(); }),
+      adminListener(
+          eventLoop, [this](tcp::socket socket) { add(std::move(socket), Door::admins); }, [this] { makeRoom(); }),
+      signals(eventLoop, SIGTERM, SIGINT, SIGHUP),
+      second(eventLoop) {
+  if (!given.certificate.empty()) certificate = loadCertificate(given.certificate, given.key);
   listen();
 }
 
 void Server::listen() {
-  if (options_.inherited) {
-    listener_.adopt(*options_.inherited);
+  if (options.inherited) {
+    listener.adopt(*options.inherited);
   } else {
-    listener_.listen("--listen", options_.listen);
+    listener.listen("--listen", options.listen);
   }
-  if (options_.admin) adminListener_.listen("--admin", *options_.admin);
+  if (options.admin) adminListener.listen("--admin", *options.admin);
 }
 
 void Server::run() {
-  log_.event("listening", (certificate_ ? "https://" : "http://") + describe(listener_.endpoint()) + ", votes in " +
-                              describe(options_.store));
-  if (options_.admin) log_.event("admin", "http://" + describe(adminListener_.endpoint()));
-  if (options_.showsPassword)
-    log_.event("options", "everyone on this machine can read a password among the flags: use a variable or a file");
-  if (options_.trustsByOldName)
-    log_.event("options", "--trust-forwarded-for without networks believes loopback and private addresses: name yours");
-  listener_.start();
-  if (options_.admin) adminListener_.start();
+  log.event("listening", (certificate ? "https://" : "http://") + describe(listener.endpoint()) + ", votes in " +
+                             describe(options.store));
+  if (options.admin) log.event("admin", "http://" + describe(adminListener.endpoint()));
+  if (options.showsPassword)
+    log.event("options", "everyone on this machine can read a password among the flags: use a variable or a file");
+  if (options.trustsByOldName)
+    log.event("options", "--trust-forwarded-for without networks believes loopback and private addresses: name yours");
+  listener.start();
+  if (options.admin) adminListener.start();
   checkDeadlines();
   awaitSignal();
-  loop_.run();
+  loop.run();
 }
 
 void Server::add(tcp::socket socket, Door door) {
@@ -80,68 +80,67 @@ void Server::add(tcp::socket socket, Door door) {
   if (isGone) return;
   boundUnsent(socket);
   const bool isAdmins = door == Door::admins;
-  if (!isAdmins && !crowd_.addresses.admit(peer)) return metrics_.reached(Limit::address);
-  if (crowd_.open.size() >= options_.mostConnections) makeRoom();
-  auto certificate = isAdmins ? nullptr : certificate_;
-  crowd_.open.push_back(
-      std::make_shared<Connection>(std::move(socket), std::move(certificate), workplace_, peer, door));
-  crowd_.open.back()->start(std::prev(crowd_.open.end()));
+  if (!isAdmins && !crowd.addresses.admit(peer)) return metrics.reached(Limit::address);
+  if (crowd.open.size() >= options.mostConnections) makeRoom();
+  auto shown = isAdmins ? nullptr : certificate;
+  crowd.open.push_back(std::make_shared<Connection>(std::move(socket), std::move(shown), workplace, peer, door));
+  crowd.open.back()->start(std::prev(crowd.open.end()));
 }
 
 // A connection that answers were sent to lately stands behind those that only hold a place.
 void Server::makeRoom() {
-  const auto silent = std::ranges::find_if(crowd_.open, [](const auto& each) { return each->isWaitingForClient(); });
-  if (silent != crowd_.open.end()) (*silent)->giveWay(Limit::connections);
+  const auto silent = std::ranges::find_if(crowd.open, [](const auto& each) { return each->isWaitingForClient(); });
+  if (silent != crowd.open.end()) (*silent)->giveWay(Limit::connections);
 }
 
 void Server::checkDeadlines() {
   const auto now = std::chrono::steady_clock::now();
-  for (auto next = crowd_.open.begin(); next != crowd_.open.end();) {
+  for (auto next = crowd.open.begin(); next != crowd.open.end();) {
     const auto connection = *next++;  // which may leave the list
     connection->checkDeadline(now);
   }
-  if (certificate_ && now >= certificateLook_) {
-    certificateLook_ = now + std::chrono::days{1};
+  if (certificate && now >= certificateLook) {
+    certificateLook = now + std::chrono::days{1};
     tellOfCertificate();
   }
-  second_.expires_after(std::chrono::seconds{1});
-  second_.async_wait([this](error_code error) {
+  second.expires_after(std::chrono::seconds{1});
+  second.async_wait([this](error_code error) {
     if (!error) checkDeadlines();
   });
 }
 
 void Server::tellOfCertificate() {
-  const auto days = daysLeft(*certificate_);
-  log_.event("certificate", days < 0 ? "has ended" : "ends in " + std::to_string(days) + " days");
+  const auto days = daysLeft(*certificate);
+  log.event("certificate", days < 0 ? "has ended" : "ends in " + std::to_string(days) + " days");
 }
 
 void Server::awaitSignal() {
-  signals_.async_wait([this](error_code error, int signal) {
+  signals.async_wait([this](error_code error, int signal) {
     if (error) return;
     if (signal == SIGHUP) reload();
-    if (signal != SIGHUP) isStopping_ ? loop_.stop() : stop();
+    if (signal != SIGHUP) isStopping ? loop.stop() : stop();
     awaitSignal();
   });
 }
 
 void Server::reload() {
   try {
-    service_.replaceRoadmap(loadRoadmap(options_.roadmap));
-    if (certificate_) certificate_ = loadCertificate(options_.certificate, options_.key);
-    if (certificate_) tellOfCertificate();
-    log_.event("reloaded", certificate_ ? "certificate and roadmap" : "roadmap");
+    service.replaceRoadmap(loadRoadmap(options.roadmap));
+    if (certificate) certificate = loadCertificate(options.certificate, options.key);
+    if (certificate) tellOfCertificate();
+    log.event("reloaded", certificate ? "certificate and roadmap" : "roadmap");
   } catch (const std::exception& error) {
-    log_.event("not reloaded", error.what());
+    log.event("not reloaded", error.what());
   }
 }
 
 void Server::stop() {
-  isStopping_ = true;
-  listener_.stop();
-  adminListener_.stop();
-  log_.event("stopping", "finishing what is in flight");
+  isStopping = true;
+  listener.stop();
+  adminListener.stop();
+  log.event("stopping", "finishing what is in flight");
   const auto now = std::chrono::steady_clock::now();
-  for (auto next = crowd_.open.begin(); next != crowd_.open.end();) {
+  for (auto next = crowd.open.begin(); next != crowd.open.end();) {
     const auto connection = *next++;
     connection->drain(now);
   }
@@ -149,18 +148,18 @@ void Server::stop() {
 }
 
 void Server::stopWhenDone() {
-  if (isStopping_ && crowd_.open.empty() && operations_.isIdle()) loop_.stop();
+  if (isStopping && crowd.open.empty() && operations.isIdle()) loop.stop();
 }
 
 std::string Server::metricsText() const {
-  return metrics_.text({.openConnections = crowd_.open.size(),
-                        .unfinishedHandshakes = crowd_.handshaking.size(),
-                        .unsentBytes = crowd_.unsentBytes,
-                        .isStoreAvailable = store_.isAvailable(),
-                        .isStoreDamaged = store_.isDamaged(),
-                        .writeAheadLogBytes = store_.writeAheadLogBytes(),
-                        .logLinesLeftOut = log_.linesLeftOut(),
-                        .certificateDays = certificate_ ? std::optional{daysLeft(*certificate_)} : std::nullopt});
+  return metrics.text({.openConnections = crowd.open.size(),
+                       .unfinishedHandshakes = crowd.handshaking.size(),
+                       .unsentBytes = crowd.unsentBytes,
+                       .isStoreAvailable = store.isAvailable(),
+                       .isStoreDamaged = store.isDamaged(),
+                       .writeAheadLogBytes = store.writeAheadLogBytes(),
+                       .logLinesLeftOut = log.linesLeftOut(),
+                       .certificateDays = certificate ? std::optional{daysLeft(*certificate)} : std::nullopt});
 }
 
 }  // namespace mivo::tally

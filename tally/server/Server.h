@@ -28,22 +28,22 @@ class Server {
   void stopWhenDone();
   std::string metricsText() const;
 
-  asio::io_context& loop_;
-  const ServeOptions& options_;
-  CounterStore& store_;
-  Log& log_;
-  Metrics metrics_;
-  Service service_;
-  OperationQueue operations_;
-  Crowd crowd_;
-  Workplace workplace_;
-  std::shared_ptr<ssl::context> certificate_;
-  std::chrono::steady_clock::time_point certificateLook_;  // when the log next says how long it is good
-  Listener listener_;
-  Listener adminListener_;
-  asio::signal_set signals_;
-  asio::steady_timer second_;
-  bool isStopping_ = false;
+  asio::io_context& loop;
+  const ServeOptions& options;
+  CounterStore& store;
+  Log& log;
+  Metrics metrics;
+  Service service;
+  OperationQueue operations;
+  Crowd crowd;
+  Workplace workplace;
+  std::shared_ptr<ssl::context> certificate;
+  std::chrono::steady_clock::time_point certificateLook;  // when the log next says how long it is good
+  Listener listener;
+  Listener adminListener;
+  asio::signal_set signals;
+  asio::steady_timer second;
+  bool isStopping = false;
 };
 
 }  // namespace mivo::tally

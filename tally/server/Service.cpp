@@ -33,36 +33,36 @@ Hosts hostsOf(const ServeOptions& options, std::function<bool(const std::string&
 
 }  // namespace
 
-Service::Service(const ServeOptions& options, const CounterStore& store, Roadmap roadmap,
-                 std::function<bool(const std::string&)> isCertified, std::function<std::string()> metricsText)
-    : policy_{options.allowedOrigins, hostsOf(options, std::move(isCertified))},
-      store_(store),
-      roadmap_(std::move(roadmap)),
-      countsAny_(options.countsAny),
-      metricsText_(std::move(metricsText)),
-      hasAdminsDoor_(options.admin.has_value()),
-      limiter_(options.votesPerMinute),
-      siteLimiter_(options.votesPerMinute * householdsOfASite),
-      allowance_(options.votesPerDay) {}
+Service::Service(const ServeOptions& options, const CounterStore& counters, Roadmap served,
+                 std::function<bool(const std::string&)> isCertified, std::function<std::string()> writeMetrics)
+    : policy{options.allowedOrigins, hostsOf(options, std::move(isCertified))},
+      store(counters),
+      roadmap(std::move(served)),
+      countsAny(options.countsAny),
+      metricsText(std::move(writeMetrics)),
+      hasAdminsDoor(options.admin.has_value()),
+      limiter(options.votesPerMinute),
+      siteLimiter(options.votesPerMinute * householdsOfASite),
+      allowance(options.votesPerDay) {}
 
 Route Service::routeOf(const Request& request, Door door) const {
-  const auto route = decide(request, policy_);
+  const auto route = decide(request, policy);
   const bool isAdmins = std::holds_alternative<ReadHealth>(route) || std::holds_alternative<ReadMetrics>(route);
-  if (isAdmins && door == Door::everyones && hasAdminsDoor_) return nothingThere;
+  if (isAdmins && door == Door::everyones && hasAdminsDoor) return nothingThere;
   if (!isAdmins && door == Door::admins && !std::holds_alternative<Refusal>(route)) return nothingThere;
   return route;
 }
 
 std::optional<Answer> Service::faultOf(const AddVote& vote, const asio::ip::address& client,
                                        std::chrono::steady_clock::time_point now) {
-  if (!countsAny_ && roadmap_.ids && !roadmap_.ids->contains(featureIdOf(vote.counter)))
+  if (!countsAny && roadmap.ids && !roadmap.ids->contains(featureIdOf(vote.counter)))
     return refusalAnswer(notOnTheRoadmap);
-  if (const auto wait = limiter_.secondsToWait(rateKey(client), now)) return refusalAnswer(tooMany, wait);
+  if (const auto wait = limiter.secondsToWait(rateKey(client), now)) return refusalAnswer(tooMany, wait);
   const auto site = siteKey(client);
-  if (const auto wait = site ? siteLimiter_.secondsToWait(*site, now) : 0) return refusalAnswer(tooMany, wait);
+  if (const auto wait = site ? siteLimiter.secondsToWait(*site, now) : 0) return refusalAnswer(tooMany, wait);
   const auto time = std::chrono::system_clock::now();
   const auto today = std::chrono::floor<std::chrono::days>(time);
-  if (allowance_.take(client, vote.counter, vote.delta, today)) return std::nullopt;
+  if (allowance.take(client, vote.counter, vote.delta, today)) return std::nullopt;
   const auto untilTomorrow = std::chrono::ceil<std::chrono::seconds>(today + std::chrono::days{1} - time);
   return refusalAnswer(enoughForToday, static_cast<unsigned>(untilTomorrow.count()));
 }
@@ -74,17 +74,17 @@ std::variant<Answer, Operation> Service::handle(const Request& request, Door doo
       Overloaded{
           [](const Refusal& refusal) -> Handled { return refusalAnswer(refusal); },
           [&](const ReadCount& read) -> Handled {
-            if (const auto count = store_.known(read.counter)) return countAnswer(*count);
+            if (const auto count = store.known(read.counter)) return countAnswer(*count);
             return Operation{std::string{read.counter}, 0};
           },
           [&](const AddVote& vote) -> Handled {
             if (auto fault = faultOf(vote, client, now)) return std::move(*fault);
             return Operation{std::string{vote.counter}, vote.delta};
           },
-          [&](const ReadRoadmap&) -> Handled { return Answer{.shared = roadmap_.text}; },
+          [&](const ReadRoadmap&) -> Handled { return Answer{.shared = roadmap.text}; },
           [&](const ReadHealth&) -> Handled { return health(); },
           [](const ReadRobots&) -> Handled { return Answer{.content = Content::text, .body = robots}; },
-          [&](const ReadMetrics&) -> Handled { return Answer{.content = Content::text, .body = metricsText_()}; },
+          [&](const ReadMetrics&) -> Handled { return Answer{.content = Content::text, .body = metricsText()}; },
       },
       routeOf(request, door));
 }
@@ -104,13 +104,13 @@ Answer Service::answerTo(const Result& result) const {
 }
 
 void Service::allowOrigin(const Request& request, Answer& answer) const {
-  if (policy_.allowedOrigins.empty()) return;
-  answer.allowedOrigin = originToAllow(request, policy_.allowedOrigins);
+  if (policy.allowedOrigins.empty()) return;
+  answer.allowedOrigin = originToAllow(request, policy.allowedOrigins);
   answer.variesByOrigin = true;
 }
 
 Answer Service::health() const {
-  if (!store_.isAvailable()) return refusalAnswer(storeIsAway, retrySeconds);
+  if (!store.isAvailable()) return refusalAnswer(storeIsAway, retrySeconds);
   return Answer{.body = R"({"status":"ok"})"};
 }
 

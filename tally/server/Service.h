@@ -31,7 +31,7 @@ class Service {
   Answer answerTo(const Result& result) const;
   /// Adds what a web page needs to be allowed to read the answer.
   void allowOrigin(const Request& request, Answer& answer) const;
-  void replaceRoadmap(Roadmap roadmap) { roadmap_ = std::move(roadmap); }
+  void replaceRoadmap(Roadmap newer) { roadmap = std::move(newer); }
 
  private:
   Route routeOf(const Request& request, Door door) const;
@@ -39,15 +39,15 @@ class Service {
                                 std::chrono::steady_clock::time_point now);
   Answer health() const;
 
-  VotePolicy policy_;
-  const CounterStore& store_;
-  Roadmap roadmap_;
-  bool countsAny_;
-  std::function<std::string()> metricsText_;
-  bool hasAdminsDoor_;
-  RateLimiter limiter_;
-  RateLimiter siteLimiter_;
-  VoteAllowance allowance_;
+  VotePolicy policy;
+  const CounterStore& store;
+  Roadmap roadmap;
+  bool countsAny;
+  std::function<std::string()> metricsText;
+  bool hasAdminsDoor;
+  RateLimiter limiter;
+  RateLimiter siteLimiter;
+  VoteAllowance allowance;
 };
 
 }  // namespace mivo::tally

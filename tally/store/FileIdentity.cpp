@@ -7,7 +7,7 @@ namespace mivo::tally {
 
 std::optional<FileIdentity::DeviceAndNumber> FileIdentity::lookedUp() const {
   struct stat found{};
-  if (::stat(path_.c_str(), &found) != 0) return std::nullopt;
+  if (::stat(name.c_str(), &found) != 0) return std::nullopt;
   return DeviceAndNumber{found.st_dev, found.st_ino};
 }
 

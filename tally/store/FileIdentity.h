@@ -12,17 +12,17 @@ namespace mivo::tally {
 /// place: what is written then is lost with the last descriptor.
 class FileIdentity {
  public:
-  explicit FileIdentity(std::filesystem::path path) : path_(std::move(path)), first_(lookedUp()) {}
+  explicit FileIdentity(std::filesystem::path path) : name(std::move(path)), first(lookedUp()) {}
   /// False once the path leads elsewhere, or nowhere; true where it led nowhere from the beginning.
-  bool isStillThere() const { return !first_ || lookedUp() == first_; }
-  const std::filesystem::path& path() const { return path_; }
+  bool isStillThere() const { return !first || lookedUp() == first; }
+  const std::filesystem::path& path() const { return name; }
 
  private:
   using DeviceAndNumber = std::pair<dev_t, ino_t>;
   std::optional<DeviceAndNumber> lookedUp() const;
 
-  std::filesystem::path path_;
-  std::optional<DeviceAndNumber> first_;
+  std::filesystem::path name;
+  std::optional<DeviceAndNumber> first;
 };
 
 }  // namespace mivo::tally

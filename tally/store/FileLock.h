@@ -25,11 +25,11 @@ class FileLock {
     Descriptor& operator=(const Descriptor&) = delete;
 
    private:
-    int number_ = -1;
+    int number = -1;
   };
 
-  Descriptor lockFile_;
-  Descriptor database_;
+  Descriptor lockFile;
+  Descriptor database;
 };
 
 }  // namespace mivo::tally

@@ -4,7 +4,7 @@
 namespace mivo::tally {
 
 void OperationQueue::add(Operation operation, std::function<void(Result)> done) {
-  auto& lane = operation.delta == 0 && store_.readsApart() ? reads_ : votes_;
+  auto& lane = operation.delta == 0 && store.readsApart() ? reads : votes;
   lane.operations.push_back(std::move(operation));
   lane.callbacks.push_back(std::move(done));
   if (!lane.isUnderWay) sendSoon(lane);
@@ -13,14 +13,13 @@ void OperationQueue::add(Operation operation, std::function<void(Result)> done) 
 // Posted, so that the requests that became readable in the same wake-up come along.
 void OperationQueue::sendSoon(Lane& lane) {
   lane.isUnderWay = true;
-  asio::post(loop_, [this, &lane] { send(lane); });
+  asio::post(loop, [this, &lane] { send(lane); });
 }
 
 void OperationQueue::send(Lane& lane) {
-  batchSent_(lane.operations.size());
+  batchSent(lane.operations.size());
   lane.underWay = std::exchange(lane.callbacks, {});
-  store_.submit(std::exchange(lane.operations, {}),
-                [this, &lane](const Results& results) { didFinish(lane, results); });
+  store.submit(std::exchange(lane.operations, {}), [this, &lane](const Results& results) { didFinish(lane, results); });
 }
 
 void OperationQueue::didFinish(Lane& lane, const Results& results) {

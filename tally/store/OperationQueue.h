@@ -13,11 +13,11 @@ class OperationQueue {
   /// Told once a batch: how many operations it held.
   using BatchSent = std::function<void(std::size_t)>;
 
-  OperationQueue(asio::io_context& loop, CounterStore& store, BatchSent batchSent)
-      : loop_(loop), store_(store), batchSent_(std::move(batchSent)) {}
+  OperationQueue(asio::io_context& eventLoop, CounterStore& counters, BatchSent told)
+      : loop(eventLoop), store(counters), batchSent(std::move(told)) {}
 
   void add(Operation operation, std::function<void(Result)> done);
-  bool isIdle() const { return votes_.isIdle() && reads_.isIdle(); }
+  bool isIdle() const { return votes.isIdle() && reads.isIdle(); }
 
  private:
   using Callbacks = std::vector<std::function<void(Result)>>;
@@ -35,11 +35,11 @@ class OperationQueue {
   void send(Lane& lane);
   void didFinish(Lane& lane, const Results& results);
 
-  asio::io_context& loop_;
-  CounterStore& store_;
-  BatchSent batchSent_;
-  Lane votes_;
-  Lane reads_;
+  asio::io_context& loop;
+  CounterStore& store;
+  BatchSent batchSent;
+  Lane votes;
+  Lane reads;
 };
 
 }  // namespace mivo::tally

@@ -25,10 +25,10 @@ class RedisLink : public std::enable_shared_from_this<RedisLink> {
   RedisLink(asio::io_context& loop, RedisAddress address, std::chrono::seconds longestWait = std::chrono::seconds{5});
 
   /// Connects and logs in. `ready` is called once, unless `lost` is; `lost` is called once, then or later.
-  void open(std::function<void()> ready, Lost lost);
+  void open(std::function<void()> whenReady, Lost whenLost);
   /// Sends commands that will have `count` replies. Where the answer does not come within seconds, or not whole, the
   /// link is lost and `replied` is dropped.
-  void exchange(std::string commands, std::size_t count, Replied replied);
+  void exchange(std::string sent, std::size_t count, Replied whenReplied);
   /// Drops everything without a word.
   void close();
 
@@ -45,22 +45,22 @@ class RedisLink : public std::enable_shared_from_this<RedisLink> {
   template <class Next>
   auto step(Next next);
 
-  RedisAddress address_;
-  std::chrono::seconds longestWait_;
-  asio::io_context& loop_;
-  ssl::context tls_;
-  tcp::resolver resolver_;
-  asio::steady_timer deadline_;
-  std::optional<Stream> stream_;
-  RedisReplyReader reader_;
-  std::array<char, std::size_t{16} * 1024> bytes_{};
-  std::string commands_;
-  Replies replies_;
-  std::size_t expected_ = 0;
-  Replied replied_;
-  std::function<void()> ready_;
-  Lost lost_;
-  bool isClosed_ = false;
+  RedisAddress address;
+  std::chrono::seconds longestWait;
+  asio::io_context& loop;
+  ssl::context tls;
+  tcp::resolver resolver;
+  asio::steady_timer deadline;
+  std::optional<Stream> stream;
+  RedisReplyReader reader;
+  std::array<char, std::size_t{16} * 1024> bytes{};
+  std::string commands;
+  Replies replies;
+  std::size_t expected = 0;
+  Replied replied;
+  std::function<void()> ready;
+  Lost lost;
+  bool isClosed = false;
 };
 
 }  // namespace mivo::tally

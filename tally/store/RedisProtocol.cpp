@@ -57,18 +57,18 @@ void appendCommand(std::string& out, std::initializer_list<std::string_view> wor
   appendCommand(out, std::span{words.begin(), words.size()});
 }
 
-RedisReplyReader::RedisReplyReader() : reader_(redisReaderCreate()) {
-  if (reader_ == nullptr) throw std::bad_alloc{};
+RedisReplyReader::RedisReplyReader() : reader(redisReaderCreate()) {
+  if (reader == nullptr) throw std::bad_alloc{};
 }
 
-RedisReplyReader::~RedisReplyReader() { redisReaderFree(reader_); }
+RedisReplyReader::~RedisReplyReader() { redisReaderFree(reader); }
 
-void RedisReplyReader::feed(std::string_view bytes) { redisReaderFeed(reader_, bytes.data(), bytes.size()); }
+void RedisReplyReader::feed(std::string_view bytes) { redisReaderFeed(reader, bytes.data(), bytes.size()); }
 
 std::optional<RedisReply> RedisReplyReader::next() {
   void* found = nullptr;
-  if (redisReaderGetReply(reader_, &found) != REDIS_OK)
-    throw std::runtime_error(static_cast<const char*>(reader_->errstr));
+  if (redisReaderGetReply(reader, &found) != REDIS_OK)
+    throw std::runtime_error(static_cast<const char*>(reader->errstr));
   if (found == nullptr) return std::nullopt;
   const std::unique_ptr<void, void (*)(void*)> owner{found, freeReplyObject};
   return converted(*static_cast<redisReply*>(found));

@@ -41,7 +41,7 @@ class RedisReplyReader {
   std::optional<RedisReply> next();
 
  private:
-  redisReader* reader_;
+  redisReader* reader;
 };
 
 }  // namespace mivo::tally

@@ -49,62 +49,61 @@ bool refusesAllVotes(const RedisReply& reply) {
 
 }  // namespace
 
-RedisStore::RedisStore(asio::io_context& loop, RedisAddress address, Report report, std::chrono::seconds longestWait,
-                       std::int64_t mostCounters)
-    : loop_(loop),
-      address_(std::move(address)),
-      report_(std::move(report)),
-      retry_(loop),
-      nextDelay_(firstDelay),
-      longestWait_(longestWait),
-      second_(loop),
-      mostCounters_(mostCounters) {
+RedisStore::RedisStore(asio::io_context& eventLoop, RedisAddress server, Report reporter, std::chrono::seconds patience,
+                       std::int64_t counterLimit)
+    : loop(eventLoop),
+      address(std::move(server)),
+      report(std::move(reporter)),
+      retry(eventLoop),
+      nextDelay(firstDelay),
+      longestWait(patience),
+      second(eventLoop),
+      mostCounters(counterLimit) {
   connect();
   lookAfter();
 }
 
-RedisStore::~RedisStore() { link_->close(); }
+RedisStore::~RedisStore() { link->close(); }
 
 void RedisStore::connect() {
-  link_ = std::make_shared<RedisLink>(loop_, address_, longestWait_);
-  link_->open([this] { didConnect(); }, [this](const std::string& reason) { didLose(reason); });
+  link = std::make_shared<RedisLink>(loop, address, longestWait);
+  link->open([this] { didConnect(); }, [this](const std::string& reason) { didLose(reason); });
 }
 
 void RedisStore::didConnect() {
-  isConnected_ = true;
-  there_.clear();  // it may be another one, or have been emptied
-  nextDelay_ = firstDelay;
-  report_("Redis at " + describe(address_.endpoint) + " is there");
-  wasAwayReported_ = false;
+  isConnected = true;
+  there.clear();  // it may be another one, or have been emptied
+  nextDelay = firstDelay;
+  report("Redis at " + describe(address.endpoint) + " is there");
+  wasAwayReported = false;
   probe();
 }
 
 void RedisStore::didLose(const std::string& reason) {
-  isConnected_ = false;
-  takesVotes_ = false;
-  isProbing_ = false;
-  if (!std::exchange(wasAwayReported_, true))
-    report_("Redis at " + describe(address_.endpoint) + " is away: " + reason);
-  retry_.expires_after(nextDelay_);
-  nextDelay_ = std::min(nextDelay_ * 2, longestDelay);
-  retry_.async_wait([this](error_code error) {
+  isConnected = false;
+  takesVotes = false;
+  isProbing = false;
+  if (!std::exchange(wasAwayReported, true)) report("Redis at " + describe(address.endpoint) + " is away: " + reason);
+  retry.expires_after(nextDelay);
+  nextDelay = std::min(nextDelay * 2, longestDelay);
+  retry.async_wait([this](error_code error) {
     if (!error) connect();
   });
-  if (done_) finish(Results(operations_.size()));
+  if (done) finish(Results(operations.size()));
 }
 
-void RedisStore::submit(Operations operations, std::function<void(Results)> done) {
-  operations_ = std::move(operations);
-  done_ = std::move(done);
-  if (isProbing_) return;  // one exchange at a time
-  if (isConnected_) return send();
-  asio::post(loop_, [this] {
-    if (done_) finish(Results(operations_.size()));
+void RedisStore::submit(Operations asked, std::function<void(Results)> whenDone) {
+  operations = std::move(asked);
+  done = std::move(whenDone);
+  if (isProbing) return;  // one exchange at a time
+  if (isConnected) return send();
+  asio::post(loop, [this] {
+    if (done) finish(Results(operations.size()));
   });
 }
 
 void RedisStore::send() {
-  full_.clear();
+  full.clear();
   if (auto counters = strangers(); !counters.empty()) return askForRoom(std::move(counters));
   sendOperations();
 }
@@ -113,8 +112,8 @@ void RedisStore::send() {
 std::vector<std::string> RedisStore::strangers() const {
   std::vector<std::string> counters;
   std::set<std::string_view> seen;
-  for (const auto& [counter, delta] : operations_)
-    if (delta != 0 && !there_.contains(counter) && seen.insert(counter).second) counters.push_back(counter);
+  for (const auto& [counter, delta] : operations)
+    if (delta != 0 && !there.contains(counter) && seen.insert(counter).second) counters.push_back(counter);
   return counters;
 }
 
@@ -123,7 +122,7 @@ void RedisStore::askForRoom(std::vector<std::string> counters) {
   for (const auto& counter : counters) appendCommand(commands, {"EXISTS", redisKey(counter)});
   appendCommand(commands, {"DBSIZE"});
   const auto count = counters.size() + 1;
-  link_->exchange(std::move(commands), count, [this, counters = std::move(counters)](const auto& replies) {
+  link->exchange(std::move(commands), count, [this, counters = std::move(counters)](const auto& replies) {
     admit(counters, replies);
     sendOperations();
   });
@@ -131,15 +130,15 @@ void RedisStore::askForRoom(std::vector<std::string> counters) {
 
 // Where Redis does not say, the vote itself will tell what is wrong.
 void RedisStore::admit(const std::vector<std::string>& counters, const std::vector<RedisReply>& replies) {
-  if (there_.size() + counters.size() > mostNamesInMemory) there_.clear();
+  if (there.size() + counters.size() > mostNamesInMemory) there.clear();
   const auto& size = replies.back();
-  auto room = size.kind == RedisReply::Kind::integer ? mostCounters_ - size.integer : mostCounters_;
+  auto room = size.kind == RedisReply::Kind::integer ? mostCounters - size.integer : mostCounters;
   for (std::size_t i = 0; i < counters.size(); ++i) {
     const bool isNew = replies[i].kind == RedisReply::Kind::integer && replies[i].integer == 0;
     if (isNew && room-- <= 0) {
-      full_.insert(counters[i]);
+      full.insert(counters[i]);
     } else {
-      there_.insert(counters[i]);
+      there.insert(counters[i]);
     }
   }
 }
@@ -147,7 +146,7 @@ void RedisStore::admit(const std::vector<std::string>& counters, const std::vect
 void RedisStore::sendOperations() {
   std::string commands;
   std::size_t count = 0;
-  for (const auto& operation : operations_) {
+  for (const auto& operation : operations) {
     if (isFull(operation)) continue;
     const auto key = redisKey(operation.counter);
     if (operation.delta == 0) appendCommand(commands, {"GET", key});
@@ -155,14 +154,14 @@ void RedisStore::sendOperations() {
     ++count;
   }
   if (count == 0) return didReply({});
-  link_->exchange(std::move(commands), count, [this](const auto& replies) { didReply(replies); });
+  link->exchange(std::move(commands), count, [this](const auto& replies) { didReply(replies); });
 }
 
 // The replies of those that were sent.
 void RedisStore::didReply(const std::vector<RedisReply>& replies) {
   Results results;
   auto reply = replies.begin();
-  for (const auto& operation : operations_) {
+  for (const auto& operation : operations) {
     if (isFull(operation)) {
       results.push_back({Outcome::full, 0});
       continue;
@@ -171,8 +170,8 @@ void RedisStore::didReply(const std::vector<RedisReply>& replies) {
     results.push_back(resultOf(*reply++));
   }
   const auto fault = std::ranges::find_if(replies, isFault);
-  if (fault != replies.end() && !std::exchange(wasRefusalReported_, true)) report_("Redis refuses: " + fault->text);
-  if (fault == replies.end() && takesVotes_) wasRefusalReported_ = false;
+  if (fault != replies.end() && !std::exchange(wasRefusalReported, true)) report("Redis refuses: " + fault->text);
+  if (fault == replies.end() && takesVotes) wasRefusalReported = false;
   if (std::ranges::any_of(replies, asksToReconnect)) reconnect();
   finish(std::move(results));
 }
@@ -180,44 +179,44 @@ void RedisStore::didReply(const std::vector<RedisReply>& replies) {
 void RedisStore::lookAfter() {
   constexpr std::chrono::seconds afterSuccess{30};
   constexpr std::chrono::seconds afterFailure{2};
-  const auto age = std::chrono::steady_clock::now() - lastWrite_;
-  const bool isFree = isConnected_ && !isProbing_ && !done_;
-  if (isFree && age >= (takesVotes_ ? afterSuccess : afterFailure)) probe();
-  second_.expires_after(std::chrono::seconds{1});
-  second_.async_wait([this](error_code error) {
+  const auto age = std::chrono::steady_clock::now() - lastWrite;
+  const bool isFree = isConnected && !isProbing && !done;
+  if (isFree && age >= (takesVotes ? afterSuccess : afterFailure)) probe();
+  second.expires_after(std::chrono::seconds{1});
+  second.async_wait([this](error_code error) {
     if (!error) lookAfter();
   });
 }
 
 // The command of a vote, on a key that names no counter.
 void RedisStore::probe() {
-  isProbing_ = true;
+  isProbing = true;
   std::string command;
   appendCommand(command, {"INCRBY", redisKeyPrefix, "0"});
-  link_->exchange(std::move(command), 1, [this](const auto& replies) { didProbe(replies.front()); });
+  link->exchange(std::move(command), 1, [this](const auto& replies) { didProbe(replies.front()); });
 }
 
 void RedisStore::didProbe(const RedisReply& reply) {
-  isProbing_ = false;
-  const bool didTakeVotes = takesVotes_;
+  isProbing = false;
+  const bool didTakeVotes = takesVotes;
   learn(reply);
-  if (isFault(reply) && !std::exchange(wasRefusalReported_, true)) report_("Redis refuses: " + reply.text);
-  if (takesVotes_ && !didTakeVotes && std::exchange(wasRefusalReported_, false)) report_("Redis takes votes again");
+  if (isFault(reply) && !std::exchange(wasRefusalReported, true)) report("Redis refuses: " + reply.text);
+  if (takesVotes && !didTakeVotes && std::exchange(wasRefusalReported, false)) report("Redis takes votes again");
   if (asksToReconnect(reply)) return reconnect();  // which answers what waits
-  if (done_) send();
+  if (done) send();
 }
 
 void RedisStore::learn(const RedisReply& reply) {
-  lastWrite_ = std::chrono::steady_clock::now();
-  takesVotes_ = !refusesAllVotes(reply);
+  lastWrite = std::chrono::steady_clock::now();
+  takesVotes = !refusesAllVotes(reply);
 }
 
 void RedisStore::reconnect() {
-  link_->close();
-  isConnected_ = false;
-  asio::post(loop_, [this] { didLose("it is a replica"); });
+  link->close();
+  isConnected = false;
+  asio::post(loop, [this] { didLose("it is a replica"); });
 }
 
-void RedisStore::finish(Results results) { std::exchange(done_, {})(std::move(results)); }
+void RedisStore::finish(Results results) { std::exchange(done, {})(std::move(results)); }
 
 }  // namespace mivo::tally

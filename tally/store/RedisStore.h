@@ -27,8 +27,8 @@ class RedisStore final : public CounterStore {
   ~RedisStore() override;
 
   std::optional<std::int64_t> known(std::string_view) const override { return std::nullopt; }
-  void submit(Operations operations, std::function<void(Results)> done) override;
-  bool isAvailable() const override { return isConnected_ && takesVotes_; }
+  void submit(Operations asked, std::function<void(Results)> whenDone) override;
+  bool isAvailable() const override { return isConnected && takesVotes; }
 
  private:
   void connect();
@@ -39,7 +39,7 @@ class RedisStore final : public CounterStore {
   void askForRoom(std::vector<std::string> counters);
   void admit(const std::vector<std::string>& counters, const std::vector<RedisReply>& replies);
   void sendOperations();
-  bool isFull(const Operation& operation) const { return operation.delta != 0 && full_.contains(operation.counter); }
+  bool isFull(const Operation& operation) const { return operation.delta != 0 && full.contains(operation.counter); }
   void didReply(const std::vector<RedisReply>& replies);
   void lookAfter();
   void probe();
@@ -48,28 +48,28 @@ class RedisStore final : public CounterStore {
   void reconnect();
   void finish(Results results);
 
-  asio::io_context& loop_;
-  RedisAddress address_;
-  Report report_;
-  std::shared_ptr<RedisLink> link_;
-  asio::steady_timer retry_;
-  std::chrono::milliseconds nextDelay_;
-  std::chrono::seconds longestWait_;
-  asio::steady_timer second_;
-  std::chrono::steady_clock::time_point lastWrite_;
-  bool isConnected_ = false;
-  bool takesVotes_ = false;  // as far as the last write tells
-  bool wasAwayReported_ = false;
-  bool wasRefusalReported_ = false;
+  asio::io_context& loop;
+  RedisAddress address;
+  Report report;
+  std::shared_ptr<RedisLink> link;
+  asio::steady_timer retry;
+  std::chrono::milliseconds nextDelay;
+  std::chrono::seconds longestWait;
+  asio::steady_timer second;
+  std::chrono::steady_clock::time_point lastWrite;
+  bool isConnected = false;
+  bool takesVotes = false;  // as far as the last write tells
+  bool wasAwayReported = false;
+  bool wasRefusalReported = false;
 
-  std::int64_t mostCounters_;
+  std::int64_t mostCounters;
   // Trees: strangers choose the names, and could choose them to collide.
-  std::set<std::string, std::less<>> there_;  // counters that Redis has, as far as this connection has seen
-  std::set<std::string, std::less<>> full_;   // counters of the present batch that there is no room for
+  std::set<std::string, std::less<>> there;  // counters that Redis has, as far as this connection has seen
+  std::set<std::string, std::less<>> full;   // counters of the present batch that there is no room for
 
-  Operations operations_;
-  std::function<void(Results)> done_;
-  bool isProbing_ = false;  // the operations wait
+  Operations operations;
+  std::function<void(Results)> done;
+  bool isProbing = false;  // the operations wait
 };
 
 }  // namespace mivo::tally

@@ -25,25 +25,25 @@ std::int64_t numberOf(const std::string& counter, const RedisReply& reply) {
 class RedisConversation {
  public:
   explicit RedisConversation(const RedisAddress& address)
-      : name_(describe(StoreAddress{address})), link_(std::make_shared<RedisLink>(loop_, address)) {
+      : name(describe(StoreAddress{address})), link(std::make_shared<RedisLink>(loop, address)) {
     bool isReady = false;
-    link_->open([&isReady] { isReady = true; }, [this](const std::string& reason) { fault_ = reason; });
+    link->open([&isReady] { isReady = true; }, [this](const std::string& reason) { fault = reason; });
     waitUntil(isReady);
   }
-  ~RedisConversation() { link_->close(); }
+  ~RedisConversation() { link->close(); }
   RedisConversation(const RedisConversation&) = delete;
   RedisConversation& operator=(const RedisConversation&) = delete;
 
   RedisLink::Replies ask(std::string commands, std::size_t count) {
     RedisLink::Replies replies;
     bool isAnswered = false;
-    link_->exchange(std::move(commands), count, [&](RedisLink::Replies received) {
+    link->exchange(std::move(commands), count, [&](RedisLink::Replies received) {
       replies = std::move(received);
       isAnswered = true;
     });
     waitUntil(isAnswered);
     for (const auto& reply : replies)
-      if (reply.kind == RedisReply::Kind::error) throw std::runtime_error(name_ + ": " + reply.text);
+      if (reply.kind == RedisReply::Kind::error) throw std::runtime_error(name + ": " + reply.text);
     return replies;
   }
 
@@ -55,14 +55,14 @@ class RedisConversation {
 
  private:
   void waitUntil(const bool& isDone) {
-    while (!isDone && fault_.empty()) loop_.run_one();
-    if (!fault_.empty()) throw std::runtime_error(name_ + ": " + fault_);
+    while (!isDone && fault.empty()) loop.run_one();
+    if (!fault.empty()) throw std::runtime_error(name + ": " + fault);
   }
 
-  std::string name_;
-  asio::io_context loop_{1};
-  std::shared_ptr<RedisLink> link_;
-  std::string fault_;
+  std::string name;
+  asio::io_context loop{1};
+  std::shared_ptr<RedisLink> link;
+  std::string fault;
 };
 
 void readCounts(RedisConversation& redis, const std::vector<RedisReply>& keys, Counts& counts) {

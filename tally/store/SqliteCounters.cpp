@@ -129,7 +129,7 @@ struct SqliteCounters::Database {
 // However often a batch votes for a counter, its row is read and written once.
 class SqliteCounters::Batch {
  public:
-  explicit Batch(Database& database) : database_(database) {}
+  explicit Batch(Database& opened) : database(opened) {}
 
   Results results(const Operations& operations) {
     Results results(operations.size());
@@ -138,11 +138,11 @@ class SqliteCounters::Batch {
   }
 
   void write() {
-    for (const auto& [counter, count] : counts_)
-      if (count.isChanged) database_.set(*count.name, *count.value);
+    for (const auto& [counter, count] : counts)
+      if (count.isChanged) database.set(*count.name, *count.value);
   }
 
-  std::int64_t newCounters() const { return newCounters_; }
+  std::int64_t newCounters() const { return countersAdded; }
 
  private:
   struct Count {
@@ -154,47 +154,47 @@ class SqliteCounters::Batch {
 
   Count read(const std::string& counter) {
     try {
-      const auto value = database_.find(counter);
+      const auto value = database.find(counter);
       return {.name = &counter, .value = value.value_or(0), .isNew = !value};
     } catch (const SQLite::Exception& error) {
-      database_.damage = counter + ": " + error.what();
+      database.damage = counter + ": " + error.what();
       return {.name = &counter};
     }
   }
 
   Result result(const Operation& operation) {
-    auto found = counts_.find(operation.counter);
-    if (found == counts_.end()) found = counts_.emplace(operation.counter, read(operation.counter)).first;
+    auto found = counts.find(operation.counter);
+    if (found == counts.end()) found = counts.emplace(operation.counter, read(operation.counter)).first;
     auto& count = found->second;
     if (!count.value) return {};
     const auto after = added(*count.value, operation.delta);
     if (!after) return {Outcome::overflow, *count.value};
     if (count.isNew && !isRead(operation) && !count.isChanged) {
-      if (!database_.hasRoomFor(newCounters_ + 1)) return {Outcome::full, 0};
-      ++newCounters_;
+      if (!database.hasRoomFor(countersAdded + 1)) return {Outcome::full, 0};
+      ++countersAdded;
     }
     count.isChanged = count.isChanged || !isRead(operation);
     count.value = after;
     return {Outcome::counted, *after};
   }
 
-  Database& database_;
-  std::map<std::string_view, Count> counts_;
-  std::int64_t newCounters_ = 0;
+  Database& database;
+  std::map<std::string_view, Count> counts;
+  std::int64_t countersAdded = 0;
 };
 
-SqliteCounters::SqliteCounters(const std::filesystem::path& file, Access access, std::chrono::milliseconds busyTime,
+SqliteCounters::SqliteCounters(const std::filesystem::path& path, Access access, std::chrono::milliseconds busyTime,
                                std::int64_t mostCounters)
-    : file_(file) {
-  database_ = naming(file, [&] { return std::make_unique<Database>(file, access, busyTime); });
-  database_->mostCounters = mostCounters;
+    : file(path) {
+  database = naming(file, [&] { return std::make_unique<Database>(file, access, busyTime); });
+  database->mostCounters = mostCounters;
 }
 
 SqliteCounters::~SqliteCounters() = default;
 
 Results SqliteCounters::apply(const Operations& operations) {
-  return naming(file_, [&] {
-    if (std::ranges::all_of(operations, isRead)) return Batch{*database_}.results(operations);
+  return naming(file, [&] {
+    if (std::ranges::all_of(operations, isRead)) return Batch{*database}.results(operations);
     try {
       return applyTogether(operations);
     } catch (const SQLite::Exception& error) {
@@ -205,13 +205,13 @@ Results SqliteCounters::apply(const Operations& operations) {
 }
 
 Results SqliteCounters::applyTogether(const Operations& operations) {
-  Batch batch{*database_};
-  auto results = database_->inTransaction([&] {
+  Batch batch{*database};
+  auto results = database->inTransaction([&] {
     auto found = batch.results(operations);
     batch.write();
     return found;
   });
-  if (database_->counters >= 0) database_->counters += batch.newCounters();
+  if (database->counters >= 0) database->counters += batch.newCounters();
   return results;
 }
 
@@ -223,18 +223,18 @@ Results SqliteCounters::applyOneByOne(const Operations& operations) {
       results.push_back(applyTogether({operation}).front());
     } catch (const SQLite::Exception& error) {
       if (!isDamage(error)) throw;
-      database_->damage = operation.counter + ": " + error.what();
+      database->damage = operation.counter + ": " + error.what();
       results.emplace_back();
     }
   }
   return results;
 }
 
-std::string SqliteCounters::takeDamage() { return std::exchange(database_->damage, {}); }
+std::string SqliteCounters::takeDamage() { return std::exchange(database->damage, {}); }
 
 std::string SqliteCounters::damage() {
   try {
-    const std::string found = database_->connection.execAndGet("PRAGMA quick_check(1)").getText();
+    const std::string found = database->connection.execAndGet("PRAGMA quick_check(1)").getText();
     return found == "ok" ? std::string{} : found;
   } catch (const SQLite::Exception& error) {
     return error.what();
@@ -242,47 +242,47 @@ std::string SqliteCounters::damage() {
 }
 
 void SqliteCounters::probe() {
-  naming(file_, [&] {
-    database_->inTransaction(
-        [&] { return database_->connection.exec("PRAGMA user_version = " + std::to_string(schemaVersion)); });
+  naming(file, [&] {
+    database->inTransaction(
+        [&] { return database->connection.exec("PRAGMA user_version = " + std::to_string(schemaVersion)); });
   });
 }
 
 bool SqliteCounters::wasChangedByOthers() {
-  return naming(file_, [&] {
-    const auto version = database_->dataVersion();
-    const auto last = std::exchange(database_->lastVersion, version);
-    if (last != version) database_->counters = -1;
+  return naming(file, [&] {
+    const auto version = database->dataVersion();
+    const auto last = std::exchange(database->lastVersion, version);
+    if (last != version) database->counters = -1;
     return last != version;
   });
 }
 
 std::int64_t SqliteCounters::count(std::string_view counter) {
-  return naming(file_, [&] { return database_->find(std::string{counter}).value_or(0); });
+  return naming(file, [&] { return database->find(std::string{counter}).value_or(0); });
 }
 
 void SqliteCounters::forEach(const std::function<void(std::string_view, std::int64_t)>& visit) {
-  naming(file_, [&] {
-    SQLite::Statement all{database_->connection, "SELECT name, value FROM counter ORDER BY name"};
+  naming(file, [&] {
+    SQLite::Statement all{database->connection, "SELECT name, value FROM counter ORDER BY name"};
     while (all.executeStep()) visit(all.getColumn(0).getText(), all.getColumn(1).getInt64());
   });
 }
 
 std::optional<std::int64_t> SqliteCounters::replace(const std::string& counter, std::int64_t count) {
-  return naming(file_, [&] {
-    return database_->inTransaction([&] {
-      const auto former = database_->find(counter);
-      database_->set(counter, count);
+  return naming(file, [&] {
+    return database->inTransaction([&] {
+      const auto former = database->find(counter);
+      database->set(counter, count);
       return former;
     });
   });
 }
 
 void SqliteCounters::set(const std::vector<Change>& changes) {
-  naming(file_, [&] {
-    database_->inTransaction([&] {
-      database_->counters = -1;
-      for (const auto& change : changes) database_->set(change.counter, change.to);
+  naming(file, [&] {
+    database->inTransaction([&] {
+      database->counters = -1;
+      for (const auto& change : changes) database->set(change.counter, change.to);
       return changes.size();
     });
   });

@@ -50,8 +50,8 @@ class SqliteCounters {
   Results applyTogether(const Operations& operations);
   Results applyOneByOne(const Operations& operations);
 
-  std::filesystem::path file_;
-  std::unique_ptr<Database> database_;
+  std::filesystem::path file;
+  std::unique_ptr<Database> database;
 };
 
 }  // namespace mivo::tally

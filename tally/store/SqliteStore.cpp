@@ -16,69 +16,69 @@ bool isVote(const Operation& operation) { return operation.delta != 0; }
 
 }  // namespace
 
-SqliteStore::SqliteStore(asio::io_context& loop, const std::filesystem::path& file, Report report,
+SqliteStore::SqliteStore(asio::io_context& eventLoop, const std::filesystem::path& file, Report reporter,
                          std::chrono::milliseconds busyTime, std::int64_t mostCounters)
-    : loop_(loop),
-      report_(std::move(report)),
-      lock_(file),
-      counters_(file, SqliteCounters::Access::readWrite, busyTime, mostCounters),
-      reads_(file, SqliteCounters::Access::readOnly, busyTime),
-      database_(file),
-      writeAheadLog_(file.string() + "-wal") {
-  learnDamage(reads_.damage());
+    : loop(eventLoop),
+      report(std::move(reporter)),
+      lock(file),
+      counters(file, SqliteCounters::Access::readWrite, busyTime, mostCounters),
+      reads(file, SqliteCounters::Access::readOnly, busyTime),
+      database(file),
+      writeAheadLog(file.string() + "-wal") {
+  learnDamage(reads.damage());
   learnFault(faultOfProbe());
-  writer_.emplace([this] { lookAfter(); }, lookEvery);
+  writer.emplace([this] { lookAfter(); }, lookEvery);
 }
 
 SqliteStore::~SqliteStore() = default;
 
 std::optional<std::int64_t> SqliteStore::known(std::string_view counter) const {
-  const auto found = counts_.find(counter);
-  return found == counts_.end() ? std::nullopt : std::optional{found->second};
+  const auto found = counts.find(counter);
+  return found == counts.end() ? std::nullopt : std::optional{found->second};
 }
 
 std::uintmax_t SqliteStore::writeAheadLogBytes() const {
   std::error_code error;
-  const auto bytes = std::filesystem::file_size(writeAheadLog_.path(), error);
+  const auto bytes = std::filesystem::file_size(writeAheadLog.path(), error);
   return error ? 0 : bytes;
 }
 
 void SqliteStore::submit(Operations operations, std::function<void(Results)> done) {
   if (std::ranges::any_of(operations, isVote)) {
-    writing_ = {std::move(operations), std::move(done)};
-    return writer_->run([this] { write(); });
+    writing = {std::move(operations), std::move(done)};
+    return writer->run([this] { write(); });
   }
-  reading_ = {std::move(operations), std::move(done)};
-  wasForgotten_ = false;
-  reader_.run([this] { read(); });
+  reading = {std::move(operations), std::move(done)};
+  wasForgotten = false;
+  reader.run([this] { read(); });
 }
 
 void SqliteStore::read() {
-  Results results(reading_.operations.size());
+  Results results(reading.operations.size());
   std::string damage;
   try {
-    results = reads_.apply(reading_.operations);
-    damage = reads_.takeDamage();
+    results = reads.apply(reading.operations);
+    damage = reads.takeDamage();
   } catch (const std::exception& error) {
     damage = error.what();
   }
-  asio::post(loop_, [this, results = std::move(results), damage = std::move(damage)]() mutable {
+  asio::post(loop, [this, results = std::move(results), damage = std::move(damage)]() mutable {
     didRead(std::move(results), damage);
   });
 }
 
 void SqliteStore::write() {
-  Results results(writing_.operations.size());
+  Results results(writing.operations.size());
   std::string fault;
   try {
-    auto kept = counters_.apply(writing_.operations);
+    auto kept = counters.apply(writing.operations);
     fault = faultOfFile();
     if (fault.empty()) results = std::move(kept);
   } catch (const std::exception& error) {
     fault = error.what();
   }
   noteWrite(fault);
-  asio::post(loop_, [this, results = std::move(results), fault = std::move(fault), damage = counters_.takeDamage()] {
+  asio::post(loop, [this, results = std::move(results), fault = std::move(fault), damage = counters.takeDamage()] {
     didWrite(results, fault, damage);
   });
 }
@@ -89,24 +89,24 @@ void SqliteStore::lookAfter() {
   bool wasChanged = false;
   std::optional<std::string> fault;
   try {
-    wasChanged = counters_.wasChangedByOthers();
-    const auto age = std::chrono::steady_clock::now() - lastWrite_;
-    if (age >= (didWriteFail_ ? afterFailure : afterSuccess)) {
+    wasChanged = counters.wasChangedByOthers();
+    const auto age = std::chrono::steady_clock::now() - lastWrite;
+    if (age >= (didWriteFail ? afterFailure : afterSuccess)) {
       fault = faultOfProbe();
     } else if (auto missing = faultOfFile(); !missing.empty()) {
-      didWriteFail_ = true;
+      didWriteFail = true;
       fault = std::move(missing);
     }
   } catch (const std::exception& error) {
     fault = error.what();
   }
-  if (wasChanged || fault) asio::post(loop_, [this, wasChanged, fault] { didLook(wasChanged, fault); });
+  if (wasChanged || fault) asio::post(loop, [this, wasChanged, fault] { didLook(wasChanged, fault); });
 }
 
 std::string SqliteStore::faultOfProbe() {
   std::string fault;
   try {
-    counters_.probe();
+    counters.probe();
     fault = faultOfFile();
   } catch (const std::exception& error) {
     fault = error.what();
@@ -116,28 +116,28 @@ std::string SqliteStore::faultOfProbe() {
 }
 
 std::string SqliteStore::faultOfFile() const {
-  for (const auto* file : {&database_, &writeAheadLog_})
+  for (const auto* file : {&database, &writeAheadLog})
     if (!file->isStillThere())
       return file->path().string() + ": was removed or replaced while it was open: put it back, or start again";
   return {};
 }
 
 void SqliteStore::noteWrite(const std::string& fault) {
-  lastWrite_ = std::chrono::steady_clock::now();
-  didWriteFail_ = !fault.empty();
+  lastWrite = std::chrono::steady_clock::now();
+  didWriteFail = !fault.empty();
 }
 
 void SqliteStore::didRead(Results results, const std::string& damage) {
   learnDamage(damage);
   makeRoom(results.size());
   for (std::size_t i = 0; i < results.size(); ++i) {
-    const auto& counter = reading_.operations[i].counter;
+    const auto& counter = reading.operations[i].counter;
     if (results[i].outcome != Outcome::counted) continue;
     // A vote that was counted meanwhile knows better, and so does whoever wrote to the file.
     if (const auto newer = known(counter)) results[i].count = *newer;
-    if (!wasForgotten_) counts_.try_emplace(counter, results[i].count);
+    if (!wasForgotten) counts.try_emplace(counter, results[i].count);
   }
-  std::exchange(reading_.done, {})(std::move(results));
+  std::exchange(reading.done, {})(std::move(results));
 }
 
 void SqliteStore::didWrite(const Results& results, const std::string& fault, const std::string& damage) {
@@ -146,8 +146,8 @@ void SqliteStore::didWrite(const Results& results, const std::string& fault, con
   makeRoom(results.size());
   for (std::size_t i = 0; i < results.size(); ++i)
     if (results[i].outcome == Outcome::counted)
-      counts_.insert_or_assign(writing_.operations[i].counter, results[i].count);
-  std::exchange(writing_.done, {})(results);
+      counts.insert_or_assign(writing.operations[i].counter, results[i].count);
+  std::exchange(writing.done, {})(results);
 }
 
 void SqliteStore::didLook(bool wasChanged, const std::optional<std::string>& fault) {
@@ -156,23 +156,23 @@ void SqliteStore::didLook(bool wasChanged, const std::optional<std::string>& fau
 }
 
 void SqliteStore::learnFault(const std::string& fault) {
-  const bool wasFailing = std::exchange(isFailing_, !fault.empty());
-  if (isFailing_ && !wasFailing) report_("votes cannot be kept: " + fault);
-  if (!isFailing_ && wasFailing) report_("votes are kept again");
+  const bool wasFailing = std::exchange(isFailing, !fault.empty());
+  if (isFailing && !wasFailing) report("votes cannot be kept: " + fault);
+  if (!isFailing && wasFailing) report("votes are kept again");
 }
 
 void SqliteStore::learnDamage(const std::string& damage) {
-  if (damage.empty() || std::exchange(isDamaged_, true)) return;
-  report_(database_.path().string() + ": a part cannot be read, restore a backup: " + damage);
+  if (damage.empty() || std::exchange(wasDamageFound, true)) return;
+  report(database.path().string() + ": a part cannot be read, restore a backup: " + damage);
 }
 
-void SqliteStore::makeRoom(std::size_t counts) {
-  if (counts_.size() + counts > mostCountsInMemory) forget();
+void SqliteStore::makeRoom(std::size_t further) {
+  if (counts.size() + further > mostCountsInMemory) forget();
 }
 
 void SqliteStore::forget() {
-  counts_.clear();
-  wasForgotten_ = true;
+  counts.clear();
+  wasForgotten = true;
 }
 
 }  // namespace mivo::tally

@@ -30,9 +30,9 @@ class SqliteStore final : public CounterStore {
 
   std::optional<std::int64_t> known(std::string_view counter) const override;
   void submit(Operations operations, std::function<void(Results)> done) override;
-  bool isAvailable() const override { return !isFailing_; }
+  bool isAvailable() const override { return !isFailing; }
   bool readsApart() const override { return true; }
-  bool isDamaged() const override { return isDamaged_; }
+  bool isDamaged() const override { return wasDamageFound; }
   std::uintmax_t writeAheadLogBytes() const override;
 
  private:
@@ -56,31 +56,31 @@ class SqliteStore final : public CounterStore {
   void didLook(bool wasChanged, const std::optional<std::string>& fault);
   void learnFault(const std::string& fault);
   void learnDamage(const std::string& damage);
-  void makeRoom(std::size_t counts);
+  void makeRoom(std::size_t further);
   void forget();
 
-  asio::io_context& loop_;
-  Report report_;
-  FileLock lock_;
-  SqliteCounters counters_;
-  SqliteCounters reads_;
-  FileIdentity database_;
-  FileIdentity writeAheadLog_;
+  asio::io_context& loop;
+  Report report;
+  FileLock lock;
+  SqliteCounters counters;
+  SqliteCounters reads;
+  FileIdentity database;
+  FileIdentity writeAheadLog;
 
   // A tree: strangers choose the names, and could choose them to collide.
-  std::map<std::string, std::int64_t, std::less<>> counts_;
-  bool wasForgotten_ = false;  // since the present batch of reads was sent
-  Batch reading_;
-  Batch writing_;
-  bool isFailing_ = false;
-  bool isDamaged_ = false;
+  std::map<std::string, std::int64_t, std::less<>> counts;
+  bool wasForgotten = false;  // since the present batch of reads was sent
+  Batch reading;
+  Batch writing;
+  bool isFailing = false;
+  bool wasDamageFound = false;
 
   // The writer's own.
-  Instant lastWrite_;
-  bool didWriteFail_ = false;
+  Instant lastWrite;
+  bool didWriteFail = false;
 
-  Worker reader_;
-  std::optional<Worker> writer_;
+  Worker reader;
+  std::optional<Worker> writer;
 };
 
 }  // namespace mivo::tally

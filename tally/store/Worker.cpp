@@ -5,30 +5,30 @@
 
 namespace mivo::tally {
 
-Worker::Worker(Job upkeep, std::chrono::milliseconds pause)
-    : upkeep_(std::move(upkeep)), pause_(pause), thread_([this](const std::stop_token& stop) { work(stop); }) {}
+Worker::Worker(Job betweenJobs, std::chrono::milliseconds rest)
+    : upkeep(std::move(betweenJobs)), pause(rest), thread([this](const std::stop_token& stop) { work(stop); }) {}
 
-void Worker::run(Job job) {
+void Worker::run(Job next) {
   {
-    const std::lock_guard guard{mutex_};
-    job_ = std::move(job);
+    const std::lock_guard guard{mutex};
+    job = std::move(next);
   }
-  wake_.notify_one();
+  wake.notify_one();
 }
 
 void Worker::work(const std::stop_token& stop) {
-  auto nextUpkeep = std::chrono::steady_clock::now() + pause_;
+  auto nextUpkeep = std::chrono::steady_clock::now() + pause;
   while (!stop.stop_requested()) {
-    Job job;
+    Job taken;
     {
-      std::unique_lock lock{mutex_};
-      wake_.wait_until(lock, stop, nextUpkeep, [this] { return job_ != nullptr; });
-      job = std::exchange(job_, {});
+      std::unique_lock lock{mutex};
+      wake.wait_until(lock, stop, nextUpkeep, [this] { return job != nullptr; });
+      taken = std::exchange(job, {});
     }
-    if (job) job();
+    if (taken) taken();
     if (std::chrono::steady_clock::now() < nextUpkeep || stop.stop_requested()) continue;
-    upkeep_();
-    nextUpkeep = std::chrono::steady_clock::now() + pause_;
+    upkeep();
+    nextUpkeep = std::chrono::steady_clock::now() + pause;
   }
 }
 

@@ -16,17 +16,17 @@ class Worker {
   explicit Worker(Job upkeep = [] {}, std::chrono::milliseconds pause = std::chrono::hours{1});
 
   /// The last job must be done. It runs on the worker's thread.
-  void run(Job job);
+  void run(Job next);
 
  private:
   void work(const std::stop_token& stop);
 
-  Job upkeep_;
-  std::chrono::milliseconds pause_;
-  std::mutex mutex_;
-  std::condition_variable_any wake_;
-  Job job_;
-  std::jthread thread_;
+  Job upkeep;
+  std::chrono::milliseconds pause;
+  std::mutex mutex;
+  std::condition_variable_any wake;
+  Job job;
+  std::jthread thread;
 };
 
 }  // namespace mivo::tally
