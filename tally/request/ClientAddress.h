@@ -20,6 +20,9 @@ asio::ip::address forwardedAddress(std::string_view forwardedFor, const asio::ip
 /// first 64 bits, since one household has all the rest.
 std::uint64_t rateKey(const asio::ip::address& client);
 
+/// A site may vote as often as so many of its households.
+inline constexpr unsigned householdsOfASite = 10;
+
 /// The first 48 bits of an IPv6 address, of which one customer may have all that begin alike; nothing for IPv4.
 std::optional<std::uint64_t> siteKey(const asio::ip::address& client);
 

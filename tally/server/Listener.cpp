@@ -5,9 +5,9 @@
 #include <sys/socket.h>
 #include <unistd.h>
 
-#include <cstdlib>
 #include <stdexcept>
-#include <string_view>
+
+#include "tally/server/Variable.h"
 
 namespace mivo::tally {
 namespace {
@@ -31,11 +31,6 @@ tcp::endpoint addressOf(int descriptor) {
   auto size = static_cast<socklen_t>(endpoint.capacity());
   if (::getsockname(descriptor, endpoint.data(), &size) == 0) endpoint.resize(size);
   return endpoint;
-}
-
-std::string_view variable(const char* name) {
-  const char* value = std::getenv(name);
-  return value == nullptr ? std::string_view{} : std::string_view{value};
 }
 
 }  // namespace

@@ -4,7 +4,6 @@
 #include <CLI/CLI.hpp>
 #include <algorithm>
 #include <cctype>
-#include <cstdlib>
 #include <fstream>
 #include <iostream>
 #include <map>
@@ -13,6 +12,7 @@
 #include "tally/net/Asio.h"
 #include "tally/request/CounterName.h"
 #include "tally/server/Listener.h"
+#include "tally/server/Variable.h"
 #include "tally/server/Versions.h"
 
 namespace mivo::tally {
@@ -21,11 +21,6 @@ namespace {
 constexpr int wrongUsage = 2;
 constexpr std::size_t plainConnections = 20'000;
 constexpr std::size_t tlsConnections = 5'000;
-
-std::string variable(const char* name) {
-  const char* value = std::getenv(name);
-  return value == nullptr ? std::string{} : std::string{value};
-}
 
 // systemd names a state folder; a person's own data lies where the desktop's rules put it.
 std::filesystem::path defaultDatabase() {
@@ -241,7 +236,8 @@ StoreAddress storeOf(const Texts& texts) {
 
 bool showsPassword(int argc, const char* const* argv) {
   return std::any_of(argv, argv + argc, [](std::string_view word) {
-    return word.find("redis") != word.npos && word.find("://") != word.npos && word.find('@') != word.npos;
+    const auto holds = [word](std::string_view part) { return word.find(part) != std::string_view::npos; };
+    return holds("redis") && holds("://") && holds("@");
   });
 }
 
@@ -281,7 +277,7 @@ ServeOptions finished(ServeOptions options, const Texts& texts) {
   return options;
 }
 
-const std::string& checkedName(const std::string& counter) {
+std::string checkedName(std::string counter) {
   if (const auto fault = faultOfCounterName(counter)) throw std::invalid_argument(counter + ": " + std::string{*fault});
   return counter;
 }
@@ -330,7 +326,8 @@ Command parseCommandLine(int argc, const char* const* argv) {
     checkVariables(app);
     if (exporting->parsed()) return ExportOptions{storeOf(texts), exported.to};
     if (importing->parsed()) return ImportOptions{storeOf(texts), imported.from, imported.replace};
-    if (correcting->parsed()) return CorrectOptions{storeOf(texts), checkedName(corrected.counter), corrected.value};
+    if (correcting->parsed())
+      return CorrectOptions{storeOf(texts), checkedName(std::move(corrected.counter)), corrected.value};
     if (checking->parsed()) return healthOf(serve, texts);
     serve.showsPassword = showsPassword(argc, argv);
     return finished(serve, texts);

@@ -6,7 +6,7 @@
 namespace mivo::tally {
 namespace {
 
-constexpr std::size_t usualSize = 4 << 10;
+constexpr std::size_t usualOutbox = 4 << 10;
 
 }  // namespace
 
@@ -23,14 +23,14 @@ std::array<asio::const_buffer, 2> Outbox::unsent() const {
 void Outbox::sent(std::size_t size) {
   const auto ofOwn = std::min(size, own.size());
   own.erase(0, ofOwn);
-  if (own.capacity() > 2 * own.size() + usualSize) own.shrink_to_fit();  // the rest may wait for long
+  if (own.capacity() > 2 * own.size() + usualOutbox) own.shrink_to_fit();  // the rest may wait for long
   sharedSent += size - ofOwn;
   if (shared && sharedSent == shared->size()) clear();
 }
 
 void Outbox::clear() {
   own.clear();
-  if (own.capacity() > usualSize) own.shrink_to_fit();
+  if (own.capacity() > usualOutbox) own.shrink_to_fit();
   shared = nullptr;
   sharedSent = 0;
 }

@@ -15,7 +15,6 @@ constexpr Refusal notOnTheRoadmap{404, "the roadmap has no such feature"};
 constexpr Refusal noFurtherCounter{409, "no further counters are taken"};
 constexpr Refusal tooMany{429, "too many votes from this address"};
 constexpr Refusal enoughForToday{429, "this address has voted for this feature enough today"};
-constexpr unsigned householdsOfASite = 10;
 
 template <class... Cases>
 struct Overloaded : Cases... {

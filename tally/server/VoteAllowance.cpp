@@ -12,11 +12,6 @@
 #include "tally/request/ClientAddress.h"
 
 namespace mivo::tally {
-namespace {
-
-constexpr unsigned householdsOfASite = 10;
-
-}  // namespace
 
 bool VoteAllowance::take(const asio::ip::address& client, std::string_view counter, int delta,
                          std::chrono::sys_days today) {
