@@ -29,7 +29,7 @@ std::string escaped(std::string_view text) {
   std::string result;
   for (std::size_t index = 0; index < text.size(); ++index) {
     const auto byte = static_cast<unsigned char>(text[index]);
-    const auto next = index + 1 < text.size() ? static_cast<unsigned char>(text[index + 1]) : 0;
+    const unsigned next = index + 1 < text.size() ? static_cast<unsigned char>(text[index + 1]) : 0;
     const bool isUnicodeControl = byte == 0xc2 && next >= 0x80 && next <= 0x9f;
     if (byte != '\n' && (byte < 0x20 || byte == 0x7f || isUnicodeControl)) {
       const unsigned code = isUnicodeControl ? next : byte;
