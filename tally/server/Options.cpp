@@ -87,6 +87,7 @@ void addFlags(CLI::App& app, ServeOptions& options, Texts& texts) {
   app.add_option("--key", options.key, "Its private key (PEM)")->type_name("FILE");
   app.add_flag("--allow-plain-http", options.allowPlainHttp, "Answer without TLS beyond this machine");
   app.add_option("--votes-per-minute", options.votesPerMinute, "Votes taken from one address; 0 takes all")
+      ->check(CLI::Range(0U, 1'000'000U))
       ->type_name("N")
       ->capture_default_str();
   app.add_option("--votes-per-day", options.votesPerDay,

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <csignal>
 #include <stdexcept>
+#include <vector>
 
 #include "tally/server/Roadmap.h"
 #include "tally/server/TlsCertificate.h"
@@ -95,10 +96,8 @@ void Server::makeRoom() {
 
 void Server::checkDeadlines() {
   const auto now = std::chrono::steady_clock::now();
-  for (auto next = crowd.open.begin(); next != crowd.open.end();) {
-    const auto connection = *next++;  // which may leave the list
-    connection->checkDeadline(now);
-  }
+  const std::vector<std::shared_ptr<Connection>> all{crowd.open.begin(), crowd.open.end()};
+  for (const auto& connection : all) connection->checkDeadline(now);  // after which it, and others, may have left
   if (certificate && now >= certificateLook) {
     certificateLook = now + std::chrono::days{1};
     tellOfCertificate();
@@ -140,10 +139,7 @@ void Server::stop() {
   adminListener.stop();
   log.event("stopping", "finishing what is in flight");
   const auto now = std::chrono::steady_clock::now();
-  for (auto next = crowd.open.begin(); next != crowd.open.end();) {
-    const auto connection = *next++;
-    connection->drain(now);
-  }
+  for (const auto& connection : crowd.open) connection->drain(now);
   stopWhenDone();
 }
 

@@ -17,14 +17,13 @@ bool VoteAllowance::take(const asio::ip::address& client, std::string_view count
                          std::chrono::sys_days today) {
   if (perDay == 0) return true;
   if (today != day || votes.size() + 2 > mostHashes) beginAnew(today);
+  const auto site = siteKey(client);
+  auto* ofSite = site ? &votesOf(*site, 48, counter, delta) : nullptr;
+  if (ofSite != nullptr && *ofSite >= householdsOfASite * perDay) return false;
   auto& own = votesOf(rateKey(client), 64, counter, delta);
   if (own >= perDay) return false;
-  if (const auto site = siteKey(client)) {
-    auto& all = votesOf(*site, 48, counter, delta);
-    if (all >= householdsOfASite * perDay) return false;
-    ++all;
-  }
   ++own;
+  if (ofSite != nullptr) ++*ofSite;
   return true;
 }
 
