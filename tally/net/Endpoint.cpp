@@ -23,7 +23,7 @@ std::optional<Endpoint> parseEndpoint(std::string_view text) {
   } else if (host.find(':') != std::string_view::npos) {
     return std::nullopt;
   }
-  if (host.empty()) return std::nullopt;
+  if (host.empty() || host.find_first_of("[]") != std::string_view::npos) return std::nullopt;
   return Endpoint{std::string{host}, std::string{text.substr(colon + 1)}};
 }
 
