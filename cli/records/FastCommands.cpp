@@ -23,10 +23,10 @@ using host::FastRecord;
 std::int64_t usualGoal() { return host::goalSeconds(adapters::FileUserDefaults{adapters::appDefaultsFile()}); }
 
 /// Does a change, and says so of a record as the database has it now.
-std::string done(const RecordRun& run, host::Database& database, const host::HistoryChange& change,
-                 std::string_view pattern, const FastRecord& record) {
-  database.apply(change);
-  auto fasts = database.history().fasts;
+std::string done(const RecordRun& run, HistoryFile& file, const host::HistoryChange& change, std::string_view pattern,
+                 const FastRecord& record) {
+  file.apply(change);
+  auto fasts = file.history().fasts;
   const FastRecord* kept = host::fastWithID(fasts, record.fast.id);
   const bool overlaps = kept && host::overlappingFasts(fasts, run.now)[static_cast<std::size_t>(kept - fasts.data())];
   if (!kept) fasts.push_back(record);  // its id is told apart from theirs
@@ -37,9 +37,9 @@ std::string done(const RecordRun& run, host::Database& database, const host::His
 
 std::string addOne(const RecordRun& run, std::string_view pattern, const FastingDataEntry& fast) {
   const FastRecord record{fast, run.options.note.value_or("")};
-  host::Database database = run.open();
-  const auto change = run.change(host::addingFast(database.history().fasts, record, run.now));
-  return done(run, database, change, pattern, record);
+  HistoryFile file = run.open();
+  const auto change = run.change(host::addingFast(file.history().fasts, record, run.now));
+  return done(run, file, change, pattern, record);
 }
 
 std::string start(const RecordRun& run) {
@@ -50,9 +50,9 @@ std::string start(const RecordRun& run) {
 
 std::string stop(const RecordRun& run) {
   const Date end = run.dateOrNow("--at", run.options.at);
-  host::Database database = run.open();
-  const auto change = run.change(host::stopping(database.history().fasts, end, run.now));
-  return done(run, database, change, translatable("Stopped {1}"), change.addedFasts.front());
+  HistoryFile file = run.open();
+  const auto change = run.change(host::stopping(file.history().fasts, end, run.now));
+  return done(run, file, change, translatable("Stopped {1}"), change.addedFasts.front());
 }
 
 std::string add(const RecordRun& run) {
@@ -82,19 +82,17 @@ std::string edit(const RecordRun& run) {
   const RecordOptions& options = run.options;
   if (!options.start && !options.end && !options.isRunning && !options.goalHours && !options.note)
     throw Refused{wrongUsage, "nothing to change: expected --start, --end, --running, --goal-hours or --note"};
-  host::Database database = run.open();
-  const auto fasts = database.history().fasts;
+  HistoryFile file = run.open();
+  const auto fasts = file.history().fasts;
   const FastRecord after = edited(found(run, fasts), run);
-  return done(run, database, run.change(host::changingFast(fasts, after, run.now)), translatable("Changed to {1}"),
-              after);
+  return done(run, file, run.change(host::changingFast(fasts, after, run.now)), translatable("Changed to {1}"), after);
 }
 
 std::string remove(const RecordRun& run) {
-  host::Database database = run.open();
-  const auto fasts = database.history().fasts;
+  HistoryFile file = run.open();
+  const auto fasts = file.history().fasts;
   const FastRecord record = found(run, fasts);
-  return done(run, database, run.change(host::removingFast(fasts, record.fast.id)), translatable("Removed {1}"),
-              record);
+  return done(run, file, run.change(host::removingFast(fasts, record.fast.id)), translatable("Removed {1}"), record);
 }
 
 std::string list(const RecordRun& run) {

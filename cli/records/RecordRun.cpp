@@ -39,6 +39,7 @@ struct Help {
   Answer operator()(const host::NoFastIsRunning&) const { return {"mivo start begins one", atFault}; }
   Answer operator()(const host::IsGone&) const { return {"", atFault}; }
   Answer operator()(const host::IsSavedAlready&) const { return {"", atFault}; }
+  Answer operator()(const host::NothingToUndo&) const { return {"", atFault}; }
 
   Answer operator()(const host::IsNoRecord& refusal) const {
     using enum host::RecordFault;
@@ -80,13 +81,7 @@ std::filesystem::path RecordRun::file() const {
   return options.database.empty() ? host::ownDatabaseFile() : std::filesystem::path{options.database};
 }
 
-host::Database RecordRun::open() const {
-  auto opened = host::openOrSetAside(file());
-  if (opened.setAside)
-    complain(file().string() + ": the database is damaged; it is kept as " + opened.setAside->string() +
-             ", and a new one was begun");
-  return std::move(opened.database);
-}
+HistoryFile RecordRun::open() const { return HistoryFile{file()}; }
 
 host::History RecordRun::history() const {
   if (std::filesystem::is_regular_file(file())) return host::Database{file()}.history();
@@ -130,8 +125,12 @@ std::string RecordRun::typed(Date date) const {
 
 host::HistoryChange RecordRun::change(host::Outcome outcome) const {
   if (outcome) return std::move(*outcome);
-  const auto [help, status] = std::visit(Help{*this}, outcome.error());
-  throw Refused{status, refusalText(outcome.error(), *texts) + (help.empty() ? "" : " (" + help + ')')};
+  refuse(outcome.error());
+}
+
+void RecordRun::refuse(const host::Refusal& refusal) const {
+  const auto [help, status] = std::visit(Help{*this}, refusal);
+  throw Refused{status, refusalText(refusal, *texts) + (help.empty() ? "" : " (" + help + ')')};
 }
 
 int runRecordCommand(const RecordOptions& options, const std::function<std::string(const RecordRun&)>& command) {

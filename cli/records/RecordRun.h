@@ -12,9 +12,9 @@
 #include "adapters/icu/LocaleFormatters.h"
 #include "adapters/icu/UserLocale.h"
 #include "adapters/time/TimeZone.h"
+#include "cli/records/HistoryFile.h"
 #include "cli/records/RecordOptions.h"
 #include "cli/records/ShortIDs.h"
-#include "host/database/Database.h"
 #include "host/fasting/Fasting.h"
 #include "mivo/platform/TextLookup.h"
 
@@ -39,8 +39,8 @@ class RecordRun {
   const std::shared_ptr<const TextLookup> texts;
   const Date now;
 
-  /// The database, for a change. One that is missing is made; a damaged one is kept aside, which is said.
-  host::Database open() const;
+  /// The database, for a change.
+  HistoryFile open() const;
   /// The records. Nothing is made where there is no file: no records where that is the app's own, refused otherwise.
   host::History history() const;
 
@@ -52,6 +52,7 @@ class RecordRun {
 
   /// The change, or why there is none; what the command line can say about that stands behind the sentence.
   host::HistoryChange change(host::Outcome outcome) const;
+  [[noreturn]] void refuse(const host::Refusal& refusal) const;
 
   /// What the user chose in the app, or what people weigh themselves in where they live.
   WeightUnit weightUnit() const;

@@ -21,20 +21,20 @@ std::string add(const RecordRun& run) {
   constexpr double noWeight = 0;  // which no body has
   const BodyWeightSample sample{adapters::LocalUUIDGenerator{}.next(), run.dateOrNow("--at", run.options.at),
                                 parseTypedWeight(run.options.weight, WeightUnit::kilograms).value_or(noWeight)};
-  host::Database database = run.open();
-  const auto weights = database.history().weights;
+  HistoryFile file = run.open();
+  const auto weights = file.history().weights;
   const auto outcome = host::addingWeight(weights, sample, run.weightUnit(), *run.formatters.massFormatter, run.now);
   if (const auto* same = outcome ? nullptr : std::get_if<host::IsSavedAlready>(&outcome.error()))
     return answer(run, translatable("Saved already: {1}"), same->saved, weights);
-  database.apply(run.change(outcome));
-  return answer(run, translatable("Added {1}"), sample, database.history().weights);
+  file.apply(run.change(outcome));
+  return answer(run, translatable("Added {1}"), sample, file.history().weights);
 }
 
 std::string remove(const RecordRun& run) {
-  host::Database database = run.open();
-  const auto weights = database.history().weights;
+  HistoryFile file = run.open();
+  const auto weights = file.history().weights;
   const BodyWeightSample sample = weights[placeOf(run, idsOf(weights), "weight")];
-  database.apply(run.change(host::removingWeight(weights, sample.id)));
+  file.apply(run.change(host::removingWeight(weights, sample.id)));
   return answer(run, translatable("Removed {1}"), sample, weights);
 }
 

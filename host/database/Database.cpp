@@ -96,6 +96,20 @@ constexpr const char* insertFast =
     "INSERT INTO fasts (id, startedAt, endedAt, goalSeconds, note) VALUES (?, ?, ?, ?, ?)";
 constexpr const char* insertWeight = "INSERT INTO weights (id, weighedAt, weightInKg) VALUES (?, ?, ?)";
 
+// The last change.
+constexpr const char* selectLastFasts =
+    "SELECT id, startedAt, endedAt, goalSeconds, note FROM lastChangeFasts WHERE isAdded = ? ORDER BY rowid";
+constexpr const char* selectLastWeights =
+    "SELECT id, weighedAt, weightInKg FROM lastChangeWeights WHERE isAdded = ? ORDER BY rowid";
+constexpr const char* insertRemovedFast =
+    "INSERT INTO lastChangeFasts (id, startedAt, endedAt, goalSeconds, note, isAdded) VALUES (?, ?, ?, ?, ?, 0)";
+constexpr const char* insertAddedFast =
+    "INSERT INTO lastChangeFasts (id, startedAt, endedAt, goalSeconds, note, isAdded) VALUES (?, ?, ?, ?, ?, 1)";
+constexpr const char* insertRemovedWeight =
+    "INSERT INTO lastChangeWeights (id, weighedAt, weightInKg, isAdded) VALUES (?, ?, ?, 0)";
+constexpr const char* insertAddedWeight =
+    "INSERT INTO lastChangeWeights (id, weighedAt, weightInKg, isAdded) VALUES (?, ?, ?, 1)";
+
 DatabaseError conflict(const fs::path& file, const char* sentence) { return {Kind::conflict, file, sentence}; }
 
 // What the system said where SQLite only knows that writing failed.
@@ -186,6 +200,39 @@ void addAll(SQLite::Database& database, const char* sql, const std::vector<Recor
   }
 }
 
+template <class Record>
+std::vector<Record> lastOnes(SQLite::Database& database, const char* sql, bool isAdded,
+                             Record (*record)(SQLite::Statement&)) {
+  SQLite::Statement rows{database, sql};
+  rows.bind(1, isAdded ? 1 : 0);
+  std::vector<Record> records;
+  while (rows.executeStep()) records.push_back(record(rows));
+  return records;
+}
+
+HistoryChange lastChange(SQLite::Database& database) {
+  return {.removedFasts = lastOnes(database, selectLastFasts, false, fastRecord),
+          .addedFasts = lastOnes(database, selectLastFasts, true, fastRecord),
+          .removedWeights = lastOnes(database, selectLastWeights, false, weightSample),
+          .addedWeights = lastOnes(database, selectLastWeights, true, weightSample)};
+}
+
+void keepAsLast(SQLite::Database& database, const HistoryChange& change) {
+  database.exec("DELETE FROM lastChangeFasts; DELETE FROM lastChangeWeights");
+  addAll(database, insertRemovedFast, change.removedFasts);
+  addAll(database, insertAddedFast, change.addedFasts);
+  addAll(database, insertRemovedWeight, change.removedWeights);
+  addAll(database, insertAddedWeight, change.addedWeights);
+}
+
+void write(SQLite::Database& database, const fs::path& file, const HistoryChange& change) {
+  removeAll(database, file, deleteFast, change.removedFasts);
+  removeAll(database, file, deleteWeight, change.removedWeights);
+  addAll(database, insertFast, change.addedFasts);
+  addAll(database, insertWeight, change.addedWeights);
+  keepAsLast(database, change);
+}
+
 void makeFolder(const fs::path& file) {
   std::error_code error;
   if (file.has_parent_path()) fs::create_directories(file.parent_path(), error);
@@ -227,7 +274,12 @@ struct Database::Connection {
     }
     const std::string verdict = database.execAndGet("PRAGMA quick_check(1)");
     if (verdict != "ok") throw DatabaseError{Kind::damaged, file, sentence(Kind::damaged, verdict.c_str())};
-    migrate(database);
+    access == Access::readAndWrite ? migrate(database) : demandReadable(database);
+  }
+
+  std::unique_ptr<SQLite::Transaction> begin() {
+    return translating(
+        file, [&] { return std::make_unique<SQLite::Transaction>(database, SQLite::TransactionBehavior::IMMEDIATE); });
   }
 
   fs::path file;
@@ -262,15 +314,22 @@ History Database::history() const {
 }
 
 void Database::apply(const HistoryChange& change) {
-  SQLite::Database& database = connection->database;
-  auto transaction = translating(
-      file(), [&] { return std::make_unique<SQLite::Transaction>(database, SQLite::TransactionBehavior::IMMEDIATE); });
+  if (change.isEmpty()) return;
+  const auto transaction = connection->begin();
   translating(file(), [&] {
-    removeAll(database, file(), deleteFast, change.removedFasts);
-    removeAll(database, file(), deleteWeight, change.removedWeights);
-    addAll(database, insertFast, change.addedFasts);
-    addAll(database, insertWeight, change.addedWeights);
+    write(connection->database, file(), change);
     transaction->commit();
+  });
+}
+
+HistoryChange Database::undo() {
+  const auto transaction = connection->begin();
+  return translating(file(), [&] {
+    HistoryChange change = inverse(lastChange(connection->database));
+    if (change.isEmpty()) return change;
+    write(connection->database, file(), change);
+    transaction->commit();
+    return change;
   });
 }
 

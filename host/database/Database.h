@@ -46,7 +46,7 @@ class Database {
   enum class Access { readAndWrite, readOnly };
 
   /// Opens the database, makes it and its folder where they are missing, and brings an older one up to date; one that
-  /// is only to be read must be there, and up to date. Throws DatabaseError.
+  /// is only to be read must be there, and is left as it is. Throws DatabaseError.
   explicit Database(const std::filesystem::path& file, Access access = Access::readAndWrite);
   ~Database();
   Database(Database&&) noexcept;
@@ -58,6 +58,12 @@ class Database {
   /// Does a change as a whole. Throws DatabaseError: a conflict where a record that it takes away is not there as the
   /// change has it, where one that it adds would have the id of another, and where a second fast would be running.
   void apply(const HistoryChange& change);
+
+  /// Takes back the change that was done last, by whichever program, and returns what was done for that; it is a change
+  /// too, so that the next call does the first one again. Empty where nothing was changed yet. Throws DatabaseError: a
+  /// conflict where something other than a change of ours has touched those records since. What a change took away is
+  /// kept for this until the next one.
+  HistoryChange undo();
 
   /// Another number than last time: another program has changed something since.
   std::int64_t version() const;

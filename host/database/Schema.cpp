@@ -33,14 +33,29 @@ constexpr std::array steps{
          weightInKg REAL NOT NULL CHECK (weightInKg > 0)
        ) STRICT;
        CREATE INDEX weightsByDate ON weights (weighedAt, place);)",
+    // The last change, in the order of its records: what it took away, and what it added.
+    R"(CREATE TABLE lastChangeFasts (
+         isAdded INTEGER NOT NULL CHECK (isAdded IN (0, 1)),
+         id BLOB NOT NULL CHECK (length(id) = 16),
+         startedAt REAL NOT NULL,
+         endedAt REAL,
+         goalSeconds INTEGER NOT NULL,
+         note TEXT NOT NULL
+       ) STRICT;
+       CREATE TABLE lastChangeWeights (
+         isAdded INTEGER NOT NULL CHECK (isAdded IN (0, 1)),
+         id BLOB NOT NULL CHECK (length(id) = 16),
+         weighedAt REAL NOT NULL,
+         weightInKg REAL NOT NULL
+       ) STRICT;)",
 };
+constexpr int oldestReadable = 1, newest = static_cast<int>(steps.size());
 
 int layout(SQLite::Database& database) { return database.execAndGet("PRAGMA user_version").getInt(); }
 
 }  // namespace
 
 void migrate(SQLite::Database& database) {
-  constexpr int newest = static_cast<int>(steps.size());
   while (layout(database) < newest) {
     SQLite::Transaction transaction{database, SQLite::TransactionBehavior::IMMEDIATE};
     const int present = layout(database);  // again: another program may have been quicker
@@ -49,9 +64,16 @@ void migrate(SQLite::Database& database) {
     database.exec("PRAGMA user_version = " + std::to_string(present + 1));
     transaction.commit();
   }
-  if (layout(database) > newest)
-    throw DatabaseError{DatabaseError::Kind::tooNew, database.getFilename(),
-                        "written by a later version of Mivo; update to open it"};
+  demandReadable(database);
+}
+
+void demandReadable(SQLite::Database& database) {
+  using Kind = DatabaseError::Kind;
+  const int present = layout(database);
+  if (present > newest)
+    throw DatabaseError{Kind::tooNew, database.getFilename(), "written by a later version of Mivo; update to open it"};
+  if (present < oldestReadable)
+    throw DatabaseError{Kind::unavailable, database.getFilename(), "no history has been begun in it"};
 }
 
 }  // namespace mivo::host

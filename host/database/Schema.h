@@ -10,4 +10,8 @@ namespace mivo::host {
 /// database has a layout that this program does not know.
 void migrate(SQLite::Database& database);
 
+/// Throws DatabaseError unless the fasts and weights of a database can be read as it stands, as they can in every
+/// layout from the first to the present one.
+void demandReadable(SQLite::Database& database);
+
 }  // namespace mivo::host

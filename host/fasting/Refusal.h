@@ -32,6 +32,11 @@ struct IsSavedAlready {
   bool operator==(const IsSavedAlready&) const = default;
 };
 
+/// No change was kept that could be taken back.
+struct NothingToUndo {
+  bool operator==(const NothingToUndo&) const = default;
+};
+
 /// The record would be one that cannot be kept. Of a fast that was to be stopped: the fast as it runs.
 struct IsNoRecord {
   RecordFault fault;
@@ -40,7 +45,7 @@ struct IsNoRecord {
 };
 
 /// Why something is not done to a history, with what there is to say about it.
-using Refusal = std::variant<FastIsRunning, NoFastIsRunning, IsGone, IsSavedAlready, IsNoRecord>;
+using Refusal = std::variant<FastIsRunning, NoFastIsRunning, IsGone, IsSavedAlready, NothingToUndo, IsNoRecord>;
 
 /// One sentence in the user's language, the same wherever the user tried.
 std::string refusalText(const Refusal& refusal, const TextLookup& texts);

@@ -2,6 +2,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <filesystem>
+
 #include "host/database/Database.h"
 #include "tests/cli_support/MivoProcess.h"
 
@@ -108,6 +110,15 @@ TEST(RecordErrors, aClockThatWasSetBackLosesNothing) {
                                                 now + "; the fast is running since 2477-.*\\)\n"));
   EXPECT_EQ(place.run("edit 0000 --note 'clock was wrong' --database d").status, 0);
   EXPECT_EQ(host::Database{place.file("d")}.history().fasts[0].fast.start, dateSince1970(16e9));
+}
+
+TEST(RecordErrors, leaveNoDatabaseBehindWhereThereWasNone) {
+  const Workplace place;
+  for (const char* command : {"stop", "remove 3f", "edit 3f --note tea", "weight remove 3f", "weight add heavy",
+                              "start --goal-hours 200", "add 2026-02-02T00:00Z 2026-02-01T00:00Z", "undo"}) {
+    EXPECT_NE(place.run(std::string{command} + " --database folder/d").status, 0) << command;
+    EXPECT_FALSE(std::filesystem::exists(place.file("folder"))) << command;
+  }
 }
 
 TEST(RecordErrors, nameAFileThatIsNoDatabase) {

@@ -78,6 +78,74 @@ TEST_F(DatabaseTest, undoesAnEditAsAWhole) {
   EXPECT_EQ(database.history(), before);
 }
 
+TEST_F(DatabaseTest, takesTheLastChangeBackAndDoesItAgain) {
+  HistoryChange first = adding({fast(1, 0, 16), fast(2, 20, 30 + 1.0 / 3, "tea\n☕")});
+  first.addedWeights = {{{3, 4}, at(1), 81.4}};
+  open().apply(first);
+  HistoryChange second = adding({running(3, 40)});
+  second.removedFasts = {fast(2, 20, 30 + 1.0 / 3, "tea\n☕")};
+  second.removedWeights = {{{3, 4}, at(1), 81.4}};
+  second.addedWeights = {{{3, 4}, at(2), 81.3}, {{3, 5}, at(3), 80.9}};
+  const History before = open().history();
+  open().apply(second);
+  const History after = open().history();
+
+  EXPECT_EQ(open().undo(), inverse(second));
+  EXPECT_EQ(open().history(), before);
+  EXPECT_EQ(open().undo(), second);
+  EXPECT_EQ(open().history(), after);
+}
+
+TEST_F(DatabaseTest, hasNothingToTakeBackBeforeTheFirstChange) {
+  EXPECT_TRUE(open().undo().isEmpty());
+  open().apply(adding({fast(1, 0, 16)}));
+  open().apply({});
+  EXPECT_THAT(open().undo().removedFasts, ElementsAre(fast(1, 0, 16)))
+      << "a change that is none was taken for the last";
+}
+
+TEST_F(DatabaseTest, takesNothingBackThatWasTouchedSince) {
+  open().apply(adding({fast(1, 0, 16), fast(2, 20, 30)}));
+  Database database = open();
+  EXPECT_EQ(failure(database, adding({fast(3, 40, 50), fast(1, 60, 70)})).kind, Kind::conflict);
+  SQLite::Database{file.string(), SQLite::OPEN_READWRITE}.exec(
+      "UPDATE fasts SET note = 'mine' WHERE startedAt > 1.77e9");
+  const History before = database.history();
+  try {
+    database.undo();
+    FAIL() << "it was taken back";
+  } catch (const DatabaseError& error) {
+    EXPECT_EQ(error.kind, Kind::conflict);
+  }
+  EXPECT_EQ(database.history(), before);
+}
+
+// As the first release made it.
+constexpr const char* firstLayout = R"(
+  CREATE TABLE fasts (place INTEGER PRIMARY KEY AUTOINCREMENT, id BLOB NOT NULL UNIQUE CHECK (length(id) = 16),
+    startedAt REAL NOT NULL, endedAt REAL, goalSeconds INTEGER NOT NULL CHECK (goalSeconds >= 0), note TEXT NOT NULL
+  ) STRICT;
+  CREATE INDEX fastsByStart ON fasts (startedAt, place);
+  CREATE UNIQUE INDEX oneRunningFast ON fasts (endedAt IS NULL) WHERE endedAt IS NULL;
+  CREATE TABLE weights (place INTEGER PRIMARY KEY AUTOINCREMENT, id BLOB NOT NULL UNIQUE CHECK (length(id) = 16),
+    weighedAt REAL NOT NULL, weightInKg REAL NOT NULL CHECK (weightInKg > 0)) STRICT;
+  CREATE INDEX weightsByDate ON weights (weighedAt, place);
+  INSERT INTO fasts (id, startedAt, endedAt, goalSeconds, note)
+    VALUES (x'00000000000000070000000000000001', 1770000000, 1770057600, 57600, 'tea');
+  PRAGMA user_version = 1;)";
+
+TEST_F(DatabaseTest, bringsAnOlderFileUpToDateWhereItMayWrite) {
+  std::filesystem::create_directories(file.parent_path());
+  SQLite::Database{file.string(), SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE}.exec(firstLayout);
+  const FastRecord kept = fast(1, 0, 16, "tea");
+  EXPECT_THAT((Database{file, Database::Access::readOnly}.history().fasts), ElementsAre(kept));
+  EXPECT_TRUE(open().undo().isEmpty());
+  EXPECT_THAT(open().history().fasts, ElementsAre(kept));
+  open().apply(adding({fast(2, 20, 30)}));
+  EXPECT_THAT(open().undo().removedFasts, ElementsAre(fast(2, 20, 30)));
+  EXPECT_THAT(open().history().fasts, ElementsAre(kept));
+}
+
 TEST_F(DatabaseTest, changesNothingOnAConflict) {
   Database database = open();
   database.apply(adding({fast(1, 0, 16), running(2, 20)}));

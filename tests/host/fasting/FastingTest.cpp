@@ -152,6 +152,7 @@ TEST(Refusals, areASentenceEach) {
   EXPECT_EQ(refusalText(NoFastIsRunning{}, texts), "No fast is running.");
   EXPECT_EQ(refusalText(IsGone{}, texts), "Nothing was changed: the record is gone.");
   EXPECT_EQ(refusalText(IsSavedAlready{weights[0]}, texts), "This weight is saved already.");
+  EXPECT_EQ(refusalText(NothingToUndo{}, texts), "There is nothing to undo.");
   EXPECT_EQ(refusalText(IsNoRecord{RecordFault::endBeforeStart}, texts), "The end is before the start.");
 }
 
