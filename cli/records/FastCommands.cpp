@@ -38,8 +38,11 @@ std::string done(const RecordRun& run, HistoryFile& file, const host::HistoryCha
 std::string addOne(const RecordRun& run, std::string_view pattern, const FastingDataEntry& fast) {
   const FastRecord record{fast, run.options.note.value_or("")};
   HistoryFile file = run.open();
-  const auto change = run.change(host::addingFast(file.history().fasts, record, run.now));
-  return done(run, file, change, pattern, record);
+  const auto fasts = file.history().fasts;
+  const auto outcome = host::addingFast(fasts, record, run.now);
+  if (const auto* same = outcome ? nullptr : std::get_if<host::FastIsSavedAlready>(&outcome.error()))
+    return filledIn(run.texts->text("Saved already: {1}"), {described(same->saved, idsOf(fasts), run)}) + '\n';
+  return done(run, file, run.change(outcome), pattern, record);
 }
 
 std::string start(const RecordRun& run) {

@@ -25,7 +25,7 @@ A date without an offset is in --time-zone. An ID is what mivo list shows, or mo
 Exit status: 0 done and on disk, 1 the records or the database stood against it, 2 the command line did.)";
 
 constexpr const char* weightExamples = R"(Examples:
-  mivo weight add 81.4
+  mivo weight add 81.4kg
   mivo weight add 179lb --at "2026-03-01 07:05"
   mivo weight add "12st 11lb"
   mivo weight list
@@ -120,7 +120,9 @@ void addWeightCommands(CLI::App& program, Commands& to) {
   weight.footer(weightExamples);
   to.inside(weight, weightExamples);
   CLI::App& add = to.add("add", "Add a weight", runWeightAdd);
-  add.add_option("WEIGHT", to.options.weight, "81.4, 81.4kg, 179lb or \"12st 11lb\"")->required();
+  add.add_option("WEIGHT", to.options.weight,
+                 "81.4kg, 179lb or \"12st 11lb\"; 81.4 alone where weights are shown in kg")
+      ->required();
   to.date(add, "--at", to.options.at, "When it was weighed; default: now");
   to.format(to.add("list", "List the weights, the latest last", runWeightList));
   to.id(to.add("remove", "Remove a weight", runWeightRemove));

@@ -38,6 +38,7 @@ struct Help {
   }
   Answer operator()(const host::NoFastIsRunning&) const { return {"mivo start begins one", atFault}; }
   Answer operator()(const host::IsGone&) const { return {"", atFault}; }
+  Answer operator()(const host::FastIsSavedAlready&) const { return {"", atFault}; }
   Answer operator()(const host::IsSavedAlready&) const { return {"", atFault}; }
   Answer operator()(const host::NothingToUndo&) const { return {"", atFault}; }
 

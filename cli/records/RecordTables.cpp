@@ -3,10 +3,14 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <numeric>
+#include <optional>
+#include <span>
 #include <utility>
 #include <vector>
 
 #include "cli/terminal/Paint.h"
+#include "cli/terminal/StandardOutput.h"
 #include "cli/terminal/TextWidth.h"
 #include "host/fasting/OverlappingFasts.h"
 #include "mivo/fasting/GoalTime.h"
@@ -14,7 +18,6 @@
 namespace mivo::cli {
 namespace {
 
-constexpr int pageWidth = 80;
 constexpr std::string_view gap = "  ";
 
 std::string dateText(Date date, const RecordRun& run) {
@@ -43,16 +46,33 @@ std::string weightText(double weightInKg, const RecordRun& run) {
   return run.formatters.massFormatter->string(weightInKg, run.weightUnit());
 }
 
-/// A note's first line, cut to a width.
-std::string shortened(const std::string& note, int width) {
-  std::string first = note.substr(0, note.find_first_of("\r\n"));
-  if (first.size() == note.size() && columns(first) <= width) return first;
-  std::size_t end = first.size();
-  while (end > 0 && columns(std::string_view{first}.substr(0, end)) > width - 1) {
-    do --end;
-    while (end > 0 && (static_cast<unsigned char>(first[end]) & 0xC0) == 0x80);  // inside a character
+/// A note's lines one after another.
+std::string inOneLine(const std::string& note) {
+  std::string line;
+  for (const char letter : note) {
+    const bool isLineEnd = letter == '\n' || letter == '\r';
+    if (!isLineEnd || !line.ends_with(' ')) line += isLineEnd ? ' ' : letter;
   }
-  return width > 0 ? first.substr(0, end) + "…" : "";
+  return line;
+}
+
+std::string withoutEndBlanks(const std::string& line) { return line.substr(0, line.find_last_not_of(' ') + 1); }
+
+std::string shortened(const std::string& text, int width) {
+  if (columns(text) <= width) return text;
+  std::size_t end = text.size();
+  while (end > 0 && columns(std::string_view{text}.substr(0, end)) > width - 1) {
+    do --end;
+    while (end > 0 && (static_cast<unsigned char>(text[end]) & 0xC0) == 0x80);  // inside a character
+  }
+  return width > 0 ? withoutEndBlanks(text.substr(0, end)) + "…" : "";
+}
+
+std::string linesOf(const std::string& sentence) {
+  const auto width = outputWidth();
+  std::string lines;
+  for (const std::string& line : wrapped(sentence, width.value_or(columns(sentence)))) lines += line + '\n';
+  return lines;
 }
 
 /// Cells under headings, each column as wide as its widest.
@@ -65,13 +85,18 @@ class Table {
 
   void add(Row row) { rows.push_back(std::move(row)); }
 
-  /// The last column is the free one: it takes what is left of the page.
-  std::string text(const Paint& paint) const {
+  /// The last column takes what is left of the page, and is cut there; without a width it is whole. A page that is too
+  /// narrow for the others has a block a row.
+  std::string text(const Paint& paint, std::optional<int> pageWidth) const {
     const std::vector<int> widths = columnWidths();
+    const int used =
+        std::accumulate(widths.begin(), widths.end() - 1, 0) + static_cast<int>((widths.size() - 1) * gap.size());
+    if (pageWidth && used + columns(rows.front().back()) > *pageWidth) return blocks(*pageWidth);
     std::string page;
-    for (std::size_t index = 0; index < rows.size(); ++index) {
-      const std::string line = lineOf(rows[index], widths);
-      page += paint(index == 0 ? Ink::faint : Ink::plain, line.substr(0, line.find_last_not_of(' ') + 1)) + '\n';
+    for (const Row& row : rows) {
+      std::string line = lineOf(row, widths);
+      line += pageWidth ? shortened(row.back(), *pageWidth - used) : row.back();
+      page += paint(&row == rows.data() ? Ink::faint : Ink::plain, withoutEndBlanks(line)) + '\n';
     }
     return page;
   }
@@ -87,14 +112,31 @@ class Table {
 
   std::string lineOf(const Row& row, const std::vector<int>& widths) const {
     std::string line;
-    int used = 0;
     for (std::size_t column = 0; column + 1 < row.size(); ++column) {
       line +=
           sides[column] == Side::right ? paddedLeft(row[column], widths[column]) : padded(row[column], widths[column]);
       line += gap;
-      used += widths[column] + static_cast<int>(gap.size());
     }
-    return line + shortened(row.back(), pageWidth - used);
+    return line;
+  }
+
+  std::string blocks(int pageWidth) const {
+    const Row& headings = rows.front();
+    int widest = 0;
+    for (const std::string& heading : headings) widest = std::max(widest, columns(heading));
+    const int used = widest + 2 * static_cast<int>(gap.size());
+    std::string page;
+    for (const Row& row : std::span{rows}.subspan(1)) {
+      page += row.front() + '\n';
+      for (std::size_t column = 1; column < row.size(); ++column) {
+        const bool isLast = column + 1 == row.size();
+        const std::string cell = isLast ? shortened(row[column], pageWidth - used) : row[column];
+        if (!cell.empty())
+          page +=
+              std::string{gap} + padded(headings[column], widest) + std::string{gap} + withoutEndBlanks(cell) + '\n';
+      }
+    }
+    return page;
   }
 
   std::vector<Row> rows;
@@ -139,11 +181,11 @@ std::string fastTable(const std::vector<host::FastRecord>& fasts, const RecordRu
     const auto& [fast, note] = fasts[index];
     const std::string end = fast.finished ? shortDateText(fast.finished->end, run) : texts.text("running");
     table.add({ids.text(fast.id), shortDateText(fast.start, run), end, durationText(length(fast, run.now), run),
-               goalText(fast.goalSeconds, run), (overlapping[index] ? "! " : "") + note});
+               goalText(fast.goalSeconds, run), (overlapping[index] ? "! " : "") + inOneLine(note)});
   }
-  std::string page = table.text(Paint::forStandardOutput());
+  std::string page = table.text(Paint::forStandardOutput(), outputWidth());
   if (std::ranges::find(overlapping, true) != overlapping.end())
-    page += "\n! " + texts.text("overlaps another fast") + '\n';
+    page += '\n' + linesOf("! " + texts.text("overlaps another fast"));
   return page;
 }
 
@@ -155,7 +197,7 @@ std::string weightTable(const std::vector<BodyWeightSample>& weights, const Reco
   const ShortIDs ids = idsOf(weights);
   for (const BodyWeightSample& sample : weights)
     table.add({ids.text(sample.id), shortDateText(sample.date, run), weightText(sample.weightInKg, run), ""});
-  return table.text(Paint::forStandardOutput());
+  return table.text(Paint::forStandardOutput(), outputWidth());
 }
 
 ShortIDs idsOf(const std::vector<host::FastRecord>& fasts) {

@@ -15,8 +15,8 @@ std::string described(const host::FastRecord& record, const ShortIDs& ids, const
 /// "77c0  81.4 kg, Mar 1, 2026, 7:05 AM"
 std::string described(const BodyWeightSample& sample, const ShortIDs& ids, const RecordRun& run);
 
-/// A line a record, for a terminal of 80 columns, with a heading; what is wider than that is only the note, which is
-/// cut. Records in their order.
+/// A line a record with a heading, as wide as the terminal; only notes are cut there, and a terminal that is too narrow
+/// for the rest has a few short lines a record. In a file or a pipe nothing is cut. Records in their order.
 std::string fastTable(const std::vector<host::FastRecord>& fasts, const RecordRun& run);
 std::string weightTable(const std::vector<BodyWeightSample>& weights, const RecordRun& run);
 

@@ -17,8 +17,24 @@ std::string answer(const RecordRun& run, std::string_view pattern, const BodyWei
   return filledIn(run.texts->text(pattern), {described(sample, idsOf(all), run)}) + '\n';
 }
 
+bool isWeightWithoutUnit(const std::string& typed) {
+  const auto read = readWeight(typed, std::nullopt);
+  return std::holds_alternative<WeightTextFault>(read) && std::get<WeightTextFault>(read) == WeightTextFault::noUnit;
+}
+
+/// Whoever reads pounds and types a bare number may mean either.
+void demandUnit(const RecordRun& run) {
+  const std::string& typed = run.options.weight;
+  const WeightUnit shown = run.weightUnit();
+  if (shown == WeightUnit::kilograms || !isWeightWithoutUnit(typed)) return;
+  if (!parseTypedWeight(typed, WeightUnit::kilograms) && !parseTypedWeight(typed, shown)) return;
+  throw Refused{wrongUsage, "WEIGHT: " + typed + " kg or " + typed + ' ' + std::string{weightUnitSign(shown)} +
+                                "? Type its unit too"};
+}
+
 std::string add(const RecordRun& run) {
   constexpr double noWeight = 0;  // which no body has
+  demandUnit(run);
   const BodyWeightSample sample{adapters::LocalUUIDGenerator{}.next(), run.dateOrNow("--at", run.options.at),
                                 parseTypedWeight(run.options.weight, WeightUnit::kilograms).value_or(noWeight)};
   HistoryFile file = run.open();

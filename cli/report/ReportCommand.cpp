@@ -47,16 +47,16 @@ tl::expected<History, BadRecord> readTables(const ReportOptions& options, const 
                                             const UUIDGenerator& ids) {
   History history;
   if (!options.fasts.empty()) {
-    auto table = host::readTextFile(options.fasts).and_then([&](const std::string& text) {
-      return host::readFastsCsv(text, options.fasts, settings.zone(), ids);
+    auto table = host::readTextInput(options.fasts).and_then([&](const std::string& text) {
+      return host::readFastsCsv(text, host::inputName(options.fasts), settings.zone(), ids);
     });
     if (!table) return tl::unexpected{std::move(table.error())};
     history.fasts = std::move(table->fasts);
     history.endsBeforeStart = std::move(table->endsBeforeStart);
   }
   if (!options.weights.empty()) {
-    auto weights = host::readTextFile(options.weights).and_then([&](const std::string& text) {
-      return host::readWeightsCsv(text, options.weights, settings.zone(), settings.weightUnit, ids);
+    auto weights = host::readTextInput(options.weights).and_then([&](const std::string& text) {
+      return host::readWeightsCsv(text, host::inputName(options.weights), settings.zone(), settings.weightUnit, ids);
     });
     if (!weights) return tl::unexpected{std::move(weights.error())};
     history.weights = std::move(*weights);
@@ -74,8 +74,8 @@ tl::expected<History, BadRecord> readDatabase(const std::filesystem::path& file)
 tl::expected<History, BadRecord> readHistory(const ReportOptions& options, const RunSettings& settings,
                                              const UUIDGenerator& ids) {
   if (!options.input.empty())
-    return host::readTextFile(options.input).and_then([&](const std::string& text) {
-      return host::readSnapshot(text, options.input, ids);
+    return host::readTextInput(options.input).and_then([&](const std::string& text) {
+      return host::readSnapshot(text, host::inputName(options.input), ids);
     });
   if (hasTables(options)) return readTables(options, settings, ids);
   return readDatabase(options.database.empty() ? host::ownDatabaseFile() : std::filesystem::path{options.database});

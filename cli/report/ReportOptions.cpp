@@ -6,6 +6,7 @@ namespace {
 
 constexpr const char* examples = R"(Examples:
   mivo report --input backup.json
+  mivo export --to - | mivo report --input -
   mivo report --fasts fasts.csv --weights weights.csv --range month
   mivo report --input backup.json --now 2026-03-01T12:00:00Z --time-zone Europe/Berlin --format json
 
@@ -23,11 +24,12 @@ Exit status: 0 done, 1 a file or the output was at fault, 2 the command line was
 CLI::App& addReport(CLI::App& program, ReportOptions& options) {
   CLI::App& report = *program.add_subcommand("report", "Print every figure of a history of fasts and weights");
   report.footer(examples);
-  report.add_option("--input", options.input, "The history: a snapshot in JSON")->type_name("FILE.json");
+  report.add_option("--input", options.input, "The history: a snapshot in JSON; - for standard input")
+      ->type_name("FILE.json");
   report.add_option("--database", options.database, "The history: a database of the app; default: the app's own")
       ->type_name("FILE");
-  report.add_option("--fasts", options.fasts, "The fasts: a table")->type_name("FILE.csv");
-  report.add_option("--weights", options.weights, "The weights: a table")->type_name("FILE.csv");
+  report.add_option("--fasts", options.fasts, "The fasts: a table; - for standard input")->type_name("FILE.csv");
+  report.add_option("--weights", options.weights, "The weights: a table; - for standard input")->type_name("FILE.csv");
   report.option_defaults()->multi_option_policy(CLI::MultiOptionPolicy::TakeLast);  // over those of a shell's alias
   report.add_option("--range", options.range, "What to compare with the one before: week, month, year")
       ->type_name("RANGE")

@@ -2,6 +2,7 @@
 #include "cli/terminal/StandardOutput.h"
 
 #include <fcntl.h>
+#include <sys/ioctl.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -17,6 +18,13 @@ std::string lastFault() { return "standard output: " + std::generic_category().m
 
 std::optional<std::string> closedOutput() {
   return ::fcntl(STDOUT_FILENO, F_GETFD) < 0 ? std::optional{lastFault()} : std::nullopt;
+}
+
+std::optional<int> outputWidth() {
+  constexpr int usual = 80;  // of a terminal that does not say
+  if (::isatty(STDOUT_FILENO) != 1) return std::nullopt;
+  winsize size{};
+  return ::ioctl(STDOUT_FILENO, TIOCGWINSZ, &size) == 0 && size.ws_col > 0 ? size.ws_col : usual;
 }
 
 std::optional<std::string> writeOutput(std::string_view text) {

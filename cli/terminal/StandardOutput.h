@@ -11,6 +11,9 @@ namespace mivo::cli {
 /// the first one would take a closed output's place. Nothing where it is open.
 std::optional<std::string> closedOutput();
 
+/// The columns of the terminal that standard output is; nothing where it is a file or a pipe.
+std::optional<int> outputWidth();
+
 /// Writes everything to standard output, or says what became of it: "standard output: No space left on device".
 std::optional<std::string> writeOutput(std::string_view text);
 

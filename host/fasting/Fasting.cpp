@@ -25,6 +25,14 @@ const Record* withID(std::span<const Record> records, UUID id, Project idOf) {
   return found == records.end() ? nullptr : &*found;
 }
 
+const FastRecord* sameFast(std::span<const FastRecord> fasts, const FastRecord& fast) {
+  const auto same = std::ranges::find_if(fasts, [&](const FastRecord& one) {
+    const bool isSameTime = one.fast.start == fast.fast.start && one.fast.finished == fast.fast.finished;
+    return isSameTime && one.fast.goalSeconds == fast.fast.goalSeconds && one.note == fast.note;
+  });
+  return same == fasts.end() ? nullptr : &*same;
+}
+
 const BodyWeightSample* sameWeight(std::span<const BodyWeightSample> weights, const BodyWeightSample& sample,
                                    WeightUnit unit, const MassFormatter& masses) {
   const auto ofThatMinute = std::ranges::equal_range(
@@ -49,6 +57,7 @@ Outcome addingFast(std::span<const FastRecord> fasts, FastRecord fast, Date now)
   const FastRecord* running = runningFast(fasts);
   if (running && !fast.fast.finished) return refused(FastIsRunning{*running});
   if (const auto fault = recordFault(fast, now)) return refused(IsNoRecord{*fault});
+  if (const FastRecord* same = sameFast(fasts, fast)) return refused(FastIsSavedAlready{*same});
   return adding(std::move(fast));
 }
 

@@ -26,7 +26,8 @@ using Outcome = tl::expected<HistoryChange, Refusal>;
 const FastRecord* fastWithID(std::span<const FastRecord> fasts, UUID id);
 const BodyWeightSample* weightWithID(std::span<const BodyWeightSample> weights, UUID id);
 
-/// Starts a fast, or adds one that has ended.
+/// Starts a fast, or adds one that has ended, unless one stands there that is equal but for its id: whoever adds twice
+/// means one.
 Outcome addingFast(std::span<const FastRecord> fasts, FastRecord fast, Date now);
 
 /// Ends the fast that runs. One that begins after `now`, because the clock was set back, cannot be stopped.

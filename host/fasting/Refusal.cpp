@@ -12,6 +12,7 @@ struct Sentences {
   std::string operator()(const FastIsRunning&) const { return texts.text("A fast is running already."); }
   std::string operator()(const NoFastIsRunning&) const { return texts.text("No fast is running."); }
   std::string operator()(const IsGone&) const { return texts.text("Nothing was changed: the record is gone."); }
+  std::string operator()(const FastIsSavedAlready&) const { return texts.text("This fast is saved already."); }
   std::string operator()(const IsSavedAlready&) const { return texts.text("This weight is saved already."); }
   std::string operator()(const NothingToUndo&) const { return texts.text("There is nothing to undo."); }
   std::string operator()(const IsNoRecord& record) const { return faultText(record.fault, texts); }

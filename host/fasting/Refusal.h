@@ -26,6 +26,12 @@ struct IsGone {
   bool operator==(const IsGone&) const = default;
 };
 
+/// An equal fast stands there already.
+struct FastIsSavedAlready {
+  FastRecord saved;
+  bool operator==(const FastIsSavedAlready&) const = default;
+};
+
 /// The same weight stands there already.
 struct IsSavedAlready {
   BodyWeightSample saved;
@@ -45,7 +51,8 @@ struct IsNoRecord {
 };
 
 /// Why something is not done to a history, with what there is to say about it.
-using Refusal = std::variant<FastIsRunning, NoFastIsRunning, IsGone, IsSavedAlready, NothingToUndo, IsNoRecord>;
+using Refusal =
+    std::variant<FastIsRunning, NoFastIsRunning, IsGone, FastIsSavedAlready, IsSavedAlready, NothingToUndo, IsNoRecord>;
 
 /// One sentence in the user's language, the same wherever the user tried.
 std::string refusalText(const Refusal& refusal, const TextLookup& texts);

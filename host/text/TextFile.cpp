@@ -49,20 +49,8 @@ std::optional<std::string> utf8FromUtf16(std::string_view bytes, bool littleEndi
   return text;
 }
 
-}  // namespace
-
-tl::expected<std::string, BadRecord> decodedText(std::string bytes, const std::string& file) {
-  const std::string_view text = bytes;
-  if (text.starts_with("\xEF\xBB\xBF")) return bytes.erase(0, 3);
-  const bool isLittleEndian = text.starts_with("\xFF\xFE");
-  if (!isLittleEndian && !text.starts_with("\xFE\xFF")) return bytes;
-  auto converted = utf8FromUtf16(text.substr(2), isLittleEndian);
-  if (converted) return std::move(*converted);
-  return tl::unexpected{BadRecord{.file = file, .reason = "expected UTF-16 text, as its first two bytes announce"}};
-}
-
-tl::expected<std::string, BadRecord> readTextFile(const std::string& path, std::size_t largest) {
-  const adapters::FileDescriptor file{::open(path.c_str(), O_RDONLY | O_CLOEXEC)};
+tl::expected<std::string, BadRecord> readAll(const adapters::FileDescriptor& file, const std::string& path,
+                                             std::size_t largest) {
   if (!file) return unreadable(path);
   std::string bytes(firstRoom(file, largest), '\0');
   std::size_t filled = 0;
@@ -80,6 +68,30 @@ tl::expected<std::string, BadRecord> readTextFile(const std::string& path, std::
   }
   bytes.resize(filled);
   return decodedText(std::move(bytes), path);
+}
+
+}  // namespace
+
+tl::expected<std::string, BadRecord> decodedText(std::string bytes, const std::string& file) {
+  const std::string_view text = bytes;
+  if (text.starts_with("\xEF\xBB\xBF")) return bytes.erase(0, 3);
+  const bool isLittleEndian = text.starts_with("\xFF\xFE");
+  if (!isLittleEndian && !text.starts_with("\xFE\xFF")) return bytes;
+  auto converted = utf8FromUtf16(text.substr(2), isLittleEndian);
+  if (converted) return std::move(*converted);
+  return tl::unexpected{BadRecord{.file = file, .reason = "expected UTF-16 text, as its first two bytes announce"}};
+}
+
+tl::expected<std::string, BadRecord> readTextFile(const std::string& path, std::size_t largest) {
+  return readAll(adapters::FileDescriptor{::open(path.c_str(), O_RDONLY | O_CLOEXEC)}, path, largest);
+}
+
+std::string inputName(const std::string& path) { return path == "-" ? "standard input" : path; }
+
+tl::expected<std::string, BadRecord> readTextInput(const std::string& path) {
+  if (path != "-") return readTextFile(path);
+  return readAll(adapters::FileDescriptor{::fcntl(STDIN_FILENO, F_DUPFD_CLOEXEC, 0)}, inputName(path),
+                 largestFileInBytes);
 }
 
 }  // namespace mivo::host

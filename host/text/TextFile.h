@@ -16,6 +16,10 @@ inline constexpr std::size_t largestFileInBytes = std::size_t{1} << 28;
 /// Whether the rest is UTF-8 is checked by whoever reads the text, who can name the line.
 tl::expected<std::string, BadRecord> readTextFile(const std::string& path, std::size_t largest = largestFileInBytes);
 
+/// The same of a file, or of standard input where the path is "-"; and what a sentence calls it.
+tl::expected<std::string, BadRecord> readTextInput(const std::string& path);
+std::string inputName(const std::string& path);
+
 /// The same for bytes that are in memory already; `file` is the name for sentences.
 tl::expected<std::string, BadRecord> decodedText(std::string bytes, const std::string& file);
 

@@ -22,7 +22,7 @@ using std::chrono::steady_clock;
 /// is by then. Whether all of its answer was said before.
 bool isConfirmed(const std::string& database, int round, milliseconds time) {
   tally::test::ChildProcess command{
-      {MIVO_PROGRAM, "weight", "add", std::to_string(50 + round), "--database", database}};
+      {MIVO_PROGRAM, "weight", "add", std::to_string(50 + round) + "kg", "--database", database}};
   return command.killAfter(time).ends_with('\n');
 }
 

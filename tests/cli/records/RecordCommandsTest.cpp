@@ -12,11 +12,12 @@ using testing::EndsWith;
 using testing::HasSubstr;
 using testing::MatchesRegex;
 
-const std::string berlin = " --time-zone Europe/Berlin --locale en-US ";
+const std::string berlin = " --time-zone Europe/Berlin --locale en-US ",
+                  inKilograms = " --time-zone Europe/Berlin --locale en-DE ";
 
 /// Runs a command that is to succeed, and returns what it says without the line end and the id.
-std::string said(const Workplace& place, const std::string& arguments) {
-  const Ran ran = place.run(arguments + berlin);
+std::string said(const Workplace& place, const std::string& arguments, const std::string& where = berlin) {
+  const Ran ran = place.run(arguments + where);
   EXPECT_EQ(ran.status, 0) << arguments << ": " << ran.errors;
   EXPECT_EQ(ran.errors, "") << arguments;
   EXPECT_THAT(ran.output, EndsWith("\n")) << arguments;
@@ -75,7 +76,7 @@ TEST(RecordCommands, followTheSettingsOfTheApp) {
   std::filesystem::create_directories(place.file("mivo"));
   place.write("mivo/app.json", R"({"fastGoalSeconds": 72000, "weightUnit": "st"})");
   EXPECT_THAT(said(place, "start"), EndsWith("goal 20h"));
-  EXPECT_THAT(said(place, "weight add 81.4"), HasSubstr("12 st 11 lb"));
+  EXPECT_THAT(said(place, "weight add 81.4kg"), HasSubstr("12 st 11 lb"));
 }
 
 struct WeightRow {
@@ -88,7 +89,7 @@ class WeightCommands : public testing::TestWithParam<WeightRow> {};
 
 TEST_P(WeightCommands, keepKilograms) {
   const Workplace place;
-  const std::string added = said(place, "weight add " + GetParam().typed + " --at '2026-03-01 07:05'");
+  const std::string added = said(place, "weight add " + GetParam().typed + " --at '2026-03-01 07:05'", inKilograms);
   const auto weights = own(place).weights;
   ASSERT_EQ(weights.size(), 1u);
   EXPECT_DOUBLE_EQ(weights[0].weightInKg, GetParam().weightInKg);
@@ -107,13 +108,32 @@ INSTANTIATE_TEST_SUITE_P(Rows, WeightCommands,
                                          WeightRow{"poundsAlone", "'12 st 11'", 179 * 0.45359237}),
                          [](const auto& row) { return std::string{row.param.name}; });
 
+TEST(RecordCommands, keepAFastOnce) {
+  const Workplace place;
+  const std::string command = "add '2026-02-27 20:00' '2026-02-28 12:00' --note tea", added = said(place, command);
+  EXPECT_EQ(said(place, command), "Saved already: " + added.substr(added.find(' ') + 1));
+  EXPECT_EQ(own(place).fasts.size(), 1u);
+}
+
+TEST(RecordCommands, askForTheUnitWhereItIsNotPlain) {
+  const Workplace place;
+  const Ran ran = place.run("weight add 65 --locale en-US");
+  EXPECT_EQ(ran.errors, "mivo: WEIGHT: 65 kg or 65 lb? Type its unit too\n");
+  EXPECT_EQ(ran.status, 2);
+  EXPECT_EQ(place.run("weight add 65,5 --locale en-GB").errors,
+            "mivo: WEIGHT: 65,5 kg or 65,5 st? Type its unit too\n");
+  EXPECT_FALSE(std::filesystem::exists(place.file("mivo")));
+  EXPECT_EQ(place.run("weight add 65 --locale de-DE").status, 0);
+  EXPECT_EQ(place.run("weight add 143lb --locale en-US").status, 0);
+}
+
 TEST(RecordCommands, keepAWeightOnce) {
   const Workplace place;
-  const std::string added = said(place, "weight add 81.4 --at '2026-03-01 07:05'");
-  EXPECT_THAT(said(place, "weight add 81.42 --at '2026-03-01 07:05'"),
+  const std::string added = said(place, "weight add 81.4kg --at '2026-03-01 07:05'");
+  EXPECT_THAT(said(place, "weight add 81.42kg --at '2026-03-01 07:05'"),
               testing::StartsWith("Saved already: " + idIn(added)));
   EXPECT_EQ(own(place).weights.size(), 1u);
-  said(place, "weight add 81.4 --at '2026-03-01 07:06'");
+  said(place, "weight add 81.4kg --at '2026-03-01 07:06'");
   EXPECT_EQ(own(place).weights.size(), 2u);
 }
 

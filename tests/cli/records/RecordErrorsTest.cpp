@@ -58,7 +58,7 @@ INSTANTIATE_TEST_SUITE_P(
                      "; the fast is running since 2026-02-28 20:00\\)"},
         ErrorRow{"startInFuture", "add 2526-02-28T19:00Z 2526-02-28T20:00Z",
                  "The start is in the future. Is the clock right\\? \\(it is " + now + "\\)"},
-        ErrorRow{"weightInFuture", "weight add 81 --at 2526-02-28T19:00Z",
+        ErrorRow{"weightInFuture", "weight add 81kg --at 2526-02-28T19:00Z",
                  "The date is in the future. Is the clock right\\? \\(it is " + now + "\\)"},
         ErrorRow{"endBeforeStart", "add 2026-02-02T00:00Z 2026-02-01T00:00Z", "The end is before the start."},
         ErrorRow{"editedEndBeforeStart", "edit 11 --end 2026-02-27T19:00Z", "The end is before the start."},

@@ -34,7 +34,7 @@ TEST(RecordList, standsInColumns) {
   EXPECT_EQ(list("list --locale en-DE --time-zone Europe/Berlin", records).output,
             "ID                Start                End    Length  Goal  Note\n"
             "1a00  27/02/2026, 21:00  28/02/2026, 13:00    16h 0m   16h  ! no breakfast\n"
-            "1b00  28/02/2026, 12:00  04/03/2026, 21:45  105h 45m   18h  ! two…\n"
+            "1b00  28/02/2026, 12:00  04/03/2026, 21:45  105h 45m   18h  ! two lines\n"
             "\n! overlaps another fast\n");
   EXPECT_EQ(list("weight list --locale en-DE --time-zone Europe/Berlin").output,
             "ID                 Date    Weight\n"
@@ -42,17 +42,49 @@ TEST(RecordList, standsInColumns) {
             "2b00  28/02/2026, 21:00  101,3 kg\n");
 }
 
-TEST(RecordList, fits80ColumnsInEveryLanguage) {
-  for (const char* locale : {"en-US", "de-DE", "es-ES", "fr-CA", "ja-JP", "he-IL", "ar-EG", "hi-IN-u-nu-deva"})
-    for (const char* what : {"list", "weight list"}) {
-      const Ran ran = list(std::string{what} + " --locale " + locale);
-      ASSERT_EQ(ran.status, 0) << ran.errors;
-      std::istringstream lines{ran.output};
-      for (std::string line; std::getline(lines, line);) {
-        EXPECT_LE(columns(line), 80) << locale << ": " << line;
-        EXPECT_FALSE(line.ends_with(' ')) << locale << ": " << line;
+const std::string longNote = "no breakfast, a long walk, and soup";
+
+Ran listOnTerminal(const std::string& arguments, int width) {
+  auto records = someRecords();
+  records.addedFasts[0].note = longNote;
+  const Workplace place;
+  host::Database{place.file("d")}.apply(records);
+  return place.runOnTerminal(arguments + " --time-zone Europe/Berlin --database d", width);
+}
+
+TEST(RecordList, fitsTheTerminalInEveryLanguage) {
+  for (const int width : {40, 80, 200})
+    for (const char* locale : {"en-US", "de-DE", "es-ES", "fr-CA", "ja-JP", "he-IL", "ar-EG", "hi-IN-u-nu-deva"})
+      for (const char* what : {"list", "weight list"}) {
+        const Ran ran = listOnTerminal(std::string{what} + " --locale " + locale, width);
+        ASSERT_EQ(ran.status, 0) << ran.errors;
+        std::istringstream lines{ran.output};
+        for (std::string line; std::getline(lines, line);) {
+          EXPECT_LE(columns(line), width) << locale << ": " << line;
+          EXPECT_FALSE(line.ends_with(' ')) << locale << ": " << line;
+        }
       }
-    }
+}
+
+TEST(RecordList, cutsNotesOnATerminalAlone) {
+  auto records = someRecords();
+  records.addedFasts[0].note = longNote;
+  EXPECT_NE(list("list", records).output.find(longNote), std::string::npos);
+  EXPECT_NE(listOnTerminal("list", 200).output.find(longNote), std::string::npos);
+  const std::string cut = listOnTerminal("list", 80).output;
+  EXPECT_EQ(cut.find(longNote), std::string::npos);
+  EXPECT_NE(cut.find("…\n"), std::string::npos);
+}
+
+TEST(RecordList, hasABlockAFastOnANarrowTerminal) {
+  const std::string shown = listOnTerminal("list --locale en-DE", 40).output;
+  EXPECT_EQ(shown.substr(0, shown.find("1b00")),
+            "1a00\n"
+            "  Start   27/02/2026, 21:00\n"
+            "  End     28/02/2026, 13:00\n"
+            "  Length  16h 0m\n"
+            "  Goal    16h\n"
+            "  Note    ! no breakfast, a long walk,…\n");
 }
 
 TEST(RecordList, isASnapshotOfItsOwnListInJson) {

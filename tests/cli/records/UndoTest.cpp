@@ -36,7 +36,7 @@ TEST_F(Undo, takesBackEveryChangeAndDoesItAgain) {
   const auto before = history();
   const std::string id = added.substr(0, 4);
   for (const std::string& change : {"edit " + id + " --note tea", std::string{"stop --at '2026-03-01 12:00'"},
-                                    "remove " + id, std::string{"weight add 81.4"}}) {
+                                    "remove " + id, std::string{"weight add 81.4kg"}}) {
     said(change);
     const auto after = history();
     ASSERT_NE(after, before) << change;

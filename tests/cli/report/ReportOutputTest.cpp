@@ -34,6 +34,19 @@ TEST(ReportOutput, isTheSameEveryTime) {
   EXPECT_EQ(place.run(arguments).output, place.run(arguments).output);
 }
 
+TEST(ReportOutput, isTheSameOfStandardInput) {
+  const Workplace place;
+  const std::string settings = "--format json" + fixedRun;
+  EXPECT_EQ(place.run("report --input - " + settings, "<" + sample("three-weeks") + " >output").output,
+            place.run(report + "--format json").output);
+  place.write("f.csv", "start,end\n2026-02-01T20:00Z,2026-02-02T12:00Z\n");
+  EXPECT_EQ(place.run("report --fasts - " + settings, "<f.csv >output").output,
+            place.run("report --fasts f.csv " + settings).output);
+  place.write("f.csv", "start,end\nsoon,later\n");
+  EXPECT_THAT(place.run("report --fasts - ", "<f.csv >output").errors,
+              testing::StartsWith("mivo: standard input:2: start: expected a date and time"));
+}
+
 TEST(ReportOutput, helpAndVersionAreAnswers) {
   const Workplace place;
   const Ran help = place.run("report --help");

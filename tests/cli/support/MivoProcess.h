@@ -29,7 +29,12 @@ class Workplace {
   Ran run(const std::string& arguments, const std::string& redirection = ">output",
           const std::string& environment = "") const;
 
+  /// The same on a terminal of so many columns; what the terminal shows is its output.
+  Ran runOnTerminal(const std::string& arguments, int columns) const;
+
  private:
+  std::string commandLine(const std::string& arguments, const std::string& environment) const;
+
   std::filesystem::path folder;
 };
 

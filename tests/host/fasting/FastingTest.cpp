@@ -54,6 +54,10 @@ INSTANTIATE_TEST_SUITE_P(
                             fault(RecordFault::startInFuture)},
                     FastRow{"endedWhileOneRuns", [] { return addingFast(withRunning, ended(9, -2, -1), now); },
                             adding(ended(9, -2, -1))},
+                    FastRow{"again", [] { return addingFast(past, ended(9, -40, -24, "first"), now); },
+                            refused(FastIsSavedAlready{past[0]})},
+                    FastRow{"againWithANote", [] { return addingFast(past, ended(9, -40, -24, "other"), now); },
+                            adding(ended(9, -40, -24, "other"))},
                     FastRow{"endedInTheFuture", [] { return addingFast(past, ended(9, -2, 1), now); },
                             fault(RecordFault::endInFuture)}),
     [](const auto& row) { return std::string{row.param.name}; });
@@ -151,6 +155,7 @@ TEST(Refusals, areASentenceEach) {
   EXPECT_EQ(refusalText(FastIsRunning{running(3, -3)}, texts), "A fast is running already.");
   EXPECT_EQ(refusalText(NoFastIsRunning{}, texts), "No fast is running.");
   EXPECT_EQ(refusalText(IsGone{}, texts), "Nothing was changed: the record is gone.");
+  EXPECT_EQ(refusalText(FastIsSavedAlready{past[0]}, texts), "This fast is saved already.");
   EXPECT_EQ(refusalText(IsSavedAlready{weights[0]}, texts), "This weight is saved already.");
   EXPECT_EQ(refusalText(NothingToUndo{}, texts), "There is nothing to undo.");
   EXPECT_EQ(refusalText(IsNoRecord{RecordFault::endBeforeStart}, texts), "The end is before the start.");
