@@ -64,7 +64,8 @@ Effect<Action> RoadmapListFeature::reduce(State& state, const Action& action) co
   if (const auto* tapped = std::get_if<Action::didTapStatus>(&action)) state.status = tapped->status;
   if (const auto* received = std::get_if<Action::didReceiveCount>(&action))
     changeRow(state, received->count.id, [received](RoadmapRow& row) {
-      if (!row.isSending && !row.hasOwnAnswer) row.count = received->count.count;
+      const bool isKnown = received->count.count != 0;  // it is 0 where nobody answered, too
+      if (isKnown && !row.isSending && !row.hasOwnAnswer) row.count = received->count.count;
     });
   if (const auto* failed = std::get_if<Action::didFailToLoad>(&action)) {
     state.phase = RoadmapPhase::failed;

@@ -33,7 +33,9 @@ struct OneAnswer : URLSession {
 
 /// Counts in memory.
 struct MemoryVoter : FeatureVoter {
-  std::int64_t fetch(const RoadmapFeature& feature, std::stop_token) const override { return counts[feature.id]; }
+  std::int64_t fetch(const RoadmapFeature& feature, std::stop_token) const override {
+    return isGone ? 0 : counts[feature.id];
+  }
   std::optional<std::int64_t> vote(const RoadmapFeature& feature) const override { return add(1, feature); }
   std::optional<std::int64_t> unvote(const RoadmapFeature& feature) const override { return add(-1, feature); }
 
@@ -44,7 +46,7 @@ struct MemoryVoter : FeatureVoter {
   }
 
   Client<UserDefaults> defaults;
-  bool isAway = false;
+  bool isAway = false, isGone = false;  // for votes; for all
   mutable std::map<std::string, std::int64_t> counts{{"1", 10}, {"2", 20}, {"3", 30}};
   mutable bool rememberedWhenAsked = false;
 };
@@ -216,6 +218,28 @@ TEST_F(RoadmapList, takesBackAVoteThatDidNotGetThroughAndSaysSo) {
                   row.isSending = false;
                   row.hasOwnAnswer = true;
                 }));
+}
+
+TEST_F(RoadmapList, keepsTheCountsThatItKnowsOfAServerThatIsGone) {
+  State state = loadedState();
+  changeOf(2, [](RoadmapRow& row) { row.isVoted = true; })(state);
+  feature().votes.setVoted("2", true);
+  tests::TestStore store{world, state, feature()};
+  voter->isAway = voter->isGone = true;
+  store.send(Action::didTapVote{"2"}, changeOf(2, [](RoadmapRow& row) {
+               row.isVoted = false;
+               row.isSending = true;
+               row.count = 19;
+             }));
+  store.receive(Action::didReceiveVoteAnswer{{"2", std::nullopt}}, [](State& after) {
+    changeOf(2, [](RoadmapRow& row) {
+      row.isVoted = true;
+      row.isSending = false;
+      row.count = 20;
+    })(after);
+    after.unsentVote = std::string{"2"};
+  });
+  store.receive(Action::didReceiveCount{{"2", 0}}, [](State&) {});
 }
 
 TEST_F(RoadmapList, knowsItsVotesInTheNextRun) {
