@@ -2,7 +2,9 @@
 #include "host/fasting/FastDraft.h"
 
 #include <algorithm>
+#include <functional>
 #include <utility>
+#include <vector>
 
 #include "host/fasting/OverlappingFasts.h"
 
@@ -15,15 +17,35 @@ FastDraft changed(FastDraft draft, Date start, Date end, std::int64_t goalSecond
   return draft;
 }
 
+struct Gap {
+  Date from, to;
+};
+
+// The latest one of a minute at least that ends with a whole minute at or before a date, between the fasts that have
+// ended.
+Gap latestGap(std::span<const FastRecord> fasts, Date latest) {
+  constexpr Duration shortest{60};
+  std::vector<FinishedFastingDataEntry> ended;
+  for (const FastRecord& record : fasts)
+    if (record.fast.finished) ended.push_back(*record.fast.finished);
+  std::ranges::sort(ended, std::greater{}, &FinishedFastingDataEntry::end);
+  Date to = startOfMinute(latest);
+  for (const FinishedFastingDataEntry& fast : ended) {
+    if (fast.start >= to) continue;
+    if (fast.end + shortest <= to) return {fast.end, to};
+    to = startOfMinute(fast.start);
+  }
+  return {firstDate, to};
+}
+
 }  // namespace
 
 FastDraft draftOf(const FastRecord& record) { return {.record = record, .before = record, .failure = {}}; }
 
 FastDraft newDraft(std::span<const FastRecord> fasts, UUID id, std::int64_t goalSeconds, Date now) {
   const FastRecord* running = runningFast(fasts);
-  const Date latest = running ? std::min(now, running->fast.start) : now;
-  const Date end = startOfMinute(latest);
-  const Date start = end - Duration{static_cast<double>(goalSeconds)};
+  const auto [from, end] = latestGap(fasts, running ? std::min(now, running->fast.start) : now);
+  const Date start = std::max(from, end - Duration{static_cast<double>(goalSeconds)});
   return {.record = {finishedFast(id, start, end, goalSeconds), {}}, .before = {}, .failure = {}};
 }
 

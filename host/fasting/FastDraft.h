@@ -22,7 +22,9 @@ struct FastDraft {
 /// Of a fast that has ended.
 FastDraft draftOf(const FastRecord& record);
 
-/// Of a new one that reaches its goal just now, or as the running fast begins; it ends with a whole minute.
+/// Of a new one that overlaps none: it ends now, or where the running fast began, with a whole minute, and is as long
+/// as its goal, but begins no earlier than the last fast ended. Where that leaves less than a minute it ends before
+/// that fast instead. O(n log n).
 FastDraft newDraft(std::span<const FastRecord> fasts, UUID id, std::int64_t goalSeconds, Date now);
 
 /// The same with another time, as `keepingSeconds` takes it, or goal; what was said about the last attempt is

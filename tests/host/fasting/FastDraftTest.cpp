@@ -21,25 +21,34 @@ FastRecord running(std::uint64_t id, double start) { return {ongoingFast({1, id}
 struct NewDraftRow {
   const char* name;
   std::vector<FastRecord> fasts;
-  double end;  // hours from noon
+  double start, end;  // hours from noon
 };
 void PrintTo(const NewDraftRow& row, std::ostream* out) { *out << row.name; }
 class NewDraft : public testing::TestWithParam<NewDraftRow> {};
 
-TEST_P(NewDraft, reachesItsGoalWithAWholeMinute) {
-  const FastDraft draft = newDraft(GetParam().fasts, {1, 9}, 36000, now);
-  const Date end = at(GetParam().end);
-  EXPECT_EQ(draft.record, (FastRecord{finishedFast({1, 9}, end - Duration{36000}, end, 36000), ""}));
+TEST_P(NewDraft, overlapsNoFastAndEndsWithAWholeMinute) {
+  const auto& [name, fasts, start, end] = GetParam();
+  const FastDraft draft = newDraft(fasts, {1, 9}, 36000, now);
+  EXPECT_EQ(draft.record, (FastRecord{finishedFast({1, 9}, at(start), at(end), 36000), ""}));
   EXPECT_EQ(draft.before, std::nullopt);
   EXPECT_EQ(faultOf(draft, now), std::nullopt);
+  EXPECT_EQ(overlapOf(draft, fasts, now), nullptr);
 }
 
-INSTANTIATE_TEST_SUITE_P(Rows, NewDraft,
-                         testing::Values(NewDraftRow{"first", {}, 0},
-                                         NewDraftRow{"afterOthers", {ended(1, -40, -24)}, 0},
-                                         NewDraftRow{"beforeTheRunningOne", {running(2, -3)}, -3},
-                                         NewDraftRow{"oneFromTheFuture", {running(2, 3)}, 0}),
-                         [](const auto& row) { return std::string{row.param.name}; });
+constexpr double second = 1.0 / 3600;
+
+INSTANTIATE_TEST_SUITE_P(
+    Rows, NewDraft,
+    testing::Values(NewDraftRow{"first", {}, -10, 0}, NewDraftRow{"longAfterOthers", {ended(1, -40, -24)}, -10, 0},
+                    NewDraftRow{"soonAfterTheLast", {ended(1, -20, -4)}, -4, 0},
+                    NewDraftRow{"beforeTheRunningOne", {running(2, -3)}, -13, -3},
+                    NewDraftRow{"betweenTheLastAndTheRunningOne", {ended(1, -20, -7), running(2, -3)}, -7, -3},
+                    NewDraftRow{"beforeALastThatEndedJustNow", {ended(1, -16, 3 * second)}, -26, -16},
+                    NewDraftRow{"whereNoRoomIsLeft", {ended(1, -40, -20), ended(2, -16, -3), running(3, -3)}, -20, -16},
+                    NewDraftRow{"roundALongOne", {ended(1, -40, -2), ended(2, -20, -10)}, -2, 0},
+                    NewDraftRow{"beforeALongOneUnderTheRunning", {ended(1, -30, -1), running(2, -3)}, -40, -30},
+                    NewDraftRow{"oneFromTheFuture", {running(2, 3)}, -10, 0}),
+    [](const auto& row) { return std::string{row.param.name}; });
 
 TEST(FastDraft, keepsTheSecondsOfAMinuteThatIsChosenAgain) {
   FastRecord record = ended(1, -20, -4);
