@@ -63,11 +63,12 @@ class SettingsModel : public QObject {
   Q_PROPERTY(bool languageWaits READ languageWaits NOTIFY changed)
   Q_PROPERTY(QString version READ version CONSTANT)
   Q_PROPERTY(QString databaseFile READ databaseFile CONSTANT)
+  Q_PROPERTY(QString exportCommand READ exportCommand CONSTANT)
   Q_PROPERTY(QList<mivo::app::UsedLibrary> libraries READ libraries CONSTANT)
 
  public:
   struct About {
-    std::string version, databaseFile;
+    std::string version, databaseFile, exportCommand;
   };
 
   /// `send` takes the action that a setting was changed.
@@ -102,6 +103,7 @@ class SettingsModel : public QObject {
   bool languageWaits() const { return language() != languageAtStart; }
   QString version() const { return QString::fromStdString(about.version); }
   QString databaseFile() const { return QString::fromStdString(about.databaseFile); }
+  QString exportCommand() const { return QString::fromStdString(about.exportCommand); }
   QList<UsedLibrary> libraries() const;
 
   /// "24h", "115%" in the user's language.

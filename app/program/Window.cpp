@@ -9,6 +9,7 @@
 #include <QtQuick/QQuickWindow>
 
 #include "app/program/SystemZone.h"
+#include "host/database/Database.h"
 
 Q_IMPORT_QML_PLUGIN(MivoPlugin)
 
@@ -62,7 +63,7 @@ AppWindow::AppWindow(const Environment& environment, const Options& options, QSi
            .usualWeightUnit = environment.usualWeightUnit,
            .feedbackAddress = options.feedback,
            .calendar = environment.calendar,
-           .about = {MIVO_VERSION, environment.databaseFile.string()},
+           .about = {MIVO_VERSION, environment.databaseFile.string(), host::exportCommand(environment.databaseFile)},
            .followZone = following(environment.systemZone)}},
       settingsFaults{environment.settingsFaults.subscribe([this](const std::string& fault) { app.say(fault); })} {
   look.setOverride({.mode = modeOf(options),

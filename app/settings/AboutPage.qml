@@ -27,6 +27,11 @@ PushedPage {
             title: Texts.text("Database")
             value: App.settings.databaseFile
         }
+
+        FactRow {
+            title: Texts.text("Copy of everything")
+            value: App.settings.exportCommand
+        }
     }
 
     ListGroup {

@@ -6,6 +6,7 @@
 #include <SQLiteCpp/Statement.h>
 #include <SQLiteCpp/Transaction.h>
 #include <sqlite3.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <array>
@@ -246,6 +247,17 @@ void demandAFolderForANewFile(const fs::path& file) {
     throw DatabaseError{Kind::readOnly, folder, sentence(Kind::readOnly, "")};
 }
 
+// Its owner's alone: SQLite gives the files beside a database the permissions that it has. Nothing is opened for it,
+// because to close a file ends the locks that this program has on it elsewhere.
+void keepPrivate(const fs::path& file) {
+  ::mknod(file.c_str(), S_IFREG | S_IRUSR | S_IWUSR, 0);  // fails where it is there
+  for (const char* part : {"", "-wal", "-shm"}) {
+    std::error_code notOurs;
+    fs::permissions(file.string() + part, fs::perms::group_all | fs::perms::others_all, fs::perm_options::remove,
+                    notOurs);
+  }
+}
+
 // A database that nobody has open can be read without a file beside it only where it is called immutable.
 std::string immutableAddress(const fs::path& file) {
   std::string address = "file:";
@@ -290,6 +302,7 @@ Database::Database(const fs::path& file, Access access) {
   if (access == Access::readAndWrite) {
     makeFolder(file);
     demandAFolderForANewFile(file);
+    keepPrivate(file);
   }
   translating(file, [&] {
     connection = std::make_unique<Connection>(file, access);
@@ -356,6 +369,11 @@ OpenedDatabase openOrSetAside(const fs::path& file) {
       throw DatabaseError{Kind::unavailable, file, "it is damaged and cannot be moved aside: " + error.message()};
   }
   return {Database{file}, aside};
+}
+
+std::string exportCommand(const fs::path& database) {
+  const std::string command = "mivo export --to copy.json";
+  return database == ownDatabaseFile() ? command : command + " --database '" + database.string() + '\'';
 }
 
 fs::path ownDatabaseFile() { return adapters::dataDirectory() / "mivo.sqlite"; }

@@ -45,8 +45,9 @@ class Database {
  public:
   enum class Access { readAndWrite, readOnly };
 
-  /// Opens the database, makes it and its folder where they are missing, and brings an older one up to date; one that
-  /// is only to be read must be there, and is left as it is. Throws DatabaseError.
+  /// Opens the database, makes it and its folder where they are missing, brings an older one up to date, and lets
+  /// nobody but its owner read it; one that is only to be read must be there, and is left as it is. Throws
+  /// DatabaseError.
   explicit Database(const std::filesystem::path& file, Access access = Access::readAndWrite);
   ~Database();
   Database(Database&&) noexcept;
@@ -82,6 +83,9 @@ struct OpenedDatabase {
   std::optional<std::filesystem::path> setAside = {};
 };
 OpenedDatabase openOrSetAside(const std::filesystem::path& file);
+
+/// What writes all of a database into a file, typed into a terminal: "mivo export --to copy.json".
+std::string exportCommand(const std::filesystem::path& database);
 
 /// Where the app and the command line keep a user's database: "mivo/mivo.sqlite" in the user's data folder.
 std::filesystem::path ownDatabaseFile();

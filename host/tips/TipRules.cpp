@@ -34,7 +34,9 @@ constexpr std::array tips{
             translatable("Vote on upcoming features. No account is needed."), 15, 2,
             [](const TipFacts& facts) { return facts.finishedFasts >= 14 && !facts.hasVoted; }},
     TipRule{"keepACopy", translatable("Keep a copy"),
-            translatable("Your data is on this device only. Back up the database that Settings -> About Mivo names."),
+            translatable(
+                "Your data is on this device only. Settings -> About Mivo names the command that writes a copy of all "
+                "of it."),
             10, 3, [](const TipFacts& facts) { return facts.finishedFasts >= 30; }},
 };
 

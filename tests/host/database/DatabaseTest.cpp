@@ -194,6 +194,27 @@ TEST_F(DatabaseTest, isMadeOnceByManyAtATime) {
   EXPECT_EQ(open().history().fasts.size(), 40u);
 }
 
+TEST_F(DatabaseTest, isItsOwnersAlone) {
+  namespace fs = std::filesystem;
+  const auto permissions = [this](const char* part) { return fs::status(file.string() + part).permissions(); };
+  constexpr auto owners = fs::perms::owner_read | fs::perms::owner_write;
+  Database database = open();
+  database.apply(adding({fast(1, 0, 16)}));
+  for (const char* part : {"", "-wal", "-shm"}) {
+    EXPECT_EQ(permissions(part), owners) << part;
+    fs::permissions(file.string() + part, fs::perms::group_read | fs::perms::others_read, fs::perm_options::add);
+  }
+  Database{file, Database::Access::readOnly}.history();
+  EXPECT_NE(permissions(""), owners) << "changed by a reader";
+  open();
+  for (const char* part : {"", "-wal", "-shm"}) EXPECT_EQ(permissions(part), owners) << part;
+}
+
+TEST_F(DatabaseTest, namesTheCommandThatCopiesIt) {
+  EXPECT_EQ(exportCommand(ownDatabaseFile()), "mivo export --to copy.json");
+  EXPECT_EQ(exportCommand("/my data/d"), "mivo export --to copy.json --database '/my data/d'");
+}
+
 TEST_F(DatabaseTest, movesADamagedFileAsideAndSaysWhere) {
   std::filesystem::create_directories(file.parent_path());
   std::ofstream{file} << "This is not a database, it is a letter of at least one hundred bytes to whom it may concern: "
