@@ -10,6 +10,7 @@
 #include "cli/records/RecordRun.h"
 #include "cli/records/RecordTables.h"
 #include "cli/usage/Usage.h"
+#include "host/app/AppFeature.h"
 #include "host/app/Settings.h"
 #include "host/fasting/Fasting.h"
 #include "host/fasting/OverlappingFasts.h"
@@ -55,6 +56,10 @@ std::string stop(const RecordRun& run) {
   const Date end = run.dateOrNow("--at", run.options.at);
   HistoryFile file = run.open();
   const auto change = run.change(host::stopping(file.history().fasts, end, run.now));
+  if (change.addedFasts.empty()) {
+    file.apply(change);
+    return doneText(host::AppFeature::Step::stopAtOnce, *run.texts) + " (mivo undo lets it run on)\n";
+  }
   return done(run, file, change, translatable("Stopped {1}"), change.addedFasts.front());
 }
 

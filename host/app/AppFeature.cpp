@@ -23,11 +23,8 @@ void take(State& state, std::vector<FastRecord> fasts, std::vector<BodyWeightSam
   state.weights = List<BodyWeightSample>{std::move(weights)};
 }
 
-// What takes records away is worth an offer, and so are the stop, since no edit makes a fast run on, and a weight,
-// which is not seen where it was typed in; the rest can be edited where it stands.
-bool offersUndo(Step step) {
-  return step != Step::start && step != Step::edit && step != Step::add && step != Step::undo;
-}
+// A start is taken back by the button that it was begun with.
+bool offersUndo(Step step) { return step != Step::start && step != Step::undo; }
 
 bool isOf(const std::optional<FastDraft>& draft, const HistoryChange& change) {
   return draft && draft->isSaving && change.addedFasts == std::vector{draft->record};
@@ -117,7 +114,9 @@ auto AppFeature::on(State& state, const Action::didTapStart& tapped) const -> Ef
 }
 
 auto AppFeature::on(State& state, const Action::didTapStop& tapped) const -> Effect<Action> {
-  return writeOrSay(state, Step::stop, stopping(*state.fasts, tapped.end, date->now()));
+  auto outcome = stopping(*state.fasts, tapped.end, date->now());
+  const bool isKept = !outcome || !outcome->addedFasts.empty();
+  return writeOrSay(state, isKept ? Step::stop : Step::stopAtOnce, std::move(outcome));
 }
 
 auto AppFeature::on(State& state, const Action::didChangeStart& changed) const -> Effect<Action> {
@@ -311,6 +310,12 @@ std::string doneText(Step step, const TextLookup& texts) {
   switch (step) {
     case Step::stop:
       return texts.text("Fast ended");
+    case Step::stopAtOnce:
+      return texts.text("Not kept: shorter than a minute");
+    case Step::edit:
+      return texts.text("Fast changed");
+    case Step::add:
+      return texts.text("Fast added");
     case Step::remove:
       return texts.text("Fast deleted");
     case Step::addWeight:

@@ -21,7 +21,19 @@ namespace mivo::host {
 /// is) changes nothing and is said in `failure`, or where it was tried: in the draft, in the card.
 struct AppFeature {
   /// What the user did, for the texts of undo and failure.
-  enum class Step { start, stop, edit, add, remove, addWeight, editWeight, removeWeight, repairOverlaps, undo };
+  enum class Step {
+    start,
+    stop,
+    stopAtOnce,
+    edit,
+    add,
+    remove,
+    addWeight,
+    editWeight,
+    removeWeight,
+    repairOverlaps,
+    undo
+  };
 
   struct UndoOffer {
     Step step;

@@ -9,6 +9,8 @@
 namespace mivo::host {
 namespace {
 
+constexpr double secondsPerMinute = 60;
+
 tl::unexpected<Refusal> refused(Refusal why) { return tl::unexpected{std::move(why)}; }
 
 // Of a record that is as it was nothing is to be written.
@@ -17,6 +19,11 @@ Outcome replacedBy(const Record& before, const Record& after, Date now) {
   if (before == after) return HistoryChange{};
   if (const auto fault = recordFault(after, std::optional{before}, now)) return refused(IsNoRecord{*fault});
   return replacing(before, after);
+}
+
+bool isMistake(const FinishedFastingDataEntry& fast) {
+  const auto isChosen = [](Date date) { return startOfMinute(date) == date; };
+  return fast.duration() < secondsPerMinute && !isChosen(fast.start) && !isChosen(fast.end);
 }
 
 template <class Record, class Project>
@@ -66,7 +73,7 @@ Outcome stopping(std::span<const FastRecord> fasts, Date end, Date now) {
   if (!running) return refused(NoFastIsRunning{});
   FastRecord ended = stopped(*running, end);
   if (const auto fault = recordFault(ended, now)) return refused(IsNoRecord{*fault, *running});
-  return replacing(*running, std::move(ended));
+  return isMistake(*ended.fast.finished) ? removing(*running) : replacing(*running, std::move(ended));
 }
 
 Outcome changingFast(std::span<const FastRecord> fasts, FastRecord after, Date now) {
@@ -96,7 +103,6 @@ Outcome changingGoal(std::span<const FastRecord> fasts, std::int64_t goalSeconds
 }
 
 Date startOfMinute(Date date) {
-  constexpr double secondsPerMinute = 60;
   return dateSince1970(std::floor(secondsSince1970(date) / secondsPerMinute) * secondsPerMinute);
 }
 

@@ -30,7 +30,9 @@ const BodyWeightSample* weightWithID(std::span<const BodyWeightSample> weights, 
 /// means one.
 Outcome addingFast(std::span<const FastRecord> fasts, FastRecord fast, Date now);
 
-/// Ends the fast that runs. One that begins after `now`, because the clock was set back, cannot be stopped.
+/// Ends the fast that runs. One that begins after `now`, because the clock was set back, cannot be stopped. One that
+/// was begun and ended on the spot within a minute was a mistake: it is removed. Whoever chooses a time chooses a whole
+/// minute, so where the start or the end is one, the fast is meant and stays.
 Outcome stopping(std::span<const FastRecord> fasts, Date end, Date now);
 
 /// Makes `after` of the fast with its id. A fault that the fast had before is left in peace.

@@ -13,6 +13,7 @@
 #include <sstream>
 
 #include "host/database/Database.h"
+#include "host/fasting/Fasting.h"
 #include "tests/app/ShownApp.h"
 #include "tests/support/TemporaryFolder.h"
 #include "tests/tally_support/ChildProcess.h"
@@ -33,8 +34,8 @@ void clickOnce(ShownApp& app, const QString& text) {
   QTest::mouseClick(&app.window(), Qt::LeftButton, Qt::NoModifier, button->mapToScene(middle).toPoint());
 }
 
-// Starts and stops fasts until it is killed, and says which, once the screen has said so: "started" and when, "stopped"
-// and how many have ended.
+// Starts and stops fasts until it is killed, and says which, once the screen has said so. Each is moved an hour back,
+// or nothing would be kept of one that is stopped at once.
 [[noreturn]] void recordUntilKilled(const std::string& database) {
   Options options = ShownApp::optionsFor("");
   options.database = database;
@@ -46,8 +47,11 @@ void clickOnce(ShownApp& app, const QString& text) {
   for (;;) {
     clickOnce(app, QStringLiteral("Start fast"));
     if (!eventually([&] { return app.button(QStringLiteral("Stop fast")) != nullptr; })) std::abort();
-    std::cout << "started " << text(app.state().runningFast()->fast.id) << std::endl;
     const UUID id = app.state().runningFast()->fast.id;
+    const Date start = host::startOfMinute(app.state().runningFast()->fast.start - Duration{secondsPerHour});
+    app.model().fasting()->changeStart(secondsSince1970(start));
+    if (!eventually([&] { return app.state().runningFast()->fast.start == start; })) std::abort();
+    std::cout << "started " << text(id) << std::endl;
     clickOnce(app, QStringLiteral("Stop fast"));
     if (!eventually([&] { return app.button(QStringLiteral("Start fast")) != nullptr; })) std::abort();
     std::cout << "stopped " << text(id) << std::endl;

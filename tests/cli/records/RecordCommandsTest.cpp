@@ -58,10 +58,21 @@ TEST(RecordCommands, keepAFastFromItsStartToItsRemoval) {
   EXPECT_TRUE(own(place).fasts.empty());
 }
 
-TEST(RecordCommands, startAndStopNow) {
+TEST(RecordCommands, keepNothingOfAStartThatWasAMistake) {
   const Workplace place;
   said(place, "start");
+  const auto begun = own(place).fasts;
+  EXPECT_EQ(said(place, "stop"), "Not kept: shorter than a minute (mivo undo lets it run on)");
+  EXPECT_TRUE(own(place).fasts.empty());
+  said(place, "undo");
+  EXPECT_EQ(own(place).fasts, begun);
+}
+
+TEST(RecordCommands, keepAFastThatWasBegunAtATypedTime) {
+  const Workplace place;
+  said(place, "start --at \"$(date -u +%Y-%m-%dT%H:%MZ)\"");
   EXPECT_THAT(said(place, "stop"), EndsWith("0m, goal 16h"));
+  EXPECT_EQ(own(place).fasts.size(), 1u);
 }
 
 TEST(RecordCommands, sayThatFastsOverlap) {

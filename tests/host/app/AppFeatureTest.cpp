@@ -73,20 +73,37 @@ TEST_F(AppFeatureTest, showsAFastOnlyOnceItIsOnDisk) {
   EXPECT_EQ(onDisk(), state().fasts->elements());
 }
 
-TEST_F(AppFeatureTest, editsKeepTheRecordAndRemovalsCanBeUndone) {
+TEST_F(AppFeatureTest, keepsNothingOfAStartThatWasAMistakeUnlessItIsUndone) {
+  world.clock->date = at(0.01) + Duration{0.5};
+  send(Action::didTapStart{world.clock->date, 57600});
+  const auto begun = onDisk();
+  world.clock->date = world.clock->date + Duration{20};
+  send(Action::didTapStop{world.clock->date});
+  EXPECT_THAT(onDisk(), IsEmpty());
+  EXPECT_EQ(state().statistics.stats.totalFasts, 0);
+  ASSERT_TRUE(state().undo->has_value());
+  EXPECT_EQ((*state().undo)->step, AppFeature::Step::stopAtOnce);
+  send(Action::didTapUndo{});
+  EXPECT_EQ(onDisk(), begun);
+  EXPECT_NE(state().runningFast(), nullptr);
+}
+
+TEST_F(AppFeatureTest, editsAndRemovalsCanBeUndone) {
   keep(fast(1, -40, -24, "first"));
   keep(fast(2, -20, -4));
   send(Action::didTapEditFast{{7, 1}});
   send(Action::didChangeDraftStart{at(-41)});
   send(Action::didTapSaveDraft{});
   EXPECT_THAT(*state().fasts, ElementsAre(fast(1, -41, -24, "first"), fast(2, -20, -4)));
-  EXPECT_EQ(*state().undo, std::nullopt);
+  EXPECT_EQ((*state().undo)->step, AppFeature::Step::edit);
+  send(Action::didTapUndo{});
+  EXPECT_THAT(onDisk(), ElementsAre(fast(1, -40, -24, "first"), fast(2, -20, -4)));
 
   send(Action::didDeleteFast{{7, 1}});
   EXPECT_THAT(onDisk(), ElementsAre(fast(2, -20, -4)));
   ASSERT_TRUE(state().undo->has_value());
   send(Action::didTapUndo{});
-  EXPECT_THAT(onDisk(), ElementsAre(fast(1, -41, -24, "first"), fast(2, -20, -4)));
+  EXPECT_THAT(onDisk(), ElementsAre(fast(1, -40, -24, "first"), fast(2, -20, -4)));
   EXPECT_EQ(onDisk(), state().fasts->elements());
   EXPECT_EQ(*state().undo, std::nullopt);
 }
@@ -176,6 +193,8 @@ TEST_F(AppFeatureTest, savesADraftAndForgetsIt) {
   EXPECT_THAT(onDisk(), ElementsAre(made));
   EXPECT_EQ(made.fast.finished->end, at(-2));
   EXPECT_EQ(made.fast.goalSeconds, 36000);
+  EXPECT_EQ((*state().undo)->step, AppFeature::Step::add);
+  EXPECT_EQ((*state().undo)->change, removing(made));
 
   send(Action::didTapEditFast{made.fast.id});
   send(Action::didTapSaveDraft{});  // nothing was changed

@@ -106,6 +106,29 @@ INSTANTIATE_TEST_SUITE_P(
         FastRow{"removedAlready", [] { return removingFast(past, {1, 9}); }, refused(IsGone{})}),
     [](const auto& row) { return std::string{row.param.name}; });
 
+struct SoonRow {
+  const char* name;
+  double start, end;  // seconds from noon
+  bool isKept;
+};
+void PrintTo(const SoonRow& row, std::ostream* out) { *out << row.name; }
+class StoppedSoon : public testing::TestWithParam<SoonRow> {};
+
+TEST_P(StoppedSoon, isRemovedUnlessItIsMeant) {
+  FastRecord begun = running(3, 0);
+  begun.fast.start = now + Duration{GetParam().start};
+  const Date end = now + Duration{GetParam().end};
+  EXPECT_EQ(stopping(std::vector{begun}, end, now).value(),
+            GetParam().isKept ? replacing(begun, stopped(begun, end)) : removing(begun));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Rows, StoppedSoon,
+    testing::Values(SoonRow{"atOnce", -30.25, -30.25, false}, SoonRow{"withinAMinute", -70.5, -10.75, false},
+                    SoonRow{"overTheTurnOfAMinute", -60.5, -59.5, false}, SoonRow{"afterAMinute", -70.5, -10.5, true},
+                    SoonRow{"begunAtAChosenTime", -60, -30.5, true}, SoonRow{"endedAtAChosenTime", -90.5, -60, true}),
+    [](const auto& row) { return std::string{row.param.name}; });
+
 /// "814" for 81.4 in a unit.
 struct Tenths : MassFormatter {
   std::string string(double weightInKg, WeightUnit unit) const override {
