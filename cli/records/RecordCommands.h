@@ -14,6 +14,8 @@ int runStop(const RecordOptions& options);
 int runAdd(const RecordOptions& options);
 int runEdit(const RecordOptions& options);
 int runRemove(const RecordOptions& options);
+/// Makes overlapping fasts stand one after another, or says what it would change.
+int runRepair(const RecordOptions& options);
 /// Takes back the last change, by whichever program.
 int runUndo(const RecordOptions& options);
 /// What the fasting page of the app says just now, in a line or as the whole page.

@@ -15,6 +15,7 @@ constexpr const char* fastExamples = R"(Examples:
   mivo add "2026-02-27 20:00" "2026-02-28 12:00" --note "no breakfast"
   mivo edit 3f9a --end 2026-02-28T12:30:00+01:00
   mivo remove 3f9a
+  mivo repair --dry-run
   mivo undo
   mivo status
   mivo list
@@ -104,6 +105,8 @@ void addFastCommands(Commands& to) {
   edit.add_option("--end", options.end, "When it ended")->type_name("DATE")->excludes(running);
   to.goalAndNote(edit, "How long it was meant to be");
   to.id(to.add("remove", "Remove a fast", runRemove));
+  to.add("repair", "Make overlapping fasts stand one after another, and tell how", runRepair)
+      .add_flag("--dry-run", options.isDryRun, "Only tell what would change");
   to.add("undo", "Take back the last change, also one of the app; once more does it again", runUndo);
   to.format(to.add("status", "Tell in a line which fast runs, and how far it has come", runStatus));
   to.format(to.add("list", "List the fasts, the latest last", runList));

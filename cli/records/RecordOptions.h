@@ -12,7 +12,7 @@ namespace mivo::cli {
 struct RecordOptions {
   std::string id, weight, to;
   std::optional<std::string> at, start, end, goalHours, note;
-  bool isRunning = false, isForced = false;
+  bool isRunning = false, isForced = false, isDryRun = false;
   std::string database, locale, timeZone, format = "text";
 };
 
