@@ -47,7 +47,8 @@ AppModel::AppModel(AppServices given)
       weightEntry{
           store.state().statistics.addWeightLogState,
           [this](AddWeightModel::Action action) { sendStatistics(Sent::addWeightLogAction{std::move(action)}); }},
-      runningFast{[this](Action action) { send(std::move(action)); }},
+      runningFast{[given = currentDependencies()] { return host::pageClients(given, given.date->now()); },
+                  [this](Action action) { send(std::move(action)); }},
       badgeSummary{[this](BadgeSummaryFeature::Action action) {
         using Shown = PresentationAction<Destination::Action>;
         sendStatistics(Sent::destination{Shown::presented{Destination::Action::badges{std::move(action)}}});

@@ -24,8 +24,10 @@ QString text(std::optional<RecordFault> fault, std::initializer_list<RecordFault
 
 }  // namespace
 
-FastDraftModel::FastDraftModel(std::function<void(Action)> sends, QObject* parent)
+FastDraftModel::FastDraftModel(std::function<host::PageClients()> present, std::function<void(Action)> sends,
+                               QObject* parent)
     : QObject{parent},
+      clients{std::move(present)},
       send{std::move(sends)},
       draft{.record = {finishedFast({}, Date{}, Date{}, 0), {}}, .before = {}, .failure = {}} {}
 
@@ -34,9 +36,16 @@ void FastDraftModel::follow(const host::AppFeature::State& state) {
   const auto& present = *state.draft;
   if (present) draft = *present;
   const bool wasOpen = std::exchange(isOpen, present.has_value());
-  if (isOpen) Q_EMIT changed();
+  if (isOpen) retell();
   if (wasOpen && !isOpen) Q_EMIT ended();
 }
+
+void FastDraftModel::retell() {
+  zoneRows.show(host::zoneTimeTexts(seconds(), clients()));
+  Q_EMIT changed();
+}
+
+QString FastDraftModel::length() const { return qString(host::durationText(seconds(), clients())); }
 
 QString FastDraftModel::startText() const { return fixedDateTimeText(draft.record.fast.start); }
 

@@ -2,14 +2,14 @@
 #pragma once
 
 #include <QtQml/qqmlregistration.h>
-#include <QtCore/QList>
 #include <QtCore/QObject>
 #include <QtCore/QString>
 
 #include <functional>
 
-#include "app/bridge/ZoneTime.h"
+#include "app/bridge/RecordRows.h"
 #include "host/app/AppFeature.h"
+#include "host/pages/FastingPage.h"
 
 namespace mivo::app {
 
@@ -26,7 +26,7 @@ class FastDraftModel : public QObject {
   Q_PROPERTY(QString length READ length NOTIFY changed)
   Q_PROPERTY(qreal seconds READ seconds NOTIFY changed)
   Q_PROPERTY(qreal goalSeconds READ goalSeconds NOTIFY changed)
-  Q_PROPERTY(QList<mivo::app::ZoneTime> zones READ zones NOTIFY changed)
+  Q_PROPERTY(mivo::app::RecordRows* zones READ zones CONSTANT)
   /// What is wrong with a field, in a sentence; empty where nothing is.
   Q_PROPERTY(QString startProblem READ startProblem NOTIFY changed)
   Q_PROPERTY(QString endProblem READ endProblem NOTIFY changed)
@@ -38,21 +38,22 @@ class FastDraftModel : public QObject {
 
  public:
   using Action = host::AppFeature::Action;
-  explicit FastDraftModel(std::function<void(Action)> send, QObject* parent = nullptr);
+  FastDraftModel(std::function<host::PageClients()> clients, std::function<void(Action)> send,
+                 QObject* parent = nullptr);
 
   void follow(const host::AppFeature::State& state);
   /// Every text may read differently, though nothing was changed.
-  void retell() { Q_EMIT changed(); }
+  void retell();
 
   bool isNew() const { return !draft.before; }
   double start() const { return secondsSince1970(draft.record.fast.start); }
   double end() const { return secondsSince1970(finished().end); }
   QString startText() const;
   QString endText() const;
-  QString length() const { return durationText(seconds()); }
+  QString length() const;
   qreal seconds() const { return finished().duration(); }
   qreal goalSeconds() const { return static_cast<qreal>(draft.record.fast.goalSeconds); }
-  QList<ZoneTime> zones() const { return zoneTimes(seconds()); }
+  RecordRows* zones() { return &zoneRows; }
   QString startProblem() const;
   QString endProblem() const;
   QString goalProblem() const;
@@ -74,9 +75,11 @@ class FastDraftModel : public QObject {
  private:
   const FinishedFastingDataEntry& finished() const { return *draft.record.fast.finished; }
 
+  std::function<host::PageClients()> clients;
   std::function<void(Action)> send;
   host::FastDraft draft;
   List<host::FastRecord> fasts;
+  RecordRows zoneRows{rolesOf<host::ZoneTimeText>()};
   bool isOpen = false;
 };
 

@@ -114,11 +114,6 @@ QString FastHistoryModel::overlapText(std::size_t place) const {
   return qString(filledIn(texts().text("Overlaps the fast of {1}"), {dayText(fasts[*partners[place]].fast.start)}));
 }
 
-QString FastHistoryModel::overlapOfRunning() const {
-  const auto running = std::ranges::find_if(fasts, [](const auto& record) { return !record.fast.finished; });
-  return overlapText(static_cast<std::size_t>(running - fasts.begin()));
-}
-
 QString FastHistoryModel::spoken(const QModelIndex& index) const {
   const QString reached = data(index, GoalFraction).toDouble() < 1 ? QString{} : qString(texts().text("goal reached"));
   QStringList parts;

@@ -50,8 +50,6 @@ class FastHistoryModel : public QAbstractListModel {
   qreal scaleSeconds() const { return scale; }
   /// The record of a row; nothing for a row that is none.
   std::optional<host::FastRecord> record(int row) const;
-  /// "Overlaps the fast of Fri, 27 Feb" of the running fast, which has no row; empty where it overlaps none.
-  QString overlapOfRunning() const;
   /// The row of a fast, or -1.
   int rowOf(UUID id) const;
 

@@ -9,6 +9,7 @@ T.AbstractButton {
 
     property string label
     property string value
+    property string spoken
     property bool editable: true
 
     implicitHeight: contentItem.implicitHeight + topPadding + bottomPadding
@@ -17,7 +18,7 @@ T.AbstractButton {
     bottomPadding: 10
     enabled: editable
     focusPolicy: Qt.StrongFocus
-    text: label + ", " + value
+    text: spoken
     Accessible.role: editable ? Accessible.Button : Accessible.StaticText
     Accessible.name: text
 

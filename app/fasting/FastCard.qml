@@ -29,7 +29,7 @@ Card {
     }
 
     ZoneTimes {
-        visible: App.fasting.running
+        visible: App.fasting.isRunning
         width: parent.width
         topPadding: 8
         zones: App.fasting.zones
@@ -59,19 +59,21 @@ Card {
 
         FactTile {
             width: root.tileWidth
-            visible: App.fasting.running || App.fasting.eating
+            visible: App.fasting.startText !== ""
             height: root.stacked ? implicitHeight : Math.max(implicitHeight, second.implicitHeight)
-            label: App.fasting.running ? Texts.text("Started") : Texts.text("Last fast")
-            value: App.fasting.running ? App.fasting.startedText : App.fasting.lastFast
-            editable: App.fasting.running
+            label: App.fasting.startLabel
+            value: App.fasting.startText
+            spoken: App.fasting.startSpoken
+            editable: App.fasting.isRunning
             onClicked: root.startedWanted()
         }
 
         FactTile {
             id: second
-            width: App.fasting.running || App.fasting.eating ? root.tileWidth : parent.width
-            label: Texts.text("Goal")
+            width: App.fasting.startText !== "" ? root.tileWidth : parent.width
+            label: App.fasting.goalLabel
             value: App.fasting.goal
+            spoken: App.fasting.goalSpoken
             onClicked: root.goalWanted()
         }
     }
@@ -84,9 +86,9 @@ Card {
     ActionButton {
         width: parent.width
         large: true
-        kind: App.fasting.running ? ActionButton.Secondary : ActionButton.Data
-        iconName: App.fasting.running ? "stop" : "play"
-        text: App.fasting.running ? Texts.text("Stop fast") : Texts.text("Start fast")
-        onClicked: App.fasting.running ? App.fasting.stop() : App.fasting.start()
+        kind: App.fasting.isRunning ? ActionButton.Secondary : ActionButton.Data
+        iconName: App.fasting.isRunning ? "stop" : "play"
+        text: App.fasting.button
+        onClicked: App.fasting.press()
     }
 }

@@ -8,33 +8,28 @@ Sheet {
 
     /// As it is before anything is chosen, in seconds.
     property real goal
-    property real seconds
+    readonly property GoalChoiceModel choice: App.fasting.goalChoice()
 
     signal chosen(seconds: real)
 
-    title: Texts.text("Goal")
+    title: choice.title
     spacing: 16
 
-    onAboutToShow: {
-        seconds = goal;
-        choice.begin(seconds);
-    }
+    onAboutToShow: choice.begin(goal)
 
     GoalChoice {
-        id: choice
         labelled: false
         width: parent.width
-        seconds: root.seconds
-        onChosen: seconds => root.seconds = seconds
+        goal: root.choice
     }
 
     ActionButton {
         width: parent.width
         leastHeight: Theme.sheetButtonSize
-        enabled: !choice.unread
-        text: Texts.text("Save")
+        enabled: root.choice.canSave
+        text: root.choice.saveLabel
         onClicked: {
-            root.chosen(root.seconds);
+            root.chosen(root.choice.seconds);
             root.close();
         }
     }

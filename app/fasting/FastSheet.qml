@@ -7,6 +7,7 @@ Sheet {
     id: root
 
     readonly property FastDraftModel draft: App.fasting.draft
+    readonly property GoalChoiceModel goal: App.fasting.goalChoice()
 
     title: draft.isNew ? Texts.text("Add fast") : Texts.text("Edit fast")
     spacing: 16
@@ -19,6 +20,18 @@ Sheet {
 
         function onEnded() {
             root.close();
+        }
+
+        function onChanged() {
+            root.goal.tellProblem(root.draft.goalProblem);
+        }
+    }
+
+    Connections {
+        target: root.goal
+
+        function onChosen(seconds: real) {
+            root.draft.setGoal(seconds);
         }
     }
 
@@ -65,11 +78,8 @@ Sheet {
     }
 
     GoalChoice {
-        id: goal
         width: parent.width
-        seconds: root.draft.goalSeconds
-        problem: root.draft.goalProblem
-        onChosen: seconds => root.draft.setGoal(seconds)
+        goal: root.goal
     }
 
     Column {
@@ -115,7 +125,7 @@ Sheet {
         ActionButton {
             width: parent.width
             leastHeight: Theme.sheetButtonSize
-            enabled: !goal.unread
+            enabled: root.goal.canSave
             text: Texts.text("Save")
             onClicked: root.draft.save()
         }

@@ -13,7 +13,7 @@ Column {
     PageTitle {
         width: parent.width
         wide: root.Window.width >= Theme.sideBarWidth
-        text: Texts.text("Fasting")
+        text: App.fasting.title
     }
 
     FastCard {

@@ -28,7 +28,7 @@ FocusScope {
         case "fastGoal":
             return goal.open();
         case "fastStart":
-            return App.fasting.running ? started.open() : undefined;
+            return App.fasting.isRunning ? started.open() : undefined;
         case "fastMenu":
             return App.fasting.history.count > 0 ? offer(0) : undefined;
         }
@@ -105,7 +105,7 @@ FocusScope {
 
     DateTimeSheet {
         id: started
-        title: Texts.text("Started")
+        title: App.fasting.startLabel
         instant: App.fasting.started
         problem: visible ? App.fasting.startProblem(current) : ""
         onChosen: instant => App.fasting.changeStart(instant)

@@ -7,50 +7,15 @@ import Mivo
 Column {
     id: root
 
-    property real seconds
-    property string problem
-    readonly property var usualHours: [16, 18, 20, 24]
-    readonly property real pickedHours: custom ? 0 : seconds / 3600
+    required property GoalChoiceModel goal
     property bool labelled: true
-    property bool custom: false
-    /// What is typed is no length.
-    property bool unread: false
-    property bool filling: false
-
-    signal chosen(seconds: real)
 
     spacing: 8
-
-    /// Shows a goal as it is before anything is chosen.
-    function begin(goal: real) {
-        custom = !usualHours.includes(goal / 3600);
-        fill(goal);
-    }
-
-    function fill(goal: real) {
-        filling = true;
-        field.text = App.fasting.typedGoal(goal);
-        filling = false;
-        unread = false;
-    }
-
-    function pick(goal: real) {
-        custom = false;
-        unread = false;
-        chosen(goal);
-    }
-
-    function read() {
-        const goal = App.fasting.parsedGoal(field.text);
-        unread = goal === 0;
-        if (!unread)
-            chosen(goal);
-    }
 
     StyledText {
         visible: root.labelled
         width: parent.width
-        text: Texts.text("Goal")
+        text: root.goal.title
         style: Theme.labelText
         color: Theme.inkSecondary
     }
@@ -60,23 +25,23 @@ Column {
         spacing: 8
 
         Repeater {
-            model: root.usualHours
+            model: root.goal.offers
 
-            GoalChip {
-                required property int modelData
+            Chip {
+                required property int index
+                required property bool isChosen
+                required text
 
-                hours: modelData
-                chosen: root.pickedHours === hours
-                onPicked: seconds => root.pick(seconds)
+                chosen: isChosen
+                onClicked: root.goal.pick(index)
             }
         }
 
         Chip {
-            text: Texts.text("Custom")
-            chosen: root.custom
+            text: root.goal.customText
+            chosen: root.goal.isTyped
             onClicked: {
-                root.custom = true;
-                root.fill(root.seconds);
+                root.goal.openField();
                 field.forceActiveFocus();
             }
         }
@@ -84,21 +49,22 @@ Column {
 
     TextField {
         id: field
-        visible: root.custom
+        visible: root.goal.isTyped
         width: parent.width
-        hasProblem: root.unread || root.problem !== ""
-        accessibleName: Texts.text("Goal in hours")
-        placeholder: Texts.text("Goal in hours")
+        hasProblem: root.goal.problem !== ""
+        accessibleName: root.goal.fieldText
+        placeholder: root.goal.fieldText
+        text: root.goal.typed
         onTextChanged: {
-            if (root.custom && !root.filling)
-                root.read();
+            if (text !== root.goal.typed)
+                root.goal.type(text);
         }
     }
 
     StyledText {
         visible: text !== ""
         width: parent.width
-        text: root.custom && root.unread ? Texts.text("Type up to 168 hours, such as 17 or 16:30.") : root.problem
+        text: root.goal.problem
         style: Theme.captionText
         color: Theme.danger
         Accessible.role: Accessible.AlertMessage

@@ -6,7 +6,7 @@ import Mivo
 Item {
     id: root
 
-    readonly property bool begun: App.fasting.running || App.fasting.eating
+    readonly property bool begun: App.fasting.elapsed !== ""
     /// Of what stands inside the ring, whatever the size of texts.
     readonly property real room: 180 * fit
     readonly property real textLimit: 1.4 * fit
@@ -17,11 +17,11 @@ Item {
 
     ZoneRing {
         anchors.fill: parent
-        seconds: App.fasting.seconds
-        spanSeconds: App.fasting.spanSeconds
-        marks: App.fasting.marks
+        seconds: App.fasting.ringSeconds
+        spanSeconds: App.fasting.ringSpan
+        marks: App.fasting.markPlaces
         markTexts: App.fasting.markTexts
-        running: !App.fasting.eating
+        running: !App.fasting.isEating
         fills: Theme.zoneFills
         tints: Theme.zoneTints
         eatingFill: Theme.eating.fill
@@ -69,7 +69,7 @@ Item {
             visible: !root.begun
             width: parent.width
             horizontalAlignment: Text.AlignHCenter
-            text: Texts.text("Your first fast")
+            text: App.fasting.invitation
             style: Theme.headlineText
             scaleLimit: root.textLimit
         }
@@ -77,7 +77,7 @@ Item {
         StyledText {
             width: parent.width
             horizontalAlignment: Text.AlignHCenter
-            text: root.begun ? App.fasting.goalText : Texts.text("Start it when you have eaten your last meal.")
+            text: root.begun ? App.fasting.goalText : App.fasting.invitationDetail
             style: Theme.labelText
             color: Theme.inkSecondary
             scaleLimit: root.textLimit

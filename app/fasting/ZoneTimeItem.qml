@@ -7,11 +7,15 @@ Item {
     id: root
 
     required property int index
-    required property zoneTime modelData
+    required property string zone
+    required property string name
+    required property string duration
+    required property string spoken
+    required property bool isPresent
     /// Of all, and the width of one; 0 where each is as wide as it needs.
     required property int columns
     required property real columnWidth
-    readonly property real naturalWidth: Math.max(Theme.swatchSize + 6 + Math.ceil(name.implicitWidth), number.implicitWidth)
+    readonly property real naturalWidth: Math.max(Theme.swatchSize + 6 + Math.ceil(heading.implicitWidth), number.implicitWidth)
     readonly property real rest: width - texts.width
     // The first column stands at the leading edge, the last one at the trailing edge.
     readonly property real fromLeading: columns > 1 ? rest * (index % columns) / (columns - 1) : 0
@@ -19,7 +23,7 @@ Item {
     width: columnWidth > 0 ? columnWidth : naturalWidth
     implicitHeight: texts.height
     Accessible.role: Accessible.StaticText
-    Accessible.name: modelData.name + ", " + modelData.duration
+    Accessible.name: spoken
 
     Column {
         id: texts
@@ -33,16 +37,16 @@ Item {
 
             Swatch {
                 y: (Theme.captionText.line * Theme.textScale - height) / 2
-                color: Theme.accentOf(root.modelData.zone).fill
+                color: Theme.accentOf(root.zone).fill
             }
 
             StyledText {
-                id: name
-                text: root.modelData.name
+                id: heading
+                text: root.name
                 width: Math.min(Math.ceil(implicitWidth), root.width - Theme.swatchSize - 6)
                 style: Theme.captionText
-                font.weight: root.modelData.present ? 600 : 400
-                color: root.modelData.present ? Theme.ink : Theme.inkSecondary
+                font.weight: root.isPresent ? 600 : 400
+                color: root.isPresent ? Theme.ink : Theme.inkSecondary
                 Accessible.ignored: true
             }
         }
@@ -50,9 +54,9 @@ Item {
         StyledNumber {
             id: number
             anchors.left: parent.left
-            text: root.modelData.duration
+            text: root.duration
             style: Theme.numberRowText
-            evenDigits: root.modelData.present
+            evenDigits: root.isPresent
             Accessible.ignored: true
         }
     }

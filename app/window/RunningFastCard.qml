@@ -11,7 +11,7 @@ T.AbstractButton {
     padding: 12
     topPadding: 10
     focusPolicy: Qt.StrongFocus
-    text: App.fasting.zoneName + ", " + App.fasting.duration + ", " + App.fasting.goalText
+    text: App.fasting.spoken
     Accessible.role: Accessible.Button
     Accessible.name: text
 
@@ -53,8 +53,8 @@ T.AbstractButton {
         ZoneStrip {
             width: parent.width
             height: 6
-            seconds: App.fasting.seconds
-            spanSeconds: App.fasting.spanSeconds
+            seconds: App.fasting.ringSeconds
+            spanSeconds: App.fasting.ringSpan
             fills: Theme.zoneFills
             rest: Theme.fill
             mirrored: LayoutMirroring.enabled

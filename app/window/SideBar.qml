@@ -75,7 +75,7 @@ Rectangle {
         anchors.bottom: parent.bottom
         anchors.margins: 12
         anchors.bottomMargin: 20
-        visible: App.fasting.running
+        visible: App.fasting.isRunning
         onClicked: root.tapped("fasting")
     }
 }

@@ -20,7 +20,7 @@ bool shareTime(const FastRecord& one, const FastRecord& other, Date now) {
   return std::max(one.fast.start, other.fast.start) < end || isWithin(one, other) || isWithin(other, one);
 }
 
-std::vector<std::optional<std::size_t>> overlapPartners(const std::vector<FastRecord>& fasts, Date now) {
+std::vector<std::optional<std::size_t>> overlapPartners(std::span<const FastRecord> fasts, Date now) {
   const auto startOf = [](const FastRecord& record) { return record.fast.start; };
   assert(std::ranges::is_sorted(fasts, {}, startOf));
   std::vector<std::optional<std::size_t>> partners(fasts.size());
@@ -42,7 +42,7 @@ std::vector<std::optional<std::size_t>> overlapPartners(const std::vector<FastRe
   return partners;
 }
 
-std::vector<bool> overlappingFasts(const std::vector<FastRecord>& fasts, Date now) {
+std::vector<bool> overlappingFasts(std::span<const FastRecord> fasts, Date now) {
   const auto partners = overlapPartners(fasts, now);
   std::vector<bool> overlapping(fasts.size());
   for (std::size_t index = 0; index < fasts.size(); ++index) overlapping[index] = partners[index].has_value();

@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <optional>
+#include <span>
 #include <vector>
 
 #include "host/history/History.h"
@@ -23,9 +24,9 @@ bool shareTime(const FastRecord& one, const FastRecord& other, Date now);
 /// For each of the fasts the place of one that it shares time with, in the same order; nothing where it shares time
 /// with none. O(n), by the rule of `shareTime`; of equal starts one of no length counts where it comes later. `fasts`
 /// are by start (asserted).
-std::vector<std::optional<std::size_t>> overlapPartners(const std::vector<FastRecord>& fasts, Date now);
+std::vector<std::optional<std::size_t>> overlapPartners(std::span<const FastRecord> fasts, Date now);
 
 /// Which of the fasts share time with another one, in the same order.
-std::vector<bool> overlappingFasts(const std::vector<FastRecord>& fasts, Date now);
+std::vector<bool> overlappingFasts(std::span<const FastRecord> fasts, Date now);
 
 }  // namespace mivo::host

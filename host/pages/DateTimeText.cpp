@@ -32,6 +32,10 @@ std::string dayText(Date date, const PageClients& clients) {
   return formatted(date, isOfPresentYear(date, clients) ? "EEEdMMM" : "EEEdMMMy", clients);
 }
 
+std::string overlapText(Date start, const PageClients& clients) {
+  return filledIn(clients.texts.text("Overlaps the fast of {1}"), {dayText(start, clients)});
+}
+
 std::string clockText(Date date, const PageClients& clients) { return formatted(date, "jm", clients); }
 
 std::int64_t daysFromToday(Date date, const PageClients& clients) {

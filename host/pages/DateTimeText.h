@@ -19,6 +19,9 @@ std::string fixedDateTimeText(Date date, const PageClients& clients);
 /// "Tue 9 Jun"
 std::string dayText(Date date, const PageClients& clients);
 
+/// "Overlaps the fast of Tue 9 Jun", of one that began then.
+std::string overlapText(Date start, const PageClients& clients);
+
 /// "20:02"
 std::string clockText(Date date, const PageClients& clients);
 

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "host/fasting/Fasting.h"
 #include "host/fasting/OverlappingFasts.h"
 #include "host/pages/DateTimeText.h"
 #include "mivo/fasting/GoalTime.h"
@@ -78,15 +79,7 @@ std::string goalUntil(const std::string& length, Date end, const PageClients& cl
 std::string warningText(const FastingPageFacts& facts, const PageClients& clients) {
   if (facts.running->fast.start > clients.now)
     return clients.texts.text("This fast begins in the future. Check the clock, or change when it started.");
-  if (!facts.overlapped) return {};
-  return filledIn(clients.texts.text("Overlaps the fast of {1}"), {dayText(*facts.overlapped, clients)});
-}
-
-std::vector<ZoneTimeText> zoneTexts(double seconds, const PageClients& clients) {
-  std::vector<ZoneTimeText> zones;
-  for (const auto& [zone, duration, isPresent] : zoneTimes(seconds))
-    zones.push_back({zone, clients.texts.text(displayString(zone)), durationText(duration, clients), isPresent});
-  return zones;
+  return facts.overlapped ? overlapText(*facts.overlapped, clients) : std::string{};
 }
 
 void sayRunning(FastingPage& page, const FastingPageFacts& facts, double seconds, const PageClients& clients) {
@@ -95,7 +88,7 @@ void sayRunning(FastingPage& page, const FastingPageFacts& facts, double seconds
   page.isRunning = true;
   page.started = start;
   page.zone = zoneAfter(seconds);
-  page.zones = zoneTexts(seconds, clients);
+  page.zones = zoneTimeTexts(seconds, clients);
   page.goalText = goalReached(page.goalSeconds - seconds, clients);
   page.warning = warningText(facts, clients);
   page.startLabel = texts.text("Started");
@@ -124,7 +117,16 @@ void sayNothingYet(FastingPage& page, const TextLookup& texts) {
 
 }  // namespace
 
-FastingPageFacts fastingPageFacts(const std::vector<FastRecord>& fasts, std::int64_t nextGoalSeconds, Date now) {
+std::vector<ZoneTimeText> zoneTimeTexts(double seconds, const PageClients& clients) {
+  std::vector<ZoneTimeText> all;
+  for (const auto& [zone, duration, isPresent] : zoneTimes(seconds)) {
+    const std::string name = clients.texts.text(displayString(zone)), text = durationText(duration, clients);
+    all.push_back({zone, name, text, name + ", " + text, isPresent});
+  }
+  return all;
+}
+
+FastingPageFacts fastingPageFacts(std::span<const FastRecord> fasts, std::int64_t nextGoalSeconds, Date now) {
   FastingPageFacts facts{.nextGoalSeconds = nextGoalSeconds};
   std::size_t place = fasts.size();
   for (std::size_t index = 0; index < fasts.size(); ++index) {
@@ -157,12 +159,21 @@ FastingPage composeFastingPage(const FastingPageFacts& facts, const PageClients&
     sayEating(page, *facts.last, clients);
   else
     sayNothingYet(page, texts);
+  page.startSpoken = page.startLabel + ", " + page.startText;
+  page.goalSpoken = page.goalLabel + ", " + page.goal;
+  page.goals = goalOffers(std::llround(page.goalSeconds), clients);
   page.spoken = page.zoneName + ", " + page.duration + ", " + page.goalText;
   page.ringSeconds = std::floor(seconds / ringStep) * ringStep;
   page.ringSpan = ringSpan(seconds, page.goalSeconds, page.isEating);
   for (const double place : markPlaces(page.ringSpan, page.isEating))
     page.marks.push_back({place, goalText(place, clients.hour, clients.hourMin)});
   return page;
+}
+
+std::string startProblem(std::span<const FastRecord> fasts, Date start, const PageClients& clients) {
+  if (!runningFast(fasts)) return {};
+  const auto outcome = changingStart(fasts, start, clients.now);
+  return outcome ? std::string{} : refusalText(outcome.error(), clients.texts);
 }
 
 std::optional<double> untilNextTick(const FastingPageFacts& facts, bool seesSeconds, Date now) {

@@ -3,10 +3,12 @@
 
 #include <cstdint>
 #include <optional>
+#include <span>
 #include <string>
 #include <vector>
 
 #include "host/history/History.h"
+#include "host/pages/GoalChoice.h"
 #include "host/pages/PageClients.h"
 #include "mivo/model/LegacyFastingZone.h"
 #include "mivo/model/Record.h"
@@ -23,24 +25,29 @@ struct FastingPageFacts {
 };
 
 /// `fasts` are by start. O(n).
-FastingPageFacts fastingPageFacts(const std::vector<FastRecord>& fasts, std::int64_t nextGoalSeconds, Date now);
+FastingPageFacts fastingPageFacts(std::span<const FastRecord> fasts, std::int64_t nextGoalSeconds, Date now);
 
 /// How long the running fast was in one of the zones.
 struct ZoneTimeText {
   LegacyFastingZone zone = LegacyFastingZone::anabolic;
   std::string name, duration;  ///< "Catabolic", "8h 12m"
+  std::string spoken;          ///< "Catabolic, 8h 12m"
   bool isPresent = false;
   bool operator==(const ZoneTimeText&) const = default;
 };
 
 template <RecordOf<ZoneTimeText> Listed, class Visit>
 void fields(Listed& record, Visit&& visit) {
-  auto& [zone, name, duration, isPresent] = record;
+  auto& [zone, name, duration, spoken, isPresent] = record;
   visit("zone", zone);
   visit("name", name);
   visit("duration", duration);
+  visit("spoken", spoken);
   visit("isPresent", isPresent);
 }
+
+/// The zones that a fast of so many seconds went through.
+std::vector<ZoneTimeText> zoneTimeTexts(double seconds, const PageClients& clients);
 
 /// A place where the ring names hours.
 struct RingMark {
@@ -72,11 +79,14 @@ struct FastingPage {
   std::vector<ZoneTimeText> zones;  ///< of the running fast
   std::string startLabel;           ///< "Started", "Last fast"
   std::string startText;            ///< "Today, 20:14"; how long the last fast was; empty before the first one
+  std::string startSpoken;          ///< "Started, Today, 20:14"
   std::string goalLabel;            ///< "Goal"
   std::string goal;                 ///< "20h, today 16:42"; "20h" where no fast runs
+  std::string goalSpoken;           ///< "Goal, 20h, today 16:42"
   std::string button;               ///< "Stop fast", "Start fast"
   std::string spoken;               ///< "Catabolic, 5h 12m, 10h 48m to your goal"
   double goalSeconds = 0;
+  std::vector<GoalOffer> goals;  ///< the usual ones, and which of them it is
   std::optional<Date> started;
   double ringSeconds = 0;  ///< since the start, in steps of ten
   double ringSpan = 0;     ///< seconds of a whole turn
@@ -87,8 +97,8 @@ struct FastingPage {
 template <RecordOf<FastingPage> Listed, class Visit>
 void fields(Listed& record, Visit&& visit) {
   auto& [isRunning, isEating, title, status, elapsed, duration, zone, zoneName, goalText, invitation, invitationDetail,
-         warning, zones, startLabel, startText, goalLabel, goal, button, spoken, goalSeconds, started, ringSeconds,
-         ringSpan, marks] = record;
+         warning, zones, startLabel, startText, startSpoken, goalLabel, goal, goalSpoken, button, spoken, goalSeconds,
+         goals, started, ringSeconds, ringSpan, marks] = record;
   visit("isRunning", isRunning);
   visit("isEating", isEating);
   visit("title", title);
@@ -104,11 +114,14 @@ void fields(Listed& record, Visit&& visit) {
   visit("zones", zones);
   visit("startLabel", startLabel);
   visit("startText", startText);
+  visit("startSpoken", startSpoken);
   visit("goalLabel", goalLabel);
   visit("goal", goal);
+  visit("goalSpoken", goalSpoken);
   visit("button", button);
   visit("spoken", spoken);
   visit("goalSeconds", goalSeconds);
+  visit("goals", goals);
   visit("started", started);
   visit("ringSeconds", ringSeconds);
   visit("ringSpan", ringSpan);
@@ -117,6 +130,9 @@ void fields(Listed& record, Visit&& visit) {
 
 /// Reads no record and composes no row: what a tick costs is a handful of texts.
 FastingPage composeFastingPage(const FastingPageFacts& facts, const PageClients& clients);
+
+/// Why the running fast cannot begin at a date, in a sentence; empty where it can, and where none runs.
+std::string startProblem(std::span<const FastRecord> fasts, Date start, const PageClients& clients);
 
 /// When the page says something else, in seconds from now: with the next whole second where seconds are seen, else with
 /// the next whole minute. Nothing where time changes nothing.

@@ -127,10 +127,39 @@ TEST(FastingPage, warnsOfAFastOfTheFutureBeforeOneThatOverlaps) {
   EXPECT_EQ(future.goalText, "16h 0m to your goal");
 }
 
+TEST(FastingPage, offersTheUsualGoals) {
+  const auto chosen = [](const FastingPage& page) {
+    std::string all;
+    for (const GoalOffer& offer : page.goals) all += offer.text + (offer.isChosen ? "! " : " ");
+    return all;
+  };
+  EXPECT_EQ(chosen(pageOf({running("2026-03-01 06:48", 18 * hours)}, "2026-03-01 12:00")), "16h 18h! 20h 24h ");
+  EXPECT_EQ(chosen(pageOf({}, "2026-03-01 12:00", 17 * hours)), "16h 18h 20h 24h ");
+}
+
+TEST(FastingPage, speaksItsTilesWithTheirLabels) {
+  const FastingPage page = pageOf({running("2026-03-01 06:48")}, "2026-03-01 12:00");
+  EXPECT_EQ(page.startSpoken, "Started, Today, 06:48");
+  EXPECT_EQ(page.goalSpoken, "Goal, 16h, today 22:48");
+}
+
+TEST(FastingPage, saysWhyTheStartCannotMove) {
+  const Date now = utc("2026-03-01 12:00");
+  const auto problem = [&](const std::vector<FastRecord>& fasts, const char* start) {
+    return startProblem(fasts, utc(start), tests::Pages{}.at(now));
+  };
+  EXPECT_EQ(problem({running("2026-03-01 06:48")}, "2026-03-01 11:00"), "");
+  EXPECT_EQ(problem({running("2026-03-01 06:48")}, "2026-03-01 12:01"),
+            "The start is in the future. Is the clock right?");
+  EXPECT_EQ(problem({lastNight}, "2026-03-01 12:01"), "") << "none runs";
+}
+
 TEST(FastingPage, tellsTheZonesThatTheFastWentThrough) {
   const FastingPage page = pageOf({running("2026-03-01 06:48")}, "2026-03-01 12:00");
-  EXPECT_THAT(page.zones, ElementsAre(ZoneTimeText{LegacyFastingZone::anabolic, "Anabolic", "4h 0m", false},
-                                      ZoneTimeText{LegacyFastingZone::catabolic, "Catabolic", "1h 12m", true}));
+  EXPECT_THAT(
+      page.zones,
+      ElementsAre(ZoneTimeText{LegacyFastingZone::anabolic, "Anabolic", "4h 0m", "Anabolic, 4h 0m", false},
+                  ZoneTimeText{LegacyFastingZone::catabolic, "Catabolic", "1h 12m", "Catabolic, 1h 12m", true}));
   EXPECT_EQ(page.spoken, "Catabolic, 5h 12m, 10h 48m to your goal");
   EXPECT_THAT(pageOf({lastNight}, "2026-03-01 12:00").zones, IsEmpty());
 }
