@@ -7,36 +7,32 @@
 
 #include <cstddef>
 #include <functional>
-#include <optional>
 #include <vector>
 
+#include "app/bridge/Carry.h"
 #include "host/app/AppFeature.h"
+#include "host/pages/HistoryPage.h"
 
 namespace mivo::app {
 
-/// The fasts that have ended, the latest first. A row's texts are made when a row that shows them is seen.
+/// A `host::HistoryPage` and its rows, each composed when it is seen; a view is told of those that differ.
 class FastHistoryModel : public QAbstractListModel {
   Q_OBJECT
   QML_ELEMENT
   QML_UNCREATABLE("the app has one")
-  Q_PROPERTY(int count READ count NOTIFY countChanged)
-  /// What the strips of all rows span: a day, or the longest fast.
-  Q_PROPERTY(qreal scaleSeconds READ scaleSeconds NOTIFY scaleChanged)
+  Q_PROPERTY(QString title MEMBER title NOTIFY textsChanged)
+  Q_PROPERTY(QString addLabel MEMBER addLabel NOTIFY textsChanged)
+  Q_PROPERTY(QString note MEMBER note NOTIFY textsChanged)
+  Q_PROPERTY(int count MEMBER count NOTIFY countChanged)
+  Q_PROPERTY(qreal scaleSeconds MEMBER scaleSeconds NOTIFY scaleSecondsChanged)
+  Q_PROPERTY(QString menuTitle MEMBER menuTitle NOTIFY textsChanged)
+  Q_PROPERTY(QString editLabel MEMBER editLabel NOTIFY textsChanged)
+  Q_PROPERTY(QString removeLabel MEMBER removeLabel NOTIFY textsChanged)
 
  public:
-  enum Role {
-    DateText = Qt::UserRole + 1,  ///< "Tue 9 Jun", when it began
-    Times,                        ///< "20:02 – 12:33"
-    Length,                       ///< "16h 31m"
-    Goal,                         ///< "16h goal"
-    Seconds,
-    GoalFraction,  ///< 1 where the goal was reached
-    Overlap,       ///< "Overlaps the fast of Sat 6 Jun"; empty where it overlaps none
-    Spoken         ///< all of it
-  };
-
   using Action = host::AppFeature::Action;
-  explicit FastHistoryModel(std::function<void(Action)> send, QObject* parent = nullptr);
+  FastHistoryModel(std::function<host::PageClients()> clients, std::function<void(Action)> send,
+                   QObject* parent = nullptr);
 
   void follow(const host::AppFeature::State& state);
   /// The texts of all rows may read differently.
@@ -44,35 +40,32 @@ class FastHistoryModel : public QAbstractListModel {
 
   int rowCount(const QModelIndex& parent = {}) const override;
   QVariant data(const QModelIndex& index, int role) const override;
-  QHash<int, QByteArray> roleNames() const override;
+  QHash<int, QByteArray> roleNames() const override { return rolesOf<host::HistoryRow>(); }
 
-  int count() const { return static_cast<int>(rows.size()); }
-  qreal scaleSeconds() const { return scale; }
-  /// The record of a row; nothing for a row that is none.
-  std::optional<host::FastRecord> record(int row) const;
-  /// The row of a fast, or -1.
-  int rowOf(UUID id) const;
-
+  /// Begins the draft with the fast of a row.
+  Q_INVOKABLE void edit(int row);
   Q_INVOKABLE void remove(int row);
-  /// All that a row says, in words.
-  Q_INVOKABLE QString spokenText(int row) const { return data(index(row), Spoken).toString(); }
+  /// What is spoken while the keyboard is at a row.
+  Q_INVOKABLE QString spokenText(int row) const;
 
  Q_SIGNALS:
+  void textsChanged();
   void countChanged();
-  void scaleChanged();
+  void scaleSecondsChanged();
 
  private:
-  using Records = List<host::FastRecord>;
-  void take(const Records& next);
-  void measure(Date now);
-  QString overlapText(std::size_t place) const;
-  QString spoken(const QModelIndex& index) const;
+  void become(host::HistoryFacts next);
 
+  std::function<host::PageClients()> clients;
   std::function<void(Action)> send;
-  Records fasts;                  // by start, the running one too
-  std::vector<std::size_t> rows;  // places in `fasts`
-  std::vector<std::optional<std::size_t>> partners;
-  qreal scale = secondsPerDay;
+  host::HistoryFacts facts;
+  std::vector<Stamp> seen;
+  Date toldAt;
+  mutable int composedRow = -1;  // the one that was asked for last: a view asks for all its roles
+  mutable QVariantList composed;
+  QString title, addLabel, note, menuTitle, editLabel, removeLabel;
+  int count = 0;
+  qreal scaleSeconds = 0;
 };
 
 }  // namespace mivo::app

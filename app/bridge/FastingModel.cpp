@@ -10,7 +10,7 @@ namespace mivo::app {
 
 FastingModel::FastingModel(std::function<host::PageClients()> present, std::function<void(Action)> sends,
                            QObject* parent)
-    : QObject{parent}, clients{std::move(present)}, send{std::move(sends)}, ended{send}, edited{clients, send} {
+    : QObject{parent}, clients{std::move(present)}, send{std::move(sends)}, ended{clients, send}, edited{clients, send} {
   timer.setSingleShot(true);
   timer.setTimerType(Qt::PreciseTimer);
   connect(&timer, &QTimer::timeout, this, &FastingModel::tick);
@@ -74,10 +74,6 @@ void FastingModel::changeStart(double instant) { send(Action::didChangeStart{dat
 
 void FastingModel::changeGoal(double seconds) {
   send(Action::didChangeGoal{static_cast<std::int64_t>(std::llround(seconds))});
-}
-
-void FastingModel::edit(int row) {
-  if (const auto record = ended.record(row)) send(Action::didTapEditFast{record->fast.id});
 }
 
 void FastingModel::add() { send(Action::didTapAddFast{}); }

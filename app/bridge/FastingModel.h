@@ -78,8 +78,7 @@ class FastingModel : public QObject {
   Q_INVOKABLE void changeStart(double instant);
   /// Of the running fast, and of those to come.
   Q_INVOKABLE void changeGoal(double seconds);
-  /// Begins the draft with the fast of a row, or with a new one.
-  Q_INVOKABLE void edit(int row);
+  /// Begins the draft of a new fast.
   Q_INVOKABLE void add();
   /// For a sheet that has a goal to choose, which owns it.
   Q_INVOKABLE mivo::app::GoalChoiceModel* goalChoice() const { return new GoalChoiceModel{clients}; }

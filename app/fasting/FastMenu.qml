@@ -12,6 +12,7 @@ Sheet {
     signal editWanted
     signal removeWanted
 
+    title: App.fasting.history.menuTitle
     spacing: 8
     onAboutToShow: edits = false
     // The keys are back at the row by then, and come back there again.
@@ -23,7 +24,7 @@ Sheet {
     ActionButton {
         width: parent.width
         kind: ActionButton.Secondary
-        text: Texts.text("Edit fast")
+        text: App.fasting.history.editLabel
         onClicked: {
             root.edits = true;
             root.close();
@@ -34,7 +35,7 @@ Sheet {
         width: parent.width
         kind: ActionButton.Destructive
         iconName: "trash"
-        text: Texts.text("Delete fast")
+        text: App.fasting.history.removeLabel
         onClicked: {
             root.close();
             root.removeWanted();

@@ -35,7 +35,7 @@ FocusScope {
     }
 
     function edit(row: int) {
-        App.fasting.edit(row);
+        App.fasting.history.edit(row);
         fast.open();
     }
 
@@ -113,7 +113,6 @@ FocusScope {
 
     FastMenu {
         id: menu
-        title: Texts.text("Fast")
         onEditWanted: root.edit(row)
         onRemoveWanted: App.fasting.history.remove(row)
     }

@@ -48,7 +48,7 @@ Item {
 
             StyledText {
                 width: parent.width
-                text: Texts.text("The fasts that have ended are listed here. Those of earlier days can be added.")
+                text: App.fasting.history.note
                 color: Theme.inkSecondary
             }
         }
@@ -62,7 +62,7 @@ Item {
         width: parent.width
         activeFocusOnTab: root.list !== null && root.list.count > 0
         Accessible.role: Accessible.List
-        Accessible.name: Texts.text("History") + (activeFocusOnTab ? ", " + App.fasting.history.spokenText(root.list.keyedRow) : "")
+        Accessible.name: activeFocusOnTab ? App.fasting.history.spokenText(root.list.keyedRow) : App.fasting.history.title
         Accessible.focusable: true
         onActiveFocusChanged: {
             root.list.keyed = activeFocus;

@@ -17,7 +17,7 @@ Item {
         anchors.left: parent.left
         y: root.stacked ? 0 : (add.height - height) / 2
         width: root.stacked ? root.width : Math.ceil(implicitWidth)
-        text: Texts.text("History")
+        text: App.fasting.history.title
         style: Theme.sectionText
         Accessible.role: Accessible.Heading
         Accessible.name: text
@@ -32,7 +32,7 @@ Item {
         rightPadding: 12
         kind: ActionButton.Plain
         iconName: "plus"
-        text: Texts.text("Add fast")
+        text: App.fasting.history.addLabel
         onClicked: root.addWanted()
     }
 }
