@@ -6,35 +6,44 @@
 #include <QtCore/QString>
 
 #include <functional>
+#include <optional>
+#include <vector>
 
 #include "app/bridge/RecordRows.h"
 #include "host/app/AppFeature.h"
-#include "host/pages/FastingPage.h"
+#include "host/pages/FastSheet.h"
 
 namespace mivo::app {
 
-/// The draft of a fast; once there is none any more, as it was last. Instants are seconds since 1970.
+/// The `host::FastSheet` of the draft; once there is none any more, as it was last.
 class FastDraftModel : public QObject {
   Q_OBJECT
   QML_ELEMENT
   QML_UNCREATABLE("the app has one")
-  Q_PROPERTY(bool isNew READ isNew NOTIFY changed)
-  Q_PROPERTY(double start READ start NOTIFY changed)
-  Q_PROPERTY(double end READ end NOTIFY changed)
-  Q_PROPERTY(QString startText READ startText NOTIFY changed)
-  Q_PROPERTY(QString endText READ endText NOTIFY changed)
-  Q_PROPERTY(QString length READ length NOTIFY changed)
-  Q_PROPERTY(qreal seconds READ seconds NOTIFY changed)
-  Q_PROPERTY(qreal goalSeconds READ goalSeconds NOTIFY changed)
+  Q_PROPERTY(QString title MEMBER title NOTIFY titleChanged)
+  Q_PROPERTY(bool isNew MEMBER isNew NOTIFY titleChanged)
+  Q_PROPERTY(double start MEMBER start NOTIFY startChanged)
+  Q_PROPERTY(QString startLabel MEMBER startLabel NOTIFY startChanged)
+  Q_PROPERTY(QString startText MEMBER startText NOTIFY startChanged)
+  Q_PROPERTY(QString startSpoken MEMBER startSpoken NOTIFY startChanged)
+  Q_PROPERTY(QString startProblem MEMBER startProblem NOTIFY startChanged)
+  Q_PROPERTY(double end MEMBER end NOTIFY endChanged)
+  Q_PROPERTY(QString endLabel MEMBER endLabel NOTIFY endChanged)
+  Q_PROPERTY(QString endText MEMBER endText NOTIFY endChanged)
+  Q_PROPERTY(QString endSpoken MEMBER endSpoken NOTIFY endChanged)
+  Q_PROPERTY(QString endProblem MEMBER endProblem NOTIFY endChanged)
+  Q_PROPERTY(QString lengthLabel MEMBER lengthLabel NOTIFY lengthChanged)
+  Q_PROPERTY(QString length MEMBER length NOTIFY lengthChanged)
+  Q_PROPERTY(QString lengthSpoken MEMBER lengthSpoken NOTIFY lengthChanged)
+  Q_PROPERTY(qreal seconds MEMBER seconds NOTIFY lengthChanged)
+  Q_PROPERTY(QString overlap MEMBER overlap NOTIFY overlapChanged)
+  Q_PROPERTY(qreal goalSeconds MEMBER goalSeconds NOTIFY goalChanged)
+  Q_PROPERTY(QString goalProblem MEMBER goalProblem NOTIFY goalChanged)
+  Q_PROPERTY(QString zonesLabel MEMBER zonesLabel NOTIFY titleChanged)
   Q_PROPERTY(mivo::app::RecordRows* zones READ zones CONSTANT)
-  /// What is wrong with a field, in a sentence; empty where nothing is.
-  Q_PROPERTY(QString startProblem READ startProblem NOTIFY changed)
-  Q_PROPERTY(QString endProblem READ endProblem NOTIFY changed)
-  Q_PROPERTY(QString goalProblem READ goalProblem NOTIFY changed)
-  /// Why it could not be written.
-  Q_PROPERTY(QString failure READ failure NOTIFY changed)
-  /// "Overlaps the fast of Sat 6 Jun"
-  Q_PROPERTY(QString overlap READ overlap NOTIFY changed)
+  Q_PROPERTY(QString failure MEMBER failure NOTIFY failureChanged)
+  Q_PROPERTY(QString saveLabel MEMBER saveLabel NOTIFY titleChanged)
+  Q_PROPERTY(QString removeLabel MEMBER removeLabel NOTIFY titleChanged)
 
  public:
   using Action = host::AppFeature::Action;
@@ -44,21 +53,7 @@ class FastDraftModel : public QObject {
   void follow(const host::AppFeature::State& state);
   /// Every text may read differently, though nothing was changed.
   void retell();
-
-  bool isNew() const { return !draft.before; }
-  double start() const { return secondsSince1970(draft.record.fast.start); }
-  double end() const { return secondsSince1970(finished().end); }
-  QString startText() const;
-  QString endText() const;
-  QString length() const;
-  qreal seconds() const { return finished().duration(); }
-  qreal goalSeconds() const { return static_cast<qreal>(draft.record.fast.goalSeconds); }
   RecordRows* zones() { return &zoneRows; }
-  QString startProblem() const;
-  QString endProblem() const;
-  QString goalProblem() const;
-  QString failure() const { return QString::fromStdString(draft.failure); }
-  QString overlap() const;
 
   Q_INVOKABLE void setStart(double instant) { send(Action::didChangeDraftStart{dateSince1970(instant)}); }
   Q_INVOKABLE void setEnd(double instant) { send(Action::didChangeDraftEnd{dateSince1970(instant)}); }
@@ -68,19 +63,28 @@ class FastDraftModel : public QObject {
   Q_INVOKABLE void dismiss() { send(Action::didDismissDraft{}); }
 
  Q_SIGNALS:
-  void changed();
+  void titleChanged();
+  void startChanged();
+  void endChanged();
+  void lengthChanged();
+  void overlapChanged();
+  void goalChanged();
+  void failureChanged();
   /// It was saved or dismissed.
   void ended();
 
  private:
-  const FinishedFastingDataEntry& finished() const { return *draft.record.fast.finished; }
-
   std::function<host::PageClients()> clients;
   std::function<void(Action)> send;
-  host::FastDraft draft;
+  std::optional<host::FastDraft> draft;
   List<host::FastRecord> fasts;
+  std::vector<Stamp> seen;
   RecordRows zoneRows{rolesOf<host::ZoneTimeText>()};
-  bool isOpen = false;
+  QString title, startLabel, startText, startSpoken, startProblem, endLabel, endText, endSpoken, endProblem,
+      lengthLabel, length, lengthSpoken, overlap, goalProblem, zonesLabel, failure, saveLabel, removeLabel;
+  bool isNew = false;
+  double start = 0, end = 0;
+  qreal seconds = 0, goalSeconds = 0;
 };
 
 }  // namespace mivo::app

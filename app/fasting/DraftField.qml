@@ -9,6 +9,7 @@ T.AbstractButton {
 
     property string label
     property string value
+    property string spoken
     property string problem
     property bool editable: true
     property bool isFirst: false
@@ -19,7 +20,7 @@ T.AbstractButton {
     bottomPadding: 13
     enabled: editable
     focusPolicy: Qt.StrongFocus
-    text: label + ", " + value
+    text: spoken
     Accessible.role: editable ? Accessible.Button : Accessible.StaticText
     Accessible.name: text
     Accessible.description: problem

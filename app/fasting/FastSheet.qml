@@ -9,7 +9,7 @@ Sheet {
     readonly property FastDraftModel draft: App.fasting.draft
     readonly property GoalChoiceModel goal: App.fasting.goalChoice()
 
-    title: draft.isNew ? Texts.text("Add fast") : Texts.text("Edit fast")
+    title: draft.title
     spacing: 16
 
     onAboutToShow: goal.begin(draft.goalSeconds)
@@ -22,7 +22,7 @@ Sheet {
             root.close();
         }
 
-        function onChanged() {
+        function onGoalChanged() {
             root.goal.tellProblem(root.draft.goalProblem);
         }
     }
@@ -48,16 +48,18 @@ Sheet {
             DraftField {
                 width: parent.width
                 isFirst: true
-                label: Texts.text("Start")
+                label: root.draft.startLabel
                 value: root.draft.startText
+                spoken: root.draft.startSpoken
                 problem: root.draft.startProblem
                 onClicked: date.choose(true)
             }
 
             DraftField {
                 width: parent.width
-                label: Texts.text("End")
+                label: root.draft.endLabel
                 value: root.draft.endText
+                spoken: root.draft.endSpoken
                 problem: root.draft.endProblem
                 onClicked: date.choose(false)
             }
@@ -65,8 +67,9 @@ Sheet {
             DraftField {
                 width: parent.width
                 editable: false
-                label: Texts.text("Length")
+                label: root.draft.lengthLabel
                 value: root.draft.length
+                spoken: root.draft.lengthSpoken
             }
         }
     }
@@ -88,7 +91,7 @@ Sheet {
 
         StyledText {
             width: parent.width
-            text: Texts.text("Zones")
+            text: root.draft.zonesLabel
             style: Theme.labelText
             color: Theme.inkSecondary
         }
@@ -126,7 +129,7 @@ Sheet {
             width: parent.width
             leastHeight: Theme.sheetButtonSize
             enabled: root.goal.canSave
-            text: Texts.text("Save")
+            text: root.draft.saveLabel
             onClicked: root.draft.save()
         }
 
@@ -136,7 +139,7 @@ Sheet {
             leastHeight: Theme.sheetButtonSize
             kind: ActionButton.Destructive
             iconName: "trash"
-            text: Texts.text("Delete fast")
+            text: root.draft.removeLabel
             onClicked: {
                 root.draft.remove();
                 root.close();
@@ -151,7 +154,7 @@ Sheet {
 
         function choose(start: bool) {
             isStart = start;
-            title = start ? Texts.text("Start") : Texts.text("End");
+            title = start ? root.draft.startLabel : root.draft.endLabel;
             instant = start ? root.draft.start : root.draft.end;
             open();
         }
