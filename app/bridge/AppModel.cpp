@@ -38,6 +38,7 @@ QString nameOf(const Presentation<Destination::State>& destination) {
 
 AppModel::AppModel(AppServices given)
     : services{std::move(given)},
+      clients{[all = currentDependencies()] { return host::pageClients(all, all.date->now()); }},
       store{State::make(TimeRange::week, services.usualWeightUnit), host::AppFeature{.history = services.history},
             dependency(&Dependencies::mainQueue), dependency(&Dependencies::taskRunner)},
       fastingBars{store.state().statistics.stats.fastingChartState, chartTexts(),
@@ -47,8 +48,7 @@ AppModel::AppModel(AppServices given)
       weightEntry{
           store.state().statistics.addWeightLogState,
           [this](AddWeightModel::Action action) { sendStatistics(Sent::addWeightLogAction{std::move(action)}); }},
-      runningFast{[given = currentDependencies()] { return host::pageClients(given, given.date->now()); },
-                  [this](Action action) { send(std::move(action)); }},
+      runningFast{clients, [this](Action action) { send(std::move(action)); }},
       badgeSummary{[this](BadgeSummaryFeature::Action action) {
         using Shown = PresentationAction<Destination::Action>;
         sendStatistics(Sent::destination{Shown::presented{Destination::Action::badges{std::move(action)}}});
@@ -57,7 +57,7 @@ AppModel::AppModel(AppServices given)
         using Shown = PresentationAction<Destination::Action>;
         sendStatistics(Sent::destination{Shown::presented{Destination::Action::donations{std::move(action)}}});
       }},
-      overlapRepair{[this](Action action) { send(std::move(action)); }},
+      overlapRepair{clients, [this](Action action) { send(std::move(action)); }},
       chosenSettings{services.calendar, services.about, [this](Action action) { send(std::move(action)); }} {
   theApp = this;
   following = store.observe([this](const State& state) { follow(state); });

@@ -152,6 +152,7 @@ class AppModel : public QObject {
   static DayBarsModel::Texts chartTexts();
 
   AppServices services;
+  std::function<host::PageClients()> clients;  // of the present
   std::int64_t seenVersion = 0;
   Store<host::AppFeature> store;
   std::vector<Stamp> seen;

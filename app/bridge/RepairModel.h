@@ -2,63 +2,51 @@
 #pragma once
 
 #include <QtQml/qqmlregistration.h>
-#include <QtCore/QList>
 #include <QtCore/QObject>
 #include <QtCore/QString>
 
 #include <functional>
 #include <optional>
 
+#include "app/bridge/RecordRows.h"
 #include "host/app/AppFeature.h"
+#include "host/pages/RepairSheet.h"
 
 namespace mivo::app {
 
-/// What the repair makes of one fast, or of several that become one.
-struct RepairRow {
-  Q_GADGET
-  QML_VALUE_TYPE(repairRow)
-  Q_PROPERTY(QString date MEMBER date CONSTANT)
-  Q_PROPERTY(QString kind MEMBER kind CONSTANT)
-  Q_PROPERTY(QString before MEMBER before CONSTANT)
-  Q_PROPERTY(QString after MEMBER after CONSTANT)
-
- public:
-  QString date, kind, before, after;
-  bool operator==(const RepairRow&) const = default;
-};
-
-/// The repair of overlapping fasts that is proposed, for the user to agree to.
+/// The `host::RepairSheet` of what is proposed; once nothing is any more, as it was last.
 class RepairModel : public QObject {
   Q_OBJECT
   QML_ELEMENT
   QML_UNCREATABLE("the app has one")
-  Q_PROPERTY(bool proposed READ isProposed NOTIFY changed)
-  Q_PROPERTY(QString summary READ summary NOTIFY changed)
-  Q_PROPERTY(QString buttonText READ buttonText NOTIFY changed)
-  Q_PROPERTY(QList<mivo::app::RepairRow> rows READ rows NOTIFY changed)
+  Q_PROPERTY(bool isProposed READ isProposed NOTIFY isProposedChanged)
+  Q_PROPERTY(QString title MEMBER title NOTIFY textsChanged)
+  Q_PROPERTY(QString summary MEMBER summary NOTIFY textsChanged)
+  Q_PROPERTY(mivo::app::RecordRows* rows READ rows CONSTANT)
+  Q_PROPERTY(QString button MEMBER button NOTIFY textsChanged)
+  Q_PROPERTY(QString cancelLabel MEMBER cancelLabel NOTIFY textsChanged)
 
  public:
   using Action = host::AppFeature::Action;
-  explicit RepairModel(std::function<void(Action)> send, QObject* parent = nullptr);
+  RepairModel(std::function<host::PageClients()> clients, std::function<void(Action)> send, QObject* parent = nullptr);
 
   void follow(const std::optional<host::HistoryChange>& proposal);
-
   bool isProposed() const { return change.has_value(); }
-  QString summary() const;
-  QString buttonText() const;
-  QList<RepairRow> rows() const;
+  RecordRows* rows() { return &repairs; }
 
   Q_INVOKABLE void confirm() { send(Action::didConfirmOverlapRepair{}); }
   Q_INVOKABLE void cancel();
 
  Q_SIGNALS:
-  void changed();
+  void isProposedChanged();
+  void textsChanged();
 
  private:
-  std::int64_t count() const { return static_cast<std::int64_t>(change ? change->removedFasts.size() : 0); }
-
+  std::function<host::PageClients()> clients;
   std::function<void(Action)> send;
   std::optional<host::HistoryChange> change;
+  RecordRows repairs{rolesOf<host::RepairRow>()};
+  QString title, summary, button, cancelLabel;
 };
 
 }  // namespace mivo::app

@@ -7,11 +7,15 @@ Item {
     id: root
 
     required property int index
-    required property repairRow modelData
+    required property string date
+    required property string kind
+    required property string before
+    required property string after
+    required property string spoken
 
     implicitHeight: texts.height
     Accessible.role: Accessible.StaticText
-    Accessible.name: modelData.date + ", " + modelData.kind + ": " + modelData.before + ", " + modelData.after
+    Accessible.name: spoken
 
     Rectangle {
         visible: root.index > 0
@@ -30,13 +34,13 @@ Item {
 
         CardHeadLine {
             width: parent.width
-            title: root.modelData.date
-            detail: root.modelData.kind
+            title: root.date
+            detail: root.kind
         }
 
         StyledText {
             width: parent.width
-            text: root.modelData.before
+            text: root.before
             style: Theme.labelText
             color: Theme.inkSecondary
             font.strikeout: true
@@ -44,7 +48,7 @@ Item {
 
         StyledText {
             width: parent.width
-            text: root.modelData.after
+            text: root.after
         }
     }
 }

@@ -7,7 +7,7 @@ import Mivo
 Sheet {
     id: root
 
-    title: Texts.text("Fix overlapping fasts")
+    title: App.repair.title
     spacing: 16
 
     StyledText {
@@ -41,7 +41,7 @@ Sheet {
         ActionButton {
             width: parent.width
             leastHeight: Theme.sheetButtonSize
-            text: App.repair.buttonText
+            text: App.repair.button
             onClicked: App.repair.confirm()
         }
 
@@ -49,7 +49,7 @@ Sheet {
             width: parent.width
             leastHeight: Theme.sheetButtonSize
             kind: ActionButton.Plain
-            text: Texts.text("Not now")
+            text: App.repair.cancelLabel
             onClicked: root.close()
         }
     }

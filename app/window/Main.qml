@@ -240,11 +240,11 @@ Window {
 
     LateSheet {
         id: repair
-        readonly property bool wanted: App.repair.proposed
+        readonly property bool wanted: App.repair.isProposed
         onWantedChanged: wanted ? open() : close()
         sourceComponent: RepairSheet {
             onAboutToHide: {
-                if (App.repair.proposed)
+                if (App.repair.isProposed)
                     App.repair.cancel();
             }
         }
