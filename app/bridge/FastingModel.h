@@ -11,6 +11,7 @@
 #include <functional>
 #include <vector>
 
+#include "app/bridge/DateTimeChoiceModel.h"
 #include "app/bridge/FastDraftModel.h"
 #include "app/bridge/FastHistoryModel.h"
 #include "app/bridge/GoalChoiceModel.h"
@@ -80,8 +81,9 @@ class FastingModel : public QObject {
   Q_INVOKABLE void changeGoal(double seconds);
   /// Begins the draft of a new fast.
   Q_INVOKABLE void add();
-  /// For a sheet that has a goal to choose, which owns it.
+  /// For a sheet that has a goal or a date to choose, which owns them.
   Q_INVOKABLE mivo::app::GoalChoiceModel* goalChoice() const { return new GoalChoiceModel{clients}; }
+  Q_INVOKABLE mivo::app::DateTimeChoiceModel* dateTimeChoice() const { return new DateTimeChoiceModel{clients}; }
 
  Q_SIGNALS:
   void changed();

@@ -12,6 +12,7 @@ Sheet {
 
     /// What the wheels say now.
     readonly property double current: choice.instant
+    readonly property DateTimeChoiceModel choice: App.fasting.dateTimeChoice()
     /// What is wrong with that, in a sentence; it cannot be chosen as long as there is one.
     property string problem
 
@@ -20,7 +21,7 @@ Sheet {
     spacing: 16
 
     onAboutToShow: {
-        choice.instant = root.instant;
+        choice.begin(root.instant);
         days.currentIndex = choice.day;
         hours.currentIndex = choice.hour;
         minutes.currentIndex = choice.minute;
@@ -28,12 +29,10 @@ Sheet {
             wheel.positionViewAtIndex(wheel.currentIndex, T.Tumbler.Center);  // it opens there, and does not roll there
     }
 
-    DateTimeChoice { id: choice }
-
     StyledText {
         width: parent.width
         horizontalAlignment: Text.AlignHCenter
-        text: choice.text
+        text: root.choice.text
         style: Theme.bodyStrongText
     }
 
@@ -47,34 +46,34 @@ Sheet {
         Wheel {
             id: days
             width: 152
-            model: choice.dayCount
-            accessibleName: Texts.text("Day")
-            onCurrentIndexChanged: choice.day = currentIndex
+            model: root.choice.dayCount
+            spoken: root.choice.daySpoken
+            onCurrentIndexChanged: root.choice.turnDay(currentIndex)
 
             function textOf(index: int): string {
-                return choice.dayText(index, choice.today);
+                return root.choice.dayText(index, root.choice.today);
             }
         }
 
         Wheel {
             id: hours
             model: 24
-            accessibleName: Texts.text("Hour")
-            onCurrentIndexChanged: choice.hour = currentIndex
+            spoken: root.choice.hourSpoken
+            onCurrentIndexChanged: root.choice.turnHour(currentIndex)
 
             function textOf(index: int): string {
-                return choice.clockText(index);
+                return root.choice.clockText(index);
             }
         }
 
         Wheel {
             id: minutes
             model: 60
-            accessibleName: Texts.text("Minute")
-            onCurrentIndexChanged: choice.minute = currentIndex
+            spoken: root.choice.minuteSpoken
+            onCurrentIndexChanged: root.choice.turnMinute(currentIndex)
 
             function textOf(index: int): string {
-                return choice.clockText(index);
+                return root.choice.clockText(index);
             }
         }
     }
@@ -94,9 +93,9 @@ Sheet {
         width: parent.width
         leastHeight: Theme.sheetButtonSize
         enabled: root.problem === ""
-        text: Texts.text("Done")
+        text: root.choice.doneLabel
         onClicked: {
-            root.chosen(choice.instant);
+            root.chosen(root.current);
             root.close();
         }
     }

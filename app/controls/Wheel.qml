@@ -8,11 +8,11 @@ import Mivo
 T.Tumbler {
     id: root
 
-    property string accessibleName
+    property string spoken
 
-    /// The text of a choice; a wheel of something else than numbers has its own.
+    /// The text of a choice; each wheel has its own.
     function textOf(index: int): string {
-        return index;
+        return "";
     }
 
     implicitWidth: 72
@@ -21,7 +21,7 @@ T.Tumbler {
     wrap: false
     activeFocusOnTab: true
     Accessible.role: Accessible.SpinBox
-    Accessible.name: accessibleName + ", " + textOf(currentIndex)
+    Accessible.name: spoken
 
     background: Item {
         Rectangle {

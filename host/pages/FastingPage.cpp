@@ -29,10 +29,8 @@ double secondsSince(std::optional<Date> begin, Date now) {
 
 std::string timerText(double seconds, const NumberFormatter& numbers) {
   const auto whole = static_cast<std::int64_t>(seconds);
-  const auto twoDigits = [&](std::int64_t value) {
-    return (value < 10 ? numbers.string(std::int64_t{0}) : "") + numbers.string(value);
-  };
-  return numbers.string(whole / 3600) + ':' + twoDigits(whole / 60 % 60) + ':' + twoDigits(whole % 60);
+  return numbers.string(whole / 3600) + ':' + twoDigits(whole / 60 % 60, numbers) + ':' +
+         twoDigits(whole % 60, numbers);
 }
 
 // The goal; past it the end of the present zone, and then day by day.

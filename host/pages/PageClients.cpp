@@ -15,6 +15,10 @@ PageClients pageClients(const Dependencies& dependencies, Date now) {
           .numbers = *dependencies.numberFormatter};
 }
 
+std::string twoDigits(std::int64_t number, const NumberFormatter& numbers) {
+  return (number < 10 ? numbers.string(std::int64_t{0}) : "") + numbers.string(number);
+}
+
 std::string durationText(double seconds, const PageClients& clients) {
   return clients.hourMin.string(std::max(0.0, seconds)).value_or("");
 }

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cstdint>
+#include <string>
+
 #include "mivo/model/Date.h"
 #include "mivo/platform/Dependencies.h"
 
@@ -18,6 +21,9 @@ struct PageClients {
 
 /// Those of a host, which must outlive them. All but the date are to be there.
 PageClients pageClients(const Dependencies& dependencies, Date now);
+
+/// "09": of a clock, in the user's digits.
+std::string twoDigits(std::int64_t number, const NumberFormatter& numbers);
 
 /// "16h 42m" in the user's language; never negative.
 std::string durationText(double seconds, const PageClients& clients);

@@ -157,7 +157,7 @@ void Drive::recordAFast() {
 
   clickTile("Started");
   const QQuickItem* wheel = app->find([](const QQuickItem* one) {
-    return one->inherits("QQuickTumbler") && one->property("accessibleName").toString() == QLatin1String{"Hour"};
+    return one->inherits("QQuickTumbler") && one->property("spoken").toString().startsWith(QLatin1String{"Hour, "});
   });
   ASSERT_NE(wheel, nullptr);
   const QPoint middle = place(wheel).center();

@@ -19,8 +19,10 @@ struct NumericDates final : DateFormatter {
   }
 };
 
-/// What composes pages in English, in UTC.
+/// What composes pages in English, with a calendar of a zone; texts of dates are in UTC.
 struct Pages {
+  explicit Pages(const char* zone = "UTC") : calendar{gregorianCalendar(zone)} {}
+
   host::PageClients at(Date now) const {
     return {.now = now,
             .calendar = *calendar,
@@ -31,7 +33,7 @@ struct Pages {
             .numbers = numbers};
   }
 
-  std::shared_ptr<const Calendar> calendar = gregorianCalendar("UTC");
+  std::shared_ptr<const Calendar> calendar;
   EnglishTexts texts;
   NumericDates dates;
   EnglishHoursAndMinutes hourMin;

@@ -1,0 +1,92 @@
+// SPDX-License-Identifier: MIT
+#include "host/pages/DateTimeChoice.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <optional>
+
+#include "host/fasting/Fasting.h"
+#include "host/pages/DateTimeText.h"
+
+namespace mivo::host {
+namespace {
+
+constexpr int yearsBack = 100, daysAhead = 1, dayTotal = yearsBack * 366 + daysAhead + 1, lastDay = dayTotal - 1;
+constexpr int hoursADay = 24, minutesAnHour = 60;
+constexpr double secondsPerMinute = 60;
+
+std::optional<Date> startOf(const DateTimeEntry& entry, int day, const Calendar& calendar) {
+  return calendar.adding(CalendarComponent::day, day - (lastDay - daysAhead), entry.today);
+}
+
+DateTimeEntry withTime(DateTimeEntry entry, double secondsOfDay) {
+  entry.hour = static_cast<int>(secondsOfDay / secondsPerHour);
+  entry.minute = static_cast<int>(secondsOfDay / secondsPerMinute) % minutesAnHour;
+  return entry;
+}
+
+}  // namespace
+
+int dayCount() { return dayTotal; }
+
+// Until the clock is changed it shows the time since the day's start; from then on, what the day has left.
+DateTimeEntry dateTimeEntry(Date date, const PageClients& clients) {
+  const Calendar& calendar = clients.calendar;
+  date = startOfMinute(date);
+  DateTimeEntry entry{.today = calendar.startOfDay(clients.now).value_or(clients.now)};
+  const auto ahead = calendar.calendarDatesBetween(entry.today, date).value_or(1) - 1;
+  entry.day = static_cast<int>(std::clamp<std::int64_t>(lastDay - daysAhead + ahead, 0, lastDay));
+  const double passed = secondsBetween(calendar.startOfDay(date).value_or(date), date);
+  const double left = secondsBetween(date, calendar.endOfDay(date).value_or(date + Duration{secondsPerDay - passed}));
+  const DateTimeEntry afterChange = withTime(entry, std::max(0.0, secondsPerDay - left));
+  const DateTimeEntry beforeChange = withTime(entry, std::min(passed, secondsPerDay - secondsPerMinute));
+  const auto isRead = [&](const DateTimeEntry& read) { return instantOf(read, calendar) == date; };
+  return isRead(afterChange) || !isRead(beforeChange) ? afterChange : beforeChange;
+}
+
+DateTimeEntry withDay(DateTimeEntry entry, int day) {
+  entry.day = std::clamp(day, 0, lastDay);
+  return entry;
+}
+
+DateTimeEntry withHour(DateTimeEntry entry, int hour) {
+  entry.hour = std::clamp(hour, 0, hoursADay - 1);
+  return entry;
+}
+
+DateTimeEntry withMinute(DateTimeEntry entry, int minute) {
+  entry.minute = std::clamp(minute, 0, minutesAnHour - 1);
+  return entry;
+}
+
+Date instantOf(const DateTimeEntry& entry, const Calendar& calendar) {
+  const Date start = startOf(entry, entry.day, calendar).value_or(entry.today);
+  const Date end = calendar.endOfDay(start).value_or(start);
+  const auto match = calendar.lastMatch({.hour = entry.hour, .minute = entry.minute}, end);
+  if (match && *match >= start) return *match;
+  return start + Duration{entry.hour * secondsPerHour + entry.minute * secondsPerMinute};
+}
+
+std::string dayTextOf(const DateTimeEntry& entry, int day, const PageClients& clients) {
+  const auto start = startOf(entry, day, clients.calendar);
+  return start ? dayText(*start, clients) : std::string{};
+}
+
+DateTimeChoice composeDateTimeChoice(const DateTimeEntry& entry, const PageClients& clients) {
+  const auto& texts = clients.texts;
+  DateTimeChoice choice;
+  choice.instant = instantOf(entry, clients.calendar);
+  choice.today = entry.today;
+  choice.text = dateTimeText(choice.instant, clients);
+  choice.dayCount = dayTotal;
+  choice.day = entry.day;
+  choice.hour = entry.hour;
+  choice.minute = entry.minute;
+  choice.daySpoken = texts.text("Day") + ", " + dayTextOf(entry, entry.day, clients);
+  choice.hourSpoken = texts.text("Hour") + ", " + twoDigits(entry.hour, clients.numbers);
+  choice.minuteSpoken = texts.text("Minute") + ", " + twoDigits(entry.minute, clients.numbers);
+  choice.doneLabel = texts.text("Done");
+  return choice;
+}
+
+}  // namespace mivo::host

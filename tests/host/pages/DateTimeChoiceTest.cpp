@@ -1,0 +1,126 @@
+// SPDX-License-Identifier: MIT
+#include "host/pages/DateTimeChoice.h"
+
+#include <gtest/gtest.h>
+
+#include "host/json/RecordJson.h"
+#include "tests/pages/Pages.h"
+
+namespace mivo::host {
+namespace {
+
+using tests::utc;
+
+/// Of a zone, some day of 2026.
+struct Zone {
+  explicit Zone(const char* name, Date present) : pages{name}, now{present} {}
+  PageClients clients() const { return pages.at(now); }
+  tests::Pages pages;
+  Date now;
+};
+
+struct ShownRow {
+  const char *name, *zone;
+  const char* date;  // in UTC
+  int daysAgo, hour, minute;
+};
+void PrintTo(const ShownRow& row, std::ostream* out) { *out << row.name; }
+
+class ShownDates : public testing::TestWithParam<ShownRow> {};
+
+TEST_P(ShownDates, readAsTheClockDidAndComeBackTheSame) {
+  const auto& row = GetParam();
+  const Zone zone{row.zone, utc("2026-10-25 12:00")};
+  const DateTimeEntry entry = dateTimeEntry(utc(row.date), zone.clients());
+  EXPECT_EQ(dayCount() - 2 - entry.day, row.daysAgo);
+  EXPECT_EQ(entry.hour, row.hour);
+  EXPECT_EQ(entry.minute, row.minute);
+  EXPECT_EQ(instantOf(entry, zone.clients().calendar), utc(row.date));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Rows, ShownDates,
+    testing::Values(ShownRow{"now", "UTC", "2026-10-25 12:00", 0, 12, 0},
+                    ShownRow{"tomorrow", "UTC", "2026-10-26 23:59", -1, 23, 59},
+                    ShownRow{"beforeTheGap", "Europe/Berlin", "2026-03-29 00:59", 210, 1, 59},
+                    ShownRow{"afterTheGap", "Europe/Berlin", "2026-03-29 01:00", 210, 3, 0},
+                    ShownRow{"afterAMidnightThatWasSkipped", "Africa/Cairo", "2026-04-23 22:00", 184, 1, 0},
+                    ShownRow{"beforeTheDoubleHour", "Europe/Berlin", "2026-10-24 23:59", 0, 1, 59},
+                    ShownRow{"afterTheDoubleHour", "Europe/Berlin", "2026-10-25 02:00", 0, 3, 0},
+                    ShownRow{"theEveningAfter", "Europe/Berlin", "2026-10-25 22:59", 0, 23, 59},
+                    ShownRow{"halfAnHourForward", "Australia/Lord_Howe", "2026-10-03 15:30", 21, 2, 30},
+                    ShownRow{"halfAnHourBack", "Australia/Lord_Howe", "2026-04-04 16:00", 203, 2, 30}),
+    [](const auto& row) { return std::string{row.param.name}; });
+
+TEST(DateTimeEntry, comesBackTheSameAllYearInZonesThatChangeTheirClocks) {
+  for (const char* name : {"Europe/Berlin", "Australia/Lord_Howe", "Africa/Cairo"}) {
+    const Zone zone{name, utc("2026-12-31 12:00")};
+    const PageClients clients = zone.clients();
+    int lost = 0;
+    for (Date date = utc("2026-01-01 00:07"); date < utc("2026-12-31 00:00"); date += Duration{1800})
+      lost += instantOf(dateTimeEntry(date, clients), clients.calendar) == date ? 0 : 1;
+    EXPECT_LE(lost, 2) << name << ": only one of two instants that read alike can be chosen";
+  }
+}
+
+TEST(DateTimeEntry, readsTheSecondOfTwoEqualTimesAsTheFirst) {
+  const Zone zone{"Europe/Berlin", utc("2026-10-25 12:00")};
+  const PageClients clients = zone.clients();
+  const DateTimeEntry entry = dateTimeEntry(utc("2026-10-25 01:30"), clients);
+  EXPECT_EQ(entry, dateTimeEntry(utc("2026-10-25 00:30"), clients));
+  EXPECT_EQ(entry.hour, 2);
+}
+
+TEST(DateTimeEntry, keepsToItsLists) {
+  const Zone zone{"UTC", utc("2026-10-25 12:00")};
+  const PageClients clients = zone.clients();
+  EXPECT_EQ(dateTimeEntry(utc("2027-10-25 12:00"), clients).day, dayCount() - 1);
+  EXPECT_EQ(dateTimeEntry(utc("1800-10-25 12:00"), clients).day, 0);
+  EXPECT_EQ(dateTimeEntry(utc("2026-10-25 12:34:56.7"), clients).minute, 34);
+  const DateTimeEntry entry = withMinute(withHour(withDay({.today = utc("2026-10-25 00:00")}, 1 << 30), -1), 60);
+  EXPECT_EQ(entry, (DateTimeEntry{utc("2026-10-25 00:00"), dayCount() - 1, 0, 59}));
+  EXPECT_EQ(instantOf(entry, clients.calendar), utc("2026-10-26 00:59"));
+}
+
+struct ChosenRow {
+  const char *name, *zone;
+  const char* date;  // of a time of the day, in UTC
+  int hour, minute;
+  const char* expected;
+};
+void PrintTo(const ChosenRow& row, std::ostream* out) { *out << row.name; }
+
+class ChosenTimes : public testing::TestWithParam<ChosenRow> {};
+
+TEST_P(ChosenTimes, areThoseOfTheClock) {
+  const auto& row = GetParam();
+  const Zone zone{row.zone, utc("2026-12-31 12:00")};
+  const DateTimeEntry noon = dateTimeEntry(utc(row.date), zone.clients());
+  const DateTimeEntry entry = withMinute(withHour(noon, row.hour), row.minute);
+  EXPECT_EQ(tests::text(instantOf(entry, zone.clients().calendar)), row.expected);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Rows, ChosenTimes,
+    testing::Values(ChosenRow{"usual", "Europe/Berlin", "2026-03-28 12:00", 2, 30, "2026-03-28 01:30:00"},
+                    ChosenRow{"skippedIsTheFirstAfter", "Europe/Berlin", "2026-03-29 12:00", 2, 30,
+                              "2026-03-29 01:00:00"},
+                    ChosenRow{"midnightSkipped", "Africa/Cairo", "2026-04-24 12:00", 0, 15, "2026-04-23 22:00:00"},
+                    ChosenRow{"doubledIsTheFirst", "Europe/Berlin", "2026-10-25 12:00", 2, 30, "2026-10-25 00:30:00"}),
+    [](const auto& row) { return std::string{row.param.name}; });
+
+TEST(DateTimeChoice, saysWhatIsChosen) {
+  const Zone zone{"UTC", utc("2026-10-25 12:00")};
+  const DateTimeChoice choice =
+      composeDateTimeChoice(dateTimeEntry(utc("2026-10-24 09:05"), zone.clients()), zone.clients());
+  EXPECT_EQ(choice.text, "Yesterday, 09:05");
+  EXPECT_EQ(choice.daySpoken, "Day, 10-24");
+  EXPECT_EQ(choice.hourSpoken, "Hour, 09");
+  EXPECT_EQ(choice.minuteSpoken, "Minute, 05");
+  JsonWriter json;
+  writeJson(json, choice);
+  EXPECT_NE(std::move(json).text().find(R"("instant": "2026-10-24T09:05:00Z")"), std::string::npos);
+}
+
+}  // namespace
+}  // namespace mivo::host
