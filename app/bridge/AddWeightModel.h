@@ -6,12 +6,14 @@
 #include <QtCore/QString>
 
 #include <functional>
+#include <utility>
 
-#include "mivo/statistics/AddWeightLogFeature.h"
+#include "app/bridge/Text.h"
+#include "mivo/statistics/AddWeightForm.h"
 
 namespace mivo::app {
 
-/// What stands in the add-weight card, and what the user does there.
+/// An `AddWeightForm`, and what the user does there.
 class AddWeightModel : public QObject {
   Q_OBJECT
   QML_ELEMENT
@@ -19,6 +21,7 @@ class AddWeightModel : public QObject {
   Q_PROPERTY(QString fieldText READ fieldText NOTIFY changed)
   Q_PROPERTY(QString unit READ unit NOTIFY changed)
   Q_PROPERTY(QString dateText READ dateText NOTIFY changed)
+  Q_PROPERTY(QString dateTitle READ dateTitle NOTIFY changed)
   Q_PROPERTY(QString problem READ problem NOTIFY changed)
   /// Seconds since 1970.
   Q_PROPERTY(double instant READ instant NOTIFY changed)
@@ -26,16 +29,21 @@ class AddWeightModel : public QObject {
 
  public:
   using Action = AddWeightLogFeature::Action;
-  AddWeightModel(AddWeightLogFeature::State initial, std::function<void(Action)> send, QObject* parent = nullptr);
+  explicit AddWeightModel(std::function<void(Action)> sends) : send{std::move(sends)} {}
 
-  void follow(const AddWeightLogFeature::State& newer);
+  void show(AddWeightForm composed) {
+    if (composed == form) return;
+    form = std::move(composed);
+    Q_EMIT changed();
+  }
 
-  QString fieldText() const;
-  QString unit() const;
-  QString dateText() const;
-  double instant() const { return held.logDate->time_since_epoch().count(); }
-  QString problem() const;
-  bool saving() const { return held.savingState == AddWeightLogFeature::SavingState::saving; }
+  QString fieldText() const { return qString(form.fieldText); }
+  QString unit() const { return qString(form.unit); }
+  QString dateText() const { return qString(form.dateText); }
+  QString dateTitle() const { return qString(form.dateTitle); }
+  QString problem() const { return qString(form.problem); }
+  double instant() const { return secondsSince1970(form.date); }
+  bool saving() const { return form.isSaving; }
 
   Q_INVOKABLE void edit(const QString& text) { send(Action::didChangeText{text.toStdString()}); }
   Q_INVOKABLE void increase() { send(Action::didTapIncrease{}); }
@@ -47,8 +55,7 @@ class AddWeightModel : public QObject {
   void changed();
 
  private:
-  AddWeightLogFeature::State held;
-  QString shownDate;
+  AddWeightForm form;
   std::function<void(Action)> send;
 };
 

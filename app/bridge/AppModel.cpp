@@ -14,7 +14,9 @@
 #include "host/app/FaultText.h"
 #include "mivo/platform/Dependencies.h"
 #include "mivo/roadmap/FeedbackSheet.h"
+#include "mivo/statistics/AddWeightForm.h"
 #include "mivo/statistics/ComposeScreen.h"
+#include "mivo/statistics/GoalWeightSheet.h"
 #include "mivo/statistics/ScreenInput.h"
 
 namespace mivo::app {
@@ -38,7 +40,7 @@ QString nameOf(const Presentation<Destination::State>& destination) {
 
 AppModel::AppModel(AppServices given)
     : services{std::move(given)},
-      clients{[all = currentDependencies()] { return host::pageClients(all, all.date->now()); }},
+      clients{[all = currentDependencies()] { return pageClients(all, all.date->now()); }},
       store{State::make(TimeRange::week, services.usualWeightUnit), host::AppFeature{.history = services.history},
             dependency(&Dependencies::mainQueue), dependency(&Dependencies::taskRunner)},
       fastingBars{store.state().statistics.stats.fastingChartState, chartTexts(),
@@ -46,7 +48,6 @@ AppModel::AppModel(AppServices given)
       eatingBars{store.state().statistics.stats.eatingChartState, chartTexts(),
                  [this](DayBarsModel::Action action) { sendStatistics(Sent::eatingChartAction{std::move(action)}); }},
       weightEntry{
-          store.state().statistics.addWeightLogState,
           [this](AddWeightModel::Action action) { sendStatistics(Sent::addWeightLogAction{std::move(action)}); }},
       runningFast{clients, [this](Action action) { send(std::move(action)); }},
       badgeSummary{[this](BadgeSummaryFeature::Action action) {
@@ -122,7 +123,6 @@ void AppModel::followZone() {
   if (!zone) return;
   send(Action::recompute{});
   runningFast.retell();
-  Q_EMIT weightEntry.changed();
   const auto& texts = *dependency(&Dependencies::texts);
   say(filledIn(texts.text("Your time zone is now {1}. All times are shown in it; nothing was changed."),
                {qString(*zone).replace(QLatin1Char{'_'}, QLatin1Char{' '}).toStdString()}));
@@ -154,7 +154,7 @@ void AppModel::follow(const State& state) {
   cards.show(composeScreen(screenInput(statistics), screenFormatters()));
   weightLine.follow(statistics, state.now);
   pairLine.follow(statistics, state.now);
-  weightEntry.follow(statistics.addWeightLogState);
+  weightEntry.show(composeAddWeight(statistics.addWeightLogState, clients()));
   runningFast.follow(state);
   overlapRepair.follow(state.overlapRepair);
   chosenSettings.follow(statistics);
@@ -189,7 +189,7 @@ void AppModel::tellTips(const State& state) const {
 QString AppModel::destination() const { return shownDestination; }
 
 GoalSheet AppModel::goalSheet() const {
-  return goalSheetOf(
+  return recordOf<GoalSheet>(
       composeGoalWeightSheet(store.state().statistics.goalWeightCardState, *dependency(&Dependencies::texts),
                              *dependency(&Dependencies::numberFormatter), *dependency(&Dependencies::massFormatter)));
 }
@@ -237,7 +237,9 @@ bool AppModel::setGoalWeight(const QString& text) {
   return !store.state().statistics.goalWeightCardState.hasGoalProblem;
 }
 
-FeedbackTexts AppModel::feedback() const { return feedbackTextsOf(composeFeedback(*dependency(&Dependencies::texts))); }
+FeedbackTexts AppModel::feedback() const {
+  return recordOf<FeedbackTexts>(composeFeedback(*dependency(&Dependencies::texts)));
+}
 
 bool AppModel::canSend(const QString& idea) const { return isIdea(idea.toStdString()); }
 

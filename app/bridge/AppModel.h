@@ -16,9 +16,8 @@
 #include "app/bridge/DayBarsModel.h"
 #include "app/bridge/DonationsModel.h"
 #include "app/bridge/FastingModel.h"
-#include "app/bridge/FeedbackTexts.h"
-#include "app/bridge/GoalSheet.h"
 #include "app/bridge/PairLineModel.h"
+#include "app/bridge/Records.h"
 #include "app/bridge/RepairModel.h"
 #include "app/bridge/RoadmapModel.h"
 #include "app/bridge/ScreenModel.h"
@@ -152,7 +151,7 @@ class AppModel : public QObject {
   static DayBarsModel::Texts chartTexts();
 
   AppServices services;
-  std::function<host::PageClients()> clients;  // of the present
+  std::function<PageClients()> clients;  // of the present
   std::int64_t seenVersion = 0;
   Store<host::AppFeature> store;
   std::vector<Stamp> seen;

@@ -7,7 +7,7 @@
 
 namespace mivo::app {
 
-DateTimeChoiceModel::DateTimeChoiceModel(std::function<host::PageClients()> present) : clients{std::move(present)} {
+DateTimeChoiceModel::DateTimeChoiceModel(std::function<PageClients()> present) : clients{std::move(present)} {
   become(host::dateTimeEntry(clients().now, clients()));
 }
 
@@ -15,7 +15,7 @@ void DateTimeChoiceModel::begin(double date) { become(host::dateTimeEntry(dateSi
 
 QString DateTimeChoiceModel::dayText(int place, double) const { return qString(dayTextOf(entry, place, clients())); }
 
-QString DateTimeChoiceModel::clockText(int place) const { return qString(host::twoDigits(place, clients().numbers)); }
+QString DateTimeChoiceModel::clockText(int place) const { return qString(twoDigits(place, clients().numbers)); }
 
 void DateTimeChoiceModel::become(const host::DateTimeEntry& next) {
   entry = next;

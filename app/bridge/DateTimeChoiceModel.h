@@ -30,7 +30,7 @@ class DateTimeChoiceModel : public QObject {
   Q_PROPERTY(QString doneLabel MEMBER doneLabel NOTIFY todayChanged)
 
  public:
-  explicit DateTimeChoiceModel(std::function<host::PageClients()> clients);
+  explicit DateTimeChoiceModel(std::function<PageClients()> clients);
 
   /// Begins with a date.
   Q_INVOKABLE void begin(double date);
@@ -52,7 +52,7 @@ class DateTimeChoiceModel : public QObject {
  private:
   void become(const host::DateTimeEntry& next);
 
-  std::function<host::PageClients()> clients;
+  std::function<PageClients()> clients;
   host::DateTimeEntry entry;
   QString text, daySpoken, hourSpoken, minuteSpoken, doneLabel;
   double instant = 0, today = 0;

@@ -6,8 +6,7 @@
 
 namespace mivo::app {
 
-FastDraftModel::FastDraftModel(std::function<host::PageClients()> present, std::function<void(Action)> sends,
-                               QObject* parent)
+FastDraftModel::FastDraftModel(std::function<PageClients()> present, std::function<void(Action)> sends, QObject* parent)
     : QObject{parent}, clients{std::move(present)}, send{std::move(sends)} {}
 
 void FastDraftModel::follow(const host::AppFeature::State& state) {

@@ -47,8 +47,7 @@ class FastDraftModel : public QObject {
 
  public:
   using Action = host::AppFeature::Action;
-  FastDraftModel(std::function<host::PageClients()> clients, std::function<void(Action)> send,
-                 QObject* parent = nullptr);
+  FastDraftModel(std::function<PageClients()> clients, std::function<void(Action)> send, QObject* parent = nullptr);
 
   void follow(const host::AppFeature::State& state);
   /// Every text may read differently, though nothing was changed.
@@ -74,7 +73,7 @@ class FastDraftModel : public QObject {
   void ended();
 
  private:
-  std::function<host::PageClients()> clients;
+  std::function<PageClients()> clients;
   std::function<void(Action)> send;
   std::optional<host::FastDraft> draft;
   List<host::FastRecord> fasts;

@@ -5,11 +5,11 @@
 #include <utility>
 
 #include "app/bridge/Text.h"
-#include "host/pages/DateTimeText.h"
+#include "mivo/pages/DateTimeText.h"
 
 namespace mivo::app {
 
-FastHistoryModel::FastHistoryModel(std::function<host::PageClients()> present, std::function<void(Action)> sends,
+FastHistoryModel::FastHistoryModel(std::function<PageClients()> present, std::function<void(Action)> sends,
                                    QObject* parent)
     : QAbstractListModel{parent}, clients{std::move(present)}, send{std::move(sends)} {}
 
@@ -18,7 +18,7 @@ void FastHistoryModel::follow(const host::AppFeature::State& state) {
   if (std::exchange(seen, read) == read) return;
   become(host::historyFacts(state.fasts, state.now));
   const auto present = clients();
-  if (host::daysFromToday(toldAt, present) != 0) retell();  // dates of the present year do not name it
+  if (daysFromToday(toldAt, present) != 0) retell();  // dates of the present year do not name it
   carry(composeHistoryPage(facts, present), *this);
 }
 

@@ -31,8 +31,7 @@ class FastHistoryModel : public QAbstractListModel {
 
  public:
   using Action = host::AppFeature::Action;
-  FastHistoryModel(std::function<host::PageClients()> clients, std::function<void(Action)> send,
-                   QObject* parent = nullptr);
+  FastHistoryModel(std::function<PageClients()> clients, std::function<void(Action)> send, QObject* parent = nullptr);
 
   void follow(const host::AppFeature::State& state);
   /// The texts of all rows may read differently.
@@ -56,7 +55,7 @@ class FastHistoryModel : public QAbstractListModel {
  private:
   void become(host::HistoryFacts next);
 
-  std::function<host::PageClients()> clients;
+  std::function<PageClients()> clients;
   std::function<void(Action)> send;
   host::HistoryFacts facts;
   std::vector<Stamp> seen;

@@ -8,9 +8,12 @@
 
 namespace mivo::app {
 
-FastingModel::FastingModel(std::function<host::PageClients()> present, std::function<void(Action)> sends,
-                           QObject* parent)
-    : QObject{parent}, clients{std::move(present)}, send{std::move(sends)}, ended{clients, send}, edited{clients, send} {
+FastingModel::FastingModel(std::function<PageClients()> present, std::function<void(Action)> sends, QObject* parent)
+    : QObject{parent},
+      clients{std::move(present)},
+      send{std::move(sends)},
+      ended{clients, send},
+      edited{clients, send} {
   timer.setSingleShot(true);
   timer.setTimerType(Qt::PreciseTimer);
   connect(&timer, &QTimer::timeout, this, &FastingModel::tick);

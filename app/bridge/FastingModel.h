@@ -60,7 +60,7 @@ class FastingModel : public QObject {
 
  public:
   using Action = host::AppFeature::Action;
-  FastingModel(std::function<host::PageClients()> clients, std::function<void(Action)> send, QObject* parent = nullptr);
+  FastingModel(std::function<PageClients()> clients, std::function<void(Action)> send, QObject* parent = nullptr);
 
   void follow(const host::AppFeature::State& state);
   /// Every text may read differently, though no record was changed.
@@ -101,7 +101,7 @@ class FastingModel : public QObject {
   void tick();
   void showMarks(const std::vector<host::RingMark>& marks);
 
-  std::function<host::PageClients()> clients;
+  std::function<PageClients()> clients;
   std::function<void(Action)> send;
   List<host::FastRecord> fasts;
   host::FastingPageFacts facts;

@@ -6,7 +6,7 @@
 
 namespace mivo::app {
 
-GoalChoiceModel::GoalChoiceModel(std::function<host::PageClients()> present) : clients{std::move(present)} { begin(0); }
+GoalChoiceModel::GoalChoiceModel(std::function<PageClients()> present) : clients{std::move(present)} { begin(0); }
 
 void GoalChoiceModel::begin(double goal) {
   entry = host::goalEntry(std::llround(goal));

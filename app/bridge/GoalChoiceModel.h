@@ -29,7 +29,7 @@ class GoalChoiceModel : public QObject {
   Q_PROPERTY(QString saveLabel MEMBER saveLabel NOTIFY titleChanged)
 
  public:
-  explicit GoalChoiceModel(std::function<host::PageClients()> clients);
+  explicit GoalChoiceModel(std::function<PageClients()> clients);
 
   RecordRows* offers() { return &offered; }
 
@@ -55,7 +55,7 @@ class GoalChoiceModel : public QObject {
   void become(host::GoalEntry next);
   void compose();
 
-  std::function<host::PageClients()> clients;
+  std::function<PageClients()> clients;
   host::GoalEntry entry;
   std::string otherProblem;
   RecordRows offered{rolesOf<host::GoalOffer>()};

@@ -5,7 +5,7 @@
 
 namespace mivo::app {
 
-RepairModel::RepairModel(std::function<host::PageClients()> present, std::function<void(Action)> sends, QObject* parent)
+RepairModel::RepairModel(std::function<PageClients()> present, std::function<void(Action)> sends, QObject* parent)
     : QObject{parent}, clients{std::move(present)}, send{std::move(sends)} {}
 
 void RepairModel::follow(const std::optional<host::HistoryChange>& proposal) {

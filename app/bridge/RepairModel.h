@@ -28,7 +28,7 @@ class RepairModel : public QObject {
 
  public:
   using Action = host::AppFeature::Action;
-  RepairModel(std::function<host::PageClients()> clients, std::function<void(Action)> send, QObject* parent = nullptr);
+  RepairModel(std::function<PageClients()> clients, std::function<void(Action)> send, QObject* parent = nullptr);
 
   void follow(const std::optional<host::HistoryChange>& proposal);
   bool isProposed() const { return change.has_value(); }
@@ -42,7 +42,7 @@ class RepairModel : public QObject {
   void textsChanged();
 
  private:
-  std::function<host::PageClients()> clients;
+  std::function<PageClients()> clients;
   std::function<void(Action)> send;
   std::optional<host::HistoryChange> change;
   RecordRows repairs{rolesOf<host::RepairRow>()};

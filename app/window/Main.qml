@@ -268,7 +268,7 @@ Window {
     LateSheet {
         id: weightDate
         sourceComponent: DateTimeSheet {
-            title: Texts.text("Date and time")
+            title: App.addWeight.dateTitle
             instant: App.addWeight.instant
             onChosen: instant => App.addWeight.changeDate(instant)
         }

@@ -19,14 +19,15 @@ constexpr std::int64_t tenYears = 3650;
 
 /// What an app composes its pages with, in English.
 struct Surroundings {
-  mivo::host::PageClients clients() const {
+  mivo::PageClients clients() const {
     return {.now = now,
             .calendar = *calendar,
             .texts = texts,
             .dates = *formatters.dateFormatter,
             .hourMin = *formatters.hourMinDurationUnitFormatter,
             .hour = *formatters.hourDurationUnitFormatter,
-            .numbers = *formatters.numberFormatter};
+            .numbers = *formatters.numberFormatter,
+            .masses = *formatters.massFormatter};
   }
 
   mivo::adapters::UserLocale locale = mivo::adapters::UserLocale::parse("en-GB").value();

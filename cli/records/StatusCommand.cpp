@@ -16,13 +16,14 @@ namespace {
 host::FastingPage page(const RecordRun& run) {
   const auto calendar = adapters::ZonedCalendar::gregorian(run.zone, run.locale.firstWeekday());
   const auto goalSeconds = host::goalSeconds(adapters::FileUserDefaults{adapters::appDefaultsFile()});
-  const host::PageClients clients{.now = run.now,
-                                  .calendar = *calendar,
-                                  .texts = *run.texts,
-                                  .dates = *run.formatters.dateFormatter,
-                                  .hourMin = *run.formatters.hourMinDurationUnitFormatter,
-                                  .hour = *run.formatters.hourDurationUnitFormatter,
-                                  .numbers = *run.formatters.numberFormatter};
+  const PageClients clients{.now = run.now,
+                            .calendar = *calendar,
+                            .texts = *run.texts,
+                            .dates = *run.formatters.dateFormatter,
+                            .hourMin = *run.formatters.hourMinDurationUnitFormatter,
+                            .hour = *run.formatters.hourDurationUnitFormatter,
+                            .numbers = *run.formatters.numberFormatter,
+                            .masses = *run.formatters.massFormatter};
   return host::composeFastingPage(host::fastingPageFacts(run.history().fasts, goalSeconds, run.now), clients);
 }
 

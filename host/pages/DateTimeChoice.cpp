@@ -6,7 +6,7 @@
 #include <optional>
 
 #include "host/fasting/Fasting.h"
-#include "host/pages/DateTimeText.h"
+#include "mivo/pages/DateTimeText.h"
 
 namespace mivo::host {
 namespace {

@@ -3,8 +3,8 @@
 
 #include <string>
 
-#include "host/pages/PageClients.h"
 #include "mivo/model/Record.h"
+#include "mivo/pages/PageClients.h"
 
 namespace mivo::host {
 

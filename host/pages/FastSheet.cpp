@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "host/pages/FastSheet.h"
 
-#include "host/pages/DateTimeText.h"
+#include "mivo/pages/DateTimeText.h"
 
 namespace mivo::host {
 namespace {

@@ -7,8 +7,8 @@
 
 #include "host/fasting/FastDraft.h"
 #include "host/pages/FastingPage.h"
-#include "host/pages/PageClients.h"
 #include "mivo/model/Record.h"
+#include "mivo/pages/PageClients.h"
 
 namespace mivo::host {
 

@@ -6,9 +6,9 @@
 
 #include "host/fasting/Fasting.h"
 #include "host/fasting/OverlappingFasts.h"
-#include "host/pages/DateTimeText.h"
 #include "mivo/fasting/GoalTime.h"
 #include "mivo/fasting/ZoneTimes.h"
+#include "mivo/pages/DateTimeText.h"
 
 namespace mivo::host {
 namespace {

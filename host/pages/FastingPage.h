@@ -9,9 +9,9 @@
 
 #include "host/history/History.h"
 #include "host/pages/GoalChoice.h"
-#include "host/pages/PageClients.h"
 #include "mivo/model/LegacyFastingZone.h"
 #include "mivo/model/Record.h"
+#include "mivo/pages/PageClients.h"
 
 namespace mivo::host {
 

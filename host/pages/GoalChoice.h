@@ -6,8 +6,8 @@
 #include <string>
 #include <vector>
 
-#include "host/pages/PageClients.h"
 #include "mivo/model/Record.h"
+#include "mivo/pages/PageClients.h"
 
 namespace mivo::host {
 

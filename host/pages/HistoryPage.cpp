@@ -6,8 +6,8 @@
 #include <utility>
 
 #include "host/fasting/OverlappingFasts.h"
-#include "host/pages/DateTimeText.h"
 #include "mivo/fasting/GoalTime.h"
+#include "mivo/pages/DateTimeText.h"
 
 namespace mivo::host {
 namespace {

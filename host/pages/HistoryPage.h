@@ -8,8 +8,8 @@
 #include <vector>
 
 #include "host/history/History.h"
-#include "host/pages/PageClients.h"
 #include "mivo/model/Record.h"
+#include "mivo/pages/PageClients.h"
 #include "mivo/store/List.h"
 
 namespace mivo::host {

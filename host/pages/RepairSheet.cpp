@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <cstdint>
 
-#include "host/pages/DateTimeText.h"
+#include "mivo/pages/DateTimeText.h"
 
 namespace mivo::host {
 namespace {

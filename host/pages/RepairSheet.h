@@ -5,8 +5,8 @@
 #include <vector>
 
 #include "host/fasting/HistoryChange.h"
-#include "host/pages/PageClients.h"
 #include "mivo/model/Record.h"
+#include "mivo/pages/PageClients.h"
 
 namespace mivo::host {
 

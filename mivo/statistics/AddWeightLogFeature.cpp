@@ -93,17 +93,4 @@ auto AddWeightLogFeature::reduce(State& state, const Action& action) const -> Ef
   return {};
 }
 
-std::string weightFieldText(const AddWeightLogFeature::State& state, const NumberFormatter& numbers,
-                            const MassFormatter& masses) {
-  const auto& typed = *state.typedText;
-  return typed ? *typed : weightFieldText(state.weightInKg, state.weightUnit, numbers, masses);
-}
-
-std::string problemText(const AddWeightLogFeature::State& state, const TextLookup& texts) {
-  if (state.savingState == Feature::SavingState::failed) return state.failure;
-  if (state.problem == Feature::Problem::notAWeight) return refusedWeightText(texts);
-  if (state.problem == Feature::Problem::dateInFuture) return texts.text("This date has not come yet.");
-  return {};
-}
-
 }  // namespace mivo

@@ -94,11 +94,4 @@ void fields(Listed& record, Visit&& visit) {
   visit("failure", failure);
 }
 
-/// What the field shows: the text as typed, or the weight.
-std::string weightFieldText(const AddWeightLogFeature::State& state, const NumberFormatter& numbers,
-                            const MassFormatter& masses);
-
-/// One sentence under the field, in the user's language; empty where all is well.
-std::string problemText(const AddWeightLogFeature::State& state, const TextLookup& texts);
-
 }  // namespace mivo

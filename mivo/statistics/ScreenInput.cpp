@@ -3,6 +3,7 @@
 
 #include "mivo/calculations/RangeStarts.h"
 #include "mivo/platform/Dependencies.h"
+#include "mivo/statistics/AddWeightForm.h"
 
 namespace mivo {
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "mivo/statistics/AddWeightLogFeature.h"
+#include "mivo/statistics/AddWeightForm.h"
 
 #include <gtest/gtest.h>
 

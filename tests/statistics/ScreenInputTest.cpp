@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "mivo/statistics/ScreenInput.h"
 
+#include "mivo/statistics/AddWeightForm.h"
 #include "mivo/store/Print.h"
 #include "tests/statistics/StatisticsWorld.h"
 

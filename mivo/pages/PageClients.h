@@ -7,7 +7,7 @@
 #include "mivo/model/Date.h"
 #include "mivo/platform/Dependencies.h"
 
-namespace mivo::host {
+namespace mivo {
 
 /// The instant that a page is composed for, and what puts it into the user's words.
 struct PageClients {
@@ -17,6 +17,7 @@ struct PageClients {
   const DateFormatter& dates;
   const DurationFormatter &hourMin, &hour;
   const NumberFormatter& numbers;
+  const MassFormatter& masses;
 };
 
 /// Those of a host, which must outlive them. All but the date are to be there.
@@ -28,4 +29,4 @@ std::string twoDigits(std::int64_t number, const NumberFormatter& numbers);
 /// "16h 42m" in the user's language; never negative.
 std::string durationText(double seconds, const PageClients& clients);
 
-}  // namespace mivo::host
+}  // namespace mivo

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "host/pages/DateTimeText.h"
+#include "mivo/pages/DateTimeText.h"
 
 #include <limits>
 
-namespace mivo::host {
+namespace mivo {
 namespace {
 
 std::string formatted(Date date, const char* skeleton, const PageClients& clients) {
@@ -43,4 +43,4 @@ std::int64_t daysFromToday(Date date, const PageClients& clients) {
   return days ? *days - 1 : std::numeric_limits<std::int64_t>::max();
 }
 
-}  // namespace mivo::host
+}  // namespace mivo

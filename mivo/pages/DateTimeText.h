@@ -4,9 +4,9 @@
 #include <cstdint>
 #include <string>
 
-#include "host/pages/PageClients.h"
+#include "mivo/pages/PageClients.h"
 
-namespace mivo::host {
+namespace mivo {
 
 // Dates in the user's language and calendar. Those of another year than the present one name it.
 
@@ -29,4 +29,4 @@ std::string clockText(Date date, const PageClients& clients);
 /// tell.
 std::int64_t daysFromToday(Date date, const PageClients& clients);
 
-}  // namespace mivo::host
+}  // namespace mivo

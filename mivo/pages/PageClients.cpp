@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "host/pages/PageClients.h"
+#include "mivo/pages/PageClients.h"
 
 #include <algorithm>
 
-namespace mivo::host {
+namespace mivo {
 
 PageClients pageClients(const Dependencies& dependencies, Date now) {
   return {.now = now,
@@ -12,7 +12,8 @@ PageClients pageClients(const Dependencies& dependencies, Date now) {
           .dates = *dependencies.dateFormatter,
           .hourMin = *dependencies.hourMinDurationUnitFormatter,
           .hour = *dependencies.hourDurationUnitFormatter,
-          .numbers = *dependencies.numberFormatter};
+          .numbers = *dependencies.numberFormatter,
+          .masses = *dependencies.massFormatter};
 }
 
 std::string twoDigits(std::int64_t number, const NumberFormatter& numbers) {
@@ -23,4 +24,4 @@ std::string durationText(double seconds, const PageClients& clients) {
   return clients.hourMin.string(std::max(0.0, seconds)).value_or("");
 }
 
-}  // namespace mivo::host
+}  // namespace mivo

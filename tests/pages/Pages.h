@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "host/pages/PageClients.h"
+#include "mivo/pages/PageClients.h"
 #include "tests/histories/ZoneRows.h"
 #include "tests/support/FixedClients.h"
 #include "tests/support/Instants.h"
@@ -23,14 +23,15 @@ struct NumericDates final : DateFormatter {
 struct Pages {
   explicit Pages(const char* zone = "UTC") : calendar{gregorianCalendar(zone)} {}
 
-  host::PageClients at(Date now) const {
+  PageClients at(Date now) const {
     return {.now = now,
             .calendar = *calendar,
             .texts = texts,
             .dates = dates,
             .hourMin = hourMin,
             .hour = hour,
-            .numbers = numbers};
+            .numbers = numbers,
+            .masses = masses};
   }
 
   std::shared_ptr<const Calendar> calendar;
@@ -39,6 +40,7 @@ struct Pages {
   EnglishHoursAndMinutes hourMin;
   EnglishHours hour;
   PlainNumbers numbers;
+  PlainMasses masses;
 };
 
 }  // namespace mivo::tests

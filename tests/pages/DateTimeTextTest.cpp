@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "host/pages/DateTimeText.h"
+#include "mivo/pages/DateTimeText.h"
 
 #include <gtest/gtest.h>
 
 #include "tests/pages/Pages.h"
 
-namespace mivo::host {
+namespace mivo {
 namespace {
 
 using tests::utc;
@@ -42,4 +42,4 @@ TEST(DayText, namesTheYearOnlyWhereItIsAnother) {
 }
 
 }  // namespace
-}  // namespace mivo::host
+}  // namespace mivo
