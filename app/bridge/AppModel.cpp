@@ -59,7 +59,8 @@ AppModel::AppModel(AppServices given)
         sendStatistics(Sent::destination{Shown::presented{Destination::Action::donations{std::move(action)}}});
       }},
       overlapRepair{clients, [this](Action action) { send(std::move(action)); }},
-      chosenSettings{services.calendar, services.about, [this](Action action) { send(std::move(action)); }} {
+      chosenSettings{clients, services.calendar, *services.appearance, services.about,
+                     [this] { send(Action::didChangeSettings{}); }} {
   theApp = this;
   following = store.observe([this](const State& state) { follow(state); });
   load();

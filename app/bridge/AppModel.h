@@ -39,7 +39,8 @@ struct AppServices {
   WeightUnit usualWeightUnit = WeightUnit::kilograms;  ///< in the user's locale
   std::string feedbackAddress = {};                    ///< of mail; none where nobody reads any
   std::shared_ptr<host::WeekCalendar> calendar;        ///< the one in the dependencies
-  SettingsModel::About about = {};
+  Appearance* appearance = nullptr;                    ///< outlives the model
+  host::AboutFacts about = {};
   /// Takes over the system's time zone; its name where it is another one than before.
   std::function<std::optional<std::string>()> followZone = {};
 };

@@ -6,17 +6,10 @@
 #include <QtGui/QPalette>
 #include <QtQml/QJSEngine>
 
-#include <algorithm>
-#include <array>
-
 #include "mivo/platform/Dependencies.h"
 
 namespace mivo::app {
 namespace {
-
-constexpr std::string_view modeKey = "appearance", textScaleKey = "textScale", reducedMotionKey = "reducedMotion";
-constexpr std::array<std::string_view, 3> modeNames{"system", "light", "dark"};
-constexpr double smallestText = 0.85, largestText = 2;
 
 const UserDefaults& defaults() { return *dependency(&Dependencies::userDefaults); }
 
@@ -34,37 +27,34 @@ Appearance* Appearance::create(QQmlEngine*, QJSEngine*) {
   return theAppearance;
 }
 
-Appearance::Mode Appearance::mode() const {
-  if (given.mode) return *given.mode;
-  const auto name = std::ranges::find(modeNames, defaults().text(modeKey, modeNames[0]));
-  return name == modeNames.end() ? Mode::System : static_cast<Mode>(name - modeNames.begin());
-}
-
-void Appearance::setMode(Mode mode) {
-  given.mode.reset();
-  keep(modeKey, std::string{modeNames[static_cast<std::size_t>(mode)]});
+host::Appearance Appearance::present() const {
+  host::Appearance look = host::appearance(defaults());
+  look.mode = given.mode.value_or(look.mode);
+  look.textScale = host::withinTextScales(given.textScale.value_or(look.textScale));
+  look.reducesMotion = look.reducesMotion || given.still;
+  return look;
 }
 
 bool Appearance::isDark() const {
-  if (mode() != Mode::System) return mode() == Mode::Dark;
+  const auto mode = present().mode;
+  if (mode != host::AppearanceMode::system) return mode == host::AppearanceMode::dark;
   return QGuiApplication::palette().color(QPalette::Window).lightness() < 128;
 }
 
-qreal Appearance::textScale() const {
-  return std::clamp(given.textScale.value_or(defaults().number(textScaleKey, 1)), smallestText, largestText);
+void Appearance::choose(host::AppearanceMode mode) {
+  given.mode.reset();
+  host::setAppearanceMode(defaults(), mode);
+  Q_EMIT changed();
 }
 
-void Appearance::setTextScale(qreal scale) {
+void Appearance::changeTextScale(double scale) {
   given.textScale.reset();
-  keep(textScaleKey, double{scale});
+  host::setTextScale(defaults(), scale);
+  Q_EMIT changed();
 }
 
-bool Appearance::reducedMotion() const { return given.still || defaults().boolean(reducedMotionKey, false); }
-
-void Appearance::setReducedMotion(bool reduced) { keep(reducedMotionKey, reduced); }
-
-void Appearance::keep(std::string_view key, UserDefaults::Value value) {
-  defaults().setValue(key, std::move(value));
+void Appearance::reduceMotion(bool reduced) {
+  host::setReducedMotion(defaults(), reduced);
   Q_EMIT changed();
 }
 

@@ -6,33 +6,28 @@
 
 #include <optional>
 
-#include "mivo/platform/UserDefaults.h"
+#include "host/app/Settings.h"
 
 class QQmlEngine;
 class QJSEngine;
 
 namespace mivo::app {
 
-/// How the user wants the screens to look: light or dark, how large texts are, whether things move. Kept in the user's
-/// defaults.
+/// How the screens look: as the user's defaults say, or the command line for this run.
 class Appearance : public QObject {
   Q_OBJECT
   QML_ELEMENT
   QML_SINGLETON
-  Q_PROPERTY(Mode mode READ mode WRITE setMode NOTIFY changed)
-  /// The mode, or what the system is set to.
+  /// As chosen, or as the system is set.
   Q_PROPERTY(bool dark READ isDark NOTIFY changed)
-  Q_PROPERTY(qreal textScale READ textScale WRITE setTextScale NOTIFY changed)
-  Q_PROPERTY(bool reducedMotion READ reducedMotion WRITE setReducedMotion NOTIFY changed)
+  Q_PROPERTY(qreal textScale READ textScale NOTIFY changed)
+  Q_PROPERTY(bool reducedMotion READ reducedMotion NOTIFY changed)
 
  public:
-  enum class Mode { System, Light, Dark };
-  Q_ENUM(Mode)
-
-  /// What the command line says instead of the settings, for this run.
+  /// What holds instead of the settings; of mode and scale until another is chosen.
   struct Override {
-    std::optional<Mode> mode;
-    std::optional<qreal> textScale;
+    std::optional<host::AppearanceMode> mode;
+    std::optional<double> textScale;
     bool still = false;  ///< nothing moves
   };
 
@@ -40,13 +35,14 @@ class Appearance : public QObject {
   explicit Appearance(QObject* parent);
   static Appearance* create(QQmlEngine*, QJSEngine*);
 
-  Mode mode() const;
-  void setMode(Mode mode);
+  host::Appearance present() const;
   bool isDark() const;
-  qreal textScale() const;
-  void setTextScale(qreal scale);
-  bool reducedMotion() const;
-  void setReducedMotion(bool reduced);
+  qreal textScale() const { return present().textScale; }
+  bool reducedMotion() const { return present().reducesMotion; }
+
+  void choose(host::AppearanceMode mode);
+  void changeTextScale(double scale);
+  void reduceMotion(bool reduced);
 
   void setOverride(Override given);
   bool eventFilter(QObject* watched, QEvent* event) override;
@@ -55,8 +51,6 @@ class Appearance : public QObject {
   void changed();
 
  private:
-  void keep(std::string_view key, UserDefaults::Value value);
-
   Override given;
 };
 

@@ -5,16 +5,18 @@
 #include <QtCore/QMetaProperty>
 #include <QtCore/QObject>
 #include <QtCore/QString>
+#include <QtCore/QStringList>
 
 #include <concepts>
 #include <string>
 #include <string_view>
+#include <vector>
 
-#include "app/bridge/Text.h"
+#include "app/bridge/Carry.h"
 
 namespace mivo::app {
 
-// Composed records of texts as QML reads them, each text under the name that it has in its record.
+// Composed records as values of QML, each field under its own name.
 
 /// A `GoalWeightSheet`.
 struct GoalSheet {
@@ -48,14 +50,53 @@ struct FeedbackTexts {
   bool operator==(const FeedbackTexts&) const = default;
 };
 
-/// `recordOf<GoalSheet>(composeGoalWeightSheet(...))`: what is no text stays out.
+/// A `host::Choice`.
+struct Choice {
+  Q_GADGET
+  QML_VALUE_TYPE(choice)
+  Q_PROPERTY(QString title MEMBER title)
+  Q_PROPERTY(QList<QString> options MEMBER options)
+  Q_PROPERTY(int chosen MEMBER chosen)
+  Q_PROPERTY(QString value MEMBER value)
+  Q_PROPERTY(QString note MEMBER note)
+
+ public:
+  QString title, value, note;
+  QStringList options;
+  int chosen = 0;
+  bool operator==(const Choice&) const = default;
+};
+
+/// A `host::Steps`.
+struct Steps {
+  Q_GADGET
+  QML_VALUE_TYPE(steps)
+  Q_PROPERTY(QString title MEMBER title)
+  Q_PROPERTY(int value MEMBER value)
+  Q_PROPERTY(int least MEMBER least)
+  Q_PROPERTY(int most MEMBER most)
+  Q_PROPERTY(int step MEMBER step)
+
+ public:
+  QString title;
+  int value = 0, least = 0, most = 0, step = 1;
+  bool operator==(const Steps&) const = default;
+};
+
+/// `recordOf<GoalSheet>(composeGoalWeightSheet(...))`
 template <class Gadget, class Composed>
 Gadget recordOf(const Composed& composed) {
   Gadget gadget;
   const QMetaObject& type = Gadget::staticMetaObject;
   fields(composed, [&]<class Field>(std::string_view name, const Field& field) {
-    if constexpr (std::same_as<Field, std::string>)
-      type.property(type.indexOfProperty(name.data())).writeOnGadget(&gadget, qString(field));
+    const QMetaProperty property = type.property(type.indexOfProperty(name.data()));
+    if constexpr (Carried<Field>) {
+      property.writeOnGadget(&gadget, variantOf(field));
+    } else if constexpr (std::same_as<Field, std::vector<std::string>>) {
+      QStringList texts;
+      for (const std::string& text : field) texts.append(QString::fromStdString(text));
+      property.writeOnGadget(&gadget, texts);
+    }
   });
   return gadget;
 }

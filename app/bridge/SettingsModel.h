@@ -2,109 +2,142 @@
 #pragma once
 
 #include <QtQml/qqmlregistration.h>
-#include <QtCore/QList>
 #include <QtCore/QObject>
 #include <QtCore/QString>
-#include <QtCore/QStringList>
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 
-#include "app/bridge/CardSwitchesModel.h"
+#include "app/bridge/Appearance.h"
+#include "app/bridge/RecordRows.h"
+#include "app/bridge/Records.h"
 #include "host/app/AppFeature.h"
+#include "host/pages/AboutPage.h"
+#include "host/pages/CardSettingsPage.h"
 #include "host/place/WeekCalendar.h"
 
 namespace mivo::app {
 
-/// A library that the app stands on.
-struct UsedLibrary {
-  Q_GADGET
-  QML_VALUE_TYPE(usedLibrary)
-  Q_PROPERTY(QString name MEMBER name CONSTANT)
-  Q_PROPERTY(QString licence MEMBER licence CONSTANT)
+/// A `host::CardSettingsPage`.
+class CardSettingsModel : public QObject {
+  Q_OBJECT
+  QML_ELEMENT
+  QML_UNCREATABLE("the settings have it")
+  Q_PROPERTY(QString title MEMBER title NOTIFY changed)
+  Q_PROPERTY(QString cardsTitle MEMBER cardsTitle NOTIFY changed)
+  Q_PROPERTY(QString chartsTitle MEMBER chartsTitle NOTIFY changed)
+  Q_PROPERTY(QString trendsTitle MEMBER trendsTitle NOTIFY changed)
+  Q_PROPERTY(mivo::app::RecordRows* cards READ cards CONSTANT)
+  Q_PROPERTY(mivo::app::RecordRows* charts READ charts CONSTANT)
+  Q_PROPERTY(mivo::app::RecordRows* trends READ trends CONSTANT)
+  Q_PROPERTY(QString streaksTitle MEMBER streaksTitle NOTIFY changed)
+  Q_PROPERTY(QString streaksNote MEMBER streaksNote NOTIFY changed)
+  Q_PROPERTY(mivo::app::Choice counted MEMBER counted NOTIFY changed)
+  Q_PROPERTY(QString countsBelowGoalLabel MEMBER countsBelowGoalLabel NOTIFY changed)
+  Q_PROPERTY(bool countsBelowGoal MEMBER countsBelowGoal NOTIFY changed)
+  Q_PROPERTY(mivo::app::Steps longestBreak MEMBER longestBreak NOTIFY changed)
 
  public:
-  QString name, licence;
-  bool operator==(const UsedLibrary&) const = default;
+  /// `changed` is called once something was written to the user's defaults.
+  explicit CardSettingsModel(std::function<void()> changed) : told{std::move(changed)} {}
+
+  void follow(const StatisticsFeature::State& state, const PageClients& clients);
+
+  RecordRows* cards() { return &cardRows; }
+  RecordRows* charts() { return &chartRows; }
+  RecordRows* trends() { return &trendRows; }
+
+  Q_INVOKABLE void toggleCard(int row) { toggle(host::CardGroup::cards, row); }
+  Q_INVOKABLE void toggleChart(int row) { toggle(host::CardGroup::charts, row); }
+  Q_INVOKABLE void toggleTrend(int row) { toggle(host::CardGroup::trends, row); }
+  Q_INVOKABLE void count(int place);
+  Q_INVOKABLE void toggleBelowGoal();
+  Q_INVOKABLE void changeLongestBreak(int hours);
+
+ Q_SIGNALS:
+  void changed();
+
+ private:
+  void toggle(host::CardGroup group, int row);
+  void keep(const StreakSettings& settings);
+
+  std::function<void()> told;
+  DashboardSettingsFeature::State flags;
+  StreakSettings streaks;
+  QString title, cardsTitle, chartsTitle, trendsTitle, streaksTitle, streaksNote, countsBelowGoalLabel;
+  RecordRows cardRows{rolesOf<host::CardSwitch>()}, chartRows{rolesOf<host::CardSwitch>()},
+      trendRows{rolesOf<host::CardSwitch>()};
+  Choice counted;
+  Steps longestBreak;
+  bool countsBelowGoal = false, isShown = false;
 };
 
-/// What the user can choose, kept in the user's defaults. A choice of a few is the place of the chosen one in a list of
-/// names. How the screens look is chosen at `Appearance`.
+/// A `host::AboutPage`.
+class AboutModel : public QObject {
+  Q_OBJECT
+  QML_ELEMENT
+  QML_UNCREATABLE("the settings have it")
+  Q_PROPERTY(QString title MEMBER title CONSTANT)
+  Q_PROPERTY(QString note MEMBER note CONSTANT)
+  Q_PROPERTY(mivo::app::RecordRows* facts READ facts CONSTANT)
+  Q_PROPERTY(QString librariesTitle MEMBER librariesTitle CONSTANT)
+  Q_PROPERTY(mivo::app::RecordRows* libraries READ libraries CONSTANT)
+
+ public:
+  explicit AboutModel(const host::AboutPage& page);
+  RecordRows* facts() { return &factRows; }
+  RecordRows* libraries() { return &libraryRows; }
+
+ private:
+  QString title, note, librariesTitle;
+  RecordRows factRows{rolesOf<host::Fact>()}, libraryRows{rolesOf<host::Fact>()};
+};
+
+/// A `host::SettingsPage`, and the pages that it leads to. What is chosen is kept in the user's defaults.
 class SettingsModel : public QObject {
   Q_OBJECT
   QML_ELEMENT
   QML_UNCREATABLE("the app has one")
   /// What is pushed over the settings: "cards", "about", or nothing.
   Q_PROPERTY(QString page MEMBER page NOTIFY pageChanged)
-  Q_PROPERTY(mivo::app::CardSwitchesModel* cards READ cards CONSTANT)
-  Q_PROPERTY(mivo::app::CardSwitchesModel* charts READ charts CONSTANT)
-  Q_PROPERTY(mivo::app::CardSwitchesModel* trends READ trends CONSTANT)
-  /// Streaks count fasts, not days.
-  Q_PROPERTY(bool countsFasts READ countsFasts WRITE setCountsFasts NOTIFY changed)
-  Q_PROPERTY(bool countsBelowGoal READ countsBelowGoal WRITE setCountsBelowGoal NOTIFY changed)
-  Q_PROPERTY(int maxBreakHours READ maxBreakHours WRITE setMaxBreakHours NOTIFY changed)
-  Q_PROPERTY(int leastBreakHours MEMBER leastBreakHours CONSTANT)
-  Q_PROPERTY(int mostBreakHours MEMBER mostBreakHours CONSTANT)
-  /// Of the fasts to come; a running one keeps its own.
-  Q_PROPERTY(qreal goalSeconds READ goalSeconds WRITE setGoalSeconds NOTIFY changed)
-  Q_PROPERTY(QString goal READ goal NOTIFY changed)
-  Q_PROPERTY(QList<QString> weightUnits READ weightUnits CONSTANT)
-  Q_PROPERTY(int weightUnit READ weightUnit WRITE setWeightUnit NOTIFY changed)
-  /// "kg"
-  Q_PROPERTY(QString weightUnitText READ weightUnitText NOTIFY changed)
-  Q_PROPERTY(QList<QString> firstWeekdays READ firstWeekdays CONSTANT)
-  Q_PROPERTY(int firstWeekday READ firstWeekday WRITE setFirstWeekday NOTIFY changed)
-  /// "Monday", be it chosen or the locale's.
-  Q_PROPERTY(QString firstWeekdayText READ firstWeekdayText NOTIFY changed)
-  Q_PROPERTY(QList<QString> languages READ languages CONSTANT)
-  Q_PROPERTY(int language READ language WRITE setLanguage NOTIFY changed)
-  /// Another language than that of the texts was chosen; it shows from the next start.
-  Q_PROPERTY(bool languageWaits READ languageWaits NOTIFY changed)
-  Q_PROPERTY(QString version READ version CONSTANT)
-  Q_PROPERTY(QString databaseFile READ databaseFile CONSTANT)
-  Q_PROPERTY(QString exportCommand READ exportCommand CONSTANT)
-  Q_PROPERTY(QList<mivo::app::UsedLibrary> libraries READ libraries CONSTANT)
+  Q_PROPERTY(mivo::app::CardSettingsModel* cards READ cards CONSTANT)
+  Q_PROPERTY(mivo::app::AboutModel* about READ about CONSTANT)
+  Q_PROPERTY(QString title MEMBER title NOTIFY changed)
+  Q_PROPERTY(QString cardsLabel MEMBER cardsLabel NOTIFY changed)
+  Q_PROPERTY(QString general MEMBER general NOTIFY changed)
+  Q_PROPERTY(QString note MEMBER note NOTIFY changed)
+  Q_PROPERTY(QString goalLabel MEMBER goalLabel NOTIFY changed)
+  Q_PROPERTY(QString goal MEMBER goal NOTIFY changed)
+  Q_PROPERTY(qreal goalSeconds MEMBER goalSeconds NOTIFY changed)
+  Q_PROPERTY(mivo::app::Choice weightUnit MEMBER weightUnit NOTIFY changed)
+  Q_PROPERTY(mivo::app::Choice firstWeekday MEMBER firstWeekday NOTIFY changed)
+  Q_PROPERTY(mivo::app::Choice language MEMBER language NOTIFY changed)
+  Q_PROPERTY(mivo::app::Choice appearance MEMBER appearance NOTIFY changed)
+  Q_PROPERTY(mivo::app::Steps textSize MEMBER textSize NOTIFY changed)
+  Q_PROPERTY(QString reducedMotionLabel MEMBER reducedMotionLabel NOTIFY changed)
+  Q_PROPERTY(bool reducesMotion MEMBER reducesMotion NOTIFY changed)
+  Q_PROPERTY(QString aboutLabel MEMBER aboutLabel NOTIFY changed)
+  Q_PROPERTY(QString version MEMBER version NOTIFY changed)
 
  public:
-  struct About {
-    std::string version, databaseFile, exportCommand;
-  };
-
-  /// `send` takes the action that a setting was changed.
-  SettingsModel(std::shared_ptr<host::WeekCalendar> calendar, About about,
-                std::function<void(host::AppFeature::Action)> send, QObject* parent = nullptr);
+  /// `changed` is called once something was written that the statistics read.
+  SettingsModel(std::function<PageClients()> clients, std::shared_ptr<host::WeekCalendar> calendar, Appearance& look,
+                const host::AboutFacts& about, std::function<void()> changed);
 
   void follow(const StatisticsFeature::State& state);
 
-  CardSwitchesModel* cards() { return &cardSwitches; }
-  CardSwitchesModel* charts() { return &chartSwitches; }
-  CardSwitchesModel* trends() { return &trendSwitches; }
-  bool countsFasts() const { return streaks.countingEntity == StreakSettings::CountingEntity::fasts; }
-  void setCountsFasts(bool counts);
-  bool countsBelowGoal() const { return streaks.ignoreFastGoal; }
-  void setCountsBelowGoal(bool counts);
-  int maxBreakHours() const;
-  void setMaxBreakHours(int hours);
-  qreal goalSeconds() const;
-  void setGoalSeconds(qreal seconds);
-  QString goal() const;
-  QStringList weightUnits() const;
-  int weightUnit() const { return static_cast<int>(unit); }
-  void setWeightUnit(int place);
-  QString weightUnitText() const;
-  QStringList firstWeekdays() const;
-  int firstWeekday() const;
-  void setFirstWeekday(int place);
-  QString firstWeekdayText() const;
-  QStringList languages() const;
-  int language() const;
-  void setLanguage(int place);
-  bool languageWaits() const { return language() != languageAtStart; }
-  QString version() const { return QString::fromStdString(about.version); }
-  QString databaseFile() const { return QString::fromStdString(about.databaseFile); }
-  QString exportCommand() const { return QString::fromStdString(about.exportCommand); }
-  QList<UsedLibrary> libraries() const;
+  CardSettingsModel* cards() { return &shownCards; }
+  AboutModel* about() { return &app; }
+
+  Q_INVOKABLE void chooseGoal(double seconds);
+  Q_INVOKABLE void chooseWeightUnit(int place);
+  Q_INVOKABLE void chooseFirstWeekday(int place);
+  Q_INVOKABLE void chooseLanguage(int place);
+  Q_INVOKABLE void chooseAppearance(int place);
+  Q_INVOKABLE void changeTextSize(int percent);
+  Q_INVOKABLE void toggleReducedMotion();
 
   /// "24h", "115%" in the user's language.
   Q_INVOKABLE QString hoursText(int hours) const;
@@ -115,20 +148,21 @@ class SettingsModel : public QObject {
   void changed();
 
  private:
-  void keepCards(const DashboardSettingsFeature::State& settings);
-  void keepStreaks(const StreakSettings& settings);
-  void tell();
+  void show();
 
-  static constexpr int leastBreakHours = 1, mostBreakHours = 8760;
-
-  QString page;
+  QString page, title, cardsLabel, general, note, goalLabel, goal, reducedMotionLabel, aboutLabel, version;
+  qreal goalSeconds = 0;
+  Choice weightUnit, firstWeekday, language, appearance;
+  Steps textSize;
+  bool reducesMotion = false;
+  std::function<PageClients()> clients;
   std::shared_ptr<host::WeekCalendar> calendar;
-  About about;
-  std::function<void(host::AppFeature::Action)> send;
-  CardSwitchesModel cardSwitches, chartSwitches, trendSwitches;
-  StreakSettings streaks;
-  WeightUnit unit = WeightUnit::kilograms;
-  int languageAtStart;
+  Appearance& look;
+  std::function<void()> told;
+  CardSettingsModel shownCards;
+  AboutModel app;
+  host::SettingsFacts facts;
+  std::optional<host::SettingsFacts> shown;
 };
 
 }  // namespace mivo::app

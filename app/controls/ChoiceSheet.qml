@@ -7,26 +7,25 @@ import Mivo
 Sheet {
     id: root
 
-    property list<string> options
-    property int current: 0
-    property string note
+    required property choice choice
     /// For words that arrive in lower case.
     property int capitalization: Font.MixedCase
 
     signal chosen(index: int)
 
+    title: choice.title
     spacing: 0
-    onOpened: choices.itemAt(current)?.forceActiveFocus()
+    onOpened: choices.itemAt(choice.chosen)?.forceActiveFocus()
 
     Column {
         width: parent.width
 
         Repeater {
             id: choices
-            model: root.options
+            model: root.choice.options
 
             delegate: ChoiceRow {
-                isChosen: index === root.current
+                isChosen: index === root.choice.chosen
                 capitalization: root.capitalization
                 onClicked: {
                     root.chosen(index);
@@ -39,11 +38,11 @@ Sheet {
     }
 
     StyledText {
-        visible: root.note !== ""
+        visible: root.choice.note !== ""
         width: parent.width
         topPadding: 8
         bottomPadding: 8
-        text: root.note
+        text: root.choice.note
         style: Theme.labelText
         color: Theme.inkSecondary
         Accessible.role: Accessible.StaticText

@@ -52,12 +52,12 @@ constexpr std::array<History, 4> histories{{
 
 struct Look {
   const char* name;
-  Appearance::Mode mode;
+  host::AppearanceMode mode;
   qreal textScale;
 };
-constexpr std::array<Look, 3> looks{{{"light", Appearance::Mode::Light, 1},
-                                     {"dark", Appearance::Mode::Dark, 1},
-                                     {"large-text", Appearance::Mode::Light, 2}}};
+constexpr std::array<Look, 3> looks{{{"light", host::AppearanceMode::light, 1},
+                                     {"dark", host::AppearanceMode::dark, 1},
+                                     {"large-text", host::AppearanceMode::light, 2}}};
 
 constexpr std::array<const char*, 25> screens{"statistics",   "badges",      "milestones", "streaks",    "roadmap",
                                               "feedback",     "donations",   "overlaps",   "goalWeight", "date",
@@ -152,7 +152,7 @@ void drawAndMeasure(QQuickWindow& window, const QString& name, bool isColumn, Ga
 
 // In the dark only colours differ, so one language tells; large text is tried where words are longest.
 bool isMeasured(const Look& look, const Language& language) {
-  if (look.mode == Appearance::Mode::Dark) return &language == &languages[0];
+  if (look.mode == host::AppearanceMode::dark) return &language == &languages[0];
   return look.textScale == 1 || &language == &languages[1];
 }
 

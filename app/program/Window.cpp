@@ -18,9 +18,9 @@ namespace {
 
 constexpr int drawnAtLastAfterMilliseconds = 5000;
 
-std::optional<Appearance::Mode> modeOf(const Options& options) {
-  if (options.dark) return Appearance::Mode::Dark;
-  if (options.light || !options.picture.empty()) return Appearance::Mode::Light;
+std::optional<host::AppearanceMode> modeOf(const Options& options) {
+  if (options.dark) return host::AppearanceMode::dark;
+  if (options.light || !options.picture.empty()) return host::AppearanceMode::light;
   return std::nullopt;
 }
 
@@ -63,12 +63,11 @@ AppWindow::AppWindow(const Environment& environment, const Options& options, QSi
            .usualWeightUnit = environment.usualWeightUnit,
            .feedbackAddress = options.feedback,
            .calendar = environment.calendar,
+           .appearance = &look,
            .about = {MIVO_VERSION, environment.databaseFile.string(), host::exportCommand(environment.databaseFile)},
            .followZone = following(environment.systemZone)}},
       settingsFaults{environment.settingsFaults.subscribe([this](const std::string& fault) { app.say(fault); })} {
-  look.setOverride({.mode = modeOf(options),
-                    .textScale = options.textScale ? std::optional<qreal>{*options.textScale} : std::nullopt,
-                    .still = !options.picture.empty()});
+  look.setOverride({.mode = modeOf(options), .textScale = options.textScale, .still = !options.picture.empty()});
   app.say(environment.notice);
   app.appear();
   engine.addImportPath(QStringLiteral("qrc:/"));

@@ -6,46 +6,33 @@ import Mivo
 PushedPage {
     id: root
 
-    title: Texts.text("About Mivo")
+    title: App.settings.about.title
     spacing: Theme.sectionTop
 
     ListGroup {
         width: parent.width
-        note: Texts.text("Everything stays on this device.")
+        note: App.settings.about.note
 
-        FactRow {
-            title: Texts.text("Version")
-            value: App.settings.version
-        }
+        Repeater {
+            model: App.settings.about.facts
 
-        FactRow {
-            title: Texts.text("Licence")
-            value: "MIT"
-        }
-
-        FactRow {
-            title: Texts.text("Database")
-            value: App.settings.databaseFile
-        }
-
-        FactRow {
-            title: Texts.text("Copy of everything")
-            value: App.settings.exportCommand
+            delegate: FactRow {
+                required title
+                required value
+            }
         }
     }
 
     ListGroup {
         width: parent.width
-        title: Texts.text("Libraries")
+        title: App.settings.about.librariesTitle
 
         Repeater {
-            model: App.settings.libraries
+            model: App.settings.about.libraries
 
             delegate: FactRow {
-                required property usedLibrary modelData
-
-                title: modelData.name
-                value: modelData.licence
+                required title
+                required value
             }
         }
     }

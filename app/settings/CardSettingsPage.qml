@@ -9,7 +9,7 @@ PushedPage {
     readonly property bool twoColumns: width >= 700
     readonly property real columnWidth: twoColumns ? (contentWidth - grid.columnSpacing) / 2 : contentWidth
 
-    title: Texts.text("Statistics and Fasting Zones")
+    title: App.settings.cards.title
     maxWidth: twoColumns ? 960 : 720
 
     Grid {
@@ -24,14 +24,16 @@ PushedPage {
 
             CardSwitches {
                 width: parent.width
-                title: Texts.text("Cards")
-                switches: App.settings.cards
+                title: App.settings.cards.cardsTitle
+                switches: App.settings.cards.cards
+                onToggled: row => App.settings.cards.toggleCard(row)
             }
 
             CardSwitches {
                 width: parent.width
-                title: Texts.text("Charts")
-                switches: App.settings.charts
+                title: App.settings.cards.chartsTitle
+                switches: App.settings.cards.charts
+                onToggled: row => App.settings.cards.toggleChart(row)
             }
         }
 
@@ -41,8 +43,9 @@ PushedPage {
 
             CardSwitches {
                 width: parent.width
-                title: Texts.text("Trends")
-                switches: App.settings.trends
+                title: App.settings.cards.trendsTitle
+                switches: App.settings.cards.trends
+                onToggled: row => App.settings.cards.toggleTrend(row)
             }
 
             StreakSettings { width: parent.width }

@@ -7,7 +7,9 @@ import Mivo
 ListGroup {
     id: root
 
-    required property CardSwitchesModel switches
+    required property RecordRows switches
+
+    signal toggled(row: int)
 
     Repeater {
         model: root.switches
@@ -17,13 +19,13 @@ ListGroup {
             required property string title
             required property string hours
             required property string meaning
-            required property bool shown
+            required property bool isShown
 
             text: title
             detail: hours
             accent: meaning
-            on: shown
-            onClicked: root.switches.toggle(index)
+            on: isShown
+            onClicked: root.toggled(index)
         }
     }
 }

@@ -43,7 +43,7 @@ FocusScope {
             PageTitle {
                 width: parent.width
                 wide: root.wide
-                text: Texts.text("Settings")
+                text: App.settings.title
             }
 
             Column {
@@ -56,49 +56,49 @@ FocusScope {
                     ValueRow {
                         focus: true
                         iconName: "statistics"
-                        text: Texts.text("Statistics and Fasting Zones")
+                        text: App.settings.cardsLabel
                         onClicked: App.settings.page = "cards"
                     }
                 }
 
                 ListGroup {
                     width: parent.width
-                    title: Texts.text("General")
-                    note: App.settings.languageWaits ? Texts.text("The language changes when you open Mivo the next time.") : ""
+                    title: App.settings.general
+                    note: App.settings.note
 
                     ValueRow {
                         iconName: "fasting"
-                        text: Texts.text("Goal")
+                        text: App.settings.goalLabel
                         value: App.settings.goal
                         onClicked: goal.open()
                     }
 
                     ValueRow {
                         iconName: "scale"
-                        text: Texts.text("Weight unit")
-                        value: App.settings.weightUnitText
+                        text: App.settings.weightUnit.title
+                        value: App.settings.weightUnit.value
                         onClicked: weightUnit.open()
                     }
 
                     ValueRow {
                         iconName: "calendar"
-                        text: Texts.text("First weekday")
-                        value: App.settings.firstWeekdayText
+                        text: App.settings.firstWeekday.title
+                        value: App.settings.firstWeekday.value
                         valueCapitalization: Font.Capitalize
                         onClicked: firstWeekday.open()
                     }
 
                     ValueRow {
                         iconName: "globe"
-                        text: Texts.text("Language")
-                        value: language.options[App.settings.language]
+                        text: App.settings.language.title
+                        value: App.settings.language.value
                         onClicked: language.open()
                     }
 
                     ValueRow {
                         iconName: "sun"
-                        text: Texts.text("Appearance")
-                        value: appearance.options[Appearance.mode]
+                        text: App.settings.appearance.title
+                        value: App.settings.appearance.value
                         onClicked: appearance.open()
                     }
 
@@ -106,9 +106,9 @@ FocusScope {
 
                     SwitchRow {
                         iconName: "motion"
-                        text: Texts.text("Reduced motion")
-                        on: Appearance.reducedMotion
-                        onClicked: Appearance.reducedMotion = !Appearance.reducedMotion
+                        text: App.settings.reducedMotionLabel
+                        on: App.settings.reducesMotion
+                        onClicked: App.settings.toggleReducedMotion()
                     }
                 }
 
@@ -117,7 +117,7 @@ FocusScope {
 
                     ValueRow {
                         iconName: "info"
-                        text: Texts.text("About Mivo")
+                        text: App.settings.aboutLabel
                         value: App.settings.version
                         onClicked: App.settings.page = "about"
                     }
@@ -131,40 +131,31 @@ FocusScope {
     FastGoalSheet {
         id: goal
         goal: App.settings.goalSeconds
-        onChosen: seconds => App.settings.goalSeconds = seconds
+        onChosen: seconds => App.settings.chooseGoal(seconds)
     }
 
     ChoiceSheet {
         id: weightUnit
-        title: Texts.text("Weight unit")
-        options: App.settings.weightUnits
-        current: App.settings.weightUnit
-        onChosen: index => App.settings.weightUnit = index
+        choice: App.settings.weightUnit
+        onChosen: index => App.settings.chooseWeightUnit(index)
     }
 
     ChoiceSheet {
         id: firstWeekday
-        title: Texts.text("First weekday")
-        options: App.settings.firstWeekdays
+        choice: App.settings.firstWeekday
         capitalization: Font.Capitalize
-        current: App.settings.firstWeekday
-        onChosen: index => App.settings.firstWeekday = index
+        onChosen: index => App.settings.chooseFirstWeekday(index)
     }
 
     ChoiceSheet {
         id: language
-        title: Texts.text("Language")
-        options: App.settings.languages
-        current: App.settings.language
-        note: Texts.text("The language changes when you open Mivo the next time.")
-        onChosen: index => App.settings.language = index
+        choice: App.settings.language
+        onChosen: index => App.settings.chooseLanguage(index)
     }
 
     ChoiceSheet {
         id: appearance
-        title: Texts.text("Appearance")
-        options: [Texts.text("System"), Texts.text("Light"), Texts.text("Dark")]
-        current: Appearance.mode
-        onChosen: index => Appearance.mode = index
+        choice: App.settings.appearance
+        onChosen: index => App.settings.chooseAppearance(index)
     }
 }

@@ -6,43 +6,46 @@ import Mivo
 ListGroup {
     id: root
 
-    title: Texts.text("Streaks")
-    note: Texts.text("A streak goes on while the next fast starts within this time.")
+    readonly property CardSettingsModel page: App.settings.cards
+
+    title: page.streaksTitle
+    note: page.streaksNote
 
     ControlRow {
         id: counted
-        text: Texts.text("Count")
+        text: root.page.counted.title
         controlWidth: 168 * Theme.textScale
 
         SegmentedControl {
             width: parent.width
             accessibleName: counted.text
-            options: [Texts.text("Days"), Texts.text("Fasts")]
-            currentIndex: App.settings.countsFasts ? 1 : 0
-            onChosen: index => App.settings.countsFasts = index === 1
+            options: root.page.counted.options
+            currentIndex: root.page.counted.chosen
+            onChosen: index => root.page.count(index)
         }
     }
 
     SwitchRow {
-        text: Texts.text("Count fasts below their goal")
-        on: App.settings.countsBelowGoal
-        onClicked: App.settings.countsBelowGoal = !on
+        text: root.page.countsBelowGoalLabel
+        on: root.page.countsBelowGoal
+        onClicked: root.page.toggleBelowGoal()
     }
 
     ControlRow {
         id: longest
-        text: Texts.text("Longest break")
+        text: root.page.longestBreak.title
         controlWidth: stepper.wantedWidth
 
         Stepper {
             id: stepper
             width: parent.width
             accessibleName: longest.text
-            from: App.settings.leastBreakHours
-            to: App.settings.mostBreakHours
-            value: App.settings.maxBreakHours
+            from: root.page.longestBreak.least
+            to: root.page.longestBreak.most
+            stepSize: root.page.longestBreak.step
+            value: root.page.longestBreak.value
             textFromValue: value => App.settings.hoursText(value)
-            onValueModified: App.settings.maxBreakHours = value
+            onValueModified: root.page.changeLongestBreak(value)
         }
     }
 }

@@ -7,18 +7,18 @@ ControlRow {
     id: root
 
     iconName: "textSize"
-    text: Texts.text("Text size")
+    text: App.settings.textSize.title
     controlWidth: stepper.wantedWidth
 
     Stepper {
         id: stepper
         width: parent.width
         accessibleName: root.text
-        from: 85
-        to: 200
-        stepSize: 5
-        value: Math.round(Appearance.textScale * 100)
+        from: App.settings.textSize.least
+        to: App.settings.textSize.most
+        stepSize: App.settings.textSize.step
+        value: App.settings.textSize.value
         textFromValue: value => App.settings.percentText(value)
-        onValueModified: Appearance.textScale = value / 100
+        onValueModified: App.settings.changeTextSize(value)
     }
 }

@@ -2,6 +2,7 @@
 #include "host/app/Settings.h"
 
 #include <algorithm>
+#include <array>
 #include <string_view>
 
 #include "host/history/FieldRules.h"
@@ -12,7 +13,9 @@ namespace {
 
 constexpr std::string_view goalWeightKey = "goalWeightInKg", weightUnitKey = "weightUnit",
                            goalSecondsKey = "fastGoalSeconds", languageKey = "language",
-                           firstWeekdayKey = "firstWeekday";
+                           firstWeekdayKey = "firstWeekday", appearanceKey = "appearance", textScaleKey = "textScale",
+                           reducedMotionKey = "reducedMotion";
+constexpr std::array<std::string_view, 3> modeNames{"system", "light", "dark"};
 
 }  // namespace
 
@@ -42,6 +45,24 @@ void setGoalSeconds(const UserDefaults& defaults, std::int64_t seconds) { defaul
 std::string language(const UserDefaults& defaults) { return defaults.text(languageKey, ""); }
 
 void setLanguage(const UserDefaults& defaults, const std::string& tag) { defaults.setValue(languageKey, tag); }
+
+Appearance appearance(const UserDefaults& defaults) {
+  const auto* const name = std::ranges::find(modeNames, defaults.text(appearanceKey, modeNames[0]));
+  return {
+      .mode = name == modeNames.end() ? AppearanceMode::system : static_cast<AppearanceMode>(name - modeNames.begin()),
+      .textScale = withinTextScales(defaults.number(textScaleKey, 1)),
+      .reducesMotion = defaults.boolean(reducedMotionKey, false)};
+}
+
+double withinTextScales(double scale) { return std::clamp(scale, smallestTextScale, largestTextScale); }
+
+void setAppearanceMode(const UserDefaults& defaults, AppearanceMode mode) {
+  defaults.setValue(appearanceKey, std::string{modeNames[static_cast<std::size_t>(mode)]});
+}
+
+void setTextScale(const UserDefaults& defaults, double scale) { defaults.setValue(textScaleKey, scale); }
+
+void setReducedMotion(const UserDefaults& defaults, bool reduced) { defaults.setValue(reducedMotionKey, reduced); }
 
 std::optional<int> firstWeekday(const UserDefaults& defaults) {
   const std::int64_t weekday = defaults.integer(firstWeekdayKey, 0);

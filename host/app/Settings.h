@@ -28,6 +28,26 @@ void setGoalSeconds(const UserDefaults& defaults, std::int64_t seconds);
 std::string language(const UserDefaults& defaults);
 void setLanguage(const UserDefaults& defaults, const std::string& tag);
 
+enum class AppearanceMode { system, light, dark };
+
+/// How the screens are to look.
+struct Appearance {
+  AppearanceMode mode = AppearanceMode::system;
+  double textScale = 1;  ///< 0.85 to 2
+  bool reducesMotion = false;
+  bool operator==(const Appearance&) const = default;
+};
+
+inline constexpr double smallestTextScale = 0.85, largestTextScale = 2;
+
+/// The nearest scale within these.
+double withinTextScales(double scale);
+
+Appearance appearance(const UserDefaults& defaults);
+void setAppearanceMode(const UserDefaults& defaults, AppearanceMode mode);
+void setTextScale(const UserDefaults& defaults, double scale);
+void setReducedMotion(const UserDefaults& defaults, bool reduced);
+
 /// What weeks begin with, 1 = Sunday to 7 = Saturday; nothing where the locale decides.
 std::optional<int> firstWeekday(const UserDefaults& defaults);
 void setFirstWeekday(const UserDefaults& defaults, std::optional<int> weekday);

@@ -222,7 +222,7 @@ TrendCard trendTexts(LegacyFastingZone zone, const AverageThisLastTimeRange& ave
   const auto around = [&](std::string_view key) {
     return filledIn(texts.text(key, rawValue(input.timeRange)), {range});
   };
-  const std::string hours = zoneHours(zone, format);
+  const std::string hours = zoneHours(zone, format.hour, format.numbers);
   std::string total = totalText(averages.thisTimeRange, input, format);
   return {.zone = zone,
           .section = texts.text("Trends"),
@@ -235,12 +235,12 @@ TrendCard trendTexts(LegacyFastingZone zone, const AverageThisLastTimeRange& ave
           .display = {input.timeRange, zone, averages.thisTimeRange, averages.lastTimeRange, texts, format.hourMin}};
 }
 
-std::string zoneHours(LegacyFastingZone zone, const ScreenFormatters& format) {
+std::string zoneHours(LegacyFastingZone zone, const DurationFormatter& hour, const NumberFormatter& numbers) {
   if (zone < LegacyFastingZone::anabolic) return {};
   const auto place = static_cast<std::size_t>(zone) - static_cast<std::size_t>(LegacyFastingZone::anabolic);
-  const auto hours = [&](std::size_t bound) { return format.hour.string(zoneBounds[bound]).value_or(""); };
+  const auto hours = [&](std::size_t bound) { return hour.string(zoneBounds[bound]).value_or(""); };
   if (place + 1 == zoneBounds.size()) return hours(place) + '+';
-  return format.numbers.string(static_cast<std::int64_t>(zoneBounds[place] / secondsPerHour)) + "–" + hours(place + 1);
+  return numbers.string(static_cast<std::int64_t>(zoneBounds[place] / secondsPerHour)) + "–" + hours(place + 1);
 }
 
 }  // namespace mivo

@@ -28,6 +28,6 @@ TrendCard trendTexts(LegacyFastingZone zone, const AverageThisLastTimeRange& ave
                      const ScreenFormatters& formatters);
 
 /// "4–16h", "72h+": when a fast is in a zone; nothing for fasting and eating as a whole.
-std::string zoneHours(LegacyFastingZone zone, const ScreenFormatters& formatters);
+std::string zoneHours(LegacyFastingZone zone, const DurationFormatter& hour, const NumberFormatter& numbers);
 
 }  // namespace mivo

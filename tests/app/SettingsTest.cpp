@@ -284,7 +284,7 @@ TEST_F(Settings, areAllKeptOverARestart) {
   EXPECT_NE(app->text("Einstellungen"), nullptr);
   EXPECT_NE(app->text("Samstag"), nullptr);
   EXPECT_NE(app->text("lb"), nullptr);
-  EXPECT_EQ(app->app.appearance().mode(), Appearance::Mode::Dark);
+  EXPECT_EQ(app->app.appearance().present().mode, host::AppearanceMode::dark);
   EXPECT_EQ(app->app.appearance().textScale(), 0.95);
   EXPECT_TRUE(app->app.appearance().reducedMotion());
   EXPECT_EQ(app->environment.calendar->firstWeekday(), 7);
