@@ -12,6 +12,7 @@
 #include "app/bridge/Text.h"
 #include "host/app/CurrentTipFacts.h"
 #include "host/app/FaultText.h"
+#include "host/pages/Message.h"
 #include "mivo/platform/Dependencies.h"
 #include "mivo/roadmap/FeedbackSheet.h"
 #include "mivo/statistics/AddWeightForm.h"
@@ -197,9 +198,8 @@ GoalSheet AppModel::goalSheet() const {
 
 QString AppModel::failure() const { return qString(store.state().failure); }
 
-QString AppModel::undoText() const {
-  const auto& offer = *store.state().undo;
-  return offer && !offer->isTaken ? qString(doneText(offer->step, *dependency(&Dependencies::texts))) : QString{};
+MessageTexts AppModel::message() const {
+  return recordOf<MessageTexts>(host::composeMessage(store.state(), *dependency(&Dependencies::texts)));
 }
 
 void AppModel::appear() { sendStatistics(Sent::onAppear{}); }

@@ -68,10 +68,7 @@ class AppModel : public QObject {
   Q_PROPERTY(QString destination READ destination NOTIFY destinationChanged)
   Q_PROPERTY(mivo::app::GoalSheet goalSheet READ goalSheet NOTIFY changed)
   Q_PROPERTY(mivo::app::FeedbackTexts feedback READ feedback CONSTANT)
-  /// One sentence about what failed; empty where nothing did.
-  Q_PROPERTY(QString failure READ failure NOTIFY messagesChanged)
-  /// The text of the undo bar; empty without an offer.
-  Q_PROPERTY(QString undoText READ undoText NOTIFY messagesChanged)
+  Q_PROPERTY(mivo::app::MessageTexts message READ message NOTIFY messagesChanged)
   /// Whether anybody can see the window; while nobody can, only the minute's update is done.
   Q_PROPERTY(bool watched READ isWatched NOTIFY watchedChanged)
 
@@ -99,8 +96,9 @@ class AppModel : public QObject {
   QString destination() const;
   GoalSheet goalSheet() const;
   FeedbackTexts feedback() const;
+  MessageTexts message() const;
+  /// One sentence about what failed; empty where nothing did.
   QString failure() const;
-  QString undoText() const;
 
   bool isWatched() const { return watched; }
   void setWatched(bool isNow);
@@ -119,14 +117,14 @@ class AppModel : public QObject {
   Q_INVOKABLE void openDonations();
   /// Closes what the statistics present.
   Q_INVOKABLE void dismiss();
-  Q_INVOKABLE void undo() { send(Action::didTapUndo{}); }
+  Q_INVOKABLE void pressMessage() { send(Action::didTapMessage{}); }
   Q_INVOKABLE void dismissMessages() { send(Action::didDismissMessages{}); }
   Q_INVOKABLE void openGoalWeight();
   /// False where it is no weight; the sheet says so then.
   Q_INVOKABLE bool setGoalWeight(const QString& text);
   Q_INVOKABLE bool canSend(const QString& idea) const;
   /// Hands an idea to the user's mail program, with the address for an answer where they give one. False where no mail
-  /// program takes it: it is on the clipboard then, and `failure` says so.
+  /// program takes it: it is on the clipboard then, and a message says so.
   Q_INVOKABLE bool sendFeedback(const QString& idea, const QString& replyTo);
   Q_INVOKABLE void copy(const QString& text) const;
 

@@ -50,6 +50,22 @@ struct FeedbackTexts {
   bool operator==(const FeedbackTexts&) const = default;
 };
 
+/// A `host::Message`.
+struct MessageTexts {
+  Q_GADGET
+  QML_VALUE_TYPE(messageTexts)
+  Q_PROPERTY(QString text MEMBER text)
+  Q_PROPERTY(QString button MEMBER button)
+  Q_PROPERTY(bool isFailure MEMBER isFailure)
+  Q_PROPERTY(double seconds MEMBER seconds)
+
+ public:
+  QString text, button;
+  bool isFailure = false;
+  double seconds = 0;
+  bool operator==(const MessageTexts&) const = default;
+};
+
 /// A `host::Choice`.
 struct Choice {
   Q_GADGET

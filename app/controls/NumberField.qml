@@ -27,7 +27,7 @@ Rectangle {
         anchors.left: parent.left
         anchors.verticalCenter: parent.verticalCenter
         iconName: "minus"
-        text: Texts.text("Less")
+        text: Words.less
         autoRepeat: true
         onClicked: root.decreased()
     }
@@ -65,7 +65,7 @@ Rectangle {
         anchors.right: parent.right
         anchors.verticalCenter: parent.verticalCenter
         iconName: "plus"
-        text: Texts.text("More")
+        text: Words.more
         autoRepeat: true
         onClicked: root.increased()
     }

@@ -30,7 +30,7 @@ FocusScope {
             iconName: "back"
             turns: true
             focus: true
-            text: Texts.text("Back")
+            text: Words.back
             onClicked: root.back()
         }
 

@@ -121,7 +121,7 @@ T.Popup {
                 anchors.rightMargin: -10
                 anchors.verticalCenter: parent.verticalCenter
                 iconName: "close"
-                text: Texts.text("Close")
+                text: Words.close
                 onClicked: root.close()
             }
         }

@@ -9,8 +9,8 @@ Rectangle {
     property string text
     property string action
     property string icon: "undo"
-    /// Goes away by itself.
-    property bool passing: true
+    /// After which it goes away by itself; 0 where it stays.
+    property real seconds
     readonly property bool shown: text !== ""
 
     signal undone
@@ -35,8 +35,8 @@ Rectangle {
     }
 
     Timer {
-        interval: Theme.snackbarDuration
-        running: root.passing && root.shown && !button.activeFocus
+        interval: root.seconds * 1000
+        running: root.seconds > 0 && root.shown && !button.activeFocus
         onTriggered: root.expired()
     }
 

@@ -11,14 +11,14 @@ Sheet {
 
     signal tableWanted
 
-    title: root.value === "" ? Texts.text("Chart") : root.value
+    title: root.value === "" ? Words.chart : root.value
     spacing: 8
 
     ActionButton {
         width: parent.width
         visible: root.value !== ""
         kind: ActionButton.Secondary
-        text: Texts.text("Copy value")
+        text: Words.copyValue
         onClicked: {
             App.copy(root.value);
             root.close();
@@ -28,7 +28,7 @@ Sheet {
     ActionButton {
         width: parent.width
         kind: ActionButton.Secondary
-        text: Texts.text("Show as table")
+        text: Words.showAsTable
         onClicked: {
             root.close();
             root.tableWanted();

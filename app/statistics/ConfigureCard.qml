@@ -22,7 +22,7 @@ Card {
     ActionButton {
         width: parent.width
         kind: ActionButton.Secondary
-        text: Texts.text("Open Settings")
+        text: root.card.button
         onClicked: root.settingsTapped()
     }
 }

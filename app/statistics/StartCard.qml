@@ -42,7 +42,7 @@ Card {
         width: parent.width
         kind: ActionButton.Data
         iconName: "play"
-        text: Texts.text("Start fast")
+        text: root.card.button
         onClicked: root.startTapped()
     }
 }

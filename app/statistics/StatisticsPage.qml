@@ -52,7 +52,7 @@ FocusScope {
                     id: title
                     anchors.left: parent.left
                     anchors.verticalCenter: parent.verticalCenter
-                    text: Texts.text("Statistics")
+                    text: Words.statistics
                     style: root.wide ? Theme.titleWideText : Theme.titleText
                     Accessible.role: Accessible.Heading
                     Accessible.name: text

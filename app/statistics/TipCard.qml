@@ -47,7 +47,7 @@ Card {
             anchors.margins: -Theme.cardPadding
             iconName: "close"
             iconColor: Theme.inkTertiary
-            text: Texts.text("Close")
+            text: Words.close
             onClicked: root.dismissed()
         }
     }

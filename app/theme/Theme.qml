@@ -193,7 +193,6 @@ QtObject {
     readonly property int pushDuration: reducedMotion ? 0 : 240
     readonly property int sheetDuration: reducedMotion ? 0 : 280
     readonly property int ringDuration: reducedMotion ? 0 : 400
-    readonly property int snackbarDuration: 6000
 
     /// Of the five zones, in their order.
     readonly property list<color> zoneFills: [anabolic.fill, catabolic.fill, fatBurning.fill, ketosis.fill, deepKetosis.fill]

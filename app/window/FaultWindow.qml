@@ -35,7 +35,7 @@ Window {
 
             StyledText {
                 width: parent.width
-                text: Texts.text("Your history cannot be opened")
+                text: Words.cannotOpen
                 style: Theme.headlineText
                 Accessible.role: Accessible.Heading
                 Accessible.name: text
@@ -52,7 +52,7 @@ Window {
 
             ActionButton {
                 width: parent.width
-                text: Texts.text("Try again")
+                text: Words.tryAgain
                 focus: true
                 onClicked: root.againWanted()
             }

@@ -12,7 +12,7 @@ Window {
     property string screen
     readonly property bool side: width >= Theme.sideBarWidth
     readonly property list<string> tabs: ["fasting", "statistics", "settings"]
-    readonly property list<string> names: [Texts.text("Fasting"), Texts.text("Statistics"), Texts.text("Settings")]
+    readonly property list<string> names: [Words.fasting, Words.statistics, Words.settings]
     /// What the window needs to show the statistics whole.
     readonly property real wholeHeight: statistics.wholeHeight + (side ? 0 : Theme.tabBarSize)
 

@@ -4,14 +4,10 @@ import QtQuick
 import Mivo
 
 UndoBar {
-    id: root
-
-    readonly property bool failed: App.failure !== ""
-
-    text: failed ? App.failure : App.undoText
-    action: failed ? Texts.text("OK") : Texts.text("Undo")
-    icon: failed ? "" : "undo"
-    passing: !failed
-    onUndone: failed ? App.dismissMessages() : App.undo()
+    text: App.message.text
+    action: App.message.button
+    icon: App.message.isFailure ? "" : "undo"
+    seconds: App.message.seconds
+    onUndone: App.pressMessage()
     onExpired: App.dismissMessages()
 }

@@ -201,7 +201,8 @@ auto AppFeature::on(State& state, const Action::didCancelOverlapRepair&) const -
   return {};
 }
 
-auto AppFeature::on(State& state, const Action::didTapUndo&) const -> Effect<Action> {
+auto AppFeature::on(State& state, const Action::didTapMessage&) const -> Effect<Action> {
+  if (!state.failure->empty()) return on(state, Action::didDismissMessages{});
   if (!*state.undo || (*state.undo)->isTaken) return {};
   UndoOffer offer = **state.undo;
   offer.isTaken = true;

@@ -147,8 +147,9 @@ struct AppFeature {
     struct didCancelOverlapRepair {
       bool operator==(const didCancelOverlapRepair&) const = default;
     };
-    struct didTapUndo {
-      bool operator==(const didTapUndo&) const = default;
+    /// Has read what failed; without a failure, takes the offer to undo.
+    struct didTapMessage {
+      bool operator==(const didTapMessage&) const = default;
     };
     /// The failure, and without one the offer to undo.
     struct didDismissMessages {
@@ -173,7 +174,7 @@ struct AppFeature {
                      Cases::didChangeGoal, Cases::didTapEditFast, Cases::didTapAddFast, Cases::didChangeDraftStart,
                      Cases::didChangeDraftEnd, Cases::didChangeDraftGoal, Cases::didTapSaveDraft,
                      Cases::didDismissDraft, Cases::didDeleteFast, Cases::didChangeWeight, Cases::didDeleteWeight,
-                     Cases::didConfirmOverlapRepair, Cases::didCancelOverlapRepair, Cases::didTapUndo,
+                     Cases::didConfirmOverlapRepair, Cases::didCancelOverlapRepair, Cases::didTapMessage,
                      Cases::didDismissMessages, Cases::didWrite, Cases::didFailToWrite> {
     using variant::variant;
   };
@@ -211,7 +212,7 @@ struct AppFeature {
   Effect<Action> on(State& state, const Action::didDeleteWeight& sent) const;
   Effect<Action> on(State& state, const Action::didConfirmOverlapRepair& sent) const;
   Effect<Action> on(State& state, const Action::didCancelOverlapRepair& sent) const;
-  Effect<Action> on(State& state, const Action::didTapUndo& sent) const;
+  Effect<Action> on(State& state, const Action::didTapMessage& sent) const;
   Effect<Action> on(State& state, const Action::didDismissMessages& sent) const;
   Effect<Action> on(State& state, const Action::didWrite& sent) const;
   Effect<Action> on(State& state, const Action::didFailToWrite& sent) const;

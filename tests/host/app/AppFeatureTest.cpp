@@ -83,7 +83,7 @@ TEST_F(AppFeatureTest, keepsNothingOfAStartThatWasAMistakeUnlessItIsUndone) {
   EXPECT_EQ(state().statistics.stats.totalFasts, 0);
   ASSERT_TRUE(state().undo->has_value());
   EXPECT_EQ((*state().undo)->step, AppFeature::Step::stopAtOnce);
-  send(Action::didTapUndo{});
+  send(Action::didTapMessage{});
   EXPECT_EQ(onDisk(), begun);
   EXPECT_NE(state().runningFast(), nullptr);
 }
@@ -96,13 +96,13 @@ TEST_F(AppFeatureTest, editsAndRemovalsCanBeUndone) {
   send(Action::didTapSaveDraft{});
   EXPECT_THAT(*state().fasts, ElementsAre(fast(1, -41, -24, "first"), fast(2, -20, -4)));
   EXPECT_EQ((*state().undo)->step, AppFeature::Step::edit);
-  send(Action::didTapUndo{});
+  send(Action::didTapMessage{});
   EXPECT_THAT(onDisk(), ElementsAre(fast(1, -40, -24, "first"), fast(2, -20, -4)));
 
   send(Action::didDeleteFast{{7, 1}});
   EXPECT_THAT(onDisk(), ElementsAre(fast(2, -20, -4)));
   ASSERT_TRUE(state().undo->has_value());
-  send(Action::didTapUndo{});
+  send(Action::didTapMessage{});
   EXPECT_THAT(onDisk(), ElementsAre(fast(1, -40, -24, "first"), fast(2, -20, -4)));
   EXPECT_EQ(onDisk(), state().fasts->elements());
   EXPECT_EQ(*state().undo, std::nullopt);
@@ -125,7 +125,7 @@ TEST_F(AppFeatureTest, repairsOverlapsOnConfirmationAndUndoesItAsAWhole) {
   send(Action::didConfirmOverlapRepair{});
   EXPECT_FALSE(state().statistics.stats.hasOverlappingFasts);
   EXPECT_THAT(onDisk(), ElementsAre(fast(1, -40, -20), fast(3, -20, -5)));
-  send(Action::didTapUndo{});
+  send(Action::didTapMessage{});
   EXPECT_EQ(onDisk(), before);
 }
 
@@ -139,7 +139,7 @@ TEST_F(AppFeatureTest, savesAWeightAndTellsItsCard) {
 
   send(Action::didDeleteWeight{(*state().weights)[0].id});
   EXPECT_EQ(*state().statistics.stats.currentWeightInKg, std::nullopt);
-  send(Action::didTapUndo{});
+  send(Action::didTapMessage{});
   EXPECT_EQ(*state().statistics.stats.currentWeightInKg, 72.4);
 }
 
@@ -153,7 +153,7 @@ TEST_F(AppFeatureTest, offersToTakeASavedWeightBackAndWritesItOnce) {
   EXPECT_EQ(state().statistics.addWeightLogState.savingState, AddWeightLogFeature::SavingState::saved);
   EXPECT_THAT(Database{file}.history().weights, SizeIs(1));
   send(Action::didDismissMessages{});
-  send(Action::didTapUndo{});
+  send(Action::didTapMessage{});
   EXPECT_THAT(Database{file}.history().weights, IsEmpty());
   EXPECT_THAT(*state().weights, IsEmpty());
 }
@@ -289,16 +289,16 @@ TEST_F(AppFeatureTest, keepsTheOfferWhereUndoingFails) {
   send(Action::didDeleteFast{{7, 1}});
   const auto offer = *state().undo;
   Database{file}.apply(adding(fast(1, -30, -20)));  // another program took the id
-  send(Action::didTapUndo{});
+  send(Action::didTapMessage{});
   EXPECT_EQ(*state().failure,
             "Nothing was saved: the record was changed by another program. Look at it and try again.");
   EXPECT_EQ(*state().undo, offer);
-  send(Action::didDismissMessages{});
+  send(Action::didTapMessage{});  // has read it
   EXPECT_THAT(*state().failure, IsEmpty());
   EXPECT_EQ(*state().undo, offer);
 
   Database{file}.apply(removing(fast(1, -30, -20)));
-  send(Action::didTapUndo{});
+  send(Action::didTapMessage{});
   EXPECT_THAT(onDisk(), ElementsAre(fast(1, -40, -24)));
   EXPECT_EQ(*state().undo, std::nullopt);
 }

@@ -31,5 +31,19 @@ TEST(Settings, keepTheUnitOfWeights) {
   EXPECT_EQ(defaults.text("weightUnit", ""), "st") << "what older versions wrote";
 }
 
+TEST(Settings, keepHowTheScreensLook) {
+  const tests::MemoryDefaults defaults;
+  EXPECT_EQ(appearance(defaults), Appearance{});
+  setAppearanceMode(defaults, AppearanceMode::dark);
+  setTextScale(defaults, 1.15);
+  setReducedMotion(defaults, true);
+  EXPECT_EQ(appearance(defaults), (Appearance{AppearanceMode::dark, 1.15, true}));
+  EXPECT_EQ(defaults.text("appearance", ""), "dark") << "what older versions wrote";
+  for (const auto& [written, read] : {std::pair{0.1, 0.85}, std::pair{9.0, 2.0}}) {
+    setTextScale(defaults, written);
+    EXPECT_EQ(appearance(defaults).textScale, read);
+  }
+}
+
 }  // namespace
 }  // namespace mivo::host

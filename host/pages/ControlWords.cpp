@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: MIT
+#include "host/pages/ControlWords.h"
+
+namespace mivo::host {
+
+ControlWords controlWords(const TextLookup& texts) {
+  return {.fasting = texts.text("Fasting"),
+          .statistics = texts.text("Statistics"),
+          .settings = texts.text("Settings"),
+          .close = texts.text("Close"),
+          .back = texts.text("Back"),
+          .less = texts.text("Less"),
+          .more = texts.text("More"),
+          .chart = texts.text("Chart"),
+          .copyValue = texts.text("Copy value"),
+          .showAsTable = texts.text("Show as table"),
+          .cannotOpen = texts.text("Your history cannot be opened"),
+          .tryAgain = texts.text("Try again")};
+}
+
+}  // namespace mivo::host

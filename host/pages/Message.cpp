@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: MIT
+#include "host/pages/Message.h"
+
+namespace mivo::host {
+namespace {
+
+constexpr double secondsOfAnOffer = 6;
+
+}  // namespace
+
+Message composeMessage(const AppFeature::State& state, const TextLookup& texts) {
+  if (!state.failure->empty())
+    return {.text = state.failure, .button = texts.text("OK"), .isFailure = true, .seconds = 0};
+  const auto& offer = *state.undo;
+  return {.text = offer && !offer->isTaken ? doneText(offer->step, texts) : "",
+          .button = texts.text("Undo"),
+          .isFailure = false,
+          .seconds = secondsOfAnOffer};
+}
+
+}  // namespace mivo::host
