@@ -18,6 +18,7 @@
 #include "mivo/statistics/AddWeightForm.h"
 #include "mivo/statistics/ComposeScreen.h"
 #include "mivo/statistics/GoalWeightSheet.h"
+#include "mivo/statistics/LineCharts.h"
 #include "mivo/statistics/ScreenInput.h"
 
 namespace mivo::app {
@@ -29,6 +30,11 @@ using Destination = StatisticsFeature::Destination;
 constexpr std::chrono::seconds untilRecomputed{60}, untilLookedAround{2};
 
 AppModel* theApp = nullptr;
+
+drawing::DayBarsClients barClients() {
+  return {*dependency(&Dependencies::dateIntervalFormatter), *dependency(&Dependencies::hourMinDurationUnitFormatter),
+          *dependency(&Dependencies::hourDurationUnitFormatter)};
+}
 
 QString nameOf(const Presentation<Destination::State>& destination) {
   if (!destination) return {};
@@ -44,9 +50,9 @@ AppModel::AppModel(AppServices given)
       clients{[all = currentDependencies()] { return pageClients(all, all.date->now()); }},
       store{State::make(TimeRange::week, services.usualWeightUnit), host::AppFeature{.history = services.history},
             dependency(&Dependencies::mainQueue), dependency(&Dependencies::taskRunner)},
-      fastingBars{store.state().statistics.stats.fastingChartState, chartTexts(),
+      fastingBars{store.state().statistics.stats.fastingChartState, barClients(),
                   [this](DayBarsModel::Action action) { sendStatistics(Sent::fastingChartAction{std::move(action)}); }},
-      eatingBars{store.state().statistics.stats.eatingChartState, chartTexts(),
+      eatingBars{store.state().statistics.stats.eatingChartState, barClients(),
                  [this](DayBarsModel::Action action) { sendStatistics(Sent::eatingChartAction{std::move(action)}); }},
       weightEntry{
           [this](AddWeightModel::Action action) { sendStatistics(Sent::addWeightLogAction{std::move(action)}); }},
@@ -134,16 +140,6 @@ void AppModel::say(const std::string& sentence) {
   if (!sentence.empty()) send(Action::didFail{sentence});
 }
 
-DayBarsModel::Texts AppModel::chartTexts() {
-  const auto& hourMin = dependency(&Dependencies::hourMinDurationUnitFormatter);
-  const auto& hour = dependency(&Dependencies::hourDurationUnitFormatter);
-  return {[dates = dependency(&Dependencies::dateIntervalFormatter)](DateInterval interval) {
-            return qString(dates->string(interval).value_or(""));
-          },
-          [hourMin](double seconds) { return qString(hourMin->string(seconds).value_or("")); },
-          [hour](double hours) { return qString(hour->string(hours * secondsPerHour).value_or("")); }};
-}
-
 void AppModel::follow(const State& state) {
   const auto& statistics = state.statistics;
   fastingBars.follow(statistics.stats.fastingChartState);
@@ -154,8 +150,10 @@ void AppModel::follow(const State& state) {
     seen = std::move(stamps);
   tellTips(state);
   cards.show(composeScreen(screenInput(statistics), screenFormatters()));
-  weightLine.follow(statistics, state.now);
-  pairLine.follow(statistics, state.now);
+  const WeightUnit unit = statistics.goalWeightCardState.weightUnit;
+  weightLine.show(drawing::WeightChart{weightLogs(statistics.stats, statistics.timeRange), statistics.timeRange}, unit,
+                  state.now);
+  pairLine.show(mivo::weightFastingChart(statistics.stats, statistics.timeRange), unit, state.now);
   weightEntry.show(composeAddWeight(statistics.addWeightLogState, clients()));
   runningFast.follow(state);
   overlapRepair.follow(state.overlapRepair);

@@ -16,13 +16,12 @@
 #include "app/bridge/DayBarsModel.h"
 #include "app/bridge/DonationsModel.h"
 #include "app/bridge/FastingModel.h"
-#include "app/bridge/PairLineModel.h"
+#include "app/bridge/LineChartModel.h"
 #include "app/bridge/Records.h"
 #include "app/bridge/RepairModel.h"
 #include "app/bridge/RoadmapModel.h"
 #include "app/bridge/ScreenModel.h"
 #include "app/bridge/SettingsModel.h"
-#include "app/bridge/WeightLineModel.h"
 #include "host/app/AppFeature.h"
 #include "host/tips/Tips.h"
 #include "mivo/store/Store.h"
@@ -147,7 +146,6 @@ class AppModel : public QObject {
   void follow(const State& state);
   void followDestination(const StatisticsFeature::State& state);
   void tellTips(const State& state) const;
-  static DayBarsModel::Texts chartTexts();
 
   AppServices services;
   std::function<PageClients()> clients;  // of the present
@@ -156,8 +154,7 @@ class AppModel : public QObject {
   std::vector<Stamp> seen;
   ScreenModel cards;
   DayBarsModel fastingBars, eatingBars;
-  WeightLineModel weightLine;
-  PairLineModel pairLine;
+  LineChartModel weightLine{drawing::WeightChart{}}, pairLine{WeightFastingChart{}};
   AddWeightModel weightEntry;
   FastingModel runningFast;
   BadgesModel badgeSummary;

@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "DayBarsModel.h"
 
+#include "app/bridge/Text.h"
+
 namespace mivo::app {
 
-DayBarsModel::DayBarsModel(State initial, Texts texts, std::function<void(Action)> send, QObject* parent)
-    : ChartTable{parent}, held{std::move(initial)}, said{std::move(texts)}, sendAction{std::move(send)} {}
+DayBarsModel::DayBarsModel(State initial, drawing::DayBarsClients words, std::function<void(Action)> send)
+    : held{std::move(initial)}, clients{words}, sendAction{std::move(send)} {}
 
 void DayBarsModel::follow(const State& newer) {
   const bool hasOtherUnit = !(held.chartTimeUnit == newer.chartTimeUnit);
@@ -19,17 +21,18 @@ void DayBarsModel::follow(const State& newer) {
   if (isWritten) Q_EMIT tableChanged();
 }
 
-std::optional<DayBarsModel::State::PopupViewState> DayBarsModel::popup() const { return held.popupViewState(); }
+QString DayBarsModel::spokenSelection() const { return qString(drawing::spokenBar(held, clients)); }
 
-QString DayBarsModel::spokenSelection() const {
-  const auto& selected = *held.selectedUUID;
-  const ChartDataEntry* entry = selected ? held.data->find(*selected) : nullptr;
-  if (!entry) return {};
-  return said.dates(entry->dateInterval) + QStringLiteral(": ") + said.duration(entry->value * held.maxTime);
+QString DayBarsModel::date(int row) const {
+  return qString(drawing::barDates(held, static_cast<std::size_t>(row), clients));
+}
+
+QString DayBarsModel::value(int row) const {
+  return qString(drawing::barTime(held, static_cast<std::size_t>(row), clients));
 }
 
 void DayBarsModel::setVisible(DateInterval interval) {
-  const QString text = said.dates(interval);
+  const QString text = qString(clients.dates.string(interval).value_or(""));
   if (text == dates) return;
   dates = text;
   Q_EMIT visibleDatesChanged();

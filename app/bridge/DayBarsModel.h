@@ -6,9 +6,11 @@
 #include <QtCore/QString>
 
 #include <functional>
+#include <optional>
+#include <string>
 
 #include "app/bridge/ChartTable.h"
-#include "mivo/charts/ScrollChartFeature.h"
+#include "drawing/charts/DayBarsText.h"
 
 namespace mivo::app {
 
@@ -28,28 +30,22 @@ class DayBarsModel : public mivo::app::ChartTable {
   using State = ScrollChartFeature::State;
   using Action = ScrollChartFeature::Action;
 
-  struct Texts {
-    std::function<QString(DateInterval)> dates;
-    std::function<QString(double seconds)> duration;
-    std::function<QString(double hours)> hours;
-  };
-
-  DayBarsModel(State initial, Texts texts, std::function<void(Action)> send, QObject* parent = nullptr);
+  DayBarsModel(State initial, drawing::DayBarsClients clients, std::function<void(Action)> send);
 
   const State& state() const { return held; }
-  const Texts& texts() const { return said; }
   QString visibleDates() const { return dates; }
   bool isEmpty() const { return held.data->empty(); }
   QString spokenSelection() const;
   int rowCount() const override { return static_cast<int>(held.data->size()); }
-  QString date(int row) const override { return said.dates(entryOf(row).dateInterval); }
-  QString value(int row) const override { return said.duration(entryOf(row).value * held.maxTime); }
+  QString date(int row) const override;
+  QString value(int row) const override;
+  std::string hoursText(double hours) const { return clients.hour.string(hours * secondsPerHour).value_or(""); }
 
   /// Takes a newer state over; tells the item which of its parts were written.
   void follow(const State& newer);
 
   /// The popup that the state shows just now.
-  std::optional<State::PopupViewState> popup() const;
+  std::optional<State::PopupViewState> popup() const { return held.popupViewState(); }
   void send(Action action) const { sendAction(std::move(action)); }
   void setVisible(DateInterval interval);
 
@@ -60,12 +56,8 @@ class DayBarsModel : public mivo::app::ChartTable {
   void visibleDatesChanged();
 
  private:
-  const ChartDataEntry& entryOf(int row) const {
-    return (*held.data)[held.data->size() - 1 - static_cast<std::size_t>(row)];
-  }
-
   State held;
-  Texts said;
+  drawing::DayBarsClients clients;
   std::function<void(Action)> sendAction;
   QString dates;
 };

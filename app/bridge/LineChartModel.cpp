@@ -1,50 +1,52 @@
 // SPDX-License-Identifier: MIT
 #include "LineChartModel.h"
 
-#include <algorithm>
-
 #include "app/bridge/Text.h"
-#include "mivo/platform/Dependencies.h"
+#include "mivo/charts/VisibleSpan.h"
 
 namespace mivo::app {
 
-bool LineChartModel::isEmpty() const {
-  return std::ranges::all_of(lines(), [](const auto& line) { return line.points.empty(); });
+LineChartModel::LineChartModel(drawing::LineChart::Source empty)
+    : hasHeader{lineChartsHaveHeaders(currentDependencies().platformVersion)},
+      now{dependency(&Dependencies::date)->now()} {
+  become(empty, WeightUnit::kilograms);
 }
 
-int LineChartModel::rowCount() const {
-  std::size_t count = 0;
-  for (const auto& line : lines()) count += line.points.size();
-  return static_cast<int>(count);
+void LineChartModel::become(const drawing::LineChart::Source& source, WeightUnit unit) {
+  chart = std::make_unique<drawing::LineChart>(source, unit);
+  headerChanges = chart->observeHeader([this] { Q_EMIT headerChanged(); });
+  selectionChanges = chart->observeSelection([this] { Q_EMIT selectionChanged(); });
 }
 
-// One line after the other, each from its latest point on.
-LineChartModel::Row LineChartModel::rowOf(int row) const {
-  auto left = static_cast<std::size_t>(row);
-  for (std::size_t line = 0; line < lines().size(); ++line) {
-    const auto& points = lines()[line].points;
-    if (left < points.size()) return {line, points[points.size() - 1 - left]};
-    left -= points.size();
-  }
-  return {};
+void LineChartModel::show(const drawing::LineChart::Source& source, WeightUnit unit, Date present) {
+  now = present;
+  if (chart->shows(source, unit)) return;
+  become(source, unit);
+  Q_EMIT changed();
+  Q_EMIT tableChanged();
+  Q_EMIT headerChanged();
 }
+
+PageClients LineChartModel::clients() const { return pageClients(currentDependencies(), now); }
+
+double LineChartModel::span() const { return visibleSpan(chart->timeRange()); }
+
+std::string LineChartModel::axisText(double value, int fractionDigits) const {
+  return clients().numbers.string(value, fractionDigits);
+}
+
+QString LineChartModel::visibleDates() const { return hasHeader ? qString(chart->visibleDates()) : QString{}; }
+
+QString LineChartModel::average() const { return qString(chart->average(clients())); }
+
+QString LineChartModel::spokenSelection() const { return qString(chart->spokenSelection(clients())); }
 
 QString LineChartModel::date(int row) const {
-  return qString(dependency(&Dependencies::dateFormatter)->string(rowOf(row).point.date, "yMMMdjm").value_or(""));
+  return qString(chart->row(static_cast<std::size_t>(row), clients()).date);
 }
 
 QString LineChartModel::value(int row) const {
-  const Row shown = rowOf(row);
-  return valueText(shown.line, shown.point.value);
-}
-
-QString LineChartModel::spokenSelection() const {
-  const auto selected = annotation();
-  if (!selected) return {};
-  std::string text = selected->date;
-  for (const std::string& value : selected->values)
-    if (!value.empty()) text += ", " + value;
-  return qString(text);
+  return qString(chart->row(static_cast<std::size_t>(row), clients()).value);
 }
 
 }  // namespace mivo::app

@@ -5,23 +5,23 @@
 #include <QtCore/QObject>
 #include <QtCore/QString>
 
+#include <memory>
 #include <optional>
+#include <string>
 #include <vector>
 
 #include "app/bridge/ChartTable.h"
-#include "drawing/charts/LineSelection.h"
+#include "drawing/charts/LineChart.h"
 
 namespace mivo::app {
 
-/// A line chart as the screen reads and drives it: one line or two that share an axis without a unit.
-/// Who derives from it names it with its namespace: Qt describes types to QML by their base's name as it is written.
-class LineChartModel : public mivo::app::ChartTable {
+/// A `drawing::LineChart` as the screen reads and drives it.
+class LineChartModel final : public mivo::app::ChartTable {
   Q_OBJECT
   QML_ELEMENT
   QML_UNCREATABLE("a chart belongs to the statistics")
   /// The dates on screen, for the card's head; empty in the older presentation, which does not scroll.
   Q_PROPERTY(QString visibleDates READ visibleDates NOTIFY headerChanged)
-  /// The average of what is on screen as text; a dash where nothing is. Empty for a chart that has none.
   Q_PROPERTY(QString average READ average NOTIFY headerChanged)
   Q_PROPERTY(QString spokenSelection READ spokenSelection NOTIFY selectionChanged)
   Q_PROPERTY(bool isEmpty READ isEmpty NOTIFY changed)
@@ -29,46 +29,45 @@ class LineChartModel : public mivo::app::ChartTable {
   Q_PROPERTY(bool scrolls READ scrolls CONSTANT)
 
  public:
-  using Lines = std::vector<drawing::LineSeries>;
+  /// Without points, it says which chart it is.
+  explicit LineChartModel(drawing::LineChart::Source empty);
 
-  using ChartTable::ChartTable;
+  /// Takes over what is other than before.
+  void show(const drawing::LineChart::Source& source, WeightUnit unit, Date now);
 
-  virtual const Lines& lines() const = 0;
-  virtual DateInterval domain() const = 0;
-  virtual double span() const = 0;  ///< seconds on screen at once
-  virtual std::vector<drawing::TimeAxisLabel> labels(DateInterval visible) const = 0;
-  virtual std::string axisText(double value, int fractionDigits) const = 0;
+  const std::vector<drawing::LineSeries>& lines() const { return chart->lines(); }
+  DateInterval domain() const { return chart->domain(clients()); }
+  double span() const;  ///< seconds on screen at once
+  std::vector<drawing::TimeAxisLabel> labels(DateInterval visible) const { return chart->labels(visible, clients()); }
+  std::string axisText(double value, int fractionDigits) const;
+  void didScroll(Date leading) { chart->didScroll(leading); }
+  void didTouch(std::optional<Date> date) { chart->didTouch(date); }
+  std::vector<std::optional<drawing::LinePoint>> selection() const { return chart->selection(); }
+  std::optional<drawing::Annotation> annotation() const { return chart->annotation(clients()); }
 
-  virtual void didScroll(Date leading) = 0;
-  virtual void didTouch(std::optional<Date> date) = 0;
-  /// The points chosen by the last touch, one a line.
-  virtual std::vector<std::optional<drawing::LinePoint>> selection() const = 0;
-  virtual std::optional<drawing::Annotation> annotation() const = 0;
-
-  virtual QString visibleDates() const = 0;
-  virtual QString average() const = 0;
-  virtual bool scrolls() const = 0;
-  bool isEmpty() const;
-  int rowCount() const override;
+  QString visibleDates() const;
+  QString average() const;
+  QString spokenSelection() const;
+  bool isEmpty() const { return chart->isEmpty(); }
+  bool hasTwoLines() const { return lines().size() == 2; }
+  bool scrolls() const { return hasHeader; }
+  int rowCount() const override { return static_cast<int>(chart->rowCount()); }
   QString date(int row) const override;
   QString value(int row) const override;
-  /// A value of a line in words.
-  virtual QString valueText(std::size_t line, double value) const = 0;
-  /// What is selected, in words.
-  QString spokenSelection() const;
-  bool hasTwoLines() const { return lines().size() == 2; }
-
- private:
-  struct Row {
-    std::size_t line;
-    drawing::LinePoint point;
-  };
-  Row rowOf(int row) const;
 
  Q_SIGNALS:
   void changed();  ///< other points
   void selectionChanged();
   void headerChanged();
+
+ private:
+  PageClients clients() const;
+  void become(const drawing::LineChart::Source& source, WeightUnit unit);
+
+  bool hasHeader;
+  Date now;
+  std::unique_ptr<drawing::LineChart> chart;
+  Subscription headerChanges, selectionChanges;
 };
 
 }  // namespace mivo::app

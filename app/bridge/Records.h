@@ -99,6 +99,57 @@ struct Steps {
   bool operator==(const Steps&) const = default;
 };
 
+/// A `BadgeFigure`.
+struct BadgeHalfRecord {
+  Q_GADGET
+  QML_VALUE_TYPE(badgeHalfRecord)
+  Q_PROPERTY(int threshold MEMBER threshold)
+  Q_PROPERTY(QString number MEMBER number)
+  Q_PROPERTY(bool isEarned MEMBER isEarned)
+  Q_PROPERTY(QString label MEMBER label)
+  Q_PROPERTY(QString progress MEMBER progress)
+  Q_PROPERTY(double fraction MEMBER fraction)
+
+ public:
+  int threshold = 1;
+  QString number, label, progress;
+  bool isEarned = false;
+  double fraction = 0;
+  bool operator==(const BadgeHalfRecord&) const = default;
+};
+
+/// A `TrendCard`; bars are 0 to 1 long.
+struct TrendRow {
+  Q_GADGET
+  QML_VALUE_TYPE(trendRow)
+  Q_PROPERTY(QString zone MEMBER zone)
+  Q_PROPERTY(QString name MEMBER name)
+  Q_PROPERTY(QString detail MEMBER detail)
+  Q_PROPERTY(QString thisLabel MEMBER thisLabel)
+  Q_PROPERTY(QString lastLabel MEMBER lastLabel)
+  Q_PROPERTY(QString perDay MEMBER perDay)
+  Q_PROPERTY(QString averageFastTimeRangeText MEMBER averageFastTimeRangeText)
+  Q_PROPERTY(QString thisTimeRangeAvg MEMBER thisTimeRangeAvg)
+  Q_PROPERTY(QString lastTimeRangeAvg MEMBER lastTimeRangeAvg)
+  Q_PROPERTY(double thisTimeRangeFraction MEMBER thisTimeRangeFraction)
+  Q_PROPERTY(double lastTimeRangeFraction MEMBER lastTimeRangeFraction)
+  Q_PROPERTY(bool thisTimeRangeInsideCapsule MEMBER thisTimeRangeInsideCapsule)
+  Q_PROPERTY(bool lastTimeRangeInsideCapsule MEMBER lastTimeRangeInsideCapsule)
+
+ public:
+  QString zone, name, detail, thisLabel, lastLabel, perDay, averageFastTimeRangeText, thisTimeRangeAvg,
+      lastTimeRangeAvg;
+  double thisTimeRangeFraction = 0, lastTimeRangeFraction = 0;
+  bool thisTimeRangeInsideCapsule = false, lastTimeRangeInsideCapsule = false;
+  bool operator==(const TrendRow&) const = default;
+};
+
+inline QStringList textsOf(const std::vector<std::string>& texts) {
+  QStringList all;
+  for (const std::string& text : texts) all.append(QString::fromStdString(text));
+  return all;
+}
+
 /// `recordOf<GoalSheet>(composeGoalWeightSheet(...))`
 template <class Gadget, class Composed>
 Gadget recordOf(const Composed& composed) {
@@ -109,9 +160,7 @@ Gadget recordOf(const Composed& composed) {
     if constexpr (Carried<Field>) {
       property.writeOnGadget(&gadget, variantOf(field));
     } else if constexpr (std::same_as<Field, std::vector<std::string>>) {
-      QStringList texts;
-      for (const std::string& text : field) texts.append(QString::fromStdString(text));
-      property.writeOnGadget(&gadget, texts);
+      property.writeOnGadget(&gadget, textsOf(field));
     }
   });
   return gadget;

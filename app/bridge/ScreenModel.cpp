@@ -3,41 +3,15 @@
 
 #include <algorithm>
 
+#include "mivo/statistics/CardRows.h"
+
 namespace mivo::app {
 namespace {
 
-using Kind = CardModel::Kind;
-
-// The kinds of the screen are the module's, but for the trends, whose rows share a card.
-Kind kindOf(CardKind kind) { return static_cast<Kind>(static_cast<int>(kind)); }
-
 template <class Model, class Content>
-void take(std::unique_ptr<CardModel>& model, Kind kind, const Content& content) {
-  if (model)
-    static_cast<Model*>(model.get())->setContent(content);
-  else
-    model = std::make_unique<Model>(kind, content);
-}
-
-// Cards of one group stand beside each other where there is room; -1 stands alone.
-int groupOf(Kind kind) {
-  switch (kind) {
-    case Kind::Donation:
-    case Kind::Roadmap:
-      return 0;
-    case Kind::AddWeight:
-    case Kind::GoalWeight:
-    case Kind::Badges:
-      return 1;
-    case Kind::FastingChart:
-    case Kind::EatingChart:
-      return 2;
-    case Kind::WeightChart:
-    case Kind::WeightFastingChart:
-      return 3;
-    default:
-      return -1;
-  }
+void take(std::unique_ptr<CardModel>& model, CardKind kind, const Content& content) {
+  if (!model) model = std::make_unique<Model>(kind);
+  static_cast<Model*>(model.get())->show(content);
 }
 
 }  // namespace
@@ -48,7 +22,7 @@ int ScreenModel::rowCount(const QModelIndex& parent) const {
 
 QVariant ScreenModel::data(const QModelIndex& index, int role) const {
   CardModel* card = shown[static_cast<std::size_t>(index.row())];
-  if (role == KindRole) return QVariant::fromValue(card->kind());
+  if (role == KindRole) return card->kind();
   return role == CardRole ? QVariant::fromValue(card) : QVariant{};
 }
 
@@ -61,11 +35,11 @@ void ScreenModel::show(const std::vector<Card>& composed) {
     if (card.kind == CardKind::trend)
       trends.push_back(std::get<TrendCard>(card.content));
     else
-      next.push_back(update(kindOf(card.kind), card.content));
+      next.push_back(update(card.kind, card.content));
   }
   if (!trends.empty()) {
-    auto& model = models[Kind::Trends];
-    take<TrendsCardModel>(model, Kind::Trends, trends);
+    auto& model = models[CardKind::trend];
+    take<TrendsCardModel>(model, CardKind::trend, trends);
     next.push_back(model.get());
   }
   if (next == shown) return;
@@ -106,11 +80,11 @@ void ScreenModel::become(const std::vector<CardModel*>& next) {
 }
 
 TimeRangeCardModel* ScreenModel::timeRange() const {
-  const auto found = models.find(Kind::TimeRange);
+  const auto found = models.find(CardKind::timeRange);
   return found == models.end() ? nullptr : static_cast<TimeRangeCardModel*>(found->second.get());
 }
 
-CardModel* ScreenModel::update(Kind kind, const CardContent& content) {
+CardModel* ScreenModel::update(CardKind kind, const CardContent& content) {
   auto& model = models[kind];
   std::visit(
       [&]<class Content>(const Content& composed) {
@@ -136,16 +110,9 @@ CardModel* ScreenModel::update(Kind kind, const CardContent& content) {
 }
 
 int ScreenModel::columnSpan(int place, int columns) const {
-  constexpr int all = 6;
-  if (columns < 2 || place < 0 || place >= rowCount()) return all;
-  const int group = groupOf(shown[static_cast<std::size_t>(place)]->kind());
-  if (group < 0) return all;
-  const auto isOfGroup = [&](const CardModel* card) { return groupOf(card->kind()) == group; };
-  const auto cards = std::ranges::count_if(shown, isOfGroup);
-  const auto before = std::count_if(shown.begin(), shown.begin() + place, isOfGroup);
-  const auto perRow = std::min<std::ptrdiff_t>(cards, columns);
-  const bool isAloneInRow = cards % perRow == 1 && before == cards - 1;
-  return isAloneInRow ? all : all / static_cast<int>(perRow);
+  std::vector<CardKind> kinds;
+  for (const CardModel* card : shown) kinds.push_back(card->cardKind());
+  return sixthsOfCard(kinds, static_cast<std::size_t>(place), columns);
 }
 
 }  // namespace mivo::app

@@ -42,12 +42,12 @@ class ScreenModel : public QAbstractListModel {
   void cardsChanged();
 
  private:
-  CardModel* update(CardModel::Kind kind, const CardContent& content);
+  CardModel* update(CardKind kind, const CardContent& content);
   void become(const std::vector<CardModel*>& next);
   void dropHidden();
 
   std::vector<CardModel*> shown;
-  std::map<CardModel::Kind, std::unique_ptr<CardModel>> models;
+  std::map<CardKind, std::unique_ptr<CardModel>> models;
 };
 
 }  // namespace mivo::app

@@ -82,8 +82,8 @@ void DayBars::geometryChange(const QRectF& newGeometry, const QRectF& oldGeometr
 }
 
 qreal DayBars::gutterWidth() const {
-  const QString widest = shown->texts().hours(drawing::widestHours(shown->state().chartTimeUnit));
-  return drawing::gutterWidth(numberWidthIn(axisFont)(widest.toStdString()));
+  const std::string widest = shown->hoursText(drawing::widestHours(shown->state().chartTimeUnit));
+  return drawing::gutterWidth(numberWidthIn(axisFont)(widest));
 }
 
 void DayBars::relayout() {
@@ -173,8 +173,7 @@ void DayBars::paintLines(QPainter* painter) const {
   for (const double hours : drawing::hourLines(maxTime)) {
     const qreal y = layout.hourLine(hours, maxTime);
     drawHorizontalLine(painter, 0, layout.plotWidth, y, gridline);
-    drawNumber(painter, shown->texts().hours(hours).toStdString(), innerWidth(), y + metrics.capHeight() / 2,
-               Anchor::trailing);
+    drawNumber(painter, shown->hoursText(hours), innerWidth(), y + metrics.capHeight() / 2, Anchor::trailing);
   }
   drawHorizontalLine(painter, 0, layout.plotWidth, layout.baseline(), gridlineStrong);
 }

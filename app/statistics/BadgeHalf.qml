@@ -7,21 +7,16 @@ Column {
     id: root
 
     property int family: Badge.Milestone
-    property int threshold: 1
-    property bool earned: false
-    property string number
-    property string label
-    property string progress
-    property real fraction: 0
+    required property badgeHalfRecord figure
 
     Badge {
         anchors.horizontalCenter: parent.horizontalCenter
         width: 88
         height: 88
         family: root.family
-        threshold: root.threshold
-        count: root.earned ? root.threshold : 0
-        number: root.number
+        threshold: root.figure.threshold
+        count: root.figure.isEarned ? root.figure.threshold : 0
+        number: root.figure.number
         dark: Theme.dark
     }
 
@@ -30,7 +25,7 @@ Column {
     StyledText {
         width: parent.width
         horizontalAlignment: Text.AlignHCenter
-        text: root.label
+        text: root.figure.label
         style: Theme.bodyStrongText
     }
 
@@ -39,7 +34,7 @@ Column {
     ProgressTrack {
         anchors.horizontalCenter: parent.horizontalCenter
         width: 112
-        fraction: root.fraction
+        fraction: root.figure.fraction
     }
 
     Item { width: 1; height: 6 }
@@ -47,7 +42,7 @@ Column {
     StyledText {
         width: parent.width
         horizontalAlignment: Text.AlignHCenter
-        text: root.progress
+        text: root.figure.progress
         style: Theme.labelText
         color: Theme.inkSecondary
     }

@@ -7,7 +7,7 @@ TappableCard {
 
     required property BadgesCardModel card
 
-    text: root.card.title + ": " + root.card.milestoneLabel + ", " + root.card.streakLabel
+    text: root.card.title + ": " + root.card.milestone.label + ", " + root.card.streak.label
 
     contentItem: face
 
@@ -43,23 +43,13 @@ TappableCard {
             BadgeHalf {
                 width: parent.width / 2
                 family: Badge.Milestone
-                threshold: root.card.milestoneThreshold
-                earned: root.card.milestoneIsEarned
-                number: Texts.number(root.card.milestoneThreshold)
-                label: root.card.milestoneLabel
-                progress: root.card.milestoneProgress
-                fraction: root.card.milestoneFraction
+                figure: root.card.milestone
             }
 
             BadgeHalf {
                 width: parent.width / 2
                 family: Badge.Streak
-                threshold: root.card.streakThreshold
-                earned: root.card.streakIsEarned
-                number: Texts.number(root.card.streakThreshold)
-                label: root.card.streakLabel
-                progress: root.card.streakProgress
-                fraction: root.card.streakFraction
+                figure: root.card.streak
             }
         }
     }

@@ -7,7 +7,7 @@ Item {
     id: root
 
     required property int index
-    required property int kind
+    required property string kind
     required property CardModel card
     /// How many cards of the page fit beside each other.
     property int columns: 1
@@ -35,41 +35,41 @@ Item {
         width: parent.width
         height: parent.height
         // On wide windows the picker stands in the title row.
-        active: !(root.wide && root.kind === CardModel.TimeRange)
+        active: !(root.wide && root.kind === "timeRange")
         asynchronous: root.late
         sourceComponent: {
             switch (root.kind) {
-            case CardModel.Tip:
+            case "tip":
                 return tip;
-            case CardModel.Start:
+            case "start":
                 return start;
-            case CardModel.Configure:
+            case "configure":
                 return configure;
-            case CardModel.Summary:
+            case "summary":
                 return summary;
-            case CardModel.OverlappingFasts:
+            case "overlappingFasts":
                 return overlap;
-            case CardModel.Donation:
+            case "donation":
                 return donation;
-            case CardModel.Roadmap:
+            case "roadmap":
                 return roadmap;
-            case CardModel.HealthData:
+            case "healthData":
                 return health;
-            case CardModel.AddWeight:
+            case "addWeight":
                 return addWeight;
-            case CardModel.GoalWeight:
+            case "goalWeight":
                 return goalWeight;
-            case CardModel.Badges:
+            case "badges":
                 return badges;
-            case CardModel.TimeRange:
+            case "timeRange":
                 return timeRange;
-            case CardModel.FastingChart:
+            case "fastingChart":
                 return fastingChart;
-            case CardModel.EatingChart:
+            case "eatingChart":
                 return eatingChart;
-            case CardModel.WeightChart:
+            case "weightChart":
                 return weightChart;
-            case CardModel.WeightFastingChart:
+            case "weightFastingChart":
                 return weightFastingChart;
             default:
                 return trends;

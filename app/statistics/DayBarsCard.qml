@@ -26,7 +26,7 @@ Card {
     EmptyChart {
         width: parent.width
         visible: root.chart.isEmpty
-        text: root.card.emptyText
+        text: root.card.empty
     }
 
     FocusScope {

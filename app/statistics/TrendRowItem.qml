@@ -22,7 +22,7 @@ Column {
 
     StyledText {
         width: parent.width
-        text: root.modelData.sentence
+        text: root.modelData.averageFastTimeRangeText
         color: Theme.inkSecondary
     }
 
@@ -33,10 +33,10 @@ Column {
         width: parent.width
         labelWidth: root.labelWidth
         label: root.modelData.thisLabel
-        value: root.modelData.thisAverage
+        value: root.modelData.thisTimeRangeAvg
         perDay: root.modelData.perDay
-        fraction: root.modelData.thisFraction
-        inside: root.modelData.thisInside
+        fraction: root.modelData.thisTimeRangeFraction
+        inside: root.modelData.thisTimeRangeInsideCapsule
         fill: root.accent.fill
         textOnFill: root.accent.textOnFill
     }
@@ -48,10 +48,10 @@ Column {
         width: parent.width
         labelWidth: root.labelWidth
         label: root.modelData.lastLabel
-        value: root.modelData.lastAverage
+        value: root.modelData.lastTimeRangeAvg
         perDay: root.modelData.perDay
-        fraction: root.modelData.lastFraction
-        inside: root.modelData.lastInside
+        fraction: root.modelData.lastTimeRangeFraction
+        inside: root.modelData.lastTimeRangeInsideCapsule
         fill: root.accent.tint
         textOnFill: Theme.ink
     }

@@ -51,7 +51,7 @@ Card {
     EmptyChart {
         width: parent.width
         visible: root.chart.isEmpty
-        text: root.card.emptyText
+        text: root.card.empty
     }
 
     LineChartArea {

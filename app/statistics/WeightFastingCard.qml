@@ -60,7 +60,7 @@ Card {
     EmptyChart {
         width: parent.width
         visible: root.chart.isEmpty
-        text: root.card.emptyText
+        text: root.card.empty
     }
 
     LineChartArea {

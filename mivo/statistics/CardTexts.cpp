@@ -32,6 +32,7 @@ BadgeFigure badgeFigure(std::int64_t count, const ScreenFormatters& format) {
   const BadgeProgress progress = badgeProgress(badgeThresholds, count);
   const auto rank = static_cast<std::size_t>(std::max<std::int64_t>(0, progress.earnedBadges - 1));
   return {.threshold = badgeThresholds[rank],
+          .number = format.numbers.string(badgeThresholds[rank]),
           .isEarned = progress.earnedBadges > 0,
           .progress = progressText(progress, format.texts, format.numbers),
           .fraction = progress.fraction()};
@@ -184,7 +185,8 @@ CardContent badgesTexts(const ScreenInput& input, const ScreenFormatters& format
 CardContent timeRangeTexts(const ScreenInput& input, const ScreenFormatters& format) {
   TimeRangeCard card{.title = format.texts.text("Time range for trends"),
                      .prompt = format.texts.text("Select a time range"),
-                     .selected = format.texts.text(displayString(input.timeRange))};
+                     .selected = format.texts.text(displayString(input.timeRange)),
+                     .selectedIndex = static_cast<std::int64_t>(input.timeRange)};
   for (const TimeRange range : allTimeRanges) card.options.push_back(format.texts.text(displayString(range)));
   return card;
 }

@@ -113,6 +113,7 @@ void fields(Listed& record, Visit&& visit) {
 /// One family of badges: the best badge earned, or the first one as long as none is.
 struct BadgeFigure {
   std::int64_t threshold = 0;
+  std::string number = {};  ///< "1,000": the threshold, for the badge itself
   bool isEarned = false;
   std::string label = {};     ///< "100 fasts", "50 days in a row"
   std::string progress = {};  ///< "239 of 250"
@@ -122,8 +123,9 @@ struct BadgeFigure {
 
 template <RecordOf<BadgeFigure> Listed, class Visit>
 void fields(Listed& record, Visit&& visit) {
-  auto& [threshold, isEarned, label, progress, fraction] = record;
+  auto& [threshold, number, isEarned, label, progress, fraction] = record;
   visit("threshold", threshold);
+  visit("number", number);
   visit("isEarned", isEarned);
   visit("label", label);
   visit("progress", progress);
@@ -148,16 +150,18 @@ void fields(Listed& record, Visit&& visit) {
 struct TimeRangeCard {
   std::string title, prompt, selected;
   std::vector<std::string> options = {};  ///< one a range, in the order of the ranges
+  std::int64_t selectedIndex = 0;         ///< the place of `selected` among them
   bool operator==(const TimeRangeCard&) const = default;
 };
 
 template <RecordOf<TimeRangeCard> Listed, class Visit>
 void fields(Listed& record, Visit&& visit) {
-  auto& [title, prompt, selected, options] = record;
+  auto& [title, prompt, selected, options, selectedIndex] = record;
   visit("title", title);
   visit("prompt", prompt);
   visit("selected", selected);
   visit("options", options);
+  visit("selectedIndex", selectedIndex);
 }
 
 /// A chart of day bars. The dates that are visible follow its scrolling and are not told here.

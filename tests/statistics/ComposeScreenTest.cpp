@@ -209,14 +209,14 @@ TEST_F(Screen, countsStreaksInWhatTheUserCounts) {
 TEST_F(Screen, showsTheBestBadgeOfEachFamily) {
   EXPECT_EQ(content<BadgesCard>(CardKind::badges),
             (BadgesCard{.title = "Badges",
-                        .milestone = {100, true, "100 fasts", "239 of 250", 239.0 / 250},
-                        .streak = {50, true, "50 days in a row", "57 of 100", 0.57}}));
+                        .milestone = {100, "100", true, "100 fasts", "239 of 250", 239.0 / 250},
+                        .streak = {50, "50", true, "50 days in a row", "57 of 100", 0.57}}));
   stats.totalFasts = 5000;
   stats.maxStreak = 0;
   EXPECT_EQ(content<BadgesCard>(CardKind::badges),
             (BadgesCard{.title = "Badges",
-                        .milestone = {5000, true, "5000 fasts", "All badges earned", 1},
-                        .streak = {1, false, "1 day in a row", "0 of 1", 0}}));
+                        .milestone = {5000, "5000", true, "5000 fasts", "All badges earned", 1},
+                        .streak = {1, "1", false, "1 day in a row", "0 of 1", 0}}));
 }
 
 TEST_F(Screen, offersTheRanges) {
@@ -224,7 +224,8 @@ TEST_F(Screen, offersTheRanges) {
   EXPECT_EQ(content<TimeRangeCard>(CardKind::timeRange), (TimeRangeCard{.title = "Time range for trends",
                                                                         .prompt = "Select a time range",
                                                                         .selected = "month",
-                                                                        .options = {"week", "month", "year"}}));
+                                                                        .options = {"week", "month", "year"},
+                                                                        .selectedIndex = 1}));
 }
 
 TEST_F(Screen, tellsTheWeightAndItsTrend) {
