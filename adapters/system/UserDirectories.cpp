@@ -24,6 +24,4 @@ fs::path dataDirectory() { return directory("XDG_DATA_HOME", ".local/share"); }
 
 fs::path appDefaultsFile() { return configurationDirectory() / "app.json"; }
 
-fs::path appGroupDefaultsFile() { return configurationDirectory() / "group.json"; }
-
 }  // namespace mivo::adapters

@@ -13,8 +13,7 @@ std::filesystem::path configurationDirectory();
 /// $XDG_DATA_HOME/mivo, else ~/.local/share/mivo: the history.
 std::filesystem::path dataDirectory();
 
-/// The settings of the app, and those that it shares with its extensions; for `FileUserDefaults`.
+/// The settings of the app, for `FileUserDefaults`.
 std::filesystem::path appDefaultsFile();
-std::filesystem::path appGroupDefaultsFile();
 
 }  // namespace mivo::adapters

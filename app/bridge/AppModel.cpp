@@ -6,8 +6,8 @@
 #include <QtGui/QClipboard>
 #include <QtGui/QDesktopServices>
 #include <QtGui/QGuiApplication>
-#include <QtQml/QJSEngine>
 
+#include "app/bridge/EngineModels.h"
 #include "app/bridge/Stamps.h"
 #include "app/bridge/Text.h"
 #include "host/app/CurrentTipFacts.h"
@@ -28,8 +28,6 @@ using Sent = StatisticsFeature::Action;
 using Destination = StatisticsFeature::Destination;
 
 constexpr std::chrono::seconds untilRecomputed{60}, untilLookedAround{2};
-
-AppModel* theApp = nullptr;
 
 drawing::DayBarsClients barClients() {
   return {*dependency(&Dependencies::dateIntervalFormatter), *dependency(&Dependencies::hourMinDurationUnitFormatter),
@@ -68,18 +66,12 @@ AppModel::AppModel(AppServices given)
       overlapRepair{clients, [this](Action action) { send(std::move(action)); }},
       chosenSettings{clients, services.calendar, *services.appearance, services.about,
                      [this] { send(Action::didChangeSettings{}); }} {
-  theApp = this;
   following = store.observe([this](const State& state) { follow(state); });
   load();
   watchTime();
 }
 
-AppModel::~AppModel() { theApp = nullptr; }
-
-AppModel* AppModel::create(QQmlEngine*, QJSEngine*) {
-  QJSEngine::setObjectOwnership(theApp, QJSEngine::CppOwnership);
-  return theApp;
-}
+AppModel* AppModel::create(QQmlEngine* engine, QJSEngine*) { return modelOf<AppModel>(*engine); }
 
 void AppModel::load() {
   try {

@@ -77,7 +77,6 @@ class AppModel : public QObject {
 
   /// Loads the history before it returns, so that the first frame is complete.
   explicit AppModel(AppServices services);
-  ~AppModel() override;
   static AppModel* create(QQmlEngine*, QJSEngine*);
 
   ScreenModel* screen() { return &cards; }

@@ -4,8 +4,8 @@
 #include <QtCore/QEvent>
 #include <QtGui/QGuiApplication>
 #include <QtGui/QPalette>
-#include <QtQml/QJSEngine>
 
+#include "app/bridge/EngineModels.h"
 #include "mivo/platform/Dependencies.h"
 
 namespace mivo::app {
@@ -13,19 +13,11 @@ namespace {
 
 const UserDefaults& defaults() { return *dependency(&Dependencies::userDefaults); }
 
-Appearance* theAppearance = nullptr;
-
 }  // namespace
 
-Appearance::Appearance(QObject* parent) : QObject{parent} {
-  theAppearance = this;
-  qGuiApp->installEventFilter(this);
-}
+Appearance::Appearance(QObject* parent) : QObject{parent} { qGuiApp->installEventFilter(this); }
 
-Appearance* Appearance::create(QQmlEngine*, QJSEngine*) {
-  QJSEngine::setObjectOwnership(theAppearance, QJSEngine::CppOwnership);
-  return theAppearance;
-}
+Appearance* Appearance::create(QQmlEngine* engine, QJSEngine*) { return modelOf<Appearance>(*engine); }
 
 host::Appearance Appearance::present() const {
   host::Appearance look = host::appearance(defaults());

@@ -8,6 +8,7 @@
 #include <QtQuick/QQuickItem>
 #include <QtQuick/QQuickWindow>
 
+#include "app/bridge/EngineModels.h"
 #include "app/program/SystemZone.h"
 #include "host/database/Database.h"
 
@@ -70,6 +71,8 @@ AppWindow::AppWindow(const Environment& environment, const Options& options, QSi
   look.setOverride({.mode = modeOf(options), .textScale = options.textScale, .still = !options.picture.empty()});
   app.say(environment.notice);
   app.appear();
+  giveModel(engine, app);
+  giveModel(engine, look);
   engine.addImportPath(QStringLiteral("qrc:/"));
   engine.setInitialProperties({{QStringLiteral("width"), size.width()},
                                {QStringLiteral("height"), size.height()},
@@ -92,6 +95,7 @@ QQuickWindow* AppWindow::window() const {
 
 FaultWindow::FaultWindow(const std::string& sentence, std::function<std::string()> tryAgain)
     : look{nullptr}, attempt{std::move(tryAgain)} {
+  giveModel(engine, look);
   engine.addImportPath(QStringLiteral("qrc:/"));
   engine.setInitialProperties({{QStringLiteral("sentence"), QString::fromStdString(sentence)}});
   engine.load(QUrl{QStringLiteral("qrc:/Mivo/FaultWindow.qml")});
