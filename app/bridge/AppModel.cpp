@@ -181,15 +181,15 @@ void AppModel::tellTips(const State& state) const {
 QString AppModel::destination() const { return shownDestination; }
 
 GoalSheet AppModel::goalSheet() const {
-  return recordOf<GoalSheet>(
-      composeGoalWeightSheet(store.state().statistics.goalWeightCardState, *dependency(&Dependencies::texts),
-                             *dependency(&Dependencies::numberFormatter), *dependency(&Dependencies::massFormatter)));
+  return valueOf(composeGoalWeightSheet(store.state().statistics.goalWeightCardState, *dependency(&Dependencies::texts),
+                                        *dependency(&Dependencies::numberFormatter),
+                                        *dependency(&Dependencies::massFormatter)));
 }
 
 QString AppModel::failure() const { return qString(store.state().failure); }
 
 MessageTexts AppModel::message() const {
-  return recordOf<MessageTexts>(host::composeMessage(store.state(), *dependency(&Dependencies::texts)));
+  return valueOf(host::composeMessage(store.state(), *dependency(&Dependencies::texts)));
 }
 
 void AppModel::appear() { sendStatistics(Sent::onAppear{}); }
@@ -228,9 +228,7 @@ bool AppModel::setGoalWeight(const QString& text) {
   return !store.state().statistics.goalWeightCardState.hasGoalProblem;
 }
 
-FeedbackTexts AppModel::feedback() const {
-  return recordOf<FeedbackTexts>(composeFeedback(*dependency(&Dependencies::texts)));
-}
+FeedbackTexts AppModel::feedback() const { return valueOf(composeFeedback(*dependency(&Dependencies::texts))); }
 
 bool AppModel::canSend(const QString& idea) const { return isIdea(idea.toStdString()); }
 

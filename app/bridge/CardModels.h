@@ -56,7 +56,7 @@ class ContentCard : public CardModel {
 
  protected:
   virtual void take(const Content& composed) {
-    if constexpr (Record<const Content>) carry(composed, *this);
+    if constexpr (Record<const Content>) carryAll(composed, *this);
   }
 
  private:
@@ -86,18 +86,14 @@ class SummaryCardModel : public ContentCard<SummaryCard> {
   QML_UNCREATABLE("cards come from the screen")
   Q_PROPERTY(QString title MEMBER title NOTIFY changed)
   Q_PROPERTY(QString period MEMBER period NOTIFY changed)
-  Q_PROPERTY(QStringList values MEMBER values NOTIFY changed)
-  Q_PROPERTY(QStringList labels MEMBER labels NOTIFY changed)
+  Q_PROPERTY(QList<mivo::app::SummaryFigureRecord> figures MEMBER figures NOTIFY changed)
 
  public:
   using ContentCard::ContentCard;
 
- protected:
-  void take(const SummaryCard& composed) override;
-
  private:
   QString title, period;
-  QStringList values, labels;
+  QList<SummaryFigureRecord> figures;
 };
 
 /// How far the goal weight is.
@@ -140,9 +136,6 @@ class BadgesCardModel : public ContentCard<BadgesCard> {
  public:
   using ContentCard::ContentCard;
 
- protected:
-  void take(const BadgesCard& composed) override;
-
  private:
   QString title;
   BadgeHalfRecord milestone, streak;
@@ -160,9 +153,6 @@ class TimeRangeCardModel : public ContentCard<TimeRangeCard> {
 
  public:
   using ContentCard::ContentCard;
-
- protected:
-  void take(const TimeRangeCard& composed) override;
 
  private:
   QString title, prompt;

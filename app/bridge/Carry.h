@@ -39,6 +39,7 @@ QVariant variantOf(Enumeration value) {
 
 template <class Value>
 QVariant variantOf(const std::optional<Value>& value) {
+  if constexpr (std::is_enum_v<Value>) return value ? variantOf(*value) : QString{};
   return variantOf(value.value_or(Value{}));
 }
 

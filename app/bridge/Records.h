@@ -2,17 +2,26 @@
 #pragma once
 
 #include <QtQml/qqmlregistration.h>
+#include <QtCore/QList>
 #include <QtCore/QMetaProperty>
 #include <QtCore/QObject>
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 
 #include <concepts>
+#include <ranges>
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "app/bridge/Carry.h"
+#include "host/pages/Message.h"
+#include "host/pages/SettingsPage.h"
+#include "mivo/achievements/BadgesPage.h"
+#include "mivo/roadmap/FeedbackSheet.h"
+#include "mivo/roadmap/RoadmapPage.h"
+#include "mivo/statistics/Cards.h"
+#include "mivo/statistics/DonationsPage.h"
+#include "mivo/statistics/GoalWeightSheet.h"
 
 namespace mivo::app {
 
@@ -144,26 +153,218 @@ struct TrendRow {
   bool operator==(const TrendRow&) const = default;
 };
 
-inline QStringList textsOf(const std::vector<std::string>& texts) {
-  QStringList all;
-  for (const std::string& text : texts) all.append(QString::fromStdString(text));
-  return all;
+/// A `SummaryFigure`.
+struct SummaryFigureRecord {
+  Q_GADGET
+  QML_VALUE_TYPE(summaryFigureRecord)
+  Q_PROPERTY(QString label MEMBER label)
+  Q_PROPERTY(QString value MEMBER value)
+
+ public:
+  QString label, value;
+  bool operator==(const SummaryFigureRecord&) const = default;
+};
+
+/// A `BadgeItem`.
+struct BadgeEntry {
+  Q_GADGET
+  QML_VALUE_TYPE(badgeEntry)
+  Q_PROPERTY(int threshold MEMBER threshold)
+  Q_PROPERTY(bool isEarned MEMBER isEarned)
+  Q_PROPERTY(QString number MEMBER number)
+  Q_PROPERTY(QString label MEMBER label)
+
+ public:
+  int threshold = 0;
+  bool isEarned = false;
+  QString number, label;
+  bool operator==(const BadgeEntry&) const = default;
+};
+
+/// A `BadgeFamilyPage`.
+struct BadgeFamily {
+  Q_GADGET
+  QML_VALUE_TYPE(badgeFamily)
+  Q_PROPERTY(QString title MEMBER title)
+  Q_PROPERTY(QString count MEMBER count)
+  Q_PROPERTY(QString countLabel MEMBER countLabel)
+  Q_PROPERTY(QString remaining MEMBER remaining)
+  Q_PROPERTY(QString allLabel MEMBER allLabel)
+  Q_PROPERTY(QString spoken MEMBER spoken)
+  Q_PROPERTY(double fraction MEMBER fraction)
+  Q_PROPERTY(mivo::app::BadgeEntry present MEMBER present)
+  Q_PROPERTY(QList<mivo::app::BadgeEntry> all MEMBER all)
+  Q_PROPERTY(QList<mivo::app::BadgeEntry> around MEMBER around)
+
+ public:
+  QString title, count, countLabel, remaining, allLabel, spoken;
+  double fraction = 0;
+  BadgeEntry present;
+  QList<BadgeEntry> all, around;
+  bool operator==(const BadgeFamily&) const = default;
+};
+
+/// A `DonationChoice`.
+struct DonationButton {
+  Q_GADGET
+  QML_VALUE_TYPE(donationButton)
+  Q_PROPERTY(QString id MEMBER id)
+  Q_PROPERTY(QString price MEMBER price)
+  Q_PROPERTY(QString spoken MEMBER spoken)
+  Q_PROPERTY(bool isChosen MEMBER isChosen)
+
+ public:
+  QString id, price, spoken;
+  bool isChosen = false;
+  bool operator==(const DonationButton&) const = default;
+};
+
+/// A `DonationGroup`.
+struct DonationKind {
+  Q_GADGET
+  QML_VALUE_TYPE(donationKind)
+  Q_PROPERTY(QString label MEMBER label)
+  Q_PROPERTY(QList<mivo::app::DonationButton> choices MEMBER choices)
+
+ public:
+  QString label;
+  QList<DonationButton> choices;
+  bool operator==(const DonationKind&) const = default;
+};
+
+/// A `RoadmapFilter`.
+struct RoadmapFilterChip {
+  Q_GADGET
+  QML_VALUE_TYPE(roadmapFilterChip)
+  Q_PROPERTY(QString name MEMBER name)
+  Q_PROPERTY(bool isChosen MEMBER isChosen)
+
+ public:
+  QString name;
+  bool isChosen = false;
+  bool operator==(const RoadmapFilterChip&) const = default;
+};
+
+/// A `RoadmapNotice`.
+struct RoadmapNoticeText {
+  Q_GADGET
+  QML_VALUE_TYPE(roadmapNoticeText)
+  Q_PROPERTY(bool hasFailed MEMBER hasFailed)
+  Q_PROPERTY(QString title MEMBER title)
+  Q_PROPERTY(QString text MEMBER text)
+  Q_PROPERTY(QString button MEMBER button)
+
+ public:
+  bool hasFailed = false;
+  QString title, text, button;
+  bool operator==(const RoadmapNoticeText&) const = default;
+};
+
+/// The value that shows a record.
+template <class Composed>
+struct Shown {};
+template <>
+struct Shown<GoalWeightSheet> {
+  using Value = GoalSheet;
+};
+template <>
+struct Shown<FeedbackSheet> {
+  using Value = FeedbackTexts;
+};
+template <>
+struct Shown<host::Message> {
+  using Value = MessageTexts;
+};
+template <>
+struct Shown<host::Choice> {
+  using Value = Choice;
+};
+template <>
+struct Shown<host::Steps> {
+  using Value = Steps;
+};
+template <>
+struct Shown<BadgeFigure> {
+  using Value = BadgeHalfRecord;
+};
+template <>
+struct Shown<SummaryFigure> {
+  using Value = SummaryFigureRecord;
+};
+template <>
+struct Shown<BadgeItem> {
+  using Value = BadgeEntry;
+};
+template <>
+struct Shown<BadgeFamilyPage> {
+  using Value = BadgeFamily;
+};
+template <>
+struct Shown<DonationChoice> {
+  using Value = DonationButton;
+};
+template <>
+struct Shown<DonationGroup> {
+  using Value = DonationKind;
+};
+template <>
+struct Shown<TrendCard> {
+  using Value = TrendRow;
+};
+template <>
+struct Shown<RoadmapFilter> {
+  using Value = RoadmapFilterChip;
+};
+template <>
+struct Shown<RoadmapNotice> {
+  using Value = RoadmapNoticeText;
+};
+
+template <class Composed>
+using ShownValue = typename Shown<Composed>::Value;
+template <class Composed>
+concept ShownAsValue = requires { typename Shown<Composed>::Value; };
+
+template <ShownAsValue Composed>
+ShownValue<Composed> valueOf(const Composed& composed);
+
+/// A field for a property: texts and numbers as they are carried, records as values, lists of either.
+template <class Field>
+QVariant propertyOf(const Field& field) {
+  if constexpr (Carried<Field>) {
+    return variantOf(field);
+  } else if constexpr (ShownAsValue<Field>) {
+    return QVariant::fromValue(valueOf(field));
+  } else if constexpr (std::ranges::range<Field>) {
+    using Element = std::ranges::range_value_t<Field>;
+    if constexpr (std::same_as<Element, std::string>) {
+      QStringList texts;
+      for (const std::string& text : field) texts.append(QString::fromStdString(text));
+      return texts;
+    } else if constexpr (ShownAsValue<Element>) {
+      QList<ShownValue<Element>> values;
+      for (const Element& element : field) values.append(valueOf(element));
+      return QVariant::fromValue(values);
+    }
+  }
+  return {};
 }
 
-/// `recordOf<GoalSheet>(composeGoalWeightSheet(...))`
-template <class Gadget, class Composed>
-Gadget recordOf(const Composed& composed) {
-  Gadget gadget;
-  const QMetaObject& type = Gadget::staticMetaObject;
-  fields(composed, [&]<class Field>(std::string_view name, const Field& field) {
-    const QMetaProperty property = type.property(type.indexOfProperty(name.data()));
-    if constexpr (Carried<Field>) {
-      property.writeOnGadget(&gadget, variantOf(field));
-    } else if constexpr (std::same_as<Field, std::vector<std::string>>) {
-      property.writeOnGadget(&gadget, textsOf(field));
-    }
+/// A record as a value of QML, each field under its name.
+template <ShownAsValue Composed>
+ShownValue<Composed> valueOf(const Composed& composed) {
+  ShownValue<Composed> value;
+  const QMetaObject& type = value.staticMetaObject;
+  fields(composed, [&](std::string_view name, const auto& field) {
+    type.property(type.indexOfProperty(name.data())).writeOnGadget(&value, propertyOf(field));
   });
-  return gadget;
+  return value;
+}
+
+/// Gives each property of a model the field of its name, whatever it is.
+template <class Composed>
+void carryAll(const Composed& composed, QObject& model) {
+  fields(composed, [&](std::string_view name, const auto& field) { carryField(model, name, propertyOf(field)); });
 }
 
 }  // namespace mivo::app

@@ -19,12 +19,10 @@ void CardSettingsModel::follow(const StatisticsFeature::State& state, const Page
   flags = state.dashboardSettings;
   streaks = state.streakSettings;
   const auto composed = host::composeCardSettings(flags, streaks, clients);
-  carry(composed, *this);
+  carryAll(composed, *this);
   cardRows.show(composed.cards);
   chartRows.show(composed.charts);
   trendRows.show(composed.trends);
-  counted = recordOf<Choice>(composed.counted);
-  longestBreak = recordOf<Steps>(composed.longestBreak);
   Q_EMIT changed();
 }
 
@@ -91,12 +89,7 @@ void SettingsModel::show() {
   if (shown == facts) return;
   shown = facts;
   const auto composed = host::composeSettings(facts, clients());
-  carry(composed, *this);
-  weightUnit = recordOf<Choice>(composed.weightUnit);
-  firstWeekday = recordOf<Choice>(composed.firstWeekday);
-  language = recordOf<Choice>(composed.language);
-  appearance = recordOf<Choice>(composed.appearance);
-  textSize = recordOf<Steps>(composed.textSize);
+  carryAll(composed, *this);
   Q_EMIT changed();
 }
 

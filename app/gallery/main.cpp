@@ -114,7 +114,7 @@ struct Gallery {
 /// Runs events while a roadmap is loading.
 void awaitRoadmap(AppModel& app) {
   const QDeadlineTimer deadline{5000};
-  while (app.roadmap() && app.roadmap()->isLoading() && !deadline.hasExpired())
+  while (app.roadmap() && app.roadmap()->page().isLoading && !deadline.hasExpired())
     QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
 }
 

@@ -57,7 +57,7 @@ TappableCard {
                 height: 120
                 family: root.kind
                 threshold: root.family.present.threshold
-                count: root.family.present.earned ? root.family.present.threshold : 0
+                count: root.family.present.isEarned ? root.family.present.threshold : 0
                 number: root.family.present.number
                 dark: Theme.dark
             }
@@ -126,7 +126,7 @@ TappableCard {
                     height: width
                     family: root.kind
                     threshold: modelData.threshold
-                    count: modelData.earned ? modelData.threshold : 0
+                    count: modelData.isEarned ? modelData.threshold : 0
                     number: modelData.number
                     dark: Theme.dark
                 }

@@ -61,7 +61,7 @@ PushedPage {
                         height: width
                         family: root.kind
                         threshold: entry.modelData.threshold
-                        count: entry.modelData.earned ? entry.modelData.threshold : 0
+                        count: entry.modelData.isEarned ? entry.modelData.threshold : 0
                         number: entry.modelData.number
                         dark: Theme.dark
                     }
@@ -70,8 +70,8 @@ PushedPage {
                         width: parent.width
                         horizontalAlignment: Text.AlignHCenter
                         text: entry.modelData.label
-                        style: entry.modelData.earned ? Theme.bodyStrongText : Theme.bodyText
-                        color: entry.modelData.earned ? Theme.ink : Theme.inkSecondary
+                        style: entry.modelData.isEarned ? Theme.bodyStrongText : Theme.bodyText
+                        color: entry.modelData.isEarned ? Theme.ink : Theme.inkSecondary
                         Accessible.ignored: true
                     }
                 }

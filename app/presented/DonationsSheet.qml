@@ -49,10 +49,10 @@ Sheet {
                         implicitHeight: Theme.buttonLargeSize
                         leftPadding: 8
                         rightPadding: 8
-                        kind: modelData.chosen ? ActionButton.Primary : ActionButton.Field
+                        kind: modelData.isChosen ? ActionButton.Primary : ActionButton.Field
                         text: modelData.price
                         Accessible.name: modelData.spoken
-                        Accessible.checked: modelData.chosen
+                        Accessible.checked: modelData.isChosen
                         onClicked: App.donations.choose(modelData.id)
                     }
                 }

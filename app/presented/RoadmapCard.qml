@@ -6,7 +6,6 @@ import Mivo
 Card {
     id: root
 
-    required property string featureID
     required property string title
     required property string text
     required property string status
@@ -14,8 +13,8 @@ Card {
     required property bool hasVotes
     required property string count
     required property string spokenVote
-    required property bool voted
-    required property bool open
+    required property bool isVoted
+    required property bool isOpen
 
     readonly property bool stacked: Theme.textScale >= 1.3
 
@@ -71,8 +70,8 @@ Card {
             y: root.stacked ? texts.height + 12 : 0
             spoken: root.spokenVote
             count: root.count
-            cast: root.voted
-            enabled: root.open
+            cast: root.isVoted
+            enabled: root.isOpen
             onClicked: root.voteTapped()
         }
     }

@@ -26,10 +26,10 @@ PushedPage {
 
             delegate: Chip {
                 required property int index
-                required property string modelData
+                required property roadmapFilterChip modelData
 
-                text: modelData
-                chosen: root.roadmap !== null && root.roadmap.filter === index
+                text: modelData.name
+                chosen: modelData.isChosen
                 onClicked: root.roadmap.choose(index)
             }
         }
@@ -46,14 +46,14 @@ PushedPage {
     }
 
     Repeater {
-        model: waited.passed && root.roadmap && root.roadmap.loading ? 4 : 0
+        model: waited.passed && root.roadmap && root.roadmap.isLoading ? 4 : 0
 
         delegate: LoadingCard { width: root.contentWidth }
     }
 
     Card {
         width: parent.width
-        visible: root.roadmap !== null && root.roadmap.noticeTitle !== ""
+        visible: root.roadmap !== null && root.roadmap.notice.title !== ""
         padding: 24
         spacing: 12
 
@@ -66,14 +66,14 @@ PushedPage {
                 width: 56
                 height: 56
                 radius: 16
-                name: root.roadmap && root.roadmap.failed ? "cloudOff" : "inbox"
+                name: root.roadmap && root.roadmap.notice.hasFailed ? "cloudOff" : "inbox"
             }
         }
 
         StyledText {
             width: parent.width
             horizontalAlignment: Text.AlignHCenter
-            text: root.roadmap ? root.roadmap.noticeTitle : ""
+            text: root.roadmap ? root.roadmap.notice.title : ""
             style: Theme.headlineText
         }
 
@@ -81,24 +81,26 @@ PushedPage {
             width: parent.width
             visible: text !== ""
             horizontalAlignment: Text.AlignHCenter
-            text: root.roadmap ? root.roadmap.noticeText : ""
+            text: root.roadmap ? root.roadmap.notice.text : ""
             color: Theme.inkSecondary
         }
 
         ActionButton {
             width: parent.width
             visible: text !== ""
-            text: root.roadmap ? root.roadmap.noticeButton : ""
+            text: root.roadmap ? root.roadmap.notice.button : ""
             onClicked: root.roadmap.tryAgain()
         }
     }
 
     Repeater {
-        model: root.roadmap
+        model: root.roadmap ? root.roadmap.items : null
 
         delegate: RoadmapCard {
+            required property int index
+
             width: root.contentWidth
-            onVoteTapped: root.roadmap.vote(featureID)
+            onVoteTapped: root.roadmap.vote(index)
         }
     }
 

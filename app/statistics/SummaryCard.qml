@@ -26,15 +26,15 @@ Card {
         spacing: 16
 
         Repeater {
-            model: root.card.values
+            model: root.card.figures
 
             delegate: SummaryFigure {
                 required property int index
-                required property string modelData
+                required property summaryFigureRecord modelData
 
                 width: (grid.width - (root.columns - 1) * grid.spacing) / root.columns
-                value: modelData
-                label: root.card.labels[index]
+                value: modelData.value
+                label: modelData.label
                 // The first row is the larger one.
                 largest: root.wide ? Theme.numberText : index < 2 ? Theme.numberLargeText : Theme.numberSmallText
                 middle: !root.wide && index < 2 ? Theme.numberText : root.wide ? Theme.numberSmallText : Theme.numberRowText

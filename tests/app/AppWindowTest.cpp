@@ -143,9 +143,9 @@ TEST(AppWindow, opensTheBadgesAndGoesBackStepByStep) {
   QQuickItem* family = shown.ofType("BadgeFamilyCard");
   ASSERT_NE(family, nullptr);
   shown.click(family);
-  EXPECT_EQ(shown.app.model().badges()->list(), "milestones");
+  EXPECT_EQ(shown.app.model().badges()->property("list").toString(), "milestones");
   QTest::keyClick(&shown.window(), Qt::Key_Escape);
-  EXPECT_EQ(shown.app.model().badges()->list(), "");
+  EXPECT_EQ(shown.app.model().badges()->property("list").toString(), "");
   settle(shown.window());
   QTest::keyClick(&shown.window(), Qt::Key_Escape);
   EXPECT_EQ(shown.app.model().destination(), "");
@@ -154,12 +154,12 @@ TEST(AppWindow, opensTheBadgesAndGoesBackStepByStep) {
 TEST(AppWindow, saysThatTheRoadmapCannotBeLoadedAndTriesAgain) {
   Shown shown{threeWeeks};
   shown.app.model().openRoadmap();
-  ASSERT_TRUE(eventually([&] { return shown.app.model().roadmap()->hasFailed(); }));
+  ASSERT_TRUE(eventually([&] { return shown.app.model().roadmap()->page().notice.hasFailed; }));
   settle(shown.window());
   QQuickItem* again = shown.button("Try again");
   ASSERT_NE(again, nullptr);
   shown.click(again);
-  EXPECT_TRUE(eventually([&] { return shown.app.model().roadmap()->hasFailed(); }));
+  EXPECT_TRUE(eventually([&] { return shown.app.model().roadmap()->page().notice.hasFailed; }));
 }
 
 TEST(AppWindow, logsAWeightOnceAndTakesItBack) {

@@ -202,9 +202,9 @@ void Drive::openAndCloseWhatIsPresented() {
   clickType("BadgesCard");
   EXPECT_EQ(app->model().destination(), "badges");
   clickType("BadgeFamilyCard");
-  EXPECT_EQ(app->model().badges()->list(), "milestones");
+  EXPECT_EQ(app->model().badges()->property("list").toString(), "milestones");
   key("Escape");
-  EXPECT_EQ(app->model().badges()->list(), "");
+  EXPECT_EQ(app->model().badges()->property("list").toString(), "");
   key("Escape");
   EXPECT_EQ(app->model().destination(), "");
 
@@ -234,7 +234,7 @@ void Drive::vote() {
   EXPECT_TRUE(eventually([&] { return votesOnTheServer() == 1; }));
   EXPECT_TRUE(eventually([&] { return ofWeeklyPlan()->property("count") == "1"; }));
 
-  click(app->model().roadmap()->footer());
+  click(QString::fromStdString(app->model().roadmap()->page().footer));
   EXPECT_NE(app->button("Send"), nullptr);
   key("Escape");
   EXPECT_EQ(app->button("Send"), nullptr);
