@@ -188,7 +188,7 @@ TEST(AppWindow, fixesOverlapsOnConfirmationAndUndoesIt) {
   EXPECT_TRUE(*shown.statistics().stats.hasOverlappingFasts);
   shown.app.model().fixOverlaps();
   settle(shown.window());
-  QQuickItem* fix = shown.button(shown.app.model().repair()->buttonText());
+  QQuickItem* fix = shown.button(shown.app.model().repair()->property("button").toString());
   ASSERT_NE(fix, nullptr);
   shown.click(fix);
   EXPECT_TRUE(eventually([&] { return !*shown.statistics().stats.hasOverlappingFasts; }));

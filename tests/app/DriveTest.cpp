@@ -265,7 +265,7 @@ void Drive::fixOverlapsAndUndo() {
   const auto before = onDisk().fasts;
   for (const bool isKept : {false, true}) {
     click("Review and fix");
-    click(app->model().repair()->buttonText());
+    click(app->model().repair()->property("button").toString());
     ASSERT_TRUE(eventually([&] { return !*app->statistics().stats.hasOverlappingFasts; }));
     settle(app->window());
     EXPECT_NE(onDisk().fasts, before);
