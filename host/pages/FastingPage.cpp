@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "host/fasting/Fasting.h"
 #include "host/fasting/OverlappingFasts.h"
@@ -118,8 +119,13 @@ void sayNothingYet(FastingPage& page, const TextLookup& texts) {
 std::vector<ZoneTimeText> zoneTimeTexts(double seconds, const PageClients& clients) {
   std::vector<ZoneTimeText> all;
   for (const auto& [zone, duration, isPresent] : zoneTimes(seconds)) {
-    const std::string name = clients.texts.text(displayString(zone)), text = durationText(duration, clients);
-    all.push_back({zone, name, text, name + ", " + text, isPresent});
+    ZoneTimeText text;
+    text.zone = zone;
+    text.name = clients.texts.text(displayString(zone));
+    text.duration = durationText(duration, clients);
+    text.isPresent = isPresent;
+    text.spoken.append(text.name).append(", ").append(text.duration);
+    all.push_back(std::move(text));
   }
   return all;
 }

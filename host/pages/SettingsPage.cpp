@@ -39,6 +39,7 @@ std::string weekdayName(int weekday, const PageClients& clients) {
 template <class Titles>
 std::vector<std::string> lookedUp(const Titles& titles, const TextLookup& texts) {
   std::vector<std::string> all;
+  all.reserve(std::size(titles));
   for (const std::string_view title : titles) all.push_back(texts.text(title));
   return all;
 }
