@@ -2,10 +2,10 @@
 #include <gtest/gtest.h>
 
 #include <deque>
-#include <thread>
 
 #include "tests/support/TemporaryFolder.h"
 #include "tests/tally_support/Certificate.h"
+#include "tests/tally_support/Eventually.h"
 #include "tests/tally_support/HttpClient.h"
 #include "tests/tally_support/TallyServer.h"
 
@@ -35,13 +35,6 @@ std::uint64_t figure(HttpClient& client, const std::string& name) {
   return std::stoull(body.substr(body.find(before) + before.size()));
 }
 
-// Asks until the figure is as expected, or for 20 seconds.
-void expectFigure(HttpClient& client, const std::string& name, auto isExpected) {
-  const auto end = std::chrono::steady_clock::now() + std::chrono::seconds{20};
-  while (!isExpected(figure(client, name)) && std::chrono::steady_clock::now() < end) std::this_thread::yield();
-  EXPECT_TRUE(isExpected(figure(client, name))) << name << ' ' << figure(client, name);
-}
-
 TEST_F(ConnectionLimits, anAddressHasSoManyUnlessItIsAProxy) {
   TallyServer server{store, {"--max-connections-per-address", "2"}};
   HttpClient first{server.port()};
@@ -69,7 +62,7 @@ TEST_F(ConnectionLimits, theOldestUnfinishedHandshakeGivesWayAndTheSilentAreNone
   for (int i = 0; i < 3; ++i) silent.emplace_back(server.port());
   HttpClient first{server.port()};
   first.send("\x16");
-  expectFigure(watching, "unfinished_handshakes", [](auto count) { return count == 1; });
+  EXPECT_TRUE(eventually([&] { return figure(watching, "unfinished_handshakes") == 1; }));
   HttpClient second{server.port()};
   second.send("\x16");
   HttpClient third{server.port()};
@@ -106,7 +99,7 @@ TEST_F(ConnectionLimits, whoTakesNoAnswersGivesWayInTheEnd) {
   std::deque<HttpClient> slow;
   for (std::size_t i = 0; i < clients; ++i)
     slow.emplace_back(server.port(), HttpClient::Security::plain, smallBuffer).send(all);
-  expectFigure(watching, "connections_cut_total{limit=\"unsent\"}", [](auto count) { return count > 0; });
+  EXPECT_TRUE(eventually([&] { return figure(watching, "connections_cut_total{limit=\"unsent\"}") > 0; }));
   EXPECT_LE(figure(watching, "unsent_bytes"), 1U << 20U);
   const auto taken = slow.front().receiveAll();
   EXPECT_LT(taken.size(), std::size_t{requests} * slow.back().receive().body.size()) << "cut off";

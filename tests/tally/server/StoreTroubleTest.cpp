@@ -3,9 +3,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <thread>
-
 #include "tests/support/TemporaryFolder.h"
+#include "tests/tally_support/Eventually.h"
 #include "tests/tally_support/HttpClient.h"
 #include "tests/tally_support/TallyServer.h"
 
@@ -17,16 +16,6 @@ struct Fixture : testing::Test {
   tests::TemporaryFolder folder;
   std::string file = folder.file("tally.sqlite");
   std::string store = "sqlite:" + file;
-
-  // Asks until the answer is as expected, or for 20 seconds: what the server notices, it notices by looking each
-  // second.
-  template <class Condition>
-  void eventually(const Condition& condition) {
-    const auto end = std::chrono::steady_clock::now() + std::chrono::seconds{20};
-    while (!condition() && std::chrono::steady_clock::now() < end)
-      std::this_thread::sleep_for(std::chrono::milliseconds{20});
-    EXPECT_TRUE(condition());
-  }
 };
 
 using StoreTrouble = Fixture;
@@ -44,7 +33,7 @@ TEST_F(StoreTrouble, aLockOfAnotherStopsVotesOnlyAndOnlyWhileItLasts) {
     EXPECT_EQ(voter.receive().status, 503U);
     EXPECT_EQ(reader.get("/health").status, 503U);
   }
-  eventually([&] { return reader.get("/health").status == 200; });  // nobody votes
+  EXPECT_TRUE(eventually([&] { return reader.get("/health").status == 200; }));  // nobody votes
   EXPECT_EQ(countOf(voter.get("/add/a/feature1?delta=1")), 2);
 }
 
@@ -53,7 +42,7 @@ TEST_F(StoreTrouble, aCountThatAnotherWroteIsReadAgain) {
   HttpClient client{server.port()};
   EXPECT_EQ(countOf(client.get("/add/a/feature1?delta=1")), 1);
   SQLite::Database{file, SQLite::OPEN_READWRITE}.exec("UPDATE counter SET value = 40");
-  eventually([&] { return countOf(client.get("/get/a/feature1")) == 40; });
+  EXPECT_TRUE(eventually([&] { return countOf(client.get("/get/a/feature1")) == 40; }));
   EXPECT_EQ(countOf(client.get("/add/a/feature1?delta=1")), 41);
 }
 
@@ -66,7 +55,7 @@ TEST_F(StoreTrouble, aDatabaseThatWasTakenAwayKeepsNoVote) {
   EXPECT_EQ(client.get("/health").status, 503U);
   server.process().waitForLine("was removed or replaced while it was open");
   std::filesystem::rename(file + ".away", file);
-  eventually([&] { return client.get("/health").status == 200; });
+  EXPECT_TRUE(eventually([&] { return client.get("/health").status == 200; }));
 }
 
 // The log of the votes is larger than the file may be that the second server writes, so nothing can be added to it.

@@ -5,12 +5,13 @@
 #include <optional>
 #include <stdexcept>
 
+#include "tests/tally_support/Eventually.h"
 #include "tests/tally_support/HttpClient.h"
 
 namespace mivo::tally::test {
 namespace {
 
-constexpr std::chrono::milliseconds breath{2};  // between two looks at something that no one tells of
+constexpr std::chrono::milliseconds breath{2};  // before a vote that failed is tried again
 constexpr std::chrono::minutes patience{1};
 
 std::optional<HttpAnswer> answerOf(HttpClient& client, const std::string& target) {
@@ -32,11 +33,7 @@ Voters::~Voters() { stop(); }
 
 void Voters::waitForMore(std::int64_t votes) const {
   const auto enough = kept_ + votes;
-  const auto end = std::chrono::steady_clock::now() + patience;
-  while (kept_ < enough) {
-    if (std::chrono::steady_clock::now() > end) throw std::runtime_error("no votes are kept");
-    std::this_thread::sleep_for(breath);
-  }
+  if (!eventually([&] { return kept_ >= enough; }, patience)) throw std::runtime_error("no votes are kept");
 }
 
 Tally Voters::stop() {
