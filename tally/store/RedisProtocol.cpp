@@ -9,6 +9,34 @@
 namespace mivo::tally {
 namespace {
 
+// The longest list that is asked for is a page of a scan: a thousand keys, or some more.
+constexpr std::size_t longestList = 100'000;
+
+const redisReplyObjectFunctions& usualFunctions() {
+  static const auto functions = [] {
+    const std::unique_ptr<redisReader, void (*)(redisReader*)> reader{redisReaderCreate(), redisReaderFree};
+    if (!reader) throw std::bad_alloc{};
+    return *reader->fn;
+  }();
+  return functions;
+}
+
+// hiredis takes the memory of a whole list as soon as its length is known, and before release 1 it has no bound of its
+// own. The type of a length differs between its releases.
+template <class Length>
+void* createBoundedArray(const redisReadTask* task, Length length) {
+  return static_cast<std::size_t>(length) > longestList ? nullptr : usualFunctions().createArray(task, length);
+}
+
+redisReplyObjectFunctions* boundedFunctions() {
+  static auto functions = [] {
+    auto changed = usualFunctions();
+    changed.createArray = createBoundedArray;
+    return changed;
+  }();
+  return &functions;
+}
+
 RedisReply converted(const redisReply& reply) {
   RedisReply result;
   switch (reply.type) {
@@ -57,7 +85,7 @@ void appendCommand(std::string& out, std::initializer_list<std::string_view> wor
   appendCommand(out, std::span{words.begin(), words.size()});
 }
 
-RedisReplyReader::RedisReplyReader() : reader(redisReaderCreate()) {
+RedisReplyReader::RedisReplyReader() : reader(redisReaderCreateWithFunctions(boundedFunctions())) {
   if (reader == nullptr) throw std::bad_alloc{};
 }
 
@@ -67,8 +95,9 @@ void RedisReplyReader::feed(std::string_view bytes) { redisReaderFeed(reader, by
 
 std::optional<RedisReply> RedisReplyReader::next() {
   void* found = nullptr;
-  if (redisReaderGetReply(reader, &found) != REDIS_OK)
-    throw std::runtime_error(static_cast<const char*>(reader->errstr));
+  const bool isRead = redisReaderGetReply(reader, &found) == REDIS_OK;
+  if (!isRead && reader->err == REDIS_ERR_OOM) throw std::runtime_error("a reply that is too large to be held");
+  if (!isRead) throw std::runtime_error(static_cast<const char*>(reader->errstr));
   if (found == nullptr) return std::nullopt;
   const std::unique_ptr<void, void (*)(void*)> owner{found, freeReplyObject};
   return converted(*static_cast<redisReply*>(found));

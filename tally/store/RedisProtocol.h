@@ -28,7 +28,8 @@ struct RedisReply {
   std::vector<RedisReply> list;
 };
 
-/// Cuts a stream of bytes into replies.
+/// Cuts a stream of bytes into replies. A list has at most 100,000 elements: what the peer announces costs no more than
+/// a megabyte for each level before it has come.
 class RedisReplyReader {
  public:
   RedisReplyReader();
@@ -37,7 +38,8 @@ class RedisReplyReader {
   RedisReplyReader& operator=(const RedisReplyReader&) = delete;
 
   void feed(std::string_view bytes);
-  /// The next whole reply, or nothing where more bytes are needed. Throws std::runtime_error for what is not Redis.
+  /// The next whole reply, or nothing where more bytes are needed. Throws std::runtime_error for what is not Redis
+  /// and for a list that is longer; no further reply can be read then.
   std::optional<RedisReply> next();
 
  private:
