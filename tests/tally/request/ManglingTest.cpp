@@ -31,7 +31,7 @@ class Mangler {
   }
 
  private:
-  std::size_t below(std::size_t end) { return std::uniform_int_distribution<std::size_t>{0, end - 1}(random_); }
+  std::size_t below(std::size_t end) { return std::uniform_int_distribution<std::size_t>{0, end - 1}(random); }
 
   char odd() {
     constexpr std::string_view likely{"\r\n\0 :/?&=-1%\xff\t", 14};
@@ -62,7 +62,7 @@ class Mangler {
     }
   }
 
-  std::mt19937 random_{20261124};
+  std::mt19937 random{20261124};
 };
 
 // GET /add/NAMESPACE/featureID?...delta=N... HTTP/1.x, with anything allowed in the other parameters.

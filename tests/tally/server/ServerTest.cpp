@@ -50,22 +50,22 @@ void PrintTo(const AnswerRow& row, std::ostream* out) { *out << row.name; }
 class Answers : public testing::TestWithParam<AnswerRow> {
  public:
   static void SetUpTestSuite() {
-    folder_ = std::make_unique<tests::TemporaryFolder>();
-    server_ = std::make_unique<TallyServer>("sqlite:" + folder_->file("tally.sqlite"),
-                                            std::vector<std::string>{"--allow-origin", "https://app.example"});
+    folder = std::make_unique<tests::TemporaryFolder>();
+    server = std::make_unique<TallyServer>("sqlite:" + folder->file("tally.sqlite"),
+                                           std::vector<std::string>{"--allow-origin", "https://app.example"});
   }
   static void TearDownTestSuite() {
-    server_.reset();
-    folder_.reset();
+    server.reset();
+    folder.reset();
   }
-  static std::uint16_t port() { return server_->port(); }
+  static std::uint16_t port() { return server->port(); }
 
  private:
-  static std::unique_ptr<tests::TemporaryFolder> folder_;
-  static std::unique_ptr<TallyServer> server_;
+  static std::unique_ptr<tests::TemporaryFolder> folder;
+  static std::unique_ptr<TallyServer> server;
 };
-std::unique_ptr<tests::TemporaryFolder> Answers::folder_;
-std::unique_ptr<TallyServer> Answers::server_;
+std::unique_ptr<tests::TemporaryFolder> Answers::folder;
+std::unique_ptr<TallyServer> Answers::server;
 
 TEST_P(Answers, areAsTheRowSaysAndOnlyAVoteCounts) {
   HttpClient client{port()};

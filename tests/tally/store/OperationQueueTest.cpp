@@ -12,22 +12,22 @@ class HandDrivenStore final : public CounterStore {
  public:
   std::optional<std::int64_t> known(std::string_view) const override { return std::nullopt; }
   bool isAvailable() const override { return true; }
-  void submit(Operations operations, std::function<void(Results)> done) override {
-    ASSERT_FALSE(done_) << "a second batch before the first was done";
+  void submit(Operations operations, std::function<void(Results)> whenDone) override {
+    ASSERT_FALSE(done) << "a second batch before the first was done";
     sizes.push_back(operations.size());
-    done_ = std::move(done);
+    done = std::move(whenDone);
   }
   void finish(std::int64_t firstCount) {
     Results results;
     for (std::size_t i = 0; i < sizes.back(); ++i)
       results.push_back({Outcome::counted, firstCount + std::ssize(results)});
-    std::exchange(done_, {})(results);
+    std::exchange(done, {})(results);
   }
 
   std::vector<std::size_t> sizes;
 
  private:
-  std::function<void(Results)> done_;
+  std::function<void(Results)> done;
 };
 
 struct Fixture : testing::Test {

@@ -46,11 +46,11 @@ ChildProcess::ChildProcess(const std::vector<std::string>& command) {
   const auto words = wordsOf(command);
   std::array<int, 2> pipe{};
   if (::pipe2(pipe.data(), O_CLOEXEC) != 0) throw std::runtime_error("no pipe");
-  id_ = ::fork();
-  if (id_ == 0) become(words, pipe[1]);
+  processId = ::fork();
+  if (processId == 0) become(words, pipe[1]);
   ::close(pipe[1]);
-  if (id_ < 0) throw std::runtime_error("no process");
-  reader_ = std::jthread{[this, from = pipe[0]] { gather(from); }};
+  if (processId < 0) throw std::runtime_error("no process");
+  reader = std::jthread{[this, from = pipe[0]] { gather(from); }};
 }
 
 ChildProcess::~ChildProcess() { kill(); }
@@ -60,59 +60,59 @@ void ChildProcess::gather(int descriptor) {
   for (;;) {
     const auto size = ::read(descriptor, bytes.data(), bytes.size());
     if (size < 0 && errno == EINTR) continue;
-    const std::lock_guard guard{mutex_};
-    if (size > 0) output_.append(bytes.data(), static_cast<std::size_t>(size));
-    hasEnded_ = size <= 0;
-    changed_.notify_all();
-    if (hasEnded_) break;
+    const std::lock_guard guard{mutex};
+    if (size > 0) written.append(bytes.data(), static_cast<std::size_t>(size));
+    hasEnded = size <= 0;
+    changed.notify_all();
+    if (hasEnded) break;
   }
   ::close(descriptor);
 }
 
-void ChildProcess::send(int signal) const { ::kill(id_, signal); }
+void ChildProcess::send(int signal) const { ::kill(processId, signal); }
 
 void ChildProcess::kill() {
-  if (id_ < 0) return;
-  ::kill(id_, SIGKILL);
-  ::waitpid(id_, nullptr, 0);
-  id_ = -1;
+  if (processId < 0) return;
+  ::kill(processId, SIGKILL);
+  ::waitpid(processId, nullptr, 0);
+  processId = -1;
 }
 
 std::string ChildProcess::killAfter(std::chrono::milliseconds time) {
-  std::unique_lock lock{mutex_};
-  changed_.wait_for(lock, time, [this] { return hasEnded_; });
+  std::unique_lock lock{mutex};
+  changed.wait_for(lock, time, [this] { return hasEnded; });
   lock.unlock();
   kill();
   lock.lock();
-  changed_.wait(lock, [this] { return hasEnded_; });
-  return output_;
+  changed.wait(lock, [this] { return hasEnded; });
+  return written;
 }
 
 int ChildProcess::wait() {
   {
-    std::unique_lock lock{mutex_};
-    if (!changed_.wait_for(lock, patience, [this] { return hasEnded_; }))
-      throw std::runtime_error("the program does not end: " + output_);
+    std::unique_lock lock{mutex};
+    if (!changed.wait_for(lock, patience, [this] { return hasEnded; }))
+      throw std::runtime_error("the program does not end: " + written);
   }
   int status = 0;
-  ::waitpid(id_, &status, 0);
-  id_ = -1;
+  ::waitpid(processId, &status, 0);
+  processId = -1;
   return WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
 }
 
 std::string ChildProcess::output() const {
-  const std::lock_guard guard{mutex_};
-  return output_;
+  const std::lock_guard guard{mutex};
+  return written;
 }
 
 std::string ChildProcess::waitForLine(std::string_view text) const {
-  std::unique_lock lock{mutex_};
+  std::unique_lock lock{mutex};
   std::optional<std::string> line;
-  changed_.wait_for(lock, patience, [&] {
-    line = lineWith(output_, text);
-    return line || hasEnded_;
+  changed.wait_for(lock, patience, [&] {
+    line = lineWith(written, text);
+    return line || hasEnded;
   });
-  if (!line) throw std::runtime_error("no line says \"" + std::string{text} + "\": " + output_);
+  if (!line) throw std::runtime_error("no line says \"" + std::string{text} + "\": " + written);
   return *line;
 }
 

@@ -20,7 +20,7 @@ class ChildProcess {
   ChildProcess(const ChildProcess&) = delete;
   ChildProcess& operator=(const ChildProcess&) = delete;
 
-  pid_t id() const { return id_; }
+  pid_t id() const { return processId; }
   void send(int signal) const;
   /// SIGKILL, and gone when this returns.
   void kill();
@@ -36,12 +36,12 @@ class ChildProcess {
  private:
   void gather(int descriptor);
 
-  pid_t id_ = -1;
-  mutable std::mutex mutex_;
-  mutable std::condition_variable changed_;
-  std::string output_;
-  bool hasEnded_ = false;
-  std::jthread reader_;
+  pid_t processId = -1;
+  mutable std::mutex mutex;
+  mutable std::condition_variable changed;
+  std::string written;
+  bool hasEnded = false;
+  std::jthread reader;
 };
 
 }  // namespace mivo::tally::test

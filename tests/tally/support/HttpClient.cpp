@@ -58,18 +58,18 @@ HttpAnswer parseHeader(const std::string& header) {
 }  // namespace
 
 HttpClient::HttpClient(std::uint16_t port, Security security, int receiveBuffer)
-    : socket_(connectedTo(port, receiveBuffer)) {
+    : socket(connectedTo(port, receiveBuffer)) {
   if (security == Security::plain) return;
-  context_.reset(SSL_CTX_new(TLS_client_method()));
-  if (security == Security::tls12) SSL_CTX_set_max_proto_version(context_.get(), TLS1_2_VERSION);
-  tls_.reset(SSL_new(context_.get()));
-  SSL_set_fd(tls_.get(), socket_);
-  if (SSL_connect(tls_.get()) == 1) return;
-  ::close(socket_);
+  context.reset(SSL_CTX_new(TLS_client_method()));
+  if (security == Security::tls12) SSL_CTX_set_max_proto_version(context.get(), TLS1_2_VERSION);
+  tls.reset(SSL_new(context.get()));
+  SSL_set_fd(tls.get(), socket);
+  if (SSL_connect(tls.get()) == 1) return;
+  ::close(socket);
   fail("no TLS");
 }
 
-HttpClient::~HttpClient() { ::close(socket_); }
+HttpClient::~HttpClient() { ::close(socket); }
 
 HttpAnswer HttpClient::get(std::string_view target, const std::vector<std::string>& headers) {
   return request("GET", target, headers);
@@ -86,58 +86,58 @@ HttpAnswer HttpClient::request(std::string_view method, std::string_view target,
 
 void HttpClient::send(std::string_view bytes) {
   while (!bytes.empty()) {
-    const auto sent = tls_ ? SSL_write(tls_.get(), bytes.data(), static_cast<int>(bytes.size()))
-                           : ::send(socket_, bytes.data(), bytes.size(), MSG_NOSIGNAL);
+    const auto sent = tls ? SSL_write(tls.get(), bytes.data(), static_cast<int>(bytes.size()))
+                          : ::send(socket, bytes.data(), bytes.size(), MSG_NOSIGNAL);
     if (sent <= 0) fail("cannot send");
     bytes.remove_prefix(static_cast<std::size_t>(sent));
   }
 }
 
-void HttpClient::finishSending() { ::shutdown(socket_, SHUT_WR); }
+void HttpClient::finishSending() { ::shutdown(socket, SHUT_WR); }
 
 std::size_t HttpClient::receiveSome() {
   std::array<char, 4096> bytes{};
-  const auto size = tls_ ? SSL_read(tls_.get(), bytes.data(), static_cast<int>(bytes.size()))
-                         : ::recv(socket_, bytes.data(), bytes.size(), 0);
+  const auto size = tls ? SSL_read(tls.get(), bytes.data(), static_cast<int>(bytes.size()))
+                        : ::recv(socket, bytes.data(), bytes.size(), 0);
   if (size < 0 && (errno == EAGAIN || errno == EWOULDBLOCK)) fail("no answer");
   if (size <= 0) return 0;
-  received_.append(bytes.data(), static_cast<std::size_t>(size));
+  received.append(bytes.data(), static_cast<std::size_t>(size));
   return static_cast<std::size_t>(size);
 }
 
 std::string HttpClient::receiveHeader() {
   for (;;) {
-    if (const auto end = received_.find("\r\n\r\n"); end != std::string::npos) {
-      auto header = received_.substr(0, end + 2);
-      received_.erase(0, end + 4);
+    if (const auto end = received.find("\r\n\r\n"); end != std::string::npos) {
+      auto header = received.substr(0, end + 2);
+      received.erase(0, end + 4);
       return header;
     }
-    if (receiveSome() == 0) fail("cut off: \"" + received_ + '"');
+    if (receiveSome() == 0) fail("cut off: \"" + received + '"');
   }
 }
 
 HttpAnswer HttpClient::receive(bool withBody) {
   auto answer = parseHeader(receiveHeader());
   const auto size = withBody ? std::stoul(answer.headers.at("content-length")) : 0;
-  while (received_.size() < size)
+  while (received.size() < size)
     if (receiveSome() == 0) fail("cut off in the body");
-  answer.body = received_.substr(0, size);
-  received_.erase(0, size);
+  answer.body = received.substr(0, size);
+  received.erase(0, size);
   return answer;
 }
 
 std::string HttpClient::receiveAll() {
   while (receiveSome() > 0) {
   }
-  return std::move(received_);
+  return std::move(received);
 }
 
 long HttpClient::certificateSerial() const {
-  const std::unique_ptr<X509, decltype(&X509_free)> certificate{SSL_get1_peer_certificate(tls_.get()), X509_free};
+  const std::unique_ptr<X509, decltype(&X509_free)> certificate{SSL_get1_peer_certificate(tls.get()), X509_free};
   return ASN1_INTEGER_get(X509_get0_serialNumber(certificate.get()));
 }
 
-bool HttpClient::renegotiates() { return SSL_renegotiate(tls_.get()) == 1 && SSL_do_handshake(tls_.get()) == 1; }
+bool HttpClient::renegotiates() { return SSL_renegotiate(tls.get()) == 1 && SSL_do_handshake(tls.get()) == 1; }
 
 std::int64_t countOf(const HttpAnswer& answer) {
   constexpr std::string_view before = "{\"value\":";

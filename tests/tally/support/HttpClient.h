@@ -47,10 +47,10 @@ class HttpClient {
   std::size_t receiveSome();
   std::string receiveHeader();
 
-  int socket_ = -1;
-  std::unique_ptr<SSL_CTX, decltype(&SSL_CTX_free)> context_{nullptr, SSL_CTX_free};
-  std::unique_ptr<SSL, decltype(&SSL_free)> tls_{nullptr, SSL_free};
-  std::string received_;
+  int socket = -1;
+  std::unique_ptr<SSL_CTX, decltype(&SSL_CTX_free)> context{nullptr, SSL_CTX_free};
+  std::unique_ptr<SSL, decltype(&SSL_free)> tls{nullptr, SSL_free};
+  std::string received;
 };
 
 /// The number in {"value":7}; throws for any other answer than 200.

@@ -23,10 +23,10 @@ int freePort() {
 
 }  // namespace
 
-RedisServer::RedisServer(const Setup& setup) : setup_(setup) {
+RedisServer::RedisServer(const Setup& wanted) : setup(wanted) {
   constexpr int attempts = 5;  // another program may take the port that was free
   for (int attempt = 1;; ++attempt) {
-    port_ = freePort();
+    port = freePort();
     try {
       start();
       return;
@@ -37,24 +37,24 @@ RedisServer::RedisServer(const Setup& setup) : setup_(setup) {
 }
 
 std::string RedisServer::address(int database) const {
-  const std::string scheme = setup_.certificate ? "rediss://" : "redis://";
-  const auto login = setup_.password.empty() ? std::string{} : ":" + setup_.password + "@";
-  return scheme + login + (setup_.certificate ? "localhost:" : "127.0.0.1:") + std::to_string(port_) + '/' +
+  const std::string scheme = setup.certificate ? "rediss://" : "redis://";
+  const auto login = setup.password.empty() ? std::string{} : ":" + setup.password + "@";
+  return scheme + login + (setup.certificate ? "localhost:" : "127.0.0.1:") + std::to_string(port) + '/' +
          std::to_string(database);
 }
 
 void RedisServer::restart() {
-  process_->kill();
+  program->kill();
   start();
 }
 
 void RedisServer::start() {
-  const auto port = std::to_string(port_);
+  const auto portText = std::to_string(port);
   std::vector<std::string> command{"redis-server",
                                    "--bind",
                                    "127.0.0.1",
                                    "--dir",
-                                   folder_.path.string(),
+                                   folder.path.string(),
                                    "--appendonly",
                                    "yes",
                                    "--appendfsync",
@@ -62,14 +62,14 @@ void RedisServer::start() {
                                    "--save",
                                    "",
                                    "--port",
-                                   setup_.certificate ? "0" : port};
+                                   setup.certificate ? "0" : portText};
   const auto add = [&](std::initializer_list<std::string> words) { command.insert(command.end(), words); };
-  if (!setup_.password.empty()) add({"--requirepass", setup_.password});
-  if (setup_.certificate)
-    add({"--tls-port", port, "--tls-auth-clients", "no", "--tls-cert-file", setup_.certificate->certificate,
-         "--tls-key-file", setup_.certificate->key, "--tls-ca-cert-file", setup_.certificate->certificate});
-  process_.emplace(command);
-  process_->waitForLine("Ready to accept connections");
+  if (!setup.password.empty()) add({"--requirepass", setup.password});
+  if (setup.certificate)
+    add({"--tls-port", portText, "--tls-auth-clients", "no", "--tls-cert-file", setup.certificate->certificate,
+         "--tls-key-file", setup.certificate->key, "--tls-ca-cert-file", setup.certificate->certificate});
+  program.emplace(command);
+  program->waitForLine("Ready to accept connections");
 }
 
 }  // namespace mivo::tally::test

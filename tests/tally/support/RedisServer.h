@@ -18,21 +18,21 @@ class RedisServer {
   };
 
   RedisServer() : RedisServer(Setup{}) {}
-  explicit RedisServer(const Setup& setup);
+  explicit RedisServer(const Setup& wanted);
 
   /// As --store takes it.
   std::string address(int database = 0) const;
-  ChildProcess& process() { return *process_; }
+  ChildProcess& process() { return *program; }
   /// After it was killed: the same port, the same file.
   void restart();
 
  private:
   void start();
 
-  tests::TemporaryFolder folder_;
-  Setup setup_;
-  int port_ = 0;
-  std::optional<ChildProcess> process_;
+  tests::TemporaryFolder folder;
+  Setup setup;
+  int port = 0;
+  std::optional<ChildProcess> program;
 };
 
 }  // namespace mivo::tally::test

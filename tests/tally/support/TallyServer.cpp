@@ -22,6 +22,6 @@ std::string tallyProgram() { return MIVO_TALLY_PROGRAM; }
 
 TallyServer::TallyServer(const std::string& store, const std::vector<std::string>& flags,
                          const std::vector<std::string>& wrapper)
-    : process_(commandFor(store, flags, wrapper)), port_(portIn(process_.waitForLine("\"listening\""))) {}
+    : program(commandFor(store, flags, wrapper)), listeningPort(portIn(program.waitForLine("\"listening\""))) {}
 
 }  // namespace mivo::tally::test

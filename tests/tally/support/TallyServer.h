@@ -17,12 +17,12 @@ class TallyServer {
                        const std::vector<std::string>& flags = {"--votes-per-minute", "0", "--votes-per-day", "0"},
                        const std::vector<std::string>& wrapper = {});
 
-  std::uint16_t port() const { return port_; }
-  ChildProcess& process() { return process_; }
+  std::uint16_t port() const { return listeningPort; }
+  ChildProcess& process() { return program; }
 
  private:
-  ChildProcess process_;
-  std::uint16_t port_;
+  ChildProcess program;
+  std::uint16_t listeningPort;
 };
 
 }  // namespace mivo::tally::test

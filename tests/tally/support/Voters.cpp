@@ -24,27 +24,27 @@ std::optional<HttpAnswer> answerOf(HttpClient& client, const std::string& target
 
 }  // namespace
 
-Voters::Voters(std::size_t clients, std::string counter, std::function<std::uint16_t()> port)
-    : target_("/add/" + std::move(counter) + "?delta=1"), port_(std::move(port)) {
-  for (std::size_t i = 0; i < clients; ++i) clients_.emplace_back([this] { vote(); });
+Voters::Voters(std::size_t size, std::string counter, std::function<std::uint16_t()> portNow)
+    : target("/add/" + std::move(counter) + "?delta=1"), port(std::move(portNow)) {
+  for (std::size_t i = 0; i < size; ++i) clients.emplace_back([this] { vote(); });
 }
 
 Voters::~Voters() { stop(); }
 
 void Voters::waitForMore(std::int64_t votes) const {
-  const auto enough = kept_ + votes;
-  if (!eventually([&] { return kept_ >= enough; }, patience)) throw std::runtime_error("no votes are kept");
+  const auto enough = kept + votes;
+  if (!eventually([&] { return kept >= enough; }, patience)) throw std::runtime_error("no votes are kept");
 }
 
 Tally Voters::stop() {
-  isStopped_ = true;
-  for (auto& client : clients_) client.join();
-  clients_.clear();
-  return {kept_, unknown_};
+  isStopped = true;
+  for (auto& client : clients) client.join();
+  clients.clear();
+  return {kept, unknown};
 }
 
 void Voters::vote() {
-  while (!isStopped_) {
+  while (!isStopped) {
     try {
       voteOnOneConnection();
     } catch (const std::exception&) {
@@ -54,11 +54,11 @@ void Voters::vote() {
 }
 
 void Voters::voteOnOneConnection() {
-  HttpClient client{port_()};
-  while (!isStopped_) {
-    const auto answer = answerOf(client, target_);
+  HttpClient client{port()};
+  while (!isStopped) {
+    const auto answer = answerOf(client, target);
     const bool isKept = answer && answer->status == 200;
-    ++(isKept ? kept_ : unknown_);
+    ++(isKept ? kept : unknown);
     if (!answer) return;
     if (!isKept) std::this_thread::sleep_for(breath);
   }

@@ -20,8 +20,8 @@ struct Tally {
 /// connection makes a new one. Each vote is for one counter, up.
 class Voters {
  public:
-  /// `port` is asked at each new connection.
-  Voters(std::size_t clients, std::string counter, std::function<std::uint16_t()> port);
+  /// `portNow` is asked at each new connection.
+  Voters(std::size_t size, std::string counter, std::function<std::uint16_t()> portNow);
   ~Voters();
   Voters(const Voters&) = delete;
   Voters& operator=(const Voters&) = delete;
@@ -34,12 +34,12 @@ class Voters {
   void vote();
   void voteOnOneConnection();
 
-  std::string target_;
-  std::function<std::uint16_t()> port_;
-  std::atomic<std::int64_t> kept_ = 0;
-  std::atomic<std::int64_t> unknown_ = 0;
-  std::atomic<bool> isStopped_ = false;
-  std::vector<std::thread> clients_;
+  std::string target;
+  std::function<std::uint16_t()> port;
+  std::atomic<std::int64_t> kept = 0;
+  std::atomic<std::int64_t> unknown = 0;
+  std::atomic<bool> isStopped = false;
+  std::vector<std::thread> clients;
 };
 
 }  // namespace mivo::tally::test
