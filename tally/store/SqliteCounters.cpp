@@ -272,6 +272,7 @@ std::optional<std::int64_t> SqliteCounters::replace(const std::string& counter, 
   return naming(file, [&] {
     return database->inTransaction([&] {
       const auto former = database->find(counter);
+      if (!former) database->counters = -1;
       database->set(counter, count);
       return former;
     });

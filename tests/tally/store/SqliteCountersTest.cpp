@@ -87,6 +87,14 @@ TEST_F(SqliteCountersTest, takesNoMoreCountersThanToldAndForgetsNone) {
   EXPECT_THAT(bounded.apply({{"a/feature4", 1}, {"a/feature1", 1}}), ElementsAre(full, counted(2)));
 }
 
+TEST_F(SqliteCountersTest, hasRoomForOneLessOnceACorrectionAddedOne) {
+  SqliteCounters bounded{file, SqliteCounters::Access::readWrite, std::chrono::seconds{5}, 2};
+  EXPECT_THAT(bounded.apply({{"a/feature1", 1}}), ElementsAre(counted(1)));
+  EXPECT_EQ(bounded.replace("a/feature2", 7), std::nullopt);
+  EXPECT_EQ(bounded.replace("a/feature2", 8), 7);
+  EXPECT_THAT(bounded.apply({{"a/feature3", 1}, {"a/feature2", 1}}), ElementsAre(Result{Outcome::full, 0}, counted(9)));
+}
+
 TEST_F(SqliteCountersTest, isLockedThroughALinkAndWithoutItsLockFile) {
   const FileLock lock{file};
   const auto link = folder.file("link.sqlite");
