@@ -8,13 +8,14 @@
 
 namespace mivo::tally {
 
-/// A token bucket for each client: a burst of a minute's worth, then one at a time as they grow back.
+/// How often clients may do something, a token each time. Every client has a bucket of its own: a burst of a minute's
+/// worth, then one token at a time as they grow back.
 class RateLimiter {
  public:
   using Instant = std::chrono::steady_clock::time_point;
 
   /// 0 a minute lets everything through.
-  explicit RateLimiter(unsigned votesPerMinute) : perMinute(votesPerMinute) {}
+  explicit RateLimiter(unsigned tokensPerMinute) : perMinute(tokensPerMinute) {}
 
   /// Takes a token and gives 0, or gives the whole seconds after which there will be one.
   unsigned secondsToWait(std::uint64_t client, Instant now);
