@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tally/server/HealthCheck.h"
 
+#include <boost/asio/connect.hpp>
 #include <iostream>
 #include <string>
 
@@ -27,7 +28,7 @@ class Question {
     error_code error;
     const auto found = tcp::resolver{stream.socket().get_executor()}.resolve(endpoint.host, endpoint.port, error);
     if (error) return fail(error);
-    stream.socket().async_connect(*found.begin(), step([this] { greet(); }));
+    asio::async_connect(stream.socket(), found, step([this] { greet(); }));
   }
 
   std::string answer;
