@@ -40,9 +40,7 @@ using Operator = Fixture;
 
 TEST_F(Operator, asksForMetricsAndHealthAtAnAddressOfTheirOwn) {
   TallyServer server{store, {"--admin", "127.0.0.1:0", "--max-connections-per-address", "1", "--drain-seconds", "1"}};
-  const auto line = server.process().waitForLine("\"admin\"");
-  constexpr std::string_view before = "127.0.0.1:";
-  const auto port = static_cast<std::uint16_t>(std::stoul(line.substr(line.find(before) + before.size())));
+  const auto port = portIn(server.process().waitForLine("\"admin\""));
   HttpClient admin{port};
   HttpClient other{port};
   HttpClient client{server.port()};

@@ -11,14 +11,14 @@ std::vector<std::string> commandFor(const std::string& store, const std::vector<
   return command;
 }
 
+}  // namespace
+
+std::string tallyProgram() { return MIVO_TALLY_PROGRAM; }
+
 std::uint16_t portIn(const std::string& line) {
   constexpr std::string_view before = "127.0.0.1:";
   return static_cast<std::uint16_t>(std::stoul(line.substr(line.find(before) + before.size())));
 }
-
-}  // namespace
-
-std::string tallyProgram() { return MIVO_TALLY_PROGRAM; }
 
 TallyServer::TallyServer(const std::string& store, const std::vector<std::string>& flags,
                          const std::vector<std::string>& wrapper)

@@ -9,6 +9,9 @@ namespace mivo::tally::test {
 /// The path of the program under test.
 std::string tallyProgram();
 
+/// The port in a line of the log that names an address of this machine.
+std::uint16_t portIn(const std::string& line);
+
 /// `mivo-tally` on a free port of this machine, started through the wrapper's words where there are any. It listens
 /// when the constructor returns.
 class TallyServer {
