@@ -19,7 +19,6 @@ namespace mivo::tally {
 namespace {
 
 constexpr int wrongUsage = 2;
-constexpr std::size_t plainConnections = 20'000;
 constexpr std::size_t tlsConnections = 5'000;
 
 // systemd names a state folder; a person's own data lies where the desktop's rules put it.
@@ -55,17 +54,25 @@ const std::map<std::string, LogDetail::Level> logLevels{
     {"info", LogDetail::Level::info}, {"warning", LogDetail::Level::warning}, {"error", LogDetail::Level::error}};
 
 struct Texts {
-  std::string listen = "127.0.0.1:8787";
+  explicit Texts(const ServeOptions& usual)
+      : listen{describe(usual.listen)},
+        requestSeconds{usual.requestTime.count()},
+        idleSeconds{usual.idleTime.count()},
+        drainSeconds{usual.drainTime.count()},
+        storeSeconds{usual.storeTime.count()},
+        mostUnsentMegabytes{usual.mostUnsentBytes >> 20U} {}
+
+  std::string listen;
   std::string store = "sqlite:" + defaultDatabase().string();
   std::string trustedProxies = "0";
   std::string admin;
   std::filesystem::path redisPassword;
-  unsigned requestSeconds = 10;
-  unsigned idleSeconds = 60;
-  unsigned drainSeconds = 2;
-  unsigned storeSeconds = 5;
+  std::int64_t requestSeconds;
+  std::int64_t idleSeconds;
+  std::int64_t drainSeconds;
+  std::int64_t storeSeconds;
   std::size_t mostConnections = 0;
-  std::size_t mostUnsentMegabytes = 64;
+  std::size_t mostUnsentMegabytes;
 };
 
 void addFlags(CLI::App& app, ServeOptions& options, Texts& texts) {
@@ -271,9 +278,8 @@ ServeOptions finished(ServeOptions options, const Texts& texts) {
   options.drainTime = std::chrono::seconds{texts.drainSeconds};
   options.storeTime = std::chrono::seconds{texts.storeSeconds};
   options.mostUnsentBytes = texts.mostUnsentMegabytes << 20U;
-  options.mostConnections = texts.mostConnections;
-  if (options.mostConnections == 0)
-    options.mostConnections = options.certificate.empty() ? plainConnections : tlsConnections;
+  if (!options.certificate.empty()) options.mostConnections = tlsConnections;
+  if (texts.mostConnections > 0) options.mostConnections = texts.mostConnections;
   check(options);
   return options;
 }
@@ -295,7 +301,7 @@ Command parseCommandLine(int argc, const char* const* argv) {
   ExportOptions exported;
   ImportOptions imported;
   CorrectOptions corrected;
-  Texts texts;
+  Texts texts{serve};
   CLI::App app{
       "mivo-tally: counts votes for the features of a roadmap.\n"
       "Without a command it serves; without flags, on this machine alone, into a SQLite file."};
