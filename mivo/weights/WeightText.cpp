@@ -73,11 +73,12 @@ std::variant<double, WeightTextFault> readWeight(std::string_view written, std::
   std::string_view text = all;
   const auto number = takeNumber(text);
   if (!number) return WeightTextFault::noNumber;
+  const bool isSetApart = text.starts_with(' ');
   const auto named = takeUnit(text);
   const WeightUnit given = named ? *named : unit.value_or(WeightUnit::kilograms);
   double weightInKg = *number * kilogramsPer(given);
   skipBlanks(text);
-  if (given == WeightUnit::stones && !text.empty()) {
+  if (given == WeightUnit::stones && (named || isSetApart) && !text.empty()) {
     const auto pounds = takePounds(text);
     if (!pounds) return WeightTextFault::noNumber;
     weightInKg += *pounds;

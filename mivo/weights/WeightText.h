@@ -18,7 +18,7 @@ enum class WeightTextFault { noNumber, noUnit };
 /// "٨١٫٤".
 ///
 ///     readWeight("179 lb", WeightUnit::kilograms);  // 81.19...: a unit in the text comes first
-///     readWeight("12 11", WeightUnit::stones);      // 81.19...: stones and pounds
+///     readWeight("12 11", WeightUnit::stones);      // 81.19...: stones and pounds, a blank or "st" between them
 ///
 /// unit    of a number without one; without it such a number is none. The decimal sign is a dot or a comma, whatever
 ///         the locale: nobody weighs thousands.

@@ -50,9 +50,11 @@ INSTANTIATE_TEST_SUITE_P(
         WeightRow{"word", "heavy", kg, refused}, WeightRow{"zero", "0", kg, refused},
         WeightRow{"negative", "-81", kg, refused}, WeightRow{"rest", "81.4 or so", kg, refused},
         WeightRow{"twoNumbers", "81 4", kg, refused}, WeightRow{"tooManyPounds", "12 st 14 lb", st, refused},
-        WeightRow{"twoSigns", "1.081,4", kg, refused}, WeightRow{"heaviest", "700", kg, 700},
-        WeightRow{"heavier", "700.1", kg, refused}, WeightRow{"heavierInPounds", "1543.3", lb, refused},
-        WeightRow{"infinite", "inf", kg, refused}, WeightRow{"brokenText", "81\xE2", kg, refused}),
+        WeightRow{"twoSigns", "1.081,4", kg, refused}, WeightRow{"twoSignsInStones", "12.5.4", st, refused},
+        WeightRow{"noDigitBetween", "12..4", st, refused}, WeightRow{"blanksAlone", "12.5  ", st, 175 * pound},
+        WeightRow{"heaviest", "700", kg, 700}, WeightRow{"heavier", "700.1", kg, refused},
+        WeightRow{"heavierInPounds", "1543.3", lb, refused}, WeightRow{"infinite", "inf", kg, refused},
+        WeightRow{"brokenText", "81\xE2", kg, refused}),
     [](const auto& row) { return std::string{row.param.name}; });
 
 TEST(TypedWeight, isRefusedWithTheLimitInBothUnits) {
