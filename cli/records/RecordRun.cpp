@@ -131,7 +131,7 @@ host::HistoryChange RecordRun::change(host::Outcome outcome) const {
 
 void RecordRun::refuse(const host::Refusal& refusal) const {
   const auto [help, status] = std::visit(Help{*this}, refusal);
-  throw Refused{status, refusalText(refusal, *texts) + (help.empty() ? "" : " (" + help + ')')};
+  throw Refused{status, withHelp(refusalText(refusal, *texts), help)};
 }
 
 int runRecordCommand(const RecordOptions& options, const std::function<std::string(const RecordRun&)>& command) {

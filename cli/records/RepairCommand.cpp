@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include <algorithm>
-
 #include "cli/records/RecordCommands.h"
 #include "cli/records/RecordRun.h"
 #include "cli/records/RecordTables.h"
+#include "cli/usage/Usage.h"
 #include "host/app/AppFeature.h"
 #include "host/fasting/OverlapRepair.h"
 
@@ -29,7 +28,8 @@ std::string repair(const RecordRun& run) {
   std::string changes = lines(change, idsOf(fasts), run);
   if (run.options.isDryRun) return changes;
   file.apply(change);
-  return changes + doneText(host::AppFeature::Step::repairOverlaps, *run.texts) + " (mivo undo takes it back)\n";
+  return changes + withHelp(doneText(host::AppFeature::Step::repairOverlaps, *run.texts), "mivo undo takes it back") +
+         '\n';
 }
 
 }  // namespace

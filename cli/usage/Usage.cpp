@@ -36,17 +36,22 @@ struct Place {
   const CLI::App* group;
   std::string words;  ///< "weight " behind `mivo weight`
 
-  std::string hint() const { return " (mivo " + words + "--help tells what can)"; }
+  std::string hint() const { return "mivo " + words + "--help tells what can"; }
 
   std::string unknown(const std::string& word) const {
     const auto names = namesOf(commandsOf(*group));
     const auto meant = adapters::closestSpelling(word, names);
     if (meant) return words + word + ": did you mean " + words + names[*meant] + '?';
-    return words + word + ": no such command" + hint();
+    return withHelp(words + word + ": no such command", hint());
   }
 };
 
 }  // namespace
+
+std::string withHelp(std::string sentence, std::string_view help) {
+  if (help.empty()) return sentence;
+  return sentence.append(" (").append(help).append(")");
+}
 
 std::vector<std::string> helpAsOption(std::vector<std::string> arguments) {
   if (arguments.empty() || arguments.front() != "help") return arguments;
@@ -61,7 +66,7 @@ std::optional<std::string> wrongCommand(const CLI::App& program, std::span<const
   for (const std::string& argument : arguments) {
     if (argument.starts_with('-')) {
       if (!isOption(*place.group, argument))
-        return argument.substr(0, argument.find('=')) + ": no such option" + place.hint();
+        return withHelp(argument.substr(0, argument.find('=')) + ": no such option", place.hint());
       isAnswered = true;
       continue;
     }
@@ -72,8 +77,8 @@ std::optional<std::string> wrongCommand(const CLI::App& program, std::span<const
     if (commandsOf(**found).empty()) return std::nullopt;
   }
   if (isAnswered || place.words.empty()) return std::nullopt;
-  return place.words.substr(0, place.words.size() - 1) + ": expected one of " +
-         listed(namesOf(commandsOf(*place.group))) + place.hint();
+  const std::string group = place.words.substr(0, place.words.size() - 1);
+  return withHelp(group + ": expected one of " + listed(namesOf(commandsOf(*place.group))), place.hint());
 }
 
 int answer(const CLI::App& program, const CLI::ParseError& parsed, const char* hint) {
@@ -86,7 +91,7 @@ int answer(const CLI::App& program, const CLI::ParseError& parsed, const char* h
   }
   std::string sentence = parsed.what();
   sentence.resize(std::min(sentence.find('\n'), sentence.size()));
-  complain(sentence + " (" + hint + ")");
+  complain(withHelp(sentence, hint));
   return wrongUsage;
 }
 

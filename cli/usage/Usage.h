@@ -5,12 +5,16 @@
 #include <optional>
 #include <span>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace mivo::cli {
 
 /// What a program leaves with where something failed, and where its command line is not understood.
 inline constexpr int atFault = 1, wrongUsage = 2;
+
+/// "No fast is running. (mivo start begins one)": a sentence, and what can be done about it at a terminal, if anything.
+std::string withHelp(std::string sentence, std::string_view help);
 
 /// Arguments as they go on to the parser, without the program's own name: `help weight add` becomes
 /// `weight add --help`.
