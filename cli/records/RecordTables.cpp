@@ -42,8 +42,8 @@ double length(const FastingDataEntry& fast, Date now) {
   return fast.finished ? fast.finished->duration() : std::max(0.0, secondsBetween(fast.start, now));
 }
 
-std::string weightText(double weightInKg, const RecordRun& run) {
-  return run.formatters.massFormatter->string(weightInKg, run.weightUnit());
+std::string weightText(double weightInKg, WeightUnit unit, const RecordRun& run) {
+  return run.formatters.massFormatter->string(weightInKg, unit);
 }
 
 /// A note's lines one after another.
@@ -164,7 +164,7 @@ std::string described(const host::FastRecord& record, const ShortIDs& ids, const
 }
 
 std::string described(const BodyWeightSample& sample, const ShortIDs& ids, const RecordRun& run) {
-  return ids.text(sample.id) + std::string{gap} + weightText(sample.weightInKg, run) + ", " +
+  return ids.text(sample.id) + std::string{gap} + weightText(sample.weightInKg, run.weightUnit(), run) + ", " +
          dateText(sample.date, run);
 }
 
@@ -195,8 +195,9 @@ std::string weightTable(const std::vector<BodyWeightSample>& weights, const Reco
   if (weights.empty()) return texts.text("No weights yet.") + '\n';
   Table table{{"ID", texts.text("Date"), texts.text("Weight"), ""}, {left, right, right, left}};
   const ShortIDs ids = idsOf(weights);
+  const WeightUnit unit = run.weightUnit();
   for (const BodyWeightSample& sample : weights)
-    table.add({ids.text(sample.id), shortDateText(sample.date, run), weightText(sample.weightInKg, run), ""});
+    table.add({ids.text(sample.id), shortDateText(sample.date, run), weightText(sample.weightInKg, unit, run), ""});
   return table.text(Paint::forStandardOutput(), outputWidth());
 }
 
