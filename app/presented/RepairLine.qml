@@ -47,6 +47,7 @@ Item {
         }
 
         StyledText {
+            visible: text !== ""
             width: parent.width
             text: root.after
         }

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cstdint>
 
+#include "host/fasting/Fasting.h"
 #include "mivo/pages/DateTimeText.h"
 
 namespace mivo::host {
@@ -30,8 +31,7 @@ bool holds(const FastingDataEntry& whole, const FastingDataEntry& part) {
 std::vector<const FastRecord*> sources(const FastRecord& made, const HistoryChange& change) {
   std::vector<const FastRecord*> found;
   for (const FastRecord& old : change.removedFasts) {
-    const bool isKept =
-        std::ranges::any_of(change.addedFasts, [&](const FastRecord& one) { return one.fast.id == old.fast.id; });
+    const bool isKept = fastWithID(change.addedFasts, old.fast.id) != nullptr;
     if (old.fast.id == made.fast.id || (!isKept && holds(made.fast, old.fast))) found.push_back(&old);
   }
   return found;
@@ -48,20 +48,41 @@ RepairRow composeRow(const FastRecord& made, const HistoryChange& change, const 
   return row;
 }
 
+// Of a fast that goes into another one, which stays as it is.
+RepairRow composeRowOfGone(const FastRecord& old, const PageClients& clients) {
+  RepairRow row{.date = dayText(old.fast.start, clients),
+                .kind = clients.texts.text("Merged"),
+                .before = timesText(old.fast, clients),
+                .after = {},
+                .spoken = {}};
+  row.spoken = row.date + ", " + row.kind + ": " + row.before;
+  return row;
+}
+
+std::vector<RepairRow> composeRows(const HistoryChange& change, const PageClients& clients) {
+  std::vector<RepairRow> rows;
+  for (const FastRecord& old : change.removedFasts) {
+    const auto becameIt = [&](const FastRecord& made) { return holds(made.fast, old.fast); };
+    if (const FastRecord* made = fastWithID(change.addedFasts, old.fast.id))
+      rows.push_back(composeRow(*made, change, clients));
+    else if (std::ranges::none_of(change.addedFasts, becameIt))
+      rows.push_back(composeRowOfGone(old, clients));
+  }
+  return rows;
+}
+
 }  // namespace
 
 RepairSheet composeRepairSheet(const HistoryChange& change, const PageClients& clients) {
   const auto& texts = clients.texts;
   const auto count = static_cast<std::int64_t>(change.removedFasts.size());
   const auto counted = [&](const std::string& pattern) { return filledIn(pattern, {clients.numbers.string(count)}); };
-  RepairSheet sheet{.title = texts.text("Fix overlapping fasts"),
-                    .summary = counted(texts.plural("{1} fast will change. You can undo this.",
-                                                    "{1} fasts will change. You can undo this.", count)),
-                    .rows = {},
-                    .button = counted(texts.plural("Fix {1} fast", "Fix {1} fasts", count)),
-                    .cancelLabel = texts.text("Not now")};
-  for (const FastRecord& made : change.addedFasts) sheet.rows.push_back(composeRow(made, change, clients));
-  return sheet;
+  return {.title = texts.text("Fix overlapping fasts"),
+          .summary = counted(texts.plural("{1} fast will change. You can undo this.",
+                                          "{1} fasts will change. You can undo this.", count)),
+          .rows = composeRows(change, clients),
+          .button = counted(texts.plural("Fix {1} fast", "Fix {1} fasts", count)),
+          .cancelLabel = texts.text("Not now")};
 }
 
 }  // namespace mivo::host

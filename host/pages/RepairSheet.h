@@ -15,7 +15,7 @@ struct RepairRow {
   std::string date;    ///< "Tue 9 Jun"
   std::string kind;    ///< "Merged", "Trimmed"
   std::string before;  ///< "20:02 – 12:33 and 11:00 – 13:00"
-  std::string after;   ///< "20:02 – 13:00"
+  std::string after;   ///< "20:02 – 13:00"; empty of one that goes into another, which stays as it is
   std::string spoken;  ///< all of it
   bool operator==(const RepairRow&) const = default;
 };
