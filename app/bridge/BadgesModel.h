@@ -27,7 +27,7 @@ class BadgesModel : public QObject {
   using Action = BadgeSummaryFeature::Action;
   explicit BadgesModel(std::function<void(Action)> sends) : send{std::move(sends)} {}
 
-  void show(const BadgesPage& composed) { carryAll(composed, *this); }
+  void show(const BadgesPage& composed) { carry(composed, *this); }
 
   Q_INVOKABLE void openMilestones() { send(Action::didTapMilestones{}); }
   Q_INVOKABLE void openStreaks() { send(Action::didTapStreaks{}); }

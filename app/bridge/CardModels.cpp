@@ -14,7 +14,7 @@ double drawn(double fraction) { return fraction > 0 ? std::min(fraction, 1.0) : 
 }  // namespace
 
 void GoalWeightCardModel::take(const GoalWeightCard& composed) {
-  carryAll(composed, *this);
+  carry(composed, *this);
   fraction = composed.fraction.value_or(-1);
 }
 

@@ -56,7 +56,7 @@ class ContentCard : public CardModel {
 
  protected:
   virtual void take(const Content& composed) {
-    if constexpr (Record<const Content>) carryAll(composed, *this);
+    if constexpr (Record<const Content>) carry(composed, *this);
   }
 
  private:

@@ -4,10 +4,10 @@
 #include <QtCore/QByteArray>
 #include <QtCore/QHash>
 #include <QtCore/QList>
-#include <QtCore/QObject>
 #include <QtCore/QString>
 #include <QtCore/QVariant>
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <type_traits>
@@ -46,18 +46,6 @@ QVariant variantOf(const std::optional<Value>& value) {
 /// What has a place in a property or a role; lists have rows of their own.
 template <class Field>
 concept Carried = requires(const Field& field) { variantOf(field); };
-
-/// Writes a property that has the name; without one nothing happens.
-void carryField(QObject& model, std::string_view name, const QVariant& value);
-
-/// Gives each property of a model the value of the field with its name. Properties that are `MEMBER` with a signal of
-/// their own tell QML only where they differ.
-template <class Listed>
-void carry(const Listed& record, QObject& model) {
-  fields(record, [&model]<class Field>(std::string_view name, const Field& field) {
-    if constexpr (Carried<Field>) carryField(model, name, variantOf(field));
-  });
-}
 
 /// The roles of rows that show such records: a field each, from Qt::UserRole on.
 template <class Listed>

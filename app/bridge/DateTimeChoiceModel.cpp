@@ -3,6 +3,7 @@
 
 #include <utility>
 
+#include "app/bridge/Records.h"
 #include "app/bridge/Text.h"
 
 namespace mivo::app {

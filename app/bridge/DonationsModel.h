@@ -29,7 +29,7 @@ class DonationsModel : public QObject {
   using Action = DonationsFeature::Action;
   explicit DonationsModel(std::function<void(Action)> sends) : send{std::move(sends)} {}
 
-  void show(const DonationsPage& composed) { carryAll(composed, *this); }
+  void show(const DonationsPage& composed) { carry(composed, *this); }
   void appear() { send(Action::onAppear{}); }
 
   Q_INVOKABLE void choose(const QString& id) { send(Action::didChooseProduct{id.toStdString()}); }

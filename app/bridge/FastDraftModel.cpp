@@ -4,6 +4,8 @@
 #include <cmath>
 #include <utility>
 
+#include "app/bridge/Records.h"
+
 namespace mivo::app {
 
 FastDraftModel::FastDraftModel(std::function<PageClients()> present, std::function<void(Action)> sends, QObject* parent)

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "app/bridge/Records.h"
 #include "app/bridge/Text.h"
 #include "mivo/pages/DateTimeText.h"
 

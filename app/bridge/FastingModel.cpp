@@ -4,6 +4,7 @@
 #include <cmath>
 #include <utility>
 
+#include "app/bridge/Records.h"
 #include "app/bridge/Text.h"
 
 namespace mivo::app {

@@ -4,6 +4,8 @@
 #include <cmath>
 #include <utility>
 
+#include "app/bridge/Records.h"
+
 namespace mivo::app {
 
 GoalChoiceModel::GoalChoiceModel(std::function<PageClients()> present) : clients{std::move(present)} { begin(0); }

@@ -1,17 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "RecordRows.h"
 
-#include <QtCore/QMetaProperty>
-
 #include <algorithm>
 
 namespace mivo::app {
-
-void carryField(QObject& model, std::string_view name, const QVariant& value) {
-  const QMetaObject& type = *model.metaObject();
-  const int place = type.indexOfProperty(name.data());
-  if (place >= 0) type.property(place).write(&model, value);
-}
 
 QVariant RecordRows::data(const QModelIndex& index, int role) const {
   if (!index.isValid() || index.row() >= count()) return {};

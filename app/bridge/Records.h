@@ -12,6 +12,7 @@
 #include <ranges>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "app/bridge/Carry.h"
 #include "host/pages/Message.h"
@@ -260,70 +261,26 @@ struct RoadmapNoticeText {
   bool operator==(const RoadmapNoticeText&) const = default;
 };
 
-/// The value that shows a record.
-template <class Composed>
-struct Shown {};
-template <>
-struct Shown<GoalWeightSheet> {
-  using Value = GoalSheet;
-};
-template <>
-struct Shown<FeedbackSheet> {
-  using Value = FeedbackTexts;
-};
-template <>
-struct Shown<host::Message> {
-  using Value = MessageTexts;
-};
-template <>
-struct Shown<host::Choice> {
-  using Value = Choice;
-};
-template <>
-struct Shown<host::Steps> {
-  using Value = Steps;
-};
-template <>
-struct Shown<BadgeFigure> {
-  using Value = BadgeHalfRecord;
-};
-template <>
-struct Shown<SummaryFigure> {
-  using Value = SummaryFigureRecord;
-};
-template <>
-struct Shown<BadgeItem> {
-  using Value = BadgeEntry;
-};
-template <>
-struct Shown<BadgeFamilyPage> {
-  using Value = BadgeFamily;
-};
-template <>
-struct Shown<DonationChoice> {
-  using Value = DonationButton;
-};
-template <>
-struct Shown<DonationGroup> {
-  using Value = DonationKind;
-};
-template <>
-struct Shown<TrendCard> {
-  using Value = TrendRow;
-};
-template <>
-struct Shown<RoadmapFilter> {
-  using Value = RoadmapFilterChip;
-};
-template <>
-struct Shown<RoadmapNotice> {
-  using Value = RoadmapNoticeText;
-};
+// The value that shows a record. Only declared: these name types.
+GoalSheet shownAs(const GoalWeightSheet&);
+FeedbackTexts shownAs(const FeedbackSheet&);
+MessageTexts shownAs(const host::Message&);
+Choice shownAs(const host::Choice&);
+Steps shownAs(const host::Steps&);
+BadgeHalfRecord shownAs(const BadgeFigure&);
+SummaryFigureRecord shownAs(const SummaryFigure&);
+BadgeEntry shownAs(const BadgeItem&);
+BadgeFamily shownAs(const BadgeFamilyPage&);
+DonationButton shownAs(const DonationChoice&);
+DonationKind shownAs(const DonationGroup&);
+TrendRow shownAs(const TrendCard&);
+RoadmapFilterChip shownAs(const RoadmapFilter&);
+RoadmapNoticeText shownAs(const RoadmapNotice&);
 
 template <class Composed>
-using ShownValue = typename Shown<Composed>::Value;
-template <class Composed>
-concept ShownAsValue = requires { typename Shown<Composed>::Value; };
+concept ShownAsValue = requires(const Composed& composed) { shownAs(composed); };
+template <ShownAsValue Composed>
+using ShownValue = decltype(shownAs(std::declval<const Composed&>()));
 
 template <ShownAsValue Composed>
 ShownValue<Composed> valueOf(const Composed& composed);
@@ -361,10 +318,16 @@ ShownValue<Composed> valueOf(const Composed& composed) {
   return value;
 }
 
-/// Gives each property of a model the field of its name, whatever it is.
+/// Writes a property that has the name; without one nothing happens.
+void carryField(QObject& model, std::string_view name, const QVariant& value);
+
+/// Gives each property of a model the field of its name; what has rows of its own is left alone. Properties that are
+/// `MEMBER` with a signal of their own tell QML only where they differ.
 template <class Composed>
-void carryAll(const Composed& composed, QObject& model) {
-  fields(composed, [&](std::string_view name, const auto& field) { carryField(model, name, propertyOf(field)); });
+void carry(const Composed& composed, QObject& model) {
+  fields(composed, [&](std::string_view name, const auto& field) {
+    if (const QVariant value = propertyOf(field); value.isValid()) carryField(model, name, value);
+  });
 }
 
 }  // namespace mivo::app

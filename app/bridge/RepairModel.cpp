@@ -3,6 +3,8 @@
 
 #include <utility>
 
+#include "app/bridge/Records.h"
+
 namespace mivo::app {
 
 RepairModel::RepairModel(std::function<PageClients()> present, std::function<void(Action)> sends, QObject* parent)

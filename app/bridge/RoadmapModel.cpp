@@ -21,7 +21,7 @@ void RoadmapModel::show(RoadmapPage composed) {
   if (shown == composed) return;
   shown = std::move(composed);
   rows.show(shown.items);
-  carryAll(shown, *this);
+  carry(shown, *this);
 }
 
 void RoadmapModel::choose(int filter) {

@@ -19,7 +19,7 @@ void CardSettingsModel::follow(const StatisticsFeature::State& state, const Page
   flags = state.dashboardSettings;
   streaks = state.streakSettings;
   const auto composed = host::composeCardSettings(flags, streaks, clients);
-  carryAll(composed, *this);
+  carry(composed, *this);
   cardRows.show(composed.cards);
   chartRows.show(composed.charts);
   trendRows.show(composed.trends);
@@ -89,7 +89,7 @@ void SettingsModel::show() {
   if (shown == facts) return;
   shown = facts;
   const auto composed = host::composeSettings(facts, clients());
-  carryAll(composed, *this);
+  carry(composed, *this);
   Q_EMIT changed();
 }
 

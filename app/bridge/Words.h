@@ -5,7 +5,7 @@
 #include <QtCore/QObject>
 #include <QtCore/QString>
 
-#include "app/bridge/Carry.h"
+#include "app/bridge/Records.h"
 #include "host/pages/ControlWords.h"
 #include "mivo/platform/Dependencies.h"
 
