@@ -223,9 +223,8 @@ void AppModel::openGoalWeight() {
   sendStatistics(Sent::goalWeightCardAction{GoalWeightCardFeature::Action::didOpenGoal{}});
 }
 
-bool AppModel::setGoalWeight(const QString& text) {
+void AppModel::setGoalWeight(const QString& text) {
   sendStatistics(Sent::goalWeightCardAction{GoalWeightCardFeature::Action::didTypeGoal{text.toStdString()}});
-  return !store.state().statistics.goalWeightCardState.hasGoalProblem;
 }
 
 FeedbackTexts AppModel::feedback() const { return valueOf(composeFeedback(*dependency(&Dependencies::texts))); }

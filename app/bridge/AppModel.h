@@ -118,8 +118,7 @@ class AppModel : public QObject {
   Q_INVOKABLE void pressMessage() { send(Action::didTapMessage{}); }
   Q_INVOKABLE void dismissMessages() { send(Action::didDismissMessages{}); }
   Q_INVOKABLE void openGoalWeight();
-  /// False where it is no weight; the sheet says so then.
-  Q_INVOKABLE bool setGoalWeight(const QString& text);
+  Q_INVOKABLE void setGoalWeight(const QString& text);
   Q_INVOKABLE bool canSend(const QString& idea) const;
   /// Hands an idea to the user's mail program, with the address for an answer where they give one. False where no mail
   /// program takes it: it is on the clipboard then, and a message says so.

@@ -38,7 +38,7 @@ Item {
 
         x: LayoutMirroring.enabled ? root.width - width - fromLeading : fromLeading
         y: root.stacked ? titleText.height : titleText.baselineOffset - baselineOffset
-        width: Math.min(implicitWidth, root.width)
+        width: root.stacked ? root.width : implicitWidth
         text: root.detail
         style: root.detailStyle
         color: root.detailColor

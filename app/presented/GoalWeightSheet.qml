@@ -16,7 +16,8 @@ Sheet {
     onOpened: field.forceActiveFocus()
 
     function save() {
-        if (App.setGoalWeight(field.text))
+        App.setGoalWeight(field.text);
+        if (App.goalSheet.problem === "")
             close();
     }
 
