@@ -24,7 +24,7 @@ void receive(Inbox& inbox, std::string_view bytes) {
 TEST(InboxTest, doublesUpToTheLargestRequestAndAKilobyte) {
   Inbox inbox;
   EXPECT_EQ(inbox.size(), 0U);
-  for (const std::size_t size : {1024, 2048, 4096, 8192, 9216}) {
+  for (const std::size_t size : {1024U, 2048U, 4096U, 8192U, 9216U}) {
     receive(inbox, std::string(size - inbox.unread().size(), 'x'));
     EXPECT_EQ(inbox.size(), size);
   }
