@@ -16,7 +16,15 @@ void DateTimeChoiceModel::begin(double date) { become(host::dateTimeEntry(dateSi
 
 QString DateTimeChoiceModel::dayText(int place, double) const { return qString(dayTextOf(entry, place, clients())); }
 
-QString DateTimeChoiceModel::clockText(int place) const { return qString(twoDigits(place, clients().numbers)); }
+QString DateTimeChoiceModel::hourText(int place) const { return qString(hourTextOf(entry, place, clients())); }
+
+QString DateTimeChoiceModel::minuteText(int place) const { return qString(twoDigits(place, clients().numbers)); }
+
+bool DateTimeChoiceModel::type(const QString& written) {
+  const auto next = withTyped(entry, written.trimmed().toStdString(), clients());
+  if (next) become(*next);
+  return next.has_value();
+}
 
 void DateTimeChoiceModel::become(const host::DateTimeEntry& next) {
   entry = next;

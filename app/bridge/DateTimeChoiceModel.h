@@ -28,6 +28,9 @@ class DateTimeChoiceModel : public QObject {
   Q_PROPERTY(QString hourSpoken MEMBER hourSpoken NOTIFY hourChanged)
   Q_PROPERTY(QString minuteSpoken MEMBER minuteSpoken NOTIFY minuteChanged)
   Q_PROPERTY(QString doneLabel MEMBER doneLabel NOTIFY todayChanged)
+  Q_PROPERTY(QString typeLabel MEMBER typeLabel NOTIFY todayChanged)
+  Q_PROPERTY(QString typed MEMBER typed NOTIFY instantChanged)
+  Q_PROPERTY(QString typedProblem MEMBER typedProblem NOTIFY instantChanged)
 
  public:
   explicit DateTimeChoiceModel(std::function<PageClients()> clients);
@@ -37,10 +40,12 @@ class DateTimeChoiceModel : public QObject {
   Q_INVOKABLE void turnDay(int place) { become(withDay(entry, place)); }
   Q_INVOKABLE void turnHour(int place) { become(withHour(entry, place)); }
   Q_INVOKABLE void turnMinute(int place) { become(withMinute(entry, place)); }
+  /// What was typed, where it is a date of the list; false for anything else.
+  Q_INVOKABLE bool type(const QString& written);
   /// A day of the list; `of` is `today`, which makes a binding notice that the list has moved on.
   Q_INVOKABLE QString dayText(int place, double of) const;
-  /// An hour or a minute.
-  Q_INVOKABLE QString clockText(int place) const;
+  Q_INVOKABLE QString hourText(int place) const;
+  Q_INVOKABLE QString minuteText(int place) const;
 
  Q_SIGNALS:
   void instantChanged();
@@ -54,7 +59,7 @@ class DateTimeChoiceModel : public QObject {
 
   std::function<PageClients()> clients;
   host::DateTimeEntry entry;
-  QString text, daySpoken, hourSpoken, minuteSpoken, doneLabel;
+  QString text, daySpoken, hourSpoken, minuteSpoken, doneLabel, typeLabel, typed, typedProblem;
   double instant = 0, today = 0;
   int dayCount = 0, day = 0, hour = 0, minute = 0;
 };

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Chooses a date and a time: day, hour and minute on three wheels.
+// Chooses a date and a time: day, hour and minute on three wheels, or typed as a whole.
 import QtQuick
-import QtQuick.Templates as T
 import Mivo
 
 Sheet {
@@ -22,18 +21,88 @@ Sheet {
 
     onAboutToShow: {
         choice.begin(root.instant);
-        days.currentIndex = choice.day;
-        hours.currentIndex = choice.hour;
-        minutes.currentIndex = choice.minute;
-        for (const wheel of [days, hours, minutes])
-            wheel.positionViewAtIndex(wheel.currentIndex, T.Tumbler.Center);  // it opens there, and does not roll there
+        heading.typing = false;
+        showChoice();
+    }
+
+    // The wheels tell of each of them as they are set: what was chosen is read first.
+    function showChoice() {
+        const places = [choice.day, choice.hour, choice.minute];
+        [days, hours, minutes].forEach((wheel, at) => wheel.show(places[at]));
+    }
+
+    Item {
+        id: heading
+
+        property bool typing: false
+        property bool failed: false
+
+        function begin(text: string, selected: bool) {
+            failed = false;
+            typing = true;
+            field.text = text;
+            field.forceActiveFocus();
+            if (selected)
+                field.selectAll();
+        }
+
+        function end() {
+            failed = !root.choice.type(field.text);
+            if (failed)
+                return;
+            typing = false;
+            root.showChoice();
+            done.forceActiveFocus();
+        }
+
+        width: parent.width
+        height: Math.max(typing ? field.implicitHeight : chosen.implicitHeight, Theme.touchSize)
+
+        StyledText {
+            id: chosen
+            visible: !heading.typing
+            anchors.verticalCenter: parent.verticalCenter
+            x: Theme.touchSize
+            width: parent.width - 2 * Theme.touchSize
+            horizontalAlignment: Text.AlignHCenter
+            text: root.choice.text
+            style: Theme.bodyStrongText
+        }
+
+        IconButton {
+            visible: !heading.typing
+            anchors.right: parent.right
+            anchors.verticalCenter: parent.verticalCenter
+            iconName: "pencil"
+            text: root.choice.typeLabel
+            onClicked: heading.begin(root.choice.typed, true)
+        }
+
+        TextField {
+            id: field
+            visible: heading.typing
+            width: parent.width
+            accessibleName: root.choice.typeLabel
+            placeholder: root.choice.typed
+            hasProblem: heading.failed
+            onAccepted: heading.end()
+            onTextChanged: heading.failed = false
+            Keys.onEscapePressed: {
+                heading.typing = false;
+                days.forceActiveFocus();
+            }
+        }
     }
 
     StyledText {
+        visible: heading.typing && heading.failed
         width: parent.width
         horizontalAlignment: Text.AlignHCenter
-        text: root.choice.text
-        style: Theme.bodyStrongText
+        text: root.choice.typedProblem
+        style: Theme.captionText
+        color: Theme.danger
+        Accessible.role: Accessible.AlertMessage
+        Accessible.name: text
     }
 
     // Like a clock, it reads from the left in every language.
@@ -46,34 +115,49 @@ Sheet {
         Wheel {
             id: days
             width: 152
-            model: root.choice.dayCount
+            page: 7
+            count: root.choice.dayCount
             spoken: root.choice.daySpoken
-            onCurrentIndexChanged: root.choice.turnDay(currentIndex)
+            onValueChanged: root.choice.turnDay(value)
+            // Days have no numbers: who types wants to type the date.
+            Keys.onPressed: event => {
+                keyPressed(event);
+                if (!event.accepted && /^[0-9]$/.test(event.text)) {
+                    event.accepted = true;
+                    heading.begin(event.text, false);
+                }
+            }
 
-            function textOf(index: int): string {
-                return root.choice.dayText(index, root.choice.today);
+            function textOf(value: int): string {
+                return root.choice.dayText(value, root.choice.today);
             }
         }
 
         Wheel {
             id: hours
-            model: 24
+            count: 24
+            wraps: true
+            typable: true
+            page: 6
             spoken: root.choice.hourSpoken
-            onCurrentIndexChanged: root.choice.turnHour(currentIndex)
+            onValueChanged: root.choice.turnHour(value)
 
-            function textOf(index: int): string {
-                return root.choice.clockText(index);
+            function textOf(value: int): string {
+                return root.choice.hourText(value);
             }
         }
 
         Wheel {
             id: minutes
-            model: 60
+            count: 60
+            wraps: true
+            typable: true
+            page: 10
             spoken: root.choice.minuteSpoken
-            onCurrentIndexChanged: root.choice.turnMinute(currentIndex)
+            onValueChanged: root.choice.turnMinute(value)
 
-            function textOf(index: int): string {
-                return root.choice.clockText(index);
+            function textOf(value: int): string {
+                return root.choice.minuteText(value);
             }
         }
     }
@@ -90,9 +174,10 @@ Sheet {
     }
 
     ActionButton {
+        id: done
         width: parent.width
         leastHeight: Theme.sheetButtonSize
-        enabled: root.problem === ""
+        enabled: root.problem === "" && !heading.typing
         text: root.choice.doneLabel
         onClicked: {
             root.chosen(root.current);

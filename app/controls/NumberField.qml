@@ -42,6 +42,7 @@ Rectangle {
             font.family: Theme.displayFamily
             font.pixelSize: Theme.numberSmallText.size * Theme.textScale
             font.weight: 600
+            font.kerning: false
             color: Theme.ink
             selectByMouse: true
             inputMethodHints: Qt.ImhFormattedNumbersOnly

@@ -15,6 +15,7 @@ NumberText {
     font.family: style.family
     font.pixelSize: style.size * root.usedScale
     font.weight: style.weight
+    font.kerning: false // it would close "7,1" up, so that the comma is not seen
     font.letterSpacing: style.spacing * root.usedScale
     unitSize: style.unit * root.usedScale
     lineHeight: style.line * root.usedScale

@@ -13,6 +13,10 @@ Rectangle {
 
     signal accepted
 
+    function selectAll() {
+        input.selectAll();
+    }
+
     implicitHeight: Math.max(Theme.fieldSize, input.implicitHeight + 24)
     radius: Theme.controlRadius
     color: Theme.field

@@ -5,16 +5,14 @@ import Mivo
 StyledText {
     id: root
 
-    required property int index
     /// How far it is from the middle, in entries.
     property real distance: 0
-    property int visibleCount: 5
 
     horizontalAlignment: Text.AlignHCenter
     verticalAlignment: Text.AlignVCenter
     scaleLimit: 1.3
     style: root.distance < 0.5 ? Theme.bodyStrongText : Theme.bodyText
     color: root.distance < 0.5 ? Theme.ink : Theme.inkSecondary
-    opacity: 1 - Math.min(0.6, root.distance / visibleCount)
+    opacity: 1 - Math.min(0.6, root.distance / 5)
     wrapMode: Text.NoWrap
 }

@@ -28,12 +28,25 @@ FocusScope {
         }
     }
 
+    /// Stays where it is in the window, under the pointer that changes how tall the rows above it are.
+    property Item held: null
+    property real heldMiddle
+
+    function middleOf(item: Item): real {
+        return item.mapToItem(root, 0, item.height / 2).y;
+    }
+
     Flickable {
         id: flick
         anchors.fill: parent
         contentWidth: width
         contentHeight: column.height + root.margin
         boundsBehavior: Flickable.DragOverBounds
+        onMovementStarted: root.held = null
+        onContentHeightChanged: {
+            if (root.held)
+                contentY = Math.max(0, contentY + root.middleOf(root.held) - root.heldMiddle);
+        }
 
         Column {
             id: column
@@ -102,7 +115,13 @@ FocusScope {
                         onClicked: appearance.open()
                     }
 
-                    TextSizeRow {}
+                    TextSizeRow {
+                        id: textSize
+                        onAboutToChange: {
+                            root.held = textSize;
+                            root.heldMiddle = root.middleOf(textSize);
+                        }
+                    }
 
                     SwitchRow {
                         iconName: "motion"

@@ -6,6 +6,9 @@ import Mivo
 ControlRow {
     id: root
 
+    /// Is about to change how tall everything is.
+    signal aboutToChange
+
     iconName: "textSize"
     text: App.settings.textSize.title
     controlWidth: stepper.wantedWidth
@@ -19,6 +22,9 @@ ControlRow {
         stepSize: App.settings.textSize.step
         value: App.settings.textSize.value
         textFromValue: value => App.settings.percentText(value)
-        onValueModified: App.settings.changeTextSize(value)
+        onValueModified: {
+            root.aboutToChange();
+            App.settings.changeTextSize(value);
+        }
     }
 }

@@ -2,10 +2,14 @@
 #include "host/pages/DateTimeChoice.h"
 
 #include <algorithm>
+#include <chrono>
 #include <cstdint>
 #include <optional>
 
+#include "adapters/time/TimeZone.h"
+#include "host/dates/DateText.h"
 #include "host/fasting/Fasting.h"
+#include "mivo/fasting/GoalTime.h"
 #include "mivo/pages/DateTimeText.h"
 
 namespace mivo::host {
@@ -23,6 +27,22 @@ DateTimeEntry withTime(DateTimeEntry entry, double secondsOfDay) {
   entry.hour = static_cast<int>(secondsOfDay / secondsPerHour);
   entry.minute = static_cast<int>(secondsOfDay / secondsPerMinute) % minutesAnHour;
   return entry;
+}
+
+/// "2026-06-09 13:24": as the zone's clocks show it, in the common calendar; nothing where the zone has no rules.
+std::string typedText(Date date, const Calendar& calendar) {
+  const auto zone = adapters::TimeZone::load(std::string{calendar.timeZone()});
+  if (!zone) return {};
+  const auto since = std::chrono::floor<std::chrono::seconds>(std::chrono::duration<double>{secondsSince1970(date)});
+  const auto wall = (*zone)->wallTime(std::chrono::sys_seconds{since});
+  const std::string text = rfc3339(dateSince1970(static_cast<double>(wall.time_since_epoch().count())));
+  return text.substr(0, 10) + " " + text.substr(11, 5);
+}
+
+std::optional<DateTimeEntry> withTypedTime(const DateTimeEntry& entry, std::string_view text) {
+  const auto seconds = text.find(':') == std::string_view::npos ? std::nullopt : parseGoal(text);
+  if (!seconds || static_cast<double>(*seconds) >= secondsPerDay) return std::nullopt;
+  return withTime(entry, static_cast<double>(*seconds));
 }
 
 }  // namespace
@@ -67,9 +87,32 @@ Date instantOf(const DateTimeEntry& entry, const Calendar& calendar) {
   return start + Duration{entry.hour * secondsPerHour + entry.minute * secondsPerMinute};
 }
 
+std::optional<DateTimeEntry> withTyped(const DateTimeEntry& entry, std::string_view text, const PageClients& clients) {
+  if (const auto ofThatDay = withTypedTime(entry, text)) return ofThatDay;
+  const auto read = parseDateText(text);
+  const auto zone = adapters::TimeZone::load(std::string{clients.calendar.timeZone()});
+  const auto date = read && zone ? instant(*read, **zone) : std::nullopt;
+  if (!date) return std::nullopt;
+  DateTimeEntry typed = dateTimeEntry(*date, clients);
+  if (clients.calendar.calendarDatesBetween(*date, instantOf(typed, clients.calendar)) != 1) return std::nullopt;
+  return read->hasTime ? typed : withMinute(withHour(typed, entry.hour), entry.minute);
+}
+
 std::string dayTextOf(const DateTimeEntry& entry, int day, const PageClients& clients) {
   const auto start = startOf(entry, day, clients.calendar);
   return start ? dayText(*start, clients) : std::string{};
+}
+
+// Any date will do whose clock shows the hour: days may lack one.
+std::string hourTextOf(const DateTimeEntry& entry, int hour, const PageClients& clients) {
+  const auto at = [&](int wanted) {
+    return clients.calendar.lastMatch({.hour = wanted, .minute = 0}, entry.today).value_or(entry.today);
+  };
+  constexpr int afternoon = 13;
+  const std::string digits = twoDigits(afternoon, clients.numbers);
+  const bool hasTwelveHours = clockText(at(afternoon), clients).find(digits) == std::string::npos;
+  if (!hasTwelveHours) return twoDigits(hour, clients.numbers);
+  return clients.dates.string(at(hour), "j").value_or(twoDigits(hour, clients.numbers));
 }
 
 DateTimeChoice composeDateTimeChoice(const DateTimeEntry& entry, const PageClients& clients) {
@@ -83,9 +126,12 @@ DateTimeChoice composeDateTimeChoice(const DateTimeEntry& entry, const PageClien
   choice.hour = entry.hour;
   choice.minute = entry.minute;
   choice.daySpoken = texts.text("Day") + ", " + dayTextOf(entry, entry.day, clients);
-  choice.hourSpoken = texts.text("Hour") + ", " + twoDigits(entry.hour, clients.numbers);
+  choice.hourSpoken = texts.text("Hour") + ", " + hourTextOf(entry, entry.hour, clients);
   choice.minuteSpoken = texts.text("Minute") + ", " + twoDigits(entry.minute, clients.numbers);
   choice.doneLabel = texts.text("Done");
+  choice.typeLabel = texts.text("Type the date");
+  choice.typed = typedText(choice.instant, clients.calendar);
+  choice.typedProblem = filledIn(texts.text("Type a day up to tomorrow and a time, such as {1}."), {choice.typed});
   return choice;
 }
 

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <optional>
 #include <string>
+#include <string_view>
 
 #include "mivo/model/Record.h"
 #include "mivo/pages/PageClients.h"
@@ -32,8 +34,15 @@ DateTimeEntry withMinute(DateTimeEntry entry, int minute);
 /// instant after the gap.
 Date instantOf(const DateTimeEntry& entry, const Calendar& calendar);
 
+/// Another date as people type it: "2026-03-01 12:00", "2026-03-01" for that day at the hour chosen, "12:00" for that
+/// time of the day chosen. Nothing for any other text, and for a day that is none of the list.
+std::optional<DateTimeEntry> withTyped(const DateTimeEntry& entry, std::string_view text, const PageClients& clients);
+
 /// "Tue 9 Jun": a day of the list.
 std::string dayTextOf(const DateTimeEntry& entry, int day, const PageClients& clients);
+
+/// "19", or "7 PM" where clocks have twelve hours.
+std::string hourTextOf(const DateTimeEntry& entry, int hour, const PageClients& clients);
 
 /// The sheet that chooses it, but for the entries of its lists, which are composed where they are seen.
 struct DateTimeChoice {
@@ -44,12 +53,16 @@ struct DateTimeChoice {
   int day = 0, hour = 0, minute = 0;
   std::string daySpoken, hourSpoken, minuteSpoken;  ///< "Hour, 13"
   std::string doneLabel;                            ///< "Done"
+  std::string typeLabel;                            ///< "Type the date"
+  std::string typed;                                ///< "2026-06-09 13:24": what stands in the field to type it
+  std::string typedProblem;                         ///< what is said of a text that is no date
   bool operator==(const DateTimeChoice&) const = default;
 };
 
 template <RecordOf<DateTimeChoice> Listed, class Visit>
 void fields(Listed& record, Visit&& visit) {
-  auto& [instant, today, text, dayCount, day, hour, minute, daySpoken, hourSpoken, minuteSpoken, doneLabel] = record;
+  auto& [instant, today, text, dayCount, day, hour, minute, daySpoken, hourSpoken, minuteSpoken, doneLabel, typeLabel,
+         typed, typedProblem] = record;
   visit("instant", instant);
   visit("today", today);
   visit("text", text);
@@ -61,6 +74,9 @@ void fields(Listed& record, Visit&& visit) {
   visit("hourSpoken", hourSpoken);
   visit("minuteSpoken", minuteSpoken);
   visit("doneLabel", doneLabel);
+  visit("typeLabel", typeLabel);
+  visit("typed", typed);
+  visit("typedProblem", typedProblem);
 }
 
 DateTimeChoice composeDateTimeChoice(const DateTimeEntry& entry, const PageClients& clients);

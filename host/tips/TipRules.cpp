@@ -19,7 +19,7 @@ constexpr std::array tips{
             translatable("Log it now and then, and the charts show it beside your fasts."), 40, 3,
             [](const TipFacts& facts) { return facts.finishedFasts >= 3 && facts.weights == 0; }},
     TipRule{"readValues", translatable("Read exact values"),
-            translatable("Drag over a weight chart to read the value of a day."), 35, 3,
+            translatable("Hold a weight chart and slide to read the value of a day."), 35, 3,
             [](const TipFacts& facts) { return facts.weights >= 3; }},
     TipRule{"setGoalWeight", translatable("Set a goal weight"),
             translatable("The goal card then says when your trend gets there."), 30, 3,

@@ -76,10 +76,15 @@ DayBarsCard dayBarsTexts(std::string_view title, const ScrollChartFeature::State
           .empty = chart.data->empty() ? format.texts.text("Start a fast to see your chart.") : ""};
 }
 
-/// "84h": all of this range, not the average of a day.
-std::string totalText(double average, const ScreenInput& input, const ScreenFormatters& format) {
+/// "84h"; below a day "22h 44m", because it stands beside lengths of single fasts, and 22h would seem another one.
+std::optional<std::string> totalText(double seconds, const ScreenFormatters& format) {
+  return (seconds < secondsPerDay ? format.hourMin : format.hour).string(seconds);
+}
+
+/// All of this range, not the average of a day.
+std::string rangeTotalText(double average, const ScreenInput& input, const ScreenFormatters& format) {
   if (!input.daysOfThisRange) return {};
-  return format.hour.string(average * *input.daysOfThisRange).value_or("");
+  return totalText(average * *input.daysOfThisRange, format).value_or("");
 }
 
 }  // namespace
@@ -131,12 +136,14 @@ CardContent summaryTexts(const ScreenInput& input, const ScreenFormatters& forma
   const auto& stats = input.stats;
   const auto& texts = format.texts;
   const auto length = [&](double seconds) { return format.hourMin.string(seconds).value_or("0"); };
-  const double totalSeconds = static_cast<double>(stats.totalHours.value()) * secondsPerHour;
+  const double wholeHours = static_cast<double>(stats.totalHours.value()) * secondsPerHour;
+  const double exact = stats.averageFast.value() * static_cast<double>(stats.totalFasts.value());
+  const double total = wholeHours < secondsPerDay ? exact : wholeHours;
   return SummaryCard{
       .title = texts.text("Summary"),
       .period = texts.text("All time"),
       .figures = {{{texts.text("Fasts"), format.numbers.string(stats.totalFasts.value())},
-                   {texts.text("Total fasting time"), format.hour.string(totalSeconds).value_or("0")},
+                   {texts.text("Total fasting time"), totalText(total, format).value_or("0")},
                    {texts.text("Average fast"), length(stats.averageFast)},
                    {texts.text("Longest fast"), length(stats.longestFast)},
                    {texts.text("Current streak"), streakText(stats.currentStreak, input.countingEntity, format)},
@@ -225,7 +232,7 @@ TrendCard trendTexts(LegacyFastingZone zone, const AverageThisLastTimeRange& ave
     return filledIn(texts.text(key, rawValue(input.timeRange)), {range});
   };
   const std::string hours = zoneHours(zone, format.hour, format.numbers);
-  std::string total = totalText(averages.thisTimeRange, input, format);
+  std::string total = rangeTotalText(averages.thisTimeRange, input, format);
   return {.zone = zone,
           .section = texts.text("Trends"),
           .name = texts.text(displayString(zone)),

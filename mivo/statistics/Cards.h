@@ -211,10 +211,10 @@ void fields(Listed& record, Visit&& visit) {
 /// One row of the trends.
 struct TrendCard {
   LegacyFastingZone zone;
-  std::string section;               ///< "Trends", over the first row
-  std::string name;                  ///< "Catabolic"
-  std::string total;                 ///< "84h" in this range; none where the calendar cannot tell the range
-  std::string detail;                ///< "4–16h · 84h"
+  std::string section;  ///< "Trends", over the first row
+  std::string name;     ///< "Catabolic"
+  std::string total;    ///< "84h" in this range, below a day "9h 58m"; none where the calendar cannot tell the range
+  std::string detail;   ///< "4–16h · 84h"
   std::string thisLabel, lastLabel;  ///< "This week", "Last week"
   std::string perDay;                ///< "/day", after each average
   ZoneTrendDisplay display;

@@ -157,7 +157,8 @@ void Drive::recordAFast() {
 
   clickTile("Started");
   const QQuickItem* wheel = app->find([](const QQuickItem* one) {
-    return one->inherits("QQuickTumbler") && one->property("spoken").toString().startsWith(QLatin1String{"Hour, "});
+    return QByteArray{one->metaObject()->className()}.startsWith("Wheel_") &&
+           one->property("spoken").toString().startsWith(QLatin1String{"Hour, "});
   });
   ASSERT_NE(wheel, nullptr);
   const QPoint middle = place(wheel).center();

@@ -213,6 +213,18 @@ TEST_F(Settings, changeHowEverythingLooks) {
   EXPECT_EQ(app->app.appearance().textScale(), 1.05);
 }
 
+TEST_F(Settings, keepTheTextSizeUnderThePointer) {
+  show("settings", {390, 640});
+  const QQuickItem* size = stepper("Text size");
+  ASSERT_NE(size, nullptr);
+  const QPoint plus = size->mapToScene({size->width() - 10, size->height() / 2}).toPoint();
+  for (int pressed = 1; pressed <= 12; ++pressed) {
+    QTest::mouseClick(&app->window(), Qt::LeftButton, Qt::NoModifier, plus);
+    settle(app->window());
+    ASSERT_DOUBLE_EQ(app->app.appearance().textScale(), 1 + 0.05 * pressed);
+  }
+}
+
 TEST_F(Settings, areReachedByTheKeyboardAlone) {
   show("settings", {360, 640});
   press(Qt::Key_Tab);

@@ -197,6 +197,16 @@ TEST_F(Screen, summarises) {
                                                                                {"Longest streak", "57 days"}}}}));
 }
 
+TEST_F(Screen, saysTotalsBelowADayToTheMinuteAsTheLengthsBesideThem) {
+  const auto total = [this] { return content<SummaryCard>(CardKind::summary).figures[1].value; };
+  stats.totalFasts = 1;
+  stats.totalHours = 22;
+  stats.averageFast = 22 * secondsPerHour + 44 * 60;
+  EXPECT_EQ(total(), "22h 44m");
+  stats.totalHours = 24;
+  EXPECT_EQ(total(), "24h");
+}
+
 TEST_F(Screen, countsStreaksInWhatTheUserCounts) {
   input.countingEntity = StreakSettings::CountingEntity::fasts;
   stats.currentStreak = 1;

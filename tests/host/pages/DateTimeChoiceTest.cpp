@@ -109,6 +109,57 @@ INSTANTIATE_TEST_SUITE_P(
                     ChosenRow{"doubledIsTheFirst", "Europe/Berlin", "2026-10-25 12:00", 2, 30, "2026-10-25 00:30:00"}),
     [](const auto& row) { return std::string{row.param.name}; });
 
+struct TypedRow {
+  const char *name, *zone, *text;
+  const char* expected;  // in UTC; nothing where it is no date of the list
+};
+void PrintTo(const TypedRow& row, std::ostream* out) { *out << row.name; }
+
+class TypedDates : public testing::TestWithParam<TypedRow> {};
+
+TEST_P(TypedDates, areThoseOfTheClock) {
+  const auto& row = GetParam();
+  const Zone zone{row.zone, utc("2026-10-25 12:00")};
+  const DateTimeEntry entry = dateTimeEntry(utc("2026-10-24 07:05"), zone.clients());
+  const auto typed = withTyped(entry, row.text, zone.clients());
+  EXPECT_EQ(typed ? tests::text(instantOf(*typed, zone.clients().calendar)) : "", row.expected);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Rows, TypedDates,
+    testing::Values(TypedRow{"dateAndTime", "Europe/Berlin", "2025-03-01 19:30", "2025-03-01 18:30:00"},
+                    TypedRow{"withAnOffset", "Europe/Berlin", "2025-03-01T19:30+05:00", "2025-03-01 14:30:00"},
+                    TypedRow{"theDayKeepsTheTime", "Europe/Berlin", "2025-03-01", "2025-03-01 08:05:00"},
+                    TypedRow{"theTimeKeepsTheDay", "Europe/Berlin", "23:59", "2026-10-24 21:59:00"},
+                    TypedRow{"midnight", "UTC", "0:00", "2026-10-24 00:00:00"}, TypedRow{"noTime", "UTC", "24:00", ""},
+                    TypedRow{"aNumber", "UTC", "12", ""},
+                    TypedRow{"tomorrow", "UTC", "2026-10-26 23:59", "2026-10-26 23:59:00"},
+                    TypedRow{"tooLate", "UTC", "2026-10-27", ""}, TypedRow{"tooEarly", "UTC", "1900-01-01 12:00", ""},
+                    TypedRow{"noDate", "UTC", "2026-02-30 12:00", ""}, TypedRow{"words", "UTC", "yesterday", ""}),
+    [](const auto& row) { return std::string{row.param.name}; });
+
+/// Clocks as in the United States.
+struct TwelveHourDates final : DateFormatter {
+  std::optional<std::string> string(Date date, std::string_view skeleton) const override {
+    const int hour = std::stoi(tests::text(date).substr(11, 2));
+    const std::string twelve = std::to_string(hour % 12 == 0 ? 12 : hour % 12), half = hour < 12 ? " AM" : " PM";
+    return twelve + (skeleton == "jm" ? ":00" : "") + half;
+  }
+};
+
+TEST(DateTimeEntry, namesHoursAsTheRegionsClockDoes) {
+  const Zone zone{"UTC", utc("2026-10-25 12:00")};
+  const DateTimeEntry entry = dateTimeEntry(zone.now, zone.clients());
+  EXPECT_EQ(hourTextOf(entry, 7, zone.clients()), "07");
+  EXPECT_EQ(hourTextOf(entry, 19, zone.clients()), "19");
+  const TwelveHourDates dates;
+  const PageClients pages = zone.clients();
+  const PageClients american{pages.now,     pages.calendar, pages.texts,   dates,
+                             pages.hourMin, pages.hour,     pages.numbers, pages.masses};
+  EXPECT_EQ(hourTextOf(entry, 0, american), "12 AM");
+  EXPECT_EQ(hourTextOf(entry, 19, american), "7 PM");
+}
+
 TEST(DateTimeChoice, saysWhatIsChosen) {
   const Zone zone{"UTC", utc("2026-10-25 12:00")};
   const DateTimeChoice choice =
@@ -117,6 +168,8 @@ TEST(DateTimeChoice, saysWhatIsChosen) {
   EXPECT_EQ(choice.daySpoken, "Day, 10-24");
   EXPECT_EQ(choice.hourSpoken, "Hour, 09");
   EXPECT_EQ(choice.minuteSpoken, "Minute, 05");
+  EXPECT_EQ(choice.typed, "2026-10-24 09:05");
+  EXPECT_EQ(choice.typedProblem, "Type a day up to tomorrow and a time, such as 2026-10-24 09:05.");
   JsonWriter json;
   writeJson(json, choice);
   EXPECT_NE(std::move(json).text().find(R"("instant": "2026-10-24T09:05:00Z")"), std::string::npos);

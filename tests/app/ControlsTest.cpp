@@ -1,0 +1,141 @@
+// SPDX-License-Identifier: MIT
+// The controls that are Mivo's own, with wheel, pointer and keys.
+#include <gtest/gtest.h>
+
+#include <QtGui/QWheelEvent>
+#include <QtTest/QTest>
+
+#include "tests/app/ShownApp.h"
+
+namespace mivo::app {
+namespace {
+
+/// The sheet that chooses the date of a weight: 1 March 2026, 13:00.
+struct DateSheet {
+  explicit DateSheet(const std::string& locale = "en-GB") : app{optionsIn(locale)} {}
+
+  static Options optionsIn(const std::string& locale) {
+    Options options = ShownApp::optionsFor(threeWeeks);
+    options.locale = locale;
+    options.screen = "date";
+    return options;
+  }
+
+  QQuickItem* wheel(const char* name) {
+    return app.find([name](const QQuickItem* item) {
+      return QByteArray{item->metaObject()->className()}.startsWith("Wheel_") &&
+             item->property("spoken").toString().startsWith(QLatin1String{name});
+    });
+  }
+  int value(const char* name) { return wheel(name)->property("value").toInt(); }
+  QPointF middle(const char* name) {
+    const QQuickItem* item = wheel(name);
+    return item->mapToScene({item->width() / 2, item->height() / 2});
+  }
+
+  void turn(const char* name, int eighthsOfDegrees) {
+    const QPointF at = middle(name);
+    QWheelEvent event{
+        at,   app.window().mapToGlobal(at), {}, {0, eighthsOfDegrees}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase,
+        false};
+    QCoreApplication::sendEvent(&app.window(), &event);
+    settle(app.window());
+  }
+
+  /// A row of a wheel, so many below the middle.
+  void click(const char* name, int rows) {
+    const QQuickItem* item = wheel(name);
+    app.click(item, {item->width() / 2, item->height() / 2 + rows * 36.0});
+  }
+
+  ShownApp app;
+};
+
+TEST(Wheel, turnsOneRowANotch) {
+  DateSheet sheet;
+  EXPECT_EQ(sheet.value("Hour"), 13);
+  sheet.turn("Hour", -120);
+  EXPECT_EQ(sheet.value("Hour"), 14);
+  sheet.turn("Hour", 240);
+  EXPECT_EQ(sheet.value("Hour"), 12);
+  for (int quarter = 0; quarter < 4; ++quarter) sheet.turn("Hour", -30);
+  EXPECT_EQ(sheet.value("Hour"), 13) << "wheels that turn finer";
+  EXPECT_NE(sheet.app.text("Today, 13:00"), nullptr);
+}
+
+TEST(Wheel, choosesTheRowThatIsClicked) {
+  DateSheet sheet;
+  sheet.click("Hour", 2);
+  EXPECT_EQ(sheet.value("Hour"), 15);
+  sheet.click("Minute", -1);
+  EXPECT_EQ(sheet.value("Minute"), 59) << "before the first one comes the last";
+  EXPECT_NE(sheet.app.text("Today, 15:59"), nullptr);
+}
+
+TEST(Wheel, obeysTheKeys) {
+  DateSheet sheet;
+  const int today = sheet.value("Day");
+  sheet.click("Hour", 0);
+  const std::pair<Qt::Key, int> hours[] = {{Qt::Key_Down, 14}, {Qt::Key_PageDown, 20}, {Qt::Key_PageUp, 14},
+                                           {Qt::Key_Up, 13},   {Qt::Key_Home, 0},      {Qt::Key_End, 23}};
+  for (const auto& [key, hour] : hours) {
+    sheet.app.key(key);
+    EXPECT_EQ(sheet.value("Hour"), hour) << key;
+  }
+  sheet.app.type("09");
+  EXPECT_EQ(sheet.value("Hour"), 9);
+  sheet.app.key(Qt::Key_Tab);
+  sheet.app.type("47");
+  EXPECT_EQ(sheet.value("Minute"), 47);
+  EXPECT_NE(sheet.app.text("Today, 09:47"), nullptr);
+  sheet.app.type("7");
+  EXPECT_EQ(sheet.value("Minute"), 7) << "477 is no minute";
+  EXPECT_EQ(sheet.value("Day"), today);
+}
+
+TEST(Wheel, standsInItsColumnWithoutMotion) {
+  DateSheet sheet;
+  const QQuickItem* hours = sheet.wheel("Hour");
+  int rows = 0;
+  sheet.app.find([&](const QQuickItem* item) {
+    if (!item->inherits("QQuickText") || !hours->isAncestorOf(item)) return false;
+    ++rows;
+    EXPECT_EQ(item->mapRectToItem(hours, {0, 0, item->width(), item->height()}).center().x(), hours->width() / 2);
+    return false;
+  });
+  EXPECT_GE(rows, 5);
+}
+
+TEST(DateTimeSheet, readsADateThatIsTyped) {
+  DateSheet sheet;
+  sheet.click("Day", 0);
+  sheet.app.type("2026-02-3");
+  sheet.app.key(Qt::Key_Return);
+  EXPECT_NE(sheet.app.text("Type a day up to tomorrow and a time, such as 2026-03-01 13:00."), nullptr);
+  sheet.app.key(Qt::Key_Backspace);
+  sheet.app.type("28 06:45");
+  sheet.app.key(Qt::Key_Return);
+  EXPECT_NE(sheet.app.text("Yesterday, 06:45"), nullptr);
+  EXPECT_EQ(sheet.value("Minute"), 45);
+  sheet.app.click("Type the date");
+  sheet.app.type("18:30");
+  sheet.app.key(Qt::Key_Return);
+  EXPECT_NE(sheet.app.text("Yesterday, 18:30"), nullptr);
+  sheet.app.click("Type the date");
+  sheet.app.key(Qt::Key_Escape);
+  EXPECT_NE(sheet.app.text("Yesterday, 18:30"), nullptr) << "Escape leaves the field, not the sheet";
+  sheet.app.click("Done");
+  EXPECT_NE(sheet.app.find([](const QQuickItem* item) {
+    return item->inherits("QQuickAbstractButton") && item->property("text").toString().endsWith(QLatin1String{"18:30"});
+  }),
+            nullptr);
+}
+
+TEST(DateTimeSheet, hasTheRegionsClock) {
+  DateSheet sheet{"en-US"};
+  for (const char* hour : {"11\u202fAM", "1\u202fPM"})
+    EXPECT_NE(sheet.app.text(QString::fromUtf8(hour)), nullptr) << hour;
+}
+
+}  // namespace
+}  // namespace mivo::app
