@@ -12,6 +12,7 @@
 #include <CLI/CLI.hpp>
 #include <fstream>
 #include <iostream>
+#include <utility>
 
 #include "app/gallery/Faults.h"
 #include "app/program/Environment.h"
@@ -105,6 +106,14 @@ class Motion : public QAnimationDriver {
   qint64 now = 0;
 };
 
+// What Qt and the app's QML warned of since a picture began; it is a fault of that picture.
+QStringList warnings;
+
+void noteWarning(QtMsgType type, const QMessageLogContext&, const QString& message) {
+  const bool isOfTheDisplay = message.contains(QLatin1String{"This plugin does not support"});
+  if (type != QtDebugMsg && type != QtInfoMsg && !isOfTheDisplay) warnings.append(message);
+}
+
 struct Gallery {
   const Wanted& wanted;
   Motion& motion;
@@ -143,7 +152,7 @@ void drawAndMeasure(QQuickWindow& window, const QString& name, bool isColumn, Ga
     window.grabWindow().save(QString::fromStdString(folder) + QLatin1Char{'/'} + name + QStringLiteral(".png"));
   if (isColumn) window.setHeight(window.property("wholeHeight").toInt());
   if (isColumn) awaitFrames(window, gallery.motion);
-  for (const QString& fault : faultsOf(window)) {
+  for (const QString& fault : faultsOf(window) + std::exchange(warnings, {})) {
     std::cout << name.toStdString() << ": " << fault.toStdString() << '\n';
     ++gallery.faulty;
   }
@@ -259,6 +268,7 @@ int run(int count, char** arguments) {
   int qtCount = 1;
   const QGuiApplication application{qtCount, arguments};
   if (!wanted.folder.empty()) QDir{}.mkpath(QString::fromStdString(wanted.folder));
+  qInstallMessageHandler(noteWarning);
   Motion motion;
   motion.install();
   return drawAll({.wanted = wanted, .motion = motion});

@@ -10,6 +10,7 @@
 #include "host/database/Database.h"
 #include "tests/app/ShownApp.h"
 #include "tests/app/VirtualDisplay.h"
+#include "tests/app/Warnings.h"
 #include "tests/support/TemporaryFolder.h"
 #include "tests/tally_support/HttpClient.h"
 #include "tests/tally_support/RedisServer.h"
@@ -324,6 +325,7 @@ int main(int count, char** arguments) {
   const mivo::app::VirtualDisplay shown;
   mivo::app::display = &shown;
   QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
+  mivo::app::failOnWarnings();
   const QGuiApplication application{count, arguments};
   return RUN_ALL_TESTS();
 }
