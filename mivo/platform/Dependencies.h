@@ -45,7 +45,7 @@ struct Dependencies {
   Client<HealthKitClient> healthKitClient;
   Client<TipCatalogue> tips;
   Client<URLSession> urlSession;
-  Client<DonationClient> donations;  ///< may stay empty: the donation screen then says that nothing can be loaded
+  Client<DonationClient> donations;  ///< may stay empty: the donation screen then says what helps instead
   Client<LinkOpener> links;          ///< may stay empty: nothing opens
   Client<JSONDecoder> jsonDecoder;
   Client<RandomNumberGenerator> random;
@@ -54,6 +54,7 @@ struct Dependencies {
   Client<IssueReporter> issueReporter;
   Client<LogOutput> log;  ///< may stay empty: standard output
   ServerAddresses servers;
+  std::string shippedRoadmap;      ///< a roadmap file that came with the app, for when no server answers; may be empty
   std::string bundleIdentifier;    ///< names the app among others; without one there are no votes
   std::string languageTag = "en";  ///< of texts that a file has in several languages: "de", "pt-BR"
   int platformVersion = 17;        ///< 17 and later: tips, and charts that scroll under a header

@@ -17,6 +17,7 @@ RoadmapConfiguration RoadmapFeedbackView::configuration() {
   const Dependencies& dependencies = currentDependencies();
   return {.roadmapJSONURL = dependencies.servers.roadmap + std::string{filePath},
           .request = std::nullopt,
+          .shippedRoadmap = dependencies.shippedRoadmap,
           .voter = std::make_shared<const FeatureVoterTallyAPI>(dependencies.bundleIdentifier),
           .namespaceName = std::nullopt,
           .style = RoadmapStyle::standard,

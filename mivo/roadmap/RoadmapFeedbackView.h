@@ -19,6 +19,8 @@ struct RoadmapConfiguration {
 
   std::string roadmapJSONURL;
   std::optional<std::string> request;  ///< asked instead of that address
+  std::string shippedRoadmap =
+      {};  ///< the text of a file that is shown, without votes, where that one cannot be loaded
   Client<FeatureVoter> voter;
   std::optional<std::string> namespaceName;  ///< under which the component remembers votes; it has a default
   RoadmapStyle style = RoadmapStyle::standard;

@@ -20,13 +20,21 @@ void shuffle(std::vector<RoadmapFeature>& features, const RandomNumberGenerator&
     std::swap(features[left - 1], features[random.next() % left]);
 }
 
-std::vector<RoadmapFeature> loadedFeatures(const RoadmapConfiguration& configuration, const std::string& languageTag,
-                                           const RandomNumberGenerator& random, std::stop_token stop) {
-  const std::string& url = configuration.request.value_or(configuration.roadmapJSONURL);
-  auto features = JSONDataFetcher::loadJSON<RoadmapFile>(url, std::move(stop)).features(languageTag);
+std::vector<RoadmapFeature> inOrder(std::vector<RoadmapFeature> features, const RoadmapConfiguration& configuration,
+                                    const RandomNumberGenerator& random) {
   if (configuration.shuffled) shuffle(features, random);
   if (configuration.sorting) std::ranges::stable_sort(features, configuration.sorting);
   return features;
+}
+
+RoadmapFile loadedFile(const RoadmapConfiguration& configuration, std::stop_token stop) {
+  const std::string& url = configuration.request.value_or(configuration.roadmapJSONURL);
+  return JSONDataFetcher::loadJSON<RoadmapFile>(url, std::move(stop));
+}
+
+RoadmapFile shippedFile(const RoadmapConfiguration& configuration) {
+  if (configuration.shippedRoadmap.empty()) return {};
+  return RoadmapFile::decoded(dependency(&Dependencies::jsonDecoder)->decoded(configuration.shippedRoadmap));
 }
 
 List<RoadmapRow> rowsOf(const std::vector<RoadmapFeature>& features, const RoadmapVotes& votes) {
@@ -69,7 +77,8 @@ Effect<Action> RoadmapListFeature::reduce(State& state, const Action& action) co
     });
   if (const auto* failed = std::get_if<Action::didFailToLoad>(&action)) {
     state.phase = RoadmapPhase::failed;
-    state.failure = failed->reason;
+    state.failure = failed->failure.reason;
+    state.rows = failed->failure.shipped;
   }
   return {};
 }
@@ -81,10 +90,13 @@ Effect<Action> RoadmapListFeature::load(State& state) const {
   return Effect<Action>::run(
       [](const Send<Action>& send, std::stop_token stop, const RoadmapConfiguration& how, const RoadmapVotes& cast,
          const Client<RandomNumberGenerator>& generator, const std::string& language) {
+        const auto rows = [&](const RoadmapFile& file) {
+          return rowsOf(inOrder(file.features(language), how, *generator), cast);
+        };
         try {
-          send(Action::didLoad{rowsOf(loadedFeatures(how, language, *generator, std::move(stop)), cast)});
+          send(Action::didLoad{rows(loadedFile(how, std::move(stop)))});
         } catch (const std::exception& error) {
-          send(Action::didFailToLoad{error.what()});
+          send(Action::didFailToLoad{{error.what(), rows(shippedFile(how))}});
         }
       },
       configuration, votes, random, languageTag);
@@ -110,7 +122,7 @@ Effect<Action> RoadmapListFeature::fetchCount(const RoadmapFeature& feature) con
 
 Effect<Action> RoadmapListFeature::didTapVote(State& state, const std::string& id) const {
   const RoadmapRow* row = rowOf(state, id);
-  if (!configuration.allowVotes || !row || row->isSending) return {};
+  if (!configuration.allowVotes || state.phase != RoadmapPhase::loaded || !row || row->isSending) return {};
   const bool isVote = !row->isVoted;
   if (voteRefusal(*row, isVote)) return {};
   const RoadmapFeature feature = row->feature;

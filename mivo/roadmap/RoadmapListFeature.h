@@ -66,6 +66,21 @@ void fields(Record& record, Visit&& visit) {
   visit("count", count);
 }
 
+/// Why the roadmap could not be loaded, and what is shown instead.
+struct RoadmapFailure {
+  std::string reason;
+  List<RoadmapRow> shipped = {};  ///< what came with the app
+  bool operator==(const RoadmapFailure&) const = default;
+};
+
+template <RecordOf<RoadmapFailure> Record, class Visit>
+void fields(Record& record, Visit&& visit) {
+  auto& [reason, shipped] = record;
+  visit("reason", reason);
+  visit("shipped", shipped);
+}
+
+/// Where loading has failed the rows are those that came with the app, or none.
 enum class RoadmapPhase { idle, loading, loaded, failed };
 
 /// The roadmap component: loads the file, fetches the counts, and lets the user vote. A vote is shown at once and
@@ -101,7 +116,7 @@ struct RoadmapListFeature {
       bool operator==(const didLoad&) const = default;
     };
     struct didFailToLoad {
-      std::string reason;
+      RoadmapFailure failure;
       bool operator==(const didFailToLoad&) const = default;
     };
     struct didReceiveCount {
@@ -167,6 +182,9 @@ struct RoadmapTexts {
   static constexpr std::string_view allStatuses = translatable("All");
   static constexpr std::string_view couldNotBeLoaded = translatable("The roadmap could not be loaded.");
   static constexpr std::string_view checkConnection = translatable("Check the connection and try again.");
+  static constexpr std::string_view votesNotLoaded = translatable("The votes could not be loaded.");
+  static constexpr std::string_view shownAsShipped =
+      translatable("This is the roadmap that came with Mivo. Check the connection to see the votes, and to vote.");
   static constexpr std::string_view tryAgain = translatable("Try again");
   static constexpr std::string_view voteNotSent = translatable("Your vote could not be sent. Please try again later.");
   static constexpr std::string_view isEmpty = translatable("Nothing is planned at the moment.");

@@ -20,8 +20,8 @@ std::vector<RoadmapFilter> filters(const State& state, const TextLookup& texts) 
 RoadmapNotice notice(const State& state, bool hasItems, const TextLookup& texts) {
   if (state.phase == RoadmapPhase::failed)
     return {.hasFailed = true,
-            .title = texts.text(RoadmapTexts::couldNotBeLoaded),
-            .text = texts.text(RoadmapTexts::checkConnection),
+            .title = texts.text(hasItems ? RoadmapTexts::votesNotLoaded : RoadmapTexts::couldNotBeLoaded),
+            .text = texts.text(hasItems ? RoadmapTexts::shownAsShipped : RoadmapTexts::checkConnection),
             .button = texts.text(RoadmapTexts::tryAgain)};
   if (state.phase == RoadmapPhase::loaded && !hasItems) return {.title = texts.text(RoadmapTexts::isEmpty)};
   return {};
@@ -51,9 +51,10 @@ RoadmapPage composeRoadmap(const State& state, bool allowsVotes, const TextLooku
   RoadmapPage page{.title = texts.text(RoadmapTexts::title),
                    .filters = filters(state, texts),
                    .unsentVote = state.unsentVote->has_value() ? texts.text(RoadmapTexts::voteNotSent) : "",
-                   .isLoading = phase == RoadmapPhase::idle || phase == RoadmapPhase::loading,
+                   .isLoading = (phase == RoadmapPhase::idle || phase == RoadmapPhase::loading) && state.rows->empty(),
                    .footer = texts.text(RoadmapFeedbackView::footerText)};
-  for (const RoadmapRow& row : visibleRows(state)) page.items.push_back(item(row, allowsVotes, texts, numbers));
+  const bool showsVotes = allowsVotes && phase == RoadmapPhase::loaded;
+  for (const RoadmapRow& row : visibleRows(state)) page.items.push_back(item(row, showsVotes, texts, numbers));
   page.notice = notice(state, !page.items.empty(), texts);
   return page;
 }

@@ -55,7 +55,7 @@ void fields(Listed& record, Visit&& visit) {
   visit("isVoted", isVoted);
 }
 
-/// Said in place of the list; no texts where the list is there.
+/// Said in place of the list, or above one that came with the app; no texts where the list is there.
 struct RoadmapNotice {
   bool hasFailed = false;
   std::string title = {}, text = {}, button = {};

@@ -21,7 +21,7 @@ void didFail(State& state, std::string reason) {
 Effect<Action> load(const Feature& feature, State& state) {
   if (state.loadingState == Feature::LoadingState::loading) return {};
   if (!feature.donations) {
-    didFail(state, dependency(&Dependencies::texts)->text("No ways to donate are set up."));
+    state.loadingState = Feature::LoadingState::loaded;
     return {};
   }
   state.loadingState = Feature::LoadingState::loading;

@@ -143,7 +143,7 @@ TEST_F(RoadmapList, saysThatItIsOfflineAndTriesAgainOnRequest) {
   store.send(Action::onAppear{}, [](State& state) { state.phase = RoadmapPhase::loading; });
   store.send(Action::didTapTryAgain{});
   const std::string reason = "https://mivo.example/data/roadmap-mivo.json: no connection";
-  store.receive(Action::didFailToLoad{reason}, [&](State& state) {
+  store.receive(Action::didFailToLoad{{reason}}, [&](State& state) {
     state.phase = RoadmapPhase::failed;
     state.failure = reason;
   });
@@ -154,6 +154,19 @@ TEST_F(RoadmapList, saysThatItIsOfflineAndTriesAgainOnRequest) {
     state.failure = std::string{};
   });
   store.receive(Action::didLoad{List<RoadmapRow>{}}, [](State& state) { state.phase = RoadmapPhase::loaded; });
+}
+
+TEST_F(RoadmapList, showsWhatCameWithTheAppWhereNoServerAnswers) {
+  world.dependencies.shippedRoadmap = R"([{"id": 5, "title": "Five", "status": "planned"}])";
+  enter();
+  session->isOffline = true;
+  State state = stateOnceLoaded();
+  EXPECT_EQ(state.phase, RoadmapPhase::failed);
+  ASSERT_EQ(state.rows->size(), 1U);
+  EXPECT_EQ(state.rows.value()[0].feature.title, "Five");
+  const State before = state;
+  feature().reduce(state, Action::didTapVote{"5"});
+  EXPECT_EQ(state, before) << "there is nobody to count a vote";
 }
 
 TEST_F(RoadmapList, aFileThatDoesNotFitIsAFailureToo) {

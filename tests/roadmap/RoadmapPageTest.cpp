@@ -91,6 +91,19 @@ TEST(RoadmapPage, saysWhyThereIsNoList) {
   }
 }
 
+TEST(RoadmapPage, showsNoVotesOfARoadmapThatCameWithTheApp) {
+  State state = loaded();
+  const std::size_t count = page(state).items.size();
+  state.phase = RoadmapPhase::failed;
+  const RoadmapPage shown = page(state);
+  EXPECT_EQ(shown.notice.title, "The votes could not be loaded.");
+  EXPECT_EQ(shown.notice.button, "Try again");
+  ASSERT_EQ(shown.items.size(), count);
+  for (const RoadmapItem& item : shown.items) EXPECT_FALSE(item.hasVotes || item.isOpen) << item.title;
+  state.phase = RoadmapPhase::loading;
+  EXPECT_FALSE(page(state).isLoading) << "what is there stays there while it tries again";
+}
+
 TEST(RoadmapPage, saysThatAVoteDidNotGetThrough) {
   State state = loaded();
   EXPECT_EQ(page(state).unsentVote, "");

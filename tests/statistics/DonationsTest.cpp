@@ -65,15 +65,18 @@ struct ShoutedTexts : tests::EnglishTexts {
   }
 };
 
-TEST_F(Donations, sayInTheUsersLanguageThatNothingIsSetUp) {
+TEST_F(Donations, sayWhatElseHelpsWhereThereIsNoWayToGive) {
   world.dependencies.donations = nullptr;
-  world.dependencies.texts = std::make_shared<ShoutedTexts>();
   const DependencyScope bare = world.enter();
   auto store = shown();
-  store->send(Action::onAppear{}, [](State& state) {
-    state.loadingState = LoadingState::failed;
-    state.failure = "No ways to donate are set up.!";
-  });
+  store->send(Action::onAppear{}, [](State& state) { state.loadingState = LoadingState::loaded; });
+  const DonationsPage page = composeDonations({.loadingState = LoadingState::loaded}, ShoutedTexts{});
+  EXPECT_EQ(page.text,
+            "There is no way to give here. It helps as much to tell a friend about Mivo, and to vote on what comes "
+            "next.!");
+  EXPECT_EQ(page.button, "") << "nothing to press in vain";
+  EXPECT_EQ(page.failure, "");
+  EXPECT_EQ(page.close, "Close!");
 }
 
 DonationProduct product(const std::string& id) { return {id, "For " + id, id + " €", "https://example.org/" + id}; }
@@ -88,7 +91,7 @@ struct ChoiceRow {
 TEST_F(Donations, chooseAtFirstWhatMostGive) {
   const tests::EnglishTexts texts;
   for (const ChoiceRow& row : {
-           ChoiceRow{"nothing", {}, {}, "", "", "Donate", {}},
+           ChoiceRow{"nothing", {}, {}, "", "", "", {}},
            ChoiceRow{"one", {product("3")}, {}, "", "3", "Donate 3 €", {"Once"}},
            ChoiceRow{"several",
                      {product("3"), product("5"), product("10")},
