@@ -84,7 +84,8 @@ UserLocale UserLocale::inLanguage(std::string_view language) const {
   const auto other = parse(language);
   if (!other) return *this;
   UErrorCode status = U_ZERO_ERROR;
-  const icu::Locale here = icu::Locale::forLanguageTag(languageTag, status);
+  icu::Locale here = icu::Locale::forLanguageTag(languageTag, status);
+  here.addLikelySubtags(status);
   const icu::Locale spoken = icu::Locale::forLanguageTag(other->languageTag, status);
   if (*spoken.getCountry() != '\0') return *other;
   const icu::Locale both = icu::LocaleBuilder{}.setLocale(spoken).setRegion(here.getCountry()).build(status);

@@ -19,8 +19,8 @@ class UserLocale {
   /// What LC_ALL, LC_MESSAGES or LANG say, the first of them that is set; English where it is none.
   static UserLocale system();
 
-  /// The same place in another language, "de" or "zh-Hant": weeks, units and clock stay those of the region. Itself
-  /// where that is no language; a place that names no region becomes the language's likeliest.
+  /// The same place in another language, "de" or "zh-Hant": weeks, units and clock stay those of the region, which is
+  /// the likeliest of this language where the tag names none. Itself where that is no language.
   UserLocale inLanguage(std::string_view language) const;
 
   /// The language tag: "de-DE".

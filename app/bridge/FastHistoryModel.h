@@ -9,7 +9,7 @@
 #include <functional>
 #include <vector>
 
-#include "app/bridge/Carry.h"
+#include "app/bridge/RecordRows.h"
 #include "host/app/AppFeature.h"
 #include "host/pages/HistoryPage.h"
 
@@ -28,10 +28,16 @@ class FastHistoryModel : public QAbstractListModel {
   Q_PROPERTY(QString menuTitle MEMBER menuTitle NOTIFY textsChanged)
   Q_PROPERTY(QString editLabel MEMBER editLabel NOTIFY textsChanged)
   Q_PROPERTY(QString removeLabel MEMBER removeLabel NOTIFY textsChanged)
+  Q_PROPERTY(QString monthsLabel MEMBER monthsLabel NOTIFY textsChanged)
+  Q_PROPERTY(bool hasMonths MEMBER hasMonths NOTIFY countChanged)
+  /// `host::HistoryMonth`s, as they were when they were looked up.
+  Q_PROPERTY(mivo::app::RecordRows* months READ months CONSTANT)
 
  public:
   using Action = host::AppFeature::Action;
   FastHistoryModel(std::function<PageClients()> clients, std::function<void(Action)> send, QObject* parent = nullptr);
+
+  RecordRows* months() { return &monthRows; }
 
   void follow(const host::AppFeature::State& state);
   /// The texts of all rows may read differently.
@@ -44,6 +50,7 @@ class FastHistoryModel : public QAbstractListModel {
   /// Begins the draft with the fast of a row.
   Q_INVOKABLE void edit(int row);
   Q_INVOKABLE void remove(int row);
+  Q_INVOKABLE void lookUpMonths() { monthRows.show(composeHistoryMonths(facts, clients())); }
   /// What is spoken while the keyboard is at a row.
   Q_INVOKABLE QString spokenText(int row) const;
 
@@ -62,8 +69,10 @@ class FastHistoryModel : public QAbstractListModel {
   Date toldAt;
   mutable int composedRow = -1;  // the one that was asked for last: a view asks for all its roles
   mutable QVariantList composed;
-  QString title, addLabel, note, menuTitle, editLabel, removeLabel;
+  QString title, addLabel, note, menuTitle, editLabel, removeLabel, monthsLabel;
   int count = 0;
+  bool hasMonths = false;
+  RecordRows monthRows{rolesOf<host::HistoryMonth>()};
   qreal scaleSeconds = 0;
 };
 

@@ -84,10 +84,9 @@ struct Choice {
   Q_PROPERTY(QList<QString> options MEMBER options)
   Q_PROPERTY(int chosen MEMBER chosen)
   Q_PROPERTY(QString value MEMBER value)
-  Q_PROPERTY(QString note MEMBER note)
 
  public:
-  QString title, value, note;
+  QString title, value;
   QStringList options;
   int chosen = 0;
   bool operator==(const Choice&) const = default;

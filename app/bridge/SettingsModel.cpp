@@ -69,7 +69,6 @@ SettingsModel::SettingsModel(std::function<PageClients()> present, std::shared_p
       shownCards{told},
       app{host::composeAbout(about, {{std::string{"Qt "} + qVersion(), "LGPL-3.0"}},
                              *dependency(&Dependencies::texts))} {
-  facts.languageInForce = host::language(defaults());
   facts.usualWeekday = calendar->usualFirstWeekday();
   facts.version = about.version;
   connect(&look, &Appearance::changed, this, &SettingsModel::show);
@@ -110,8 +109,11 @@ void SettingsModel::chooseFirstWeekday(int place) {
 }
 
 void SettingsModel::chooseLanguage(int place) {
-  host::setLanguage(defaults(), host::languageAt(place));
+  const std::string tag = host::languageAt(place);
+  if (tag == host::language(defaults())) return;
+  host::setLanguage(defaults(), tag);
   show();
+  Q_EMIT languageChosen();
 }
 
 void SettingsModel::chooseAppearance(int place) { look.choose(host::appearanceModeAt(place)); }

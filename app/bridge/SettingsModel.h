@@ -107,7 +107,6 @@ class SettingsModel : public QObject {
   Q_PROPERTY(QString title MEMBER title NOTIFY changed)
   Q_PROPERTY(QString cardsLabel MEMBER cardsLabel NOTIFY changed)
   Q_PROPERTY(QString general MEMBER general NOTIFY changed)
-  Q_PROPERTY(QString note MEMBER note NOTIFY changed)
   Q_PROPERTY(QString goalLabel MEMBER goalLabel NOTIFY changed)
   Q_PROPERTY(QString goal MEMBER goal NOTIFY changed)
   Q_PROPERTY(qreal goalSeconds MEMBER goalSeconds NOTIFY changed)
@@ -146,11 +145,13 @@ class SettingsModel : public QObject {
  Q_SIGNALS:
   void pageChanged();
   void changed();
+  /// It holds from the next start of the program.
+  void languageChosen();
 
  private:
   void show();
 
-  QString page, title, cardsLabel, general, note, goalLabel, goal, reducedMotionLabel, aboutLabel, version;
+  QString page, title, cardsLabel, general, goalLabel, goal, reducedMotionLabel, aboutLabel, version;
   qreal goalSeconds = 0;
   Choice weightUnit, firstWeekday, language, appearance;
   Steps textSize;

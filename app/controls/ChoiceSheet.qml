@@ -36,16 +36,4 @@ Sheet {
             }
         }
     }
-
-    StyledText {
-        visible: root.choice.note !== ""
-        width: parent.width
-        topPadding: 8
-        bottomPadding: 8
-        text: root.choice.note
-        style: Theme.labelText
-        color: Theme.inkSecondary
-        Accessible.role: Accessible.StaticText
-        Accessible.name: text
-    }
 }

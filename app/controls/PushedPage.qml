@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // A page with a way back and a title above a column that scrolls.
 import QtQuick
+import QtQuick.Templates as T
 import Mivo
 
 FocusScope {
@@ -16,6 +17,12 @@ FocusScope {
 
     Keys.onEscapePressed: root.back()
     Keys.onBackPressed: root.back()
+    Keys.onPressed: event => scrollKeys.pressed(event)
+
+    ScrollKeys {
+        id: scrollKeys
+        view: flick
+    }
 
     Item {
         id: bar
@@ -54,6 +61,7 @@ FocusScope {
         contentWidth: width
         contentHeight: column.height
         clip: true
+        T.ScrollBar.vertical: ScrollMark {}
 
         Column {
             id: column

@@ -95,6 +95,12 @@ T.Popup {
         focus: true
         Accessible.role: Accessible.Dialog
         Accessible.name: root.title
+        Keys.onPressed: event => scrollKeys.pressed(event)
+
+        ScrollKeys {
+            id: scrollKeys
+            view: flick
+        }
 
         Item {
             id: head
@@ -136,6 +142,7 @@ T.Popup {
             contentHeight: column.height
             clip: contentHeight > height
             boundsBehavior: Flickable.StopAtBounds
+            T.ScrollBar.vertical: ScrollMark {}
 
             Column {
                 id: column

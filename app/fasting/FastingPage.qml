@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The fasting tab: the fast that runs or the eating window, and below it, or beside it where there is room, the history.
 import QtQuick
+import QtQuick.Templates as T
 import QtQuick.Window
 import Mivo
 
@@ -18,7 +19,7 @@ FocusScope {
 
     /// Opens one of the sheets by its name, in place of what is open; none for an empty name.
     function present(name: string) {
-        for (const sheet of [fast, goal, started, menu])
+        for (const sheet of [fast, goal, started, menu, months])
             sheet.close();
         switch (name) {
         case "editFast":
@@ -29,6 +30,8 @@ FocusScope {
             return goal.open();
         case "fastStart":
             return App.fasting.isRunning ? started.open() : undefined;
+        case "months":
+            return months.open();
         case "fastMenu":
             return App.fasting.history.count > 0 ? offer(0) : undefined;
         }
@@ -49,6 +52,13 @@ FocusScope {
         menu.open();
     }
 
+    Keys.onPressed: event => scrollKeys.pressed(event)
+
+    ScrollKeys {
+        id: scrollKeys
+        view: history
+    }
+
     Binding {
         target: App.fasting
         property: "watched"
@@ -64,6 +74,7 @@ FocusScope {
         contentWidth: width
         contentHeight: sideColumn.height
         boundsBehavior: Flickable.DragOverBounds
+        T.ScrollBar.vertical: ScrollMark {}
 
         FastTop {
             id: sideColumn
@@ -85,6 +96,7 @@ FocusScope {
         rowWidth: root.columnWidth
         whole: !root.twoColumns
         onAddWanted: root.add()
+        onMonthsWanted: months.open()
         onEditWanted: row => root.edit(row)
         onMenuWanted: row => root.offer(row)
         onStartedWanted: started.open()
@@ -109,6 +121,13 @@ FocusScope {
         instant: App.fasting.started
         problem: visible ? App.fasting.startProblem(current) : ""
         onChosen: instant => App.fasting.changeStart(instant)
+    }
+
+    LateSheet {
+        id: months
+        sourceComponent: MonthSheet {
+            onChosen: row => history.goTo(row)
+        }
     }
 
     FastMenu {

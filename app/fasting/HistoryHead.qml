@@ -40,6 +40,7 @@ Item {
             width: parent.width
             height: implicitHeight + 12
             onAddWanted: root.list.addWanted()
+            onMonthsWanted: root.list.monthsWanted()
         }
 
         Card {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The history below its headline, and where there is no room beside it the running fast above that.
 import QtQuick
+import QtQuick.Templates as T
 import Mivo
 
 HistoryView {
@@ -11,6 +12,7 @@ HistoryView {
     highlightFollowsCurrentItem: false
     keyNavigationEnabled: false
     boundsBehavior: Flickable.DragOverBounds
+    T.ScrollBar.vertical: ScrollMark {}
     header: HistoryHead {}
     delegate: HistoryRow {}
     footer: Item { height: Theme.pageMargin }

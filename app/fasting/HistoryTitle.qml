@@ -6,9 +6,11 @@ import Mivo
 Item {
     id: root
 
-    readonly property bool stacked: headline.implicitWidth + add.implicitWidth > width
+    readonly property real buttons: add.implicitWidth + (months.visible ? months.width : 0)
+    readonly property bool stacked: headline.implicitWidth + buttons > width
 
     signal addWanted
+    signal monthsWanted
 
     implicitHeight: stacked ? headline.height + add.height : Math.max(add.height, headline.height)
 
@@ -21,6 +23,16 @@ Item {
         style: Theme.sectionText
         Accessible.role: Accessible.Heading
         Accessible.name: text
+    }
+
+    IconButton {
+        id: months
+        visible: App.fasting.history.hasMonths
+        anchors.right: add.left
+        y: add.y + (add.height - height) / 2
+        iconName: "calendar"
+        text: App.fasting.history.monthsLabel
+        onClicked: root.monthsWanted()
     }
 
     ActionButton {

@@ -16,11 +16,18 @@ ListView {
     property int keyedRow: 0
 
     signal addWanted
+    signal monthsWanted
     signal editWanted(row: int)
     signal menuWanted(row: int)
     signal removeWanted(row: int)
     signal startedWanted
     signal goalWanted
+
+    /// Shows a row at the top, and the keyboard goes on from there.
+    function goTo(row: int) {
+        keyedRow = row;
+        positionViewAtIndex(row, ListView.Beginning);
+    }
 
     function step(to: int) {
         keyedRow = Math.max(0, Math.min(count - 1, to));

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "app/program/Environment.h"
 
+#include <QtCore/QFile>
+
 #include <cstdlib>
 #include <random>
 #include <system_error>
@@ -38,6 +40,8 @@ namespace {
 namespace fs = std::filesystem;
 
 using host::Read;
+
+constexpr const char* folderVariable = "MIVO_SAMPLE_FOLDER";
 
 // What the command line says goes before what the user chose, and that before what the system is set to.
 Read<adapters::UserLocale> userLocale(const std::string& asked, const UserDefaults& defaults) {
@@ -107,10 +111,16 @@ Read<std::monostate> addPlaceAndTime(Environment& environment, Dependencies& cli
   return std::monostate{};
 }
 
+std::string shippedRoadmap() {
+  QFile file{QStringLiteral(":/Mivo/roadmap-mivo.json")};
+  return file.open(QIODevice::ReadOnly) ? file.readAll().toStdString() : std::string{};
+}
+
 void addServers(Dependencies& clients, const Options& options) {
   const std::string server = options.tally.substr(0, options.tally.find_last_not_of('/') + 1);
   clients.servers = {.tally = server, .roadmap = server};
   clients.bundleIdentifier = options.namespaceName;
+  clients.shippedRoadmap = shippedRoadmap();
   if (options.donations.empty()) return;
   clients.donations = std::make_shared<host::DonationList>(
       options.donations, host::DonationList::Tools{.session = clients.urlSession,
@@ -165,13 +175,25 @@ host::Database open(const fs::path& file, const TextLookup& texts, std::string& 
 }  // namespace
 
 SampleFolder::SampleFolder() {
+  if (const char* left = std::getenv(folderVariable)) {
+    folder = left;
+    inherited = true;
+    ::unsetenv(folderVariable);
+    return;
+  }
   std::string pattern = (fs::temp_directory_path() / "mivo-sample-XXXXXX").string();
   if (!::mkdtemp(pattern.data()))
     throw std::system_error{errno, std::generic_category(), "no folder for the sample in " + pattern};
   folder = pattern;
 }
 
+void SampleFolder::bequeath() {
+  isKept = true;
+  ::setenv(folderVariable, folder.c_str(), 1);
+}
+
 SampleFolder::~SampleFolder() {
+  if (isKept) return;
   std::error_code ignored;
   fs::remove_all(folder, ignored);
 }
@@ -192,7 +214,7 @@ tl::expected<Environment, std::string> makeEnvironment(const Options& options) {
     environment.rightToLeft = isWrittenFromTheRight(clients->languageTag);
     environment.dependencies = clients;
     const bool isOpen = openHistory(environment, options);
-    if (isOpen && environment.sampleFolder)
+    if (isOpen && environment.sampleFolder && !environment.sampleFolder->isInherited())
       if (const auto filled = fill(*environment.history, options.sample, *clients->uuid); !filled)
         return tl::unexpected{filled.error()};
     return environment;

@@ -20,14 +20,20 @@ class SystemZone;
 /// A folder that goes with the program, for a sample that must not touch what is the user's.
 class SampleFolder {
  public:
+  /// The one that the program before this one left to it, or a new one.
   SampleFolder();
   ~SampleFolder();
   SampleFolder(const SampleFolder&) = delete;
   SampleFolder& operator=(const SampleFolder&) = delete;
   const std::filesystem::path& path() const { return folder; }
+  bool isInherited() const { return inherited; }
+
+  /// Stays, for the program that this one becomes.
+  void bequeath();
 
  private:
   std::filesystem::path folder;
+  bool inherited = false, isKept = false;
 };
 
 /// What the app stands on: the machine's clients, and the user's records.

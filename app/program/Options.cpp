@@ -36,22 +36,22 @@ void addRecords(CLI::App& program, Options& options) {
 void addLook(CLI::App& program, Options& options) {
   auto* picture = program.add_option("--render", options.picture, "Draws the window into a picture and ends");
   picture->type_name("FILE.png");
-  program.add_option("--size", options.size, "Of the window, in points")->type_name("WxH")->capture_default_str();
+  program.add_option("--size", options.size, "Of the window, in points; default: as it was last")->type_name("WxH");
   program.add_option("--scale", options.scale, "Pixels of the picture to a point")->check(CLI::Range(0.5, 4.0));
   program.add_flag("--whole", options.whole, "Draws the whole column, however high")->needs(picture);
   auto* dark = program.add_flag("--dark", options.dark);
   program.add_flag("--light", options.light)->excludes(dark);
   program.add_flag("--mirrored", options.mirrored, "Lays out from right to left");
   program.add_option("--text-scale", options.textScale, "0.85 to 2")->check(CLI::Range(0.85, 2.0));
-  program.add_option("--tab", options.tab, "What is shown first")
-      ->check(CLI::IsMember({"fasting", "statistics", "settings"}))
-      ->capture_default_str();
+  program
+      .add_option("--tab", options.tab, "What is shown first; default: the running fast, or else what was shown last")
+      ->check(CLI::IsMember({"fasting", "statistics", "settings"}));
   program.add_option("--screen", options.screen, "What is open over it")
-      ->check(
-          CLI::IsMember({"badges",     "milestones",   "streaks",  "roadmap",    "feedback", "donations", "overlaps",
-                         "goalWeight", "date",         "table",    "statistics", "fasting",  "editFast",  "addFast",
-                         "fastGoal",   "fastStart",    "fastMenu", "settings",   "cards",    "about",     "defaultGoal",
-                         "weightUnit", "firstWeekday", "language", "appearance"}));
+      ->check(CLI::IsMember({"badges",   "milestones", "streaks",  "roadmap",     "feedback",   "donations",
+                             "overlaps", "goalWeight", "date",     "table",       "statistics", "fasting",
+                             "editFast", "addFast",    "fastGoal", "fastStart",   "fastMenu",   "months",
+                             "settings", "cards",      "about",    "defaultGoal", "weightUnit", "firstWeekday",
+                             "language", "appearance"}));
 }
 
 }  // namespace

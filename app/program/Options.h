@@ -15,11 +15,11 @@ struct Options {
   std::string tally = "http://127.0.0.1:8787", donations = {}, namespaceName = "mivo";
   std::string feedback = {};  ///< a mail address
   std::string picture = {};   ///< the file to draw the window into, instead of showing it
-  std::string size = "390x844";
+  std::string size = {};      ///< as it was last without one
   double scale = 1;
   bool dark = false, light = false, mirrored = false, whole = false;
   std::optional<double> textScale = {};
-  std::string tab = "statistics";
+  std::string tab = {};     ///< the running fast's, or the last one
   std::string screen = {};  ///< what is open over the tab
 };
 

@@ -2,7 +2,9 @@
 #include "app/program/Window.h"
 
 #include <QtCore/QCoreApplication>
-#include <QtCore/QElapsedTimer>
+#include <QtCore/QDeadlineTimer>
+#include <QtCore/QEventLoop>
+#include <QtCore/QTimer>
 #include <QtCore/QVariant>
 #include <QtQml/QQmlExtensionPlugin>
 #include <QtQuick/QQuickItem>
@@ -10,6 +12,7 @@
 
 #include "app/bridge/EngineModels.h"
 #include "app/program/SystemZone.h"
+#include "host/app/Settings.h"
 #include "host/database/Database.h"
 
 Q_IMPORT_QML_PLUGIN(MivoPlugin)
@@ -25,6 +28,11 @@ std::optional<host::AppearanceMode> modeOf(const Options& options) {
   return std::nullopt;
 }
 
+std::string openingTabOf(const AppModel& app, const UserDefaults& defaults, const Options& options) {
+  if (!options.picture.empty()) return host::openingTab(options.tab, false, "");
+  return host::openingTab(options.tab, app.state().runningFast() != nullptr, host::windowState(defaults).tab);
+}
+
 std::function<std::optional<std::string>()> following(std::shared_ptr<SystemZone> zone) {
   if (!zone) return {};
   return [zone = std::move(zone)] { return zone->follow(); };
@@ -32,13 +40,18 @@ std::function<std::optional<std::string>()> following(std::shared_ptr<SystemZone
 
 }  // namespace
 
+// Counts looks at the events, not time alone: a busy machine may let all of the time pass before it lets us draw.
 void settle(QQuickWindow& window, int stillMilliseconds) {
-  QElapsedTimer sinceFrame, sinceBegin;
-  sinceFrame.start();
-  sinceBegin.start();
-  const auto drawn = QObject::connect(&window, &QQuickWindow::frameSwapped, [&] { sinceFrame.restart(); });
-  while (sinceFrame.elapsed() < stillMilliseconds && sinceBegin.elapsed() < drawnAtLastAfterMilliseconds)
-    QCoreApplication::processEvents(QEventLoop::AllEvents, stillMilliseconds / 4);
+  constexpr int looks = 4;
+  int still = 0;
+  const auto drawn = QObject::connect(&window, &QQuickWindow::frameSwapped, [&] { still = 0; });
+  const QDeadlineTimer deadline{drawnAtLastAfterMilliseconds};
+  while (still < looks && !deadline.hasExpired()) {
+    ++still;
+    QEventLoop events;
+    QTimer::singleShot(stillMilliseconds / looks, &events, &QEventLoop::quit);
+    events.exec();
+  }
   QObject::disconnect(drawn);
 }
 
@@ -57,8 +70,16 @@ void choosePainting(const Options& options) {
   if (options.scale != 1) qputenv("QT_SCALE_FACTOR", QByteArray::number(options.scale));
 }
 
+std::optional<QSize> openingSize(const Options& options, const UserDefaults& defaults) {
+  if (!options.size.empty()) return sizeOf(options.size);
+  if (!options.picture.empty()) return usualSize;
+  return sizeOf(host::windowState(defaults).size).value_or(usualSize);
+}
+
 AppWindow::AppWindow(const Environment& environment, const Options& options, QSize size)
-    : look{nullptr},
+    : isPicture{!options.picture.empty()},
+      defaults{environment.dependencies->userDefaults},
+      look{nullptr},
       app{{.history = environment.history,
            .tips = environment.tips,
            .usualWeightUnit = environment.usualWeightUnit,
@@ -76,7 +97,7 @@ AppWindow::AppWindow(const Environment& environment, const Options& options, QSi
   engine.addImportPath(QStringLiteral("qrc:/"));
   engine.setInitialProperties({{QStringLiteral("width"), size.width()},
                                {QStringLiteral("height"), size.height()},
-                               {QStringLiteral("tab"), QString::fromStdString(options.tab)},
+                               {QStringLiteral("tab"), QString::fromStdString(openingTabOf(app, *defaults, options))},
                                {QStringLiteral("screen"), QString::fromStdString(options.screen)}});
   engine.load(QUrl{QStringLiteral("qrc:/Mivo/Main.qml")});
   // What the screen asked for when it appeared was answered by now: nothing moves after the first frame.
@@ -85,9 +106,21 @@ AppWindow::AppWindow(const Environment& environment, const Options& options, QSi
   QObject::connect(window(), &QWindow::visibilityChanged, &app, [this](QWindow::Visibility now) {
     app.setWatched(now != QWindow::Hidden && now != QWindow::Minimized);
   });
+  window()->setIcon(windowIcon());
+  end.emplace(*window());
 }
 
-AppWindow::~AppWindow() = default;
+AppWindow::~AppWindow() { keepState(); }
+
+void AppWindow::keepState() const {
+  const QQuickWindow* shown = window();
+  if (isPicture || !shown) return;
+  host::WindowState state = host::windowState(*defaults);
+  const bool fillsTheScreen = shown->visibility() == QWindow::Maximized || shown->visibility() == QWindow::FullScreen;
+  if (!fillsTheScreen) state.size = std::to_string(shown->width()) + "x" + std::to_string(shown->height());
+  state.tab = shown->property("tab").toString().toStdString();
+  host::setWindowState(*defaults, state);
+}
 
 QQuickWindow* AppWindow::window() const {
   return engine.rootObjects().isEmpty() ? nullptr : qobject_cast<QQuickWindow*>(engine.rootObjects().constFirst());

@@ -12,10 +12,14 @@
 #include "app/bridge/AppModel.h"
 #include "app/bridge/Appearance.h"
 #include "app/program/Environment.h"
+#include "app/program/WindowHabits.h"
 
 class QQuickWindow;
 
 namespace mivo::app {
+
+/// Where nothing else is asked for or known.
+inline constexpr QSize usualSize{390, 844};
 
 /// "390x844"; nothing for any other text.
 std::optional<QSize> sizeOf(const std::string& text);
@@ -24,7 +28,11 @@ std::optional<QSize> sizeOf(const std::string& text);
 /// faster so and takes a third of the memory, and every frame is done in a few milliseconds.
 void choosePainting(const Options& options);
 
-/// The app in its window. Made where the environment's dependencies are in force; needs a QGuiApplication.
+/// What the options ask for, or else what the window was when it last closed. Nothing for options that are no size.
+std::optional<QSize> openingSize(const Options& options, const UserDefaults& defaults);
+
+/// The app in its window, which knows next time how it was when it goes. Made where the environment's dependencies are
+/// in force; needs a QGuiApplication.
 class AppWindow {
  public:
   AppWindow(const Environment& environment, const Options& options, QSize size);
@@ -36,10 +44,15 @@ class AppWindow {
   Appearance& appearance() { return look; }
 
  private:
+  void keepState() const;
+
+  bool isPicture;
+  std::shared_ptr<const UserDefaults> defaults;
   Appearance look;
   AppModel app;
   Subscription settingsFaults;
   QQmlApplicationEngine engine;
+  std::optional<EndsWithWindow> end;
 };
 
 /// Says why the app cannot start, and lets the user try again until it can or they close the window.

@@ -3,12 +3,17 @@
 #include <QtQuick/QQuickWindow>
 
 #include <CLI/CLI.hpp>
+#include <cerrno>
+#include <cstring>
 #include <exception>
 #include <iostream>
+#include <string>
+#include <vector>
 
 #include "adapters/system/FreedMemory.h"
 #include "app/program/Environment.h"
 #include "app/program/Options.h"
+#include "app/program/Restart.h"
 #include "app/program/Window.h"
 #include "host/versions/Versions.h"
 
@@ -30,17 +35,23 @@ bool askUntilOpen(Environment& environment, const Options& options) {
 }
 
 int show(QGuiApplication& application, const Options& options) {
-  const auto size = sizeOf(options.size);
-  if (!size) return refused(wrongUsage, "--size: expected a width of 320 and a height of 240 or more, as in 390x844");
   auto environment = makeEnvironment(options);
   if (!environment) return refused(atFault, environment.error());
+  const auto size = openingSize(options, *environment->dependencies->userDefaults);
+  if (!size) return refused(wrongUsage, "--size: expected a width of 320 and a height of 240 or more, as in 390x844");
   const DependencyScope scope{environment->dependencies};
   if (options.mirrored || environment->rightToLeft) QGuiApplication::setLayoutDirection(Qt::RightToLeft);
   if (!environment->history && (!options.picture.empty() || !askUntilOpen(*environment, options)))
     return refused(atFault, environment->notice);
   AppWindow shown{*environment, options, *size};
   if (!shown.window()) return refused(atFault, "the window could not be made");
-  if (options.picture.empty()) return application.exec();
+  if (options.picture.empty()) {
+    QObject::connect(shown.model().settings(), &SettingsModel::languageChosen, &application,
+                     [] { QGuiApplication::exit(startAnew); });
+    const int status = application.exec();
+    if (status == startAnew && environment->sampleFolder) environment->sampleFolder->bequeath();
+    return status;
+  }
   const auto fault = drawInto(shown, options);
   return fault ? refused(atFault, *fault) : 0;
 }
@@ -68,6 +79,7 @@ int run(int count, char** arguments) {
   QGuiApplication application{qtCount, arguments};
   QGuiApplication::setApplicationName(QStringLiteral("mivo"));
   QGuiApplication::setApplicationDisplayName(QStringLiteral("Mivo"));
+  QGuiApplication::setDesktopFileName(QStringLiteral("mivo"));
   return show(application, options);
 }
 
@@ -77,7 +89,12 @@ int run(int count, char** arguments) {
 int main(int count, char** arguments) {
   mivo::adapters::keepFreedMemory();
   try {
-    return mivo::app::run(count, arguments);
+    const std::vector<std::string> asked(arguments, arguments + count);
+    const int status = mivo::app::run(count, arguments);
+    if (status != mivo::app::startAnew) return status;
+    mivo::app::becomeAnew(asked);
+    return mivo::app::refused(mivo::app::atFault,
+                              std::string{"the language cannot be changed now: "} + std::strerror(errno));
   } catch (const std::exception& error) {
     return mivo::app::refused(mivo::app::atFault, error.what());
   }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // What the user can choose. What belongs to the statistics, and what the app is, have a page of their own.
 import QtQuick
+import QtQuick.Templates as T
 import QtQuick.Window
 import Mivo
 
@@ -28,6 +29,13 @@ FocusScope {
         }
     }
 
+    Keys.onPressed: event => scrollKeys.pressed(event)
+
+    ScrollKeys {
+        id: scrollKeys
+        view: flick
+    }
+
     /// Stays where it is in the window, under the pointer that changes how tall the rows above it are.
     property Item held: null
     property real heldMiddle
@@ -42,6 +50,7 @@ FocusScope {
         contentWidth: width
         contentHeight: column.height + root.margin
         boundsBehavior: Flickable.DragOverBounds
+        T.ScrollBar.vertical: ScrollMark {}
         onMovementStarted: root.held = null
         onContentHeightChanged: {
             if (root.held)
@@ -77,7 +86,6 @@ FocusScope {
                 ListGroup {
                     width: parent.width
                     title: App.settings.general
-                    note: App.settings.note
 
                     ValueRow {
                         iconName: "fasting"

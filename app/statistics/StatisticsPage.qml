@@ -2,6 +2,7 @@
 // The statistics tab: a column of cards that scrolls; on wide windows rows of cards.
 pragma ComponentBehavior: Bound
 import QtQuick
+import QtQuick.Templates as T
 import Mivo
 
 FocusScope {
@@ -25,12 +26,21 @@ FocusScope {
     signal dateWanted
     signal tableWanted(chart: ChartTable, title: string)
 
+    Keys.onPressed: event => scrollKeys.pressed(event)
+
+    ScrollKeys {
+        id: scrollKeys
+        view: flick
+        covered: root.pickerSticks ? Theme.stickyRangeSize : 0
+    }
+
     Flickable {
         id: flick
         anchors.fill: parent
         contentWidth: width
         contentHeight: column.y + column.height + root.margin
         boundsBehavior: Flickable.DragOverBounds
+        T.ScrollBar.vertical: ScrollMark {}
 
         // The keyboard leaves when the column is scrolled.
         onMovementStarted: {

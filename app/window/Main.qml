@@ -49,6 +49,7 @@ Window {
         case "fastGoal":
         case "fastStart":
         case "fastMenu":
+        case "months":
             tab = "fasting";
             return (fasting.item as FastingPage).present(name);
         case "settings":
@@ -97,6 +98,17 @@ Window {
         table.open();
     }
 
+    Shortcut { sequence: "Ctrl+Q"; onActivated: Qt.quit() }
+    Shortcut { sequence: "Ctrl+W"; onActivated: root.close() }
+    Shortcut {
+        sequence: "Ctrl+Z"
+        enabled: App.message.button !== "" && !App.message.isFailure
+        onActivated: App.pressMessage()
+    }
+    Shortcut { sequence: "Ctrl+1"; onActivated: root.present(root.tabs[0]) }
+    Shortcut { sequence: "Ctrl+2"; onActivated: root.present(root.tabs[1]) }
+    Shortcut { sequence: "Ctrl+3"; onActivated: root.present(root.tabs[2]) }
+
     Item {
         id: pages
 
@@ -117,7 +129,7 @@ Window {
                 visible: root.tab === "fasting"
                 active: visible || status === Loader.Ready
                 focus: visible
-                sourceComponent: FastingPage {}
+                sourceComponent: FastingPage { focus: true }
             }
 
             StatisticsPage {
@@ -147,7 +159,7 @@ Window {
                 visible: root.tab === "settings"
                 active: visible || status === Loader.Ready
                 focus: visible
-                sourceComponent: SettingsPage {}
+                sourceComponent: SettingsPage { focus: true }
             }
         }
 

@@ -174,6 +174,8 @@ void measure(const Wanted& wanted) {
 int run(int count, char** arguments) {
   CLI::App program{"One run of the app, measured.", "app_run"};
   Wanted wanted;
+  wanted.options.size = "390x844";
+  wanted.options.tab = "statistics";
   addOptions(program, wanted.options);
   program.add_option("--begun", wanted.begun, "When this process was asked for, in seconds since 1970");
   program.add_option("--hidden", wanted.hiddenSeconds, "Only watches a hidden window, for so many seconds");

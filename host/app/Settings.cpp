@@ -14,7 +14,7 @@ namespace {
 constexpr std::string_view goalWeightKey = "goalWeightInKg", weightUnitKey = "weightUnit",
                            goalSecondsKey = "fastGoalSeconds", languageKey = "language",
                            firstWeekdayKey = "firstWeekday", appearanceKey = "appearance", textScaleKey = "textScale",
-                           reducedMotionKey = "reducedMotion";
+                           reducedMotionKey = "reducedMotion", windowSizeKey = "windowSize", windowTabKey = "windowTab";
 constexpr std::array<std::string_view, 3> modeNames{"system", "light", "dark"};
 
 }  // namespace
@@ -45,6 +45,22 @@ void setGoalSeconds(const UserDefaults& defaults, std::int64_t seconds) { defaul
 std::string language(const UserDefaults& defaults) { return defaults.text(languageKey, ""); }
 
 void setLanguage(const UserDefaults& defaults, const std::string& tag) { defaults.setValue(languageKey, tag); }
+
+WindowState windowState(const UserDefaults& defaults) {
+  return {.size = defaults.text(windowSizeKey, ""), .tab = defaults.text(windowTabKey, "")};
+}
+
+void setWindowState(const UserDefaults& defaults, const WindowState& state) {
+  const WindowState before = windowState(defaults);
+  if (state.size != before.size) defaults.setValue(windowSizeKey, state.size);
+  if (state.tab != before.tab) defaults.setValue(windowTabKey, state.tab);
+}
+
+std::string openingTab(const std::string& asked, bool isFasting, const std::string& last) {
+  if (!asked.empty()) return asked;
+  if (isFasting) return "fasting";
+  return last == "fasting" || last == "settings" ? last : "statistics";
+}
 
 Appearance appearance(const UserDefaults& defaults) {
   const auto* const name = std::ranges::find(modeNames, defaults.text(appearanceKey, modeNames[0]));

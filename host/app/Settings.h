@@ -28,6 +28,20 @@ void setGoalSeconds(const UserDefaults& defaults, std::int64_t seconds);
 std::string language(const UserDefaults& defaults);
 void setLanguage(const UserDefaults& defaults, const std::string& tag);
 
+/// How the window was when it closed.
+struct WindowState {
+  std::string size;  ///< "390x844", in points; empty before the first time
+  std::string tab;   ///< "fasting", "statistics" or "settings"
+  bool operator==(const WindowState&) const = default;
+};
+
+WindowState windowState(const UserDefaults& defaults);
+void setWindowState(const UserDefaults& defaults, const WindowState& state);
+
+/// The tab that the app opens on: the one that was asked for; else the running fast, where there is one; else the last
+/// one.
+std::string openingTab(const std::string& asked, bool isFasting, const std::string& last);
+
 enum class AppearanceMode { system, light, dark };
 
 /// How the screens are to look.

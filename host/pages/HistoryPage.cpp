@@ -32,6 +32,12 @@ std::string spokenRow(const HistoryRow& row, const TextLookup& texts) {
   return all;
 }
 
+bool hasMonths(const HistoryFacts& facts, const Calendar& calendar) {
+  if (facts.places.empty()) return false;
+  const Date latest = recordAt(facts, 0).fast.start, earliest = recordAt(facts, facts.places.size() - 1).fast.start;
+  return calendar.startOfMonth(latest) != calendar.startOfMonth(earliest);
+}
+
 bool saysOtherwise(const HistoryFacts& before, std::size_t rowBefore, const HistoryFacts& after, std::size_t row) {
   const FastRecord *one = overlappedBy(before, rowBefore), *other = overlappedBy(after, row);
   if ((one == nullptr) != (other == nullptr)) return true;
@@ -91,7 +97,26 @@ HistoryPage composeHistoryPage(const HistoryFacts& facts, const PageClients& cli
           .scaleSeconds = facts.scaleSeconds,
           .menuTitle = texts.text("Fast"),
           .editLabel = texts.text("Edit fast"),
-          .removeLabel = texts.text("Delete fast")};
+          .removeLabel = texts.text("Delete fast"),
+          .monthsLabel = texts.text("Go to a month"),
+          .hasMonths = hasMonths(facts, clients.calendar)};
+}
+
+std::vector<HistoryMonth> composeHistoryMonths(const HistoryFacts& facts, const PageClients& clients) {
+  std::vector<HistoryMonth> months;
+  const std::size_t rows = facts.places.size();
+  for (std::size_t row = 0; row < rows;) {
+    const Date latest = recordAt(facts, row).fast.start, begin = clients.calendar.startOfMonth(latest).value_or(latest);
+    const std::size_t first = row;
+    do ++row;
+    while (row < rows && recordAt(facts, row).fast.start >= begin);
+    const auto count = static_cast<std::int64_t>(row - first);
+    months.push_back(
+        {.name = clients.dates.string(latest, "yMMMM").value_or(""),
+         .fasts = filledIn(clients.texts.plural("{1} fast", "{1} fasts", count), {clients.numbers.string(count)}),
+         .row = static_cast<std::int64_t>(first)});
+  }
+  return months;
 }
 
 RowChange rowChange(const HistoryFacts& before, const HistoryFacts& after) {

@@ -62,6 +62,25 @@ HistoryRow composeHistoryRow(const HistoryFacts& facts, std::size_t row, const P
 /// that is none.
 std::string historySpoken(const HistoryFacts& facts, std::size_t row, const PageClients& clients);
 
+/// A month in which fasts of the history began, and the row of the latest one.
+struct HistoryMonth {
+  std::string name;   ///< "March 2026"
+  std::string fasts;  ///< "12 fasts"
+  std::int64_t row = 0;
+  bool operator==(const HistoryMonth&) const = default;
+};
+
+template <RecordOf<HistoryMonth> Listed, class Visit>
+void fields(Listed& record, Visit&& visit) {
+  auto& [name, fasts, row] = record;
+  visit("name", name);
+  visit("fasts", fasts);
+  visit("row", row);
+}
+
+/// The latest first. O(n), with a calendar's answer a month.
+std::vector<HistoryMonth> composeHistoryMonths(const HistoryFacts& facts, const PageClients& clients);
+
 /// The history but for its rows, which are composed where they are seen.
 struct HistoryPage {
   std::string title;     ///< "History"
@@ -70,12 +89,15 @@ struct HistoryPage {
   std::int64_t count = 0;
   double scaleSeconds = 0;                        ///< of the strips
   std::string menuTitle, editLabel, removeLabel;  ///< of what can be done with a row
+  std::string monthsLabel;                        ///< "Go to a month"
+  bool hasMonths = false;                         ///< more than one, so that there is somewhere to go
   bool operator==(const HistoryPage&) const = default;
 };
 
 template <RecordOf<HistoryPage> Listed, class Visit>
 void fields(Listed& record, Visit&& visit) {
-  auto& [title, addLabel, note, count, scaleSeconds, menuTitle, editLabel, removeLabel] = record;
+  auto& [title, addLabel, note, count, scaleSeconds, menuTitle, editLabel, removeLabel, monthsLabel, hasMonths] =
+      record;
   visit("title", title);
   visit("addLabel", addLabel);
   visit("note", note);
@@ -84,6 +106,8 @@ void fields(Listed& record, Visit&& visit) {
   visit("menuTitle", menuTitle);
   visit("editLabel", editLabel);
   visit("removeLabel", removeLabel);
+  visit("monthsLabel", monthsLabel);
+  visit("hasMonths", hasMonths);
 }
 
 HistoryPage composeHistoryPage(const HistoryFacts& facts, const PageClients& clients);

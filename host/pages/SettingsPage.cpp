@@ -14,7 +14,6 @@ namespace {
 
 constexpr int daysOfWeek = 7;
 constexpr std::int64_t textSizeStep = 5;
-constexpr std::string_view languageWaits = translatable("The language changes when you open Mivo the next time.");
 
 constexpr std::array<std::string_view, 3> unitTitles{translatable("Kilograms"), translatable("Pounds"),
                                                      translatable("Stones")};
@@ -50,8 +49,7 @@ Choice weightUnitChoice(const SettingsFacts& facts, const TextLookup& texts) {
   return {.title = texts.text("Weight unit"),
           .options = lookedUp(unitTitles, texts),
           .chosen = static_cast<std::int64_t>(facts.weightUnit),
-          .value = std::string{weightUnitSign(facts.weightUnit)},
-          .note = {}};
+          .value = std::string{weightUnitSign(facts.weightUnit)}};
 }
 
 Choice weekdayChoice(const SettingsFacts& facts, const PageClients& clients) {
@@ -59,19 +57,14 @@ Choice weekdayChoice(const SettingsFacts& facts, const PageClients& clients) {
   Choice choice{.title = clients.texts.text("First weekday"),
                 .options = {filledIn(clients.texts.text("System ({1})"), {usual})},
                 .chosen = facts.chosenWeekday ? rowOfWeekday(*facts.chosenWeekday) : 0,
-                .value = {},
-                .note = {}};
+                .value = {}};
   for (int row = 1; row <= daysOfWeek; ++row) choice.options.push_back(weekdayName(weekdayOfRow(row), clients));
   choice.value = choice.chosen == 0 ? usual : choice.options[static_cast<std::size_t>(choice.chosen)];
   return choice;
 }
 
 Choice languageChoice(const SettingsFacts& facts, const TextLookup& texts) {
-  Choice choice{.title = texts.text("Language"),
-                .options = {texts.text("System")},
-                .chosen = 0,
-                .value = {},
-                .note = texts.text(languageWaits)};
+  Choice choice{.title = texts.text("Language"), .options = {texts.text("System")}, .chosen = 0, .value = {}};
   for (const Language& one : offeredLanguages) {
     if (one.tag == facts.language) choice.chosen = static_cast<std::int64_t>(choice.options.size());
     choice.options.emplace_back(one.name);
@@ -84,19 +77,9 @@ Choice appearanceChoice(const SettingsFacts& facts, const TextLookup& texts) {
   Choice choice{.title = texts.text("Appearance"),
                 .options = lookedUp(modeTitles, texts),
                 .chosen = static_cast<std::int64_t>(facts.appearance.mode),
-                .value = {},
-                .note = {}};
+                .value = {}};
   choice.value = choice.options[static_cast<std::size_t>(choice.chosen)];
   return choice;
-}
-
-// A language that is no longer offered is the system's.
-bool isOffered(std::string_view tag) {
-  return std::ranges::find(offeredLanguages, tag, &Language::tag) != offeredLanguages.end();
-}
-
-bool isOtherLanguage(const std::string& chosen, const std::string& before) {
-  return chosen != before && (isOffered(chosen) || isOffered(before));
 }
 
 }  // namespace
@@ -107,7 +90,6 @@ SettingsPage composeSettings(const SettingsFacts& facts, const PageClients& clie
   return {.title = texts.text("Settings"),
           .cardsLabel = texts.text("Statistics and Fasting Zones"),
           .general = texts.text("General"),
-          .note = isOtherLanguage(facts.language, facts.languageInForce) ? texts.text(languageWaits) : "",
           .goalLabel = texts.text("Goal"),
           .goal = goalText(goalSeconds, clients.hour, clients.hourMin),
           .goalSeconds = goalSeconds,

@@ -19,7 +19,6 @@ struct SettingsFacts {
   std::optional<int> chosenWeekday = {};          ///< 1 = Sunday to 7 = Saturday
   int usualWeekday = 2;                           ///< the locale's
   std::string language = {};                      ///< as chosen; empty for the system's
-  std::string languageInForce = {};               ///< as it was chosen when the program started
   Appearance appearance = {};
   std::string version = {};
   bool operator==(const SettingsFacts&) const = default;
@@ -31,18 +30,16 @@ struct Choice {
   std::vector<std::string> options;
   std::int64_t chosen = 0;  ///< its place
   std::string value;        ///< what is in force, as the row says it: "kg"
-  std::string note;         ///< under the options; mostly none
   bool operator==(const Choice&) const = default;
 };
 
 template <RecordOf<Choice> Listed, class Visit>
 void fields(Listed& record, Visit&& visit) {
-  auto& [title, options, chosen, value, note] = record;
+  auto& [title, options, chosen, value] = record;
   visit("title", title);
   visit("options", options);
   visit("chosen", chosen);
   visit("value", value);
-  visit("note", note);
 }
 
 /// A number between minus and plus. What it reads while it changes, `percentText` and `hoursText` say.
@@ -67,7 +64,6 @@ struct SettingsPage {
   std::string title;       ///< "Settings"
   std::string cardsLabel;  ///< leads to the cards of the statistics
   std::string general;     ///< over the rest
-  std::string note;        ///< that a choice waits for the next start; else none
   std::string goalLabel;   ///< "Goal"
   std::string goal;        ///< "16h", of the fasts to come
   double goalSeconds = 0;
@@ -82,12 +78,11 @@ struct SettingsPage {
 
 template <RecordOf<SettingsPage> Listed, class Visit>
 void fields(Listed& record, Visit&& visit) {
-  auto& [title, cardsLabel, general, note, goalLabel, goal, goalSeconds, weightUnit, firstWeekday, language, appearance,
+  auto& [title, cardsLabel, general, goalLabel, goal, goalSeconds, weightUnit, firstWeekday, language, appearance,
          textSize, reducedMotionLabel, reducesMotion, aboutLabel, version] = record;
   visit("title", title);
   visit("cardsLabel", cardsLabel);
   visit("general", general);
-  visit("note", note);
   visit("goalLabel", goalLabel);
   visit("goal", goal);
   visit("goalSeconds", goalSeconds);

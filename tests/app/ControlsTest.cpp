@@ -137,5 +137,49 @@ TEST(DateTimeSheet, hasTheRegionsClock) {
     EXPECT_NE(sheet.app.text(QString::fromUtf8(hour)), nullptr) << hour;
 }
 
+qreal scrolled(ShownApp& app) {
+  const QQuickItem* page = app.find([](const QQuickItem* item) {
+    return item->inherits("QQuickFlickable") && item->property("contentHeight").toReal() > item->height() &&
+           item->height() > 300;
+  });
+  return page ? page->property("contentY").toReal() : -1;
+}
+
+TEST(Pages, scrollByTheKeys) {
+  for (const char* screen : {"statistics", "settings", "cards", "about"}) {
+    SCOPED_TRACE(screen);
+    Options options = ShownApp::optionsFor(threeWeeks);
+    options.screen = screen;
+    ShownApp app{options, {390, 480}};
+    ASSERT_EQ(scrolled(app), 0);
+    app.key(Qt::Key_Down);
+    EXPECT_EQ(scrolled(app), 48);
+    app.key(Qt::Key_PageDown);
+    const qreal paged = scrolled(app);
+    EXPECT_GT(paged, 48);
+    app.key(Qt::Key_End);
+    const qreal end = scrolled(app);
+    EXPECT_GE(end, paged);
+    app.key(Qt::Key_PageDown);
+    EXPECT_EQ(scrolled(app), end);
+    app.key(Qt::Key_Home);
+    EXPECT_EQ(scrolled(app), 0);
+  }
+}
+
+TEST(Pages, goToAMonthOfTheHistory) {
+  Options options = ShownApp::optionsFor(MIVO_DATA_FOLDER "/ten-years.json");
+  options.tab = "fasting";
+  ShownApp app{options};
+  app.click("Go to a month");
+  app.click("June 2025");
+  const QQuickItem* row = app.find([](const QQuickItem* item) {
+    return QByteArray{item->metaObject()->className()}.startsWith("HistoryRow") &&
+           item->property("date").toString().contains(QLatin1String{"Jun 2025"});
+  });
+  ASSERT_NE(row, nullptr);
+  EXPECT_NEAR(row->mapToScene({0, 0}).y(), 0, 1) << "the latest fast of the month is the first that is seen";
+}
+
 }  // namespace
 }  // namespace mivo::app

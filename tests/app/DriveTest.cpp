@@ -3,6 +3,8 @@
 // database that stays.
 #include <gtest/gtest.h>
 
+#include <QtCore/QFile>
+#include <QtCore/QProcess>
 #include <QtGui/QGuiApplication>
 #include <QtTest/QTest>
 
@@ -284,6 +286,8 @@ void Drive::findEverythingAgain() {
   const auto weights = app->state().weights->elements();
   const QString total = figure("Fasts");
   start("2026-03-01T13:00:00Z");
+  EXPECT_NE(app->button("Stop fast"), nullptr) << "it opens on the fast that runs";
+  key("ctrl+2");
   EXPECT_EQ(app->state().fasts->elements(), fasts);
   EXPECT_EQ(app->state().weights->elements(), weights);
   EXPECT_EQ(figure("Fasts"), total);
@@ -315,6 +319,54 @@ TEST_F(Drive, aDayWithTheApp) {
     (this->*step)();
     if (HasFatalFailure()) return;
   }
+}
+
+/// The program itself, in a process of its own.
+struct Program {
+  explicit Program(const QStringList& arguments) {
+    process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    process.start(
+        QStringLiteral(MIVO_APP_PROGRAM),
+        QStringList{QStringLiteral("--sample"), QStringLiteral(MIVO_DATA_FOLDER "/three-weeks.json")} + arguments);
+    window = display->waitForWindow(QStringLiteral("Mivo"));
+    display->focus(window);
+  }
+  ~Program() {
+    process.terminate();
+    process.waitForFinished();
+  }
+  QByteArray commandLine() const {
+    QFile file{QStringLiteral("/proc/%1/cmdline").arg(process.processId())};
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray{};
+  }
+
+  QProcess process;
+  QString window;
+};
+
+TEST(Program, endsWithItsWindow) {
+  Program program{{}};
+  display->destroy(program.window);
+  EXPECT_TRUE(program.process.waitForFinished(5000)) << "another program destroyed it";
+}
+
+TEST(Program, startsAnewInItsPlaceForAnotherLanguage) {
+  Program program{
+      {QStringLiteral("--screen"), QStringLiteral("language"), QStringLiteral("--locale"), QStringLiteral("en-GB")}};
+  const auto isAnew = [&] {
+    const QByteArray line = program.commandLine();
+    return line.contains("--tab") && line.contains("settings") && !line.contains("--locale");
+  };
+  // The keys reach the sheet once it is open, which cannot be seen from here.
+  EXPECT_TRUE(eventually([&] {
+    if (isAnew()) return true;
+    display->key(QStringLiteral("Down"));
+    display->key(QStringLiteral("Return"));
+    QTest::qWait(300);
+    return isAnew();
+  }));
+  EXPECT_NE(display->waitForWindow(QStringLiteral("Mivo")), "");
+  EXPECT_EQ(program.process.state(), QProcess::Running);
 }
 
 }  // namespace

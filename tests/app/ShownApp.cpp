@@ -45,8 +45,8 @@ void ShownApp::click(const QQuickItem* item, QPointF at) {
 }
 
 void ShownApp::click(const QString& name) {
-  if (const QQuickItem* item = button(name))
-    click(item);
+  if (eventually([&] { return button(name) != nullptr; }))
+    click(button(name));
   else
     ADD_FAILURE() << "no button " << name.toStdString();
 }

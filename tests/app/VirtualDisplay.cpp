@@ -59,12 +59,24 @@ void VirtualDisplay::key(const QString& name) const { act({QStringLiteral("key")
 
 void VirtualDisplay::type(const QString& text) const { act({QStringLiteral("type"), text}); }
 
-void VirtualDisplay::act(const QStringList& steps) {
+QString VirtualDisplay::waitForWindow(const QString& title) const {
+  const QString found = act({QStringLiteral("search"), QStringLiteral("--sync"), QStringLiteral("--onlyvisible"),
+                             QStringLiteral("--name"), QLatin1Char{'^'} + title + QLatin1Char{'$'}});
+  return found.section(QLatin1Char{'\n'}, 0, 0);
+}
+
+void VirtualDisplay::focus(const QString& window) const {
+  act({QStringLiteral("windowfocus"), QStringLiteral("--sync"), window});
+}
+
+void VirtualDisplay::destroy(const QString& window) const { act({QStringLiteral("windowclose"), window}); }
+
+QString VirtualDisplay::act(const QStringList& steps) {
   QProcess tool;
-  tool.setStandardOutputFile(QProcess::nullDevice());
   tool.start(QStringLiteral("xdotool"), steps);
   if (!tool.waitForFinished() || tool.exitCode() != 0)
     throw std::runtime_error{"xdotool fails: " + steps.join(QLatin1Char{' '}).toStdString()};
+  return QString::fromUtf8(tool.readAllStandardOutput());
 }
 
 }  // namespace mivo::app

@@ -26,8 +26,15 @@ class VirtualDisplay {
   void key(const QString& name) const;
   void type(const QString& text) const;
 
+  /// The window of another program with that title, once it is there. Throws where none comes.
+  QString waitForWindow(const QString& title) const;
+  /// As a window manager does: keys go there from now on.
+  void focus(const QString& window) const;
+  /// Takes a window away without asking its program.
+  void destroy(const QString& window) const;
+
  private:
-  static void act(const QStringList& steps);
+  static QString act(const QStringList& steps);
 
   QProcess server;
 };

@@ -58,7 +58,8 @@ TEST(UserLocale, keepsItsPlaceInAnotherLanguage) {
   EXPECT_EQ(there("de-DE", "zh-Hant"), "zh-Hant-DE");
   EXPECT_EQ(there("de-DE", "en-u-hc-h12"), "en-DE-u-hc-h12");
   EXPECT_EQ(there("de-DE", "en-GB"), "en-GB");
-  EXPECT_EQ(there("de", "en"), "en");
+  EXPECT_EQ(there("de", "en"), "en-DE");
+  EXPECT_EQ(there("en", "de"), "de-US");
   EXPECT_EQ(there("de-DE", ""), "de-DE");
 }
 

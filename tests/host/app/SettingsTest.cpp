@@ -45,5 +45,22 @@ TEST(Settings, keepHowTheScreensLook) {
   }
 }
 
+struct OpeningRow {
+  const char* name;
+  std::string asked;
+  bool isFasting;
+  std::string last, expected;
+};
+
+TEST(Settings, openTheAppWhereItIsWanted) {
+  const OpeningRow rows[] = {{"firstTime", "", false, "", "statistics"},
+                             {"asItWas", "", false, "settings", "settings"},
+                             {"theRunningFast", "", true, "settings", "fasting"},
+                             {"asAskedFor", "statistics", true, "settings", "statistics"},
+                             {"ofAnotherVersion", "", false, "journal", "statistics"}};
+  for (const OpeningRow& row : rows)
+    EXPECT_EQ(openingTab(row.asked, row.isFasting, row.last), row.expected) << row.name;
+}
+
 }  // namespace
 }  // namespace mivo::host

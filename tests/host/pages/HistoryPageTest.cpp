@@ -146,5 +146,21 @@ INSTANTIATE_TEST_SUITE_P(
                               {0, 1}}),
     [](const auto& row) { return std::string{row.param.name}; });
 
+TEST(HistoryMonths, beginWhereTheirLatestFastIs) {
+  const auto facts =
+      factsOf({ended(1, "2025-12-31 23:59", "2026-01-01 10:00"), ended(2, "2026-02-01 00:00", "2026-02-01 16:00"),
+               ended(3, "2026-02-27 20:00", "2026-02-28 08:00"), ended(4, "2026-02-28 20:00", "2026-03-01 08:00"),
+               running("2026-03-01 09:00")});
+  const auto clients = tests::Pages{};
+  EXPECT_EQ(composeHistoryMonths(facts, clients.at(now)),
+            (std::vector<HistoryMonth>{{"02-28", "3 fasts", 0}, {"12-31", "1 fast", 3}}));
+  EXPECT_TRUE(composeHistoryPage(facts, clients.at(now)).hasMonths);
+  EXPECT_FALSE(composeHistoryPage(factsOf({running("2026-01-01 09:00")}), clients.at(now)).hasMonths);
+  const auto oneMonth =
+      factsOf({ended(1, "2026-02-01 00:00", "2026-02-01 16:00"), ended(2, "2026-02-28 20:00", "2026-03-01 08:00")});
+  EXPECT_FALSE(composeHistoryPage(oneMonth, clients.at(now)).hasMonths);
+  EXPECT_EQ(composeHistoryMonths(factsOf({}), clients.at(now)), std::vector<HistoryMonth>{});
+}
+
 }  // namespace
 }  // namespace mivo::host

@@ -85,13 +85,6 @@ TEST(SettingsPage, givesEachPlaceBackAsItsChoice) {
     EXPECT_EQ(page(looking(appearanceModeAt(place))).appearance.chosen, place);
 }
 
-TEST(SettingsPage, saysThatALanguageWaitsOnlyWhereItDoes) {
-  EXPECT_EQ(page({.language = "de", .languageInForce = "de"}).note, "");
-  EXPECT_EQ(page({.language = "de", .languageInForce = ""}).note,
-            "The language changes when you open Mivo the next time.");
-  EXPECT_EQ(page({.language = "", .languageInForce = "xx"}).note, "") << "both are the system's";
-}
-
 TEST(SettingsPage, tellsNumbersInWords) {
   const tests::Pages pages;
   const PageClients clients = pages.at(utc("2026-03-01 12:00"));
