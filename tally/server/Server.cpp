@@ -122,12 +122,18 @@ void Server::awaitSignal() {
   });
 }
 
+// Each by itself: a slip in the roadmap must not keep a certificate from being renewed.
 void Server::reload() {
+  reload("roadmap", [this] { service.replaceRoadmap(loadRoadmap(options.roadmap)); });
+  if (!certificate) return;
+  reload("certificate", [this] { certificate = loadCertificate(options.certificate, options.key); });
+  tellOfCertificate();
+}
+
+void Server::reload(std::string_view what, const std::function<void()>& read) {
   try {
-    service.replaceRoadmap(loadRoadmap(options.roadmap));
-    if (certificate) certificate = loadCertificate(options.certificate, options.key);
-    if (certificate) tellOfCertificate();
-    log.event("reloaded", certificate ? "certificate and roadmap" : "roadmap");
+    read();
+    log.event("reloaded", what);
   } catch (const std::exception& error) {
     log.event("not reloaded", error.what());
   }

@@ -1,5 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
+#include <functional>
+#include <string_view>
+
 #include "tally/server/Connection.h"
 #include "tally/server/Listener.h"
 
@@ -8,7 +11,7 @@ namespace mivo::tally {
 /// Listens, and minds the connections: their number, their deadlines, the signals of whoever runs the server.
 ///
 /// SIGTERM and SIGINT: no new connection, what is in flight is finished, then `run` returns; a second one ends it at
-/// once. SIGHUP: certificate and roadmap are read again; where one cannot be, the old one stays.
+/// once. SIGHUP: certificate and roadmap are read again; the old one of either stays where the new one cannot be used.
 class Server {
  public:
   /// Throws std::runtime_error with one sentence where it cannot listen or read a file.
@@ -24,6 +27,7 @@ class Server {
   void tellOfCertificate();
   void awaitSignal();
   void reload();
+  void reload(std::string_view what, const std::function<void()>& read);
   void stop();
   void stopWhenDone();
   std::string metricsText() const;

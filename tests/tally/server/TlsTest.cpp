@@ -59,6 +59,20 @@ TEST_F(TlsTest, aBrokenCertificateChangesNothing) {
   EXPECT_EQ((HttpClient{server.port(), tls}.certificateSerial()), 1);
 }
 
+TEST_F(TlsTest, aBrokenRoadmapKeepsNoCertificateFromBeingRenewed) {
+  const auto roadmap = folder.file("roadmap.json");
+  std::ofstream{roadmap} << "[]";
+  TallyServer both{"sqlite:" + folder.file("both.sqlite"),
+                   {"--certificate", files.certificate, "--key", files.key, "--roadmap", roadmap}};
+  std::ofstream{roadmap} << "nonsense";
+  makeCertificate(files, 2);
+  both.process().send(SIGHUP);
+  both.process().waitForLine("\"not reloaded\"");
+  HttpClient client{both.port(), tls};
+  EXPECT_EQ(client.certificateSerial(), 2);
+  EXPECT_EQ(client.get("/data/roadmap-mivo.json").body, "[]");
+}
+
 TEST_F(TlsTest, dropsWhoSpeaksPlainHttpOrNothing) {
   TallyServer hasty{"sqlite:" + folder.file("hasty.sqlite"),
                     {"--certificate", files.certificate, "--key", files.key, "--request-seconds", "2"}};
