@@ -79,7 +79,8 @@ void Listener::accept() {
 
 void Listener::stop() {
   error_code error;
-  for (;;) {
+  // No more than had room to wait: who goes on connecting must not keep the server from ending.
+  for (int taken = 0; taken < waitingToBeAccepted; ++taken) {
     auto socket = acceptor.accept(error);
     if (error) break;
     take(std::move(socket));

@@ -2,6 +2,7 @@
 #include <sys/resource.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <csignal>
 #include <fstream>
 #include <iostream>
@@ -23,13 +24,14 @@ void ignoreFatalSignals() {
   std::signal(SIGXFSZ, SIG_IGN);
 }
 
-// Connections are descriptors; the store and the log need a few beside them.
+// Connections are descriptors; the store and the log need a few beside them. How many connections there may be.
 std::size_t raiseDescriptorLimit(std::size_t wanted) {
   constexpr std::size_t others = 64;
   rlimit limit{};
   if (::getrlimit(RLIMIT_NOFILE, &limit) != 0) return wanted;
-  limit.rlim_cur = std::min<rlim_t>(limit.rlim_max, std::max<rlim_t>(limit.rlim_cur, wanted + others));
-  ::setrlimit(RLIMIT_NOFILE, &limit);
+  auto raised = limit;
+  raised.rlim_cur = std::min<rlim_t>(limit.rlim_max, std::max<rlim_t>(limit.rlim_cur, wanted + others));
+  if (::setrlimit(RLIMIT_NOFILE, &raised) == 0) limit = raised;
   return limit.rlim_cur > others ? std::min<std::size_t>(wanted, limit.rlim_cur - others) : 1;
 }
 
