@@ -75,33 +75,25 @@ struct Texts {
   std::size_t mostUnsentMegabytes;
 };
 
-void addFlags(CLI::App& app, ServeOptions& options, Texts& texts) {
-  const auto seconds = CLI::Range(1, 3600);
+CLI::Option* addSeconds(CLI::App& app, const std::string& flag, std::int64_t& value, const std::string& help) {
+  return app.add_option(flag, value, help)->check(CLI::Range(1, 3600))->type_name("N")->capture_default_str();
+}
+
+template <class Number>
+CLI::Option* addNumber(CLI::App& app, const std::string& flag, Number& value, const std::string& help) {
+  return app.add_option(flag, value, help)->type_name("N")->capture_default_str();
+}
+
+void addAddresses(CLI::App& app, ServeOptions& options, Texts& texts) {
   app.add_option("--listen", texts.listen, "Address and port to answer on; port 0 takes a free one")
       ->type_name("HOST:PORT")
       ->capture_default_str();
-  app.add_option("--store", texts.store, "sqlite:FILE, redis://[USER:PASSWORD@]HOST:PORT/DB, or rediss:// for TLS")
-      ->type_name("ADDRESS")
-      ->capture_default_str();
-  app.add_option("--redis-password-file", texts.redisPassword,
-                 "Holds the password of --store; the variable MIVO_TALLY_REDIS_PASSWORD may too")
-      ->type_name("FILE");
   app.add_option("--admin", texts.admin, "Answer /metrics and /health there, in plain HTTP, and nowhere else")
       ->type_name("HOST:PORT");
-  app.add_option("--roadmap", options.roadmap, "The list served as /data/roadmap-mivo.json")->type_name("FILE");
   app.add_option("--certificate", options.certificate, "Certificate chain (PEM); read again on SIGHUP")
       ->type_name("FILE");
   app.add_option("--key", options.key, "Its private key (PEM)")->type_name("FILE");
   app.add_flag("--allow-plain-http", options.allowPlainHttp, "Answer without TLS beyond this machine");
-  app.add_option("--votes-per-minute", options.votesPerMinute, "Votes taken from one address; 0 takes all")
-      ->check(CLI::Range(0U, 1'000'000U))
-      ->type_name("N")
-      ->capture_default_str();
-  app.add_option("--votes-per-day", options.votesPerDay,
-                 "Votes up, and down, that one address has for a feature a day; 0 takes all")
-      ->check(CLI::Range(0U, 1'000'000U))
-      ->type_name("N")
-      ->capture_default_str();
   app.add_option("--trust-forwarded-for", texts.trustedProxies,
                  "Networks of the balancers whose X-Forwarded-For is believed, 10.0.0.0/8,...; alone: private ones")
       ->type_name("CIDR")
@@ -115,61 +107,57 @@ void addFlags(CLI::App& app, ServeOptions& options, Texts& texts) {
   app.add_option("--allow-origin", options.allowedOrigins, "A web origin whose pages may vote; repeatable; * for all")
       ->type_name("ORIGIN")
       ->delimiter(',');
+}
+
+void addStore(CLI::App& app, ServeOptions& options, Texts& texts) {
+  app.add_option("--store", texts.store, "sqlite:FILE, redis://[USER:PASSWORD@]HOST:PORT/DB, or rediss:// for TLS")
+      ->type_name("ADDRESS")
+      ->capture_default_str();
+  app.add_option("--redis-password-file", texts.redisPassword,
+                 "Holds the password of --store; the variable MIVO_TALLY_REDIS_PASSWORD may too")
+      ->type_name("FILE");
+  app.add_option("--roadmap", options.roadmap, "The list served as /data/roadmap-mivo.json")->type_name("FILE");
+  app.add_flag("--any-counter", options.countsAny, "Take votes for features that the roadmap does not list");
+  addNumber(app, "--max-counters", options.mostCounters,
+            "Counters kept; votes for a further one are refused. In Redis all keys of the database count")
+      ->check(CLI::Range(std::int64_t{1}, std::int64_t{1} << 40));
+  addSeconds(app, "--store-seconds", texts.storeSeconds, "Time for what is asked of the store");
+}
+
+void addLog(CLI::App& app, ServeOptions& options) {
   app.add_flag("--log-addresses", options.logAddresses, "Write clients' addresses into the log");
   app.add_option("--log-level", options.logDetail.level,
                  "Requests that are logged: info all, warning those refused or failed, error those failed")
       ->transform(CLI::CheckedTransformer(logLevels))
       ->type_name("LEVEL");
-  app.add_option("--log-one-in", options.logDetail.oneIn, "Log one of so many requests that went well")
-      ->check(CLI::Range(1U, 1'000'000U))
-      ->type_name("N")
-      ->capture_default_str();
-  app.add_option("--request-seconds", texts.requestSeconds, "Time to send a request, and to take its answer")
-      ->check(seconds)
-      ->type_name("N")
-      ->capture_default_str();
-  app.add_option("--idle-seconds", texts.idleSeconds, "Time between requests")
-      ->check(seconds)
-      ->type_name("N")
-      ->capture_default_str();
-  app.add_option("--drain-seconds", texts.drainSeconds, "On SIGTERM, time for what clients have sent already")
-      ->check(seconds)
-      ->type_name("N")
-      ->capture_default_str();
-  app.add_option("--store-seconds", texts.storeSeconds, "Time for what is asked of the store")
-      ->check(seconds)
-      ->type_name("N")
-      ->capture_default_str();
-  app.add_flag("--any-counter", options.countsAny, "Take votes for features that the roadmap does not list");
-  app.add_option("--max-counters", options.mostCounters,
-                 "Counters kept; votes for a further one are refused. In Redis all keys of the database count")
-      ->check(CLI::Range(std::int64_t{1}, std::int64_t{1} << 40))
-      ->type_name("N")
-      ->capture_default_str();
+  addNumber(app, "--log-one-in", options.logDetail.oneIn, "Log one of so many requests that went well")
+      ->check(CLI::Range(1U, 1'000'000U));
 }
 
+// What a client may cost.
 void addLimits(CLI::App& app, ServeOptions& options, Texts& texts) {
+  const auto votes = CLI::Range(0U, 1'000'000U);
   const auto count = CLI::Range(1, 1'000'000);
+  addNumber(app, "--votes-per-minute", options.votesPerMinute, "Votes taken from one address; 0 takes all")
+      ->check(votes);
+  addNumber(app, "--votes-per-day", options.votesPerDay,
+            "Votes up, and down, that one address has for a feature a day; 0 takes all")
+      ->check(votes);
+  addSeconds(app, "--request-seconds", texts.requestSeconds, "Time to send a request, and to take its answer");
+  addSeconds(app, "--idle-seconds", texts.idleSeconds, "Time between requests");
+  addSeconds(app, "--drain-seconds", texts.drainSeconds, "On SIGTERM, time for what clients have sent already");
   app.add_option("--max-connections", texts.mostConnections,
                  "Connections held; beyond, the one that was silent longest is dropped [20000, under TLS 5000]")
       ->check(count)
       ->type_name("N");
-  app.add_option("--max-connections-per-address", options.mostConnectionsOfAnAddress,
-                 "Connections of one address; further ones are refused; 0 takes all")
-      ->type_name("N")
-      ->capture_default_str();
-  app.add_option("--max-handshakes", options.mostHandshakes, "TLS handshakes under way; beyond, the oldest is dropped")
-      ->check(count)
-      ->type_name("N")
-      ->capture_default_str();
-  app.add_option("--handshakes-per-minute", options.handshakesPerMinute, "TLS handshakes of one address; 0 takes all")
-      ->type_name("N")
-      ->capture_default_str();
-  app.add_option("--max-unsent-megabytes", texts.mostUnsentMegabytes,
-                 "Answers that clients do not take; beyond, the connection that was slow longest is dropped")
-      ->check(CLI::Range(1, 1024))
-      ->type_name("N")
-      ->capture_default_str();
+  addNumber(app, "--max-connections-per-address", options.mostConnectionsOfAnAddress,
+            "Connections of one address; further ones are refused; 0 takes all");
+  addNumber(app, "--max-handshakes", options.mostHandshakes, "TLS handshakes under way; beyond, the oldest is dropped")
+      ->check(count);
+  addNumber(app, "--handshakes-per-minute", options.handshakesPerMinute, "TLS handshakes of one address; 0 takes all");
+  addNumber(app, "--max-unsent-megabytes", texts.mostUnsentMegabytes,
+            "Answers that clients do not take; beyond, the connection that was slow longest is dropped")
+      ->check(CLI::Range(1, 1024));
 }
 
 // A service's settings stand in its environment: --votes-per-minute is MIVO_TALLY_VOTES_PER_MINUTE too.
@@ -294,50 +282,75 @@ Exit told(const std::string& text) {
   return Exit{};
 }
 
-}  // namespace
+// What the command line is read into.
+class Words {
+ public:
+  explicit Words(CLI::App& app) {
+    addAddresses(app, serve, texts);
+    addStore(app, serve, texts);
+    addLimits(app, serve, texts);
+    addLog(app, serve);
+    addVariables(app);
+    app.add_flag("--version", tellsVersion, "Name the version and end");
+    app.add_flag("--verbose", tellsLibraries, "With --version: the libraries' versions too");
+    addCommands(app);
+    app.footer(
+        "Examples:\n  mivo-tally\n  mivo-tally --store redis://localhost/0 --roadmap roadmap.json\n"
+        "  mivo-tally export --store sqlite:tally.sqlite > counters.jsonl\n"
+        "  mivo-tally import --store redis://localhost/0 counters.jsonl\n"
+        "  mivo-tally correct --store sqlite:tally.sqlite app.example/feature12 40");
+  }
 
-Command parseCommandLine(int argc, const char* const* argv) {
-  ServeOptions serve;
-  ExportOptions exported;
-  ImportOptions imported;
-  CorrectOptions corrected;
-  Texts texts{serve};
-  CLI::App app{
-      "mivo-tally: counts votes for the features of a roadmap.\n"
-      "Without a command it serves; without flags, on this machine alone, into a SQLite file."};
-  addFlags(app, serve, texts);
-  addLimits(app, serve, texts);
-  addVariables(app);
-  bool tellsVersion = false;
-  bool tellsLibraries = false;
-  app.add_flag("--version", tellsVersion, "Name the version and end");
-  app.add_flag("--verbose", tellsLibraries, "With --version: the libraries' versions too");
-  auto* exporting = app.add_subcommand("export", "Write every counter of --store, one JSON object a line");
-  exporting->fallthrough()->add_option("--to", exported.to, "Where to; standard output without it")->type_name("FILE");
-  auto* importing = app.add_subcommand("import", "Bring counters that export wrote into --store");
-  importing->fallthrough()->add_option("FILE", imported.from, "What export wrote")->required();
-  importing->add_flag("--replace", imported.replace, "Overwrite counters that have another count");
-  auto* correcting = app.add_subcommand("correct", "Set one counter of --store, also while a server has it");
-  correcting->fallthrough()->add_option("NAME", corrected.counter, "NAMESPACE/featureID")->required();
-  correcting->add_option("VALUE", corrected.value, "Its count from now on")->required();
-  auto* checking = app.add_subcommand("health", "Ask the server at --admin, or --listen, whether it is well: 0 if so");
-  checking->fallthrough();
-  app.footer(
-      "Examples:\n  mivo-tally\n  mivo-tally --store redis://localhost/0 --roadmap roadmap.json\n"
-      "  mivo-tally export --store sqlite:tally.sqlite > counters.jsonl\n"
-      "  mivo-tally import --store redis://localhost/0 counters.jsonl\n"
-      "  mivo-tally correct --store sqlite:tally.sqlite app.example/feature12 40");
-  try {
-    app.parse(argc, argv);
-    if (tellsVersion) return told(versionText(tellsLibraries));
-    checkVariables(app);
+  Command command() {
     if (exporting->parsed()) return ExportOptions{storeOf(texts), exported.to};
     if (importing->parsed()) return ImportOptions{storeOf(texts), imported.from, imported.replace};
     if (correcting->parsed())
       return CorrectOptions{storeOf(texts), checkedName(std::move(corrected.counter)), corrected.value};
     if (checking->parsed()) return healthOf(serve, texts);
-    serve.showsPassword = showsPassword(argc, argv);
     return finished(serve, texts);
+  }
+
+  ServeOptions serve;
+  bool tellsVersion = false;
+  bool tellsLibraries = false;
+
+ private:
+  void addCommands(CLI::App& app) {
+    exporting = app.add_subcommand("export", "Write every counter of --store, one JSON object a line");
+    exporting->add_option("--to", exported.to, "Where to; standard output without it")->type_name("FILE");
+    importing = app.add_subcommand("import", "Bring counters that export wrote into --store");
+    importing->add_option("FILE", imported.from, "What export wrote")->required();
+    importing->add_flag("--replace", imported.replace, "Overwrite counters that have another count");
+    correcting = app.add_subcommand("correct", "Set one counter of --store, also while a server has it");
+    correcting->add_option("NAME", corrected.counter, "NAMESPACE/featureID")->required();
+    correcting->add_option("VALUE", corrected.value, "Its count from now on")->required();
+    checking = app.add_subcommand("health", "Ask the server at --admin, or --listen, whether it is well: 0 if so");
+    for (auto* each : {exporting, importing, correcting, checking}) each->fallthrough();
+  }
+
+  Texts texts{serve};
+  ExportOptions exported;
+  ImportOptions imported;
+  CorrectOptions corrected;
+  CLI::App* exporting = nullptr;
+  CLI::App* importing = nullptr;
+  CLI::App* correcting = nullptr;
+  CLI::App* checking = nullptr;
+};
+
+}  // namespace
+
+Command parseCommandLine(int argc, const char* const* argv) {
+  CLI::App app{
+      "mivo-tally: counts votes for the features of a roadmap.\n"
+      "Without a command it serves; without flags, on this machine alone, into a SQLite file."};
+  Words words{app};
+  try {
+    app.parse(argc, argv);
+    if (words.tellsVersion) return told(versionText(words.tellsLibraries));
+    checkVariables(app);
+    words.serve.showsPassword = showsPassword(argc, argv);
+    return words.command();
   } catch (const CLI::ParseError& error) {
     return Exit{app.exit(error) == 0 ? 0 : wrongUsage};
   } catch (const std::invalid_argument& error) {
