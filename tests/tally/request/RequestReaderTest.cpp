@@ -42,6 +42,7 @@ INSTANTIATE_TEST_SUITE_P(
         ReadingRow{"twoOrigins", get("Host: a\r\nOrigin: http://a\r\nOrigin: http://b\r\n"), State::refused, 400},
         ReadingRow{"foldedLine", get("Host: a\r\nOrigin: http://a\r\n b\r\n"), State::refused, 400},
         ReadingRow{"emptyFoldedLine", get("Host: a\r\nOrigin:\r\n \r\n"), State::refused, 400},
+        ReadingRow{"emptyLineFoldedByATab", get("Host: a\r\nOrigin:\r\n\t\r\n"), State::refused, 400},
         ReadingRow{"emptyHostThenAnother", get("Host:\r\nHost: b\r\n"), State::refused, 400},
         ReadingRow{"tlsGreeting", "\x16\x03\x01\x02", State::refused, 400},
         ReadingRow{"lowerCaseMethod", "get / HTTP/1.1\r\n", State::refused, 400},

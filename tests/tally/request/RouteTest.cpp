@@ -36,6 +36,7 @@ INSTANTIATE_TEST_SUITE_P(
         RouteRow{"down", "/add/a/feature1?delta=-1", AddVote{"a/feature1", -1}},
         RouteRow{"otherParametersToo", "/add/a/feature1?_=9&delta=-1&x", AddVote{"a/feature1", -1}},
         RouteRow{"textId", "/get/a/featuredark-mode_2.0", ReadCount{"a/featuredark-mode_2.0"}},
+        RouteRow{"endsOfTheAlphabets", "/get/azAZ09/feature90ZAza", ReadCount{"azAZ09/feature90ZAza"}},
         RouteRow{"longest", "/get/" + longestName + "/feature" + longestName, ReadCount{longestCounter}},
         RouteRow{"roadmap", "/data/roadmap-mivo.json", ReadRoadmap{}}, RouteRow{"health", "/health", ReadHealth{}},
         RouteRow{"metrics", "/metrics?x", ReadMetrics{}}, RouteRow{"root", "/", notFound},
@@ -60,6 +61,9 @@ INSTANTIATE_TEST_SUITE_P(
         RouteRow{"oddNamespace", "/get/a%2e/feature1",
                  Refusal{400, "the namespace must be made of letters, digits, dots, hyphens and underscores"}},
         RouteRow{"slashInId", "/get/a/feature1/2", wrongId}, RouteRow{"quoteInId", "/get/a/feature'1", wrongId},
+        RouteRow{"beforeZero", "/get/a/feature/", wrongId}, RouteRow{"afterNine", "/get/a/feature:", wrongId},
+        RouteRow{"beforeA", "/get/a/feature@", wrongId}, RouteRow{"afterZ", "/get/a/feature[", wrongId},
+        RouteRow{"beforeSmallA", "/get/a/feature`", wrongId}, RouteRow{"afterSmallZ", "/get/a/feature{", wrongId},
         RouteRow{"otherLetter", "/get/a/feature\xc3\xa4", wrongId}),
     [](const auto& row) { return std::string{row.param.name}; });
 

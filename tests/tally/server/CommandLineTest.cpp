@@ -2,6 +2,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <array>
+#include <boost/version.hpp>
 #include <fstream>
 
 #include "tests/support/TemporaryFolder.h"
@@ -39,6 +42,8 @@ INSTANTIATE_TEST_SUITE_P(
         CommandRow{"badStore", {"--store", "mysql://h"}, 2, "--store: expected sqlite:FILE"},
         CommandRow{
             "plainForOthers", {"--listen", "0.0.0.0:0"}, 2, "give --certificate and --key, or --allow-plain-http"},
+        CommandRow{"plainForOthersByName", {"--listen", "tally.example:0"}, 2, "give --certificate and --key"},
+        CommandRow{"adminForOthers", {"--admin", "0.0.0.0:0"}, 2, "--admin 0.0.0.0:0: others can reach it"},
         CommandRow{"keyAlone", {"--key", "k.pem"}, 2, "--certificate and --key are given together"},
         CommandRow{"noCertificate",
                    {"--listen", "127.0.0.1:0", "--store", "redis://127.0.0.1:1", "--certificate", "/no/c.pem", "--key",
@@ -89,17 +94,74 @@ INSTANTIATE_TEST_SUITE_P(Rows, Variables,
                                          VariableRow{"--log-addresses", "MIVO_TALLY_LOG_ADDRESSES", "maybe"},
                                          VariableRow{"--request-seconds", "MIVO_TALLY_REQUEST_SECONDS", "0"},
                                          VariableRow{"--idle-seconds", "MIVO_TALLY_IDLE_SECONDS", "3601"},
+                                         VariableRow{"--votes-per-day", "MIVO_TALLY_VOTES_PER_DAY", "1000001"},
+                                         VariableRow{"--max-counters", "MIVO_TALLY_MAX_COUNTERS", "0"},
+                                         VariableRow{"--max-handshakes", "MIVO_TALLY_MAX_HANDSHAKES", "1000001"},
+                                         VariableRow{"--max-unsent-megabytes", "MIVO_TALLY_MAX_UNSENT_MEGABYTES", "0"},
+                                         VariableRow{"--log-one-in", "MIVO_TALLY_LOG_ONE_IN", "0"},
+                                         VariableRow{"--log-level", "MIVO_TALLY_LOG_LEVEL", "debug"},
                                          VariableRow{"--max-connections", "MIVO_TALLY_MAX_CONNECTIONS", "0"}),
                          [](const auto& row) { return std::string{row.param.variable}; });
+
+// The least that each takes; only the store, which is away, keeps this from being well.
+TEST(MivoTally, takesTheLeastOfEachLimit) {
+  TallyServer server{"redis://127.0.0.1:1",
+                     {"--max-connections",
+                      "1",
+                      "--max-connections-per-address",
+                      "1",
+                      "--max-handshakes",
+                      "1",
+                      "--max-counters",
+                      "1",
+                      "--max-unsent-megabytes",
+                      "1",
+                      "--request-seconds",
+                      "1",
+                      "--idle-seconds",
+                      "1",
+                      "--drain-seconds",
+                      "1",
+                      "--store-seconds",
+                      "1",
+                      "--log-one-in",
+                      "1"}};
+  EXPECT_EQ((HttpClient{server.port()}.get("/health").status), 503U);
+}
+
+TEST(MivoTally, takesThePasswordOfRedisFromOnePlace) {
+  const tests::TemporaryFolder folder;
+  const auto file = folder.file("password");
+  std::ofstream{file} << "secret\n";
+  const std::string bare = "redis://127.0.0.1:1";
+  const std::string full = "redis://:secret@127.0.0.1:1";
+  const auto said = [](const std::string& store, const std::string& variable, const std::string& passwordFile) {
+    std::vector<std::string> words{"env", "MIVO_TALLY_REDIS_PASSWORD=" + variable, tallyProgram(), "export", "--store",
+                                   store};
+    if (!passwordFile.empty()) words.insert(words.end(), {"--redis-password-file", passwordFile});
+    ChildProcess process{words};
+    process.wait();
+    return process.output();
+  };
+  for (const auto& [store, variable, passwordFile] : std::vector<std::array<std::string, 3>>{
+           {full, "secret", ""}, {full, "", file}, {bare, "secret", file}, {full, "secret", file}})
+    EXPECT_THAT(said(store, variable, passwordFile), testing::HasSubstr("in --redis-password-file: in one"));
+  for (const auto& [store, variable, passwordFile] :
+       std::vector<std::array<std::string, 3>>{{full, "", ""}, {bare, "secret", ""}, {bare, "", file}, {bare, "", ""}})
+    EXPECT_THAT(said(store, variable, passwordFile), testing::HasSubstr("Connection refused"));
+}
 
 TEST(MivoTally, namesItsVersionAndThoseOfItsLibraries) {
   ChildProcess plain{{tallyProgram(), "--version"}};
   EXPECT_EQ(plain.wait(), 0);
   EXPECT_THAT(plain.output(), testing::MatchesRegex("mivo-tally [0-9]+\\.[0-9]+\\.[0-9]+\n"));
+  std::string boost = BOOST_LIB_VERSION;  // "1_74"
+  std::ranges::replace(boost, '_', '.');
   ChildProcess verbose{{tallyProgram(), "--version", "--verbose"}};
   EXPECT_EQ(verbose.wait(), 0);
   EXPECT_THAT(verbose.output(),
-              testing::MatchesRegex("mivo-tally [0-9.]+\n  Boost 1[0-9.]+\n  CLI11 2[0-9.]+\n  hiredis [0-9.]+\n"
+              testing::MatchesRegex("mivo-tally [0-9.]+\n  Boost " + boost +
+                                    "\\.[0-9]+\n  CLI11 2[0-9.]+\n  hiredis [0-9.]+\n"
                                     "  nlohmann-json 3[0-9.]+\n  OpenSSL 3[0-9.]+\n  SQLite 3[0-9.]+\n"
                                     "  SQLiteCpp [0-9.]+\n"));
 }

@@ -55,6 +55,27 @@ TEST(LogTest, writesOneObjectALine) {
   EXPECT_TRUE(text.ends_with("\"event\":\"store\",\"text\":\"Redis is there\"}\n"));
 }
 
+TEST(LogTest, writesTheRequestsOfItsLevel) {
+  using Level = LogDetail::Level;
+  const auto written = [](LogDetail detail) {
+    const Pipe pipe;
+    {
+      Log log{pipe.writeEnd(), detail};
+      for (const auto status : {200U, 399U, 400U, 499U, 500U, 503U, 200U}) log.request({"GET", "/", status, {}, {}});
+    }
+    std::string statuses;
+    const auto text = pipe.read();
+    constexpr std::string_view before = "\"status\":";
+    for (auto at = text.find(before); at != std::string::npos; at = text.find(before, at + 1))
+      statuses += text.substr(at + before.size(), 3) + (text[text.find('}', at) - 1] == '2' ? "* " : " ");
+    return statuses;
+  };
+  EXPECT_EQ(written({Level::info, 1}), "200 399 400 499 500 503 200 ");
+  EXPECT_EQ(written({Level::info, 2}), "399* 400 499 500 503 ") << "* says that it is one of two";
+  EXPECT_EQ(written({Level::warning, 1}), "400 499 500 503 ");
+  EXPECT_EQ(written({Level::error, 1}), "500 503 ");
+}
+
 // The pipe holds 64 KB and nobody reads: the caller goes on, and hears later what was left out. There are 20 MB of
 // lines: at most eight are under way when as many wait.
 TEST(LogTest, neverWaitsForAReader) {

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/support/TemporaryFolder.h"
+#include "tests/tally_support/DamagedPage.h"
 #include "tests/tally_support/Eventually.h"
 #include "tests/tally_support/HttpClient.h"
 #include "tests/tally_support/TallyServer.h"
@@ -70,6 +71,48 @@ TEST_F(StoreTrouble, aFullDiskIsKnownBeforeTheFirstVote) {
   HttpClient client{second.port()};
   EXPECT_EQ(client.get("/health").status, 503U);
   EXPECT_EQ(countOf(client.get("/get/a/feature1")), votes);
+}
+
+// Root may write every file, unless it leaves that right behind.
+TEST_F(StoreTrouble, aFileThatMayNotBeWrittenIsKnownBeforeTheFirstVote) {
+  EXPECT_EQ((HttpClient{TallyServer{store}.port()}.get("/add/a/feature1?delta=1").status), 200U);
+  std::filesystem::permissions(file, std::filesystem::perms::owner_read);
+  TallyServer server{
+      store,
+      {},
+      {"sh", "-c", R"sh([ "$(id -u)" = 0 ] && exec setpriv --bounding-set=-dac_override "$@"; exec "$@")sh", "sh"}};
+  HttpClient client{server.port()};
+  EXPECT_EQ(client.get("/health").status, 503U);
+  EXPECT_EQ(client.get("/add/a/feature1?delta=1").status, 503U);
+  EXPECT_EQ(countOf(client.get("/get/a/feature1")), 1);
+  EXPECT_THAT(server.process().output(), testing::HasSubstr("votes cannot be kept: " + file));
+}
+
+TEST_F(StoreTrouble, aDamagedPageIsSaidAtTheStartAndTheRestIsServed) {
+  constexpr int counters = 1000;
+  {
+    SQLite::Database database{file, SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE};
+    database.exec("CREATE TABLE counter (name TEXT PRIMARY KEY, value INTEGER NOT NULL) STRICT, WITHOUT ROWID");
+    database.exec("PRAGMA user_version = 1");
+    SQLite::Statement insert{database, "INSERT INTO counter VALUES ('a/feature' || ?1, ?1)"};
+    SQLite::Transaction together{database};
+    for (int i = 0; i < counters; ++i) {
+      insert.bind(1, 10'000 + i);
+      insert.exec();
+      insert.reset();
+    }
+    together.commit();
+  }
+  damagePageWith(file, "a/feature10999");
+  TallyServer server{store};
+  server.process().waitForLine(file + ": a part cannot be read, restore a backup: ");
+  HttpClient client{server.port()};
+  EXPECT_THAT(client.get("/metrics").body, testing::HasSubstr("mivo_tally_store_damaged 1\n"));
+  EXPECT_EQ(client.get("/health").status, 200U);
+  EXPECT_EQ(client.get("/get/a/feature10999").status, 503U);
+  EXPECT_EQ(client.get("/add/a/feature10999?delta=1").status, 503U);
+  EXPECT_EQ(countOf(client.get("/get/a/feature10000")), 10'000);
+  EXPECT_EQ(countOf(client.get("/add/a/feature10000?delta=1")), 10'001);
 }
 
 }  // namespace

@@ -12,6 +12,7 @@
 #include "tally/store/FileLock.h"
 #include "tally/store/SqliteStore.h"
 #include "tests/support/TemporaryFolder.h"
+#include "tests/tally_support/DamagedPage.h"
 
 namespace mivo::tally {
 namespace {
@@ -127,18 +128,6 @@ TEST_F(SqliteCountersTest, knowsWhetherAnotherWrote) {
   EXPECT_FALSE(counters.wasChangedByOthers());
 }
 
-// Overwrites the page that holds the text, in a file that nobody has open.
-void damagePageWith(const std::string& file, std::string_view text) {
-  constexpr std::size_t pageSize = 4096;
-  std::fstream bytes{file, std::ios::in | std::ios::out | std::ios::binary};
-  const std::string all{std::istreambuf_iterator<char>{bytes}, {}};
-  const auto found = all.find(text);
-  ASSERT_NE(found, std::string::npos);
-  bytes.clear();
-  bytes.seekp(static_cast<std::streamoff>(found / pageSize * pageSize));
-  bytes << std::string(pageSize, '\xff');
-}
-
 TEST(DamagedDatabase, losesOnlyWhatLiesOnTheDamagedPage) {
   const tests::TemporaryFolder folder;
   const auto file = folder.file("tally.sqlite");
@@ -146,7 +135,7 @@ TEST(DamagedDatabase, losesOnlyWhatLiesOnTheDamagedPage) {
   std::vector<Change> changes;
   for (int i = 0; i < counters; ++i) changes.push_back({"a/feature" + std::to_string(10'000 + i), 0, i});
   SqliteCounters{file, SqliteCounters::Access::readWrite}.set(changes);
-  damagePageWith(file, changes.back().counter);
+  test::damagePageWith(file, changes.back().counter);
 
   SqliteCounters damaged{file, SqliteCounters::Access::readWrite};
   EXPECT_NE(damaged.damage(), "");
