@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
+#include <array>
 #include <functional>
 #include <memory>
 #include <string>
@@ -43,10 +44,13 @@ class Stream {
 
   /// Hands over what the kernel takes without waiting, and says how much that was; nothing under TLS. The socket must
   /// be non-blocking.
-  template <class Buffers>
-  std::size_t writeNow(const Buffers& buffers, error_code& error) {
+  std::size_t writeNow(const std::array<asio::const_buffer, 2>& buffers, error_code& error) {
     if (isSecure()) return 0;
-    const auto taken = std::get<tcp::socket>(either).write_some(buffers, error);
+    auto& plain = std::get<tcp::socket>(either);
+    // One buffer takes a cheaper call of the kernel than two.
+    const bool isOne = buffers.back().size() == 0;
+    const auto taken =
+        isOne ? plain.write_some(asio::const_buffer{buffers.front()}, error) : plain.write_some(buffers, error);
     if (error == asio::error::would_block) error = {};
     return taken;
   }

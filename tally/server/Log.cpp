@@ -46,10 +46,10 @@ void appendText(std::string& out, std::string_view name, std::string_view text) 
 // So much a pipe that is ready takes without blocking.
 constexpr std::size_t pieceSize = 4096;
 
-// The number of bytes that were taken, or -1 and errno. A socket may be ready for less than a piece.
-ssize_t writePiece(int descriptor, std::string_view piece) {
-  const auto sent = ::send(descriptor, piece.data(), piece.size(), MSG_DONTWAIT | MSG_NOSIGNAL);
-  return sent < 0 && errno == ENOTSOCK ? ::write(descriptor, piece.data(), piece.size()) : sent;
+bool isASocket(int descriptor) {
+  int type = 0;
+  socklen_t size = sizeof type;
+  return ::getsockopt(descriptor, SOL_SOCKET, SO_TYPE, &type, &size) == 0;
 }
 
 bool isWritable(int descriptor, std::chrono::milliseconds patience) {
@@ -60,7 +60,10 @@ bool isWritable(int descriptor, std::chrono::milliseconds patience) {
 }  // namespace
 
 Log::Log(int output, LogDetail wanted)
-    : descriptor(output), detail(wanted), writer([this](const std::stop_token& stop) { write(stop); }) {}
+    : descriptor(output),
+      isSocket(isASocket(output)),
+      detail(wanted),
+      writer([this](const std::stop_token& stop) { write(stop); }) {}
 
 Log::~Log() = default;
 
@@ -136,6 +139,12 @@ std::string Log::take(const std::stop_token& stop) {
   return text;
 }
 
+// The number of bytes that were taken, or -1 and errno. A socket may be ready for less than a piece.
+ssize_t Log::writePiece(std::string_view piece) const {
+  if (isSocket) return ::send(descriptor, piece.data(), piece.size(), MSG_DONTWAIT | MSG_NOSIGNAL);
+  return ::write(descriptor, piece.data(), piece.size());
+}
+
 // A reader that stopped reading must not keep the server from ending, nor may one whose end does not block lose lines.
 bool Log::writeOut(const std::stop_token& stop, std::string_view text) {
   constexpr std::chrono::milliseconds look{50};
@@ -146,7 +155,7 @@ bool Log::writeOut(const std::stop_token& stop, std::string_view text) {
       if (stop.stop_requested()) patienceLeft -= look;
       continue;
     }
-    const auto written = writePiece(descriptor, text.substr(0, pieceSize));
+    const auto written = writePiece(text.substr(0, pieceSize));
     if (written < 0 && (errno == EINTR || errno == EAGAIN || errno == EWOULDBLOCK)) continue;
     if (written < 0) break;  // there is nobody left to tell
     text.remove_prefix(static_cast<std::size_t>(written));

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
+#include <sys/types.h>
+
 #include <atomic>
 #include <chrono>
 #include <condition_variable>
@@ -53,8 +55,10 @@ class Log {
   void write(const std::stop_token& stop);
   std::string take(const std::stop_token& stop);
   bool writeOut(const std::stop_token& stop, std::string_view text);
+  ssize_t writePiece(std::string_view piece) const;
 
   int descriptor;
+  bool isSocket;
   LogDetail detail;
   unsigned passedOver = 0;  // requests that went well, since the last that was logged
   DateTexts dates;
