@@ -3,10 +3,10 @@ add_library(mivo_warnings INTERFACE)
 target_compile_options(mivo_warnings INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion)
 if(CMAKE_CXX_COMPILER_ID STREQUAL GNU AND (MIVO_SANITIZE OR NOT CMAKE_BUILD_TYPE STREQUAL "Debug"))
   # As soon as it optimises, GCC 12 and 14 take variants and optionals that are copied or moved for uninitialised, and
-  # GCC 12 takes `"a" + text` for a copy onto itself, and `text + "a"` for one beyond the text's end.
+  # GCC 12 takes `"a" + text` for a copy onto itself.
   target_compile_options(mivo_warnings INTERFACE -Wno-maybe-uninitialized)
   if(CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
-    target_compile_options(mivo_warnings INTERFACE -Wno-restrict -Wno-array-bounds)
+    target_compile_options(mivo_warnings INTERFACE -Wno-restrict)
   endif()
 endif()
 if(CMAKE_CXX_COMPILER_ID MATCHES Clang)

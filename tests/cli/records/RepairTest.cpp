@@ -29,7 +29,7 @@ class Repair : public testing::Test {
   Workplace place;
 };
 
-constexpr const char* trimmed =
+const std::string trimmed =
     "- 3000  28 Feb 2026, 11:00 to 1 Mar 2026, 02:00, 15h 0m, goal 16h\n"
     "+ 3000  28 Feb 2026, 12:00 to 1 Mar 2026, 02:00, 14h 0m, goal 16h\n";
 
@@ -40,16 +40,16 @@ TEST_F(Repair, saysWhatItWouldChangeAndThenDoesIt) {
 
   const Ran ran = run("repair");
   EXPECT_EQ(ran.status, 0) << ran.errors;
-  EXPECT_EQ(ran.output, std::string{trimmed} + "Overlapping fasts fixed (mivo undo takes it back)\n");
+  EXPECT_EQ(ran.output, trimmed + "Overlapping fasts fixed (mivo undo takes it back)\n");
   EXPECT_EQ(fasts(), (std::vector{fast(1, 0, 16), fast(3, 16, 30), fast(4, 40, 50)}));
   EXPECT_EQ(run("repair").output, "No fasts overlap.\n");
-  EXPECT_EQ(run("undo").output, "As before: " + std::string{trimmed}.substr(2, std::string{trimmed}.find('\n') - 1));
+  EXPECT_EQ(run("undo").output, "As before: " + trimmed.substr(2, trimmed.find('\n') - 1));
   EXPECT_EQ(fasts(), before);
 }
 
 TEST_F(Repair, makesOneOfTwoThatShareHalfOfTheirTime) {
   host::Database{place.file("d")}.apply(host::adding(fast(5, 42, 52)));
-  EXPECT_EQ(run("repair --dry-run").output, std::string{trimmed} +
+  EXPECT_EQ(run("repair --dry-run").output, trimmed +
                                                 "- 4000  1 Mar 2026, 12:00 to 1 Mar 2026, 22:00, 10h 0m, goal 16h\n"
                                                 "+ 4000  1 Mar 2026, 12:00 to 2 Mar 2026, 00:00, 12h 0m, goal 16h\n"
                                                 "- 5000  1 Mar 2026, 14:00 to 2 Mar 2026, 00:00, 10h 0m, goal 16h\n");
