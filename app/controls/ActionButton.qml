@@ -65,7 +65,7 @@ T.Button {
 
         readonly property real iconRoom: root.iconName !== "" ? Theme.iconSize + row.spacing : 0
 
-        implicitWidth: iconRoom + words.implicitWidth
+        implicitWidth: iconRoom + words.lineWidth
         implicitHeight: row.implicitHeight
 
         Row {
@@ -80,9 +80,9 @@ T.Button {
                 anchors.verticalCenter: parent.verticalCenter
             }
 
-            StyledText {
+            MeasuredText {
                 id: words
-                width: Math.min(implicitWidth, face.width - face.iconRoom)
+                width: Math.min(lineWidth, face.width - face.iconRoom)
                 horizontalAlignment: Text.AlignHCenter
                 text: root.text
                 style: root.large ? Theme.buttonLargeText : Theme.buttonText

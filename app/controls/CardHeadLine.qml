@@ -16,29 +16,29 @@ Item {
     /// Room that something before the title takes.
     property real indent: 0
 
-    readonly property bool stacked: Theme.textScale >= 1.3 || titleText.implicitWidth + indent + 12 + detailText.implicitWidth > width
+    readonly property bool stacked: Theme.textScale >= 1.3 || titleText.lineWidth + indent + 12 + detailText.lineWidth > width
     readonly property alias titleHeight: titleText.height
 
     implicitHeight: stacked && detail !== "" ? titleText.height + detailText.height : titleText.height
     height: implicitHeight
 
-    StyledText {
+    MeasuredText {
         id: titleText
         anchors.left: parent.left
         anchors.leftMargin: root.indent
-        width: Math.min(implicitWidth, root.width - root.indent)
+        width: Math.min(lineWidth, root.width - root.indent)
         text: root.title
         style: root.titleStyle
     }
 
-    StyledText {
+    MeasuredText {
         id: detailText
         visible: root.detail !== ""
         readonly property real fromLeading: root.stacked ? 0 : root.width - width
 
         x: LayoutMirroring.enabled ? root.width - width - fromLeading : fromLeading
         y: root.stacked ? titleText.height : titleText.baselineOffset - baselineOffset
-        width: root.stacked ? root.width : implicitWidth
+        width: root.stacked ? root.width : lineWidth
         text: root.detail
         style: root.detailStyle
         color: root.detailColor

@@ -41,10 +41,10 @@ FocusScope {
             onClicked: root.back()
         }
 
-        StyledText {
+        MeasuredText {
             id: titleText
             anchors.centerIn: parent
-            width: Math.min(implicitWidth, parent.width - 2 * (Theme.touchSize + 12))
+            width: Math.min(lineWidth, parent.width - 2 * (Theme.touchSize + 12))
             horizontalAlignment: Text.AlignHCenter
             text: root.title
             style: Theme.headlineText

@@ -12,8 +12,8 @@ Item {
     property string accent
     readonly property real indent: iconName !== "" ? icon.width + 12 : accent !== "" ? swatch.width + 12 : 0
     /// What it needs to stand in one line, without the quieter word and with it.
-    readonly property real nameWidth: indent + label.implicitWidth
-    readonly property real wholeWidth: nameWidth + (detail === "" ? 0 : words.spacing + detailText.implicitWidth)
+    readonly property real nameWidth: indent + label.lineWidth
+    readonly property real wholeWidth: nameWidth + (detail === "" ? 0 : words.spacing + detailText.lineWidth)
 
     implicitHeight: words.height
 
@@ -43,9 +43,9 @@ Item {
         anchors.right: parent.right
         spacing: 6
 
-        StyledText {
+        MeasuredText {
             id: label
-            width: Math.min(implicitWidth, words.width)
+            width: Math.min(lineWidth, words.width)
             text: root.text
         }
 
@@ -54,10 +54,10 @@ Item {
             width: detailText.width
             height: detailText.y + detailText.height
 
-            StyledText {
+            MeasuredText {
                 id: detailText
                 y: label.baselineOffset - baselineOffset
-                width: Math.min(implicitWidth, words.width)
+                width: Math.min(lineWidth, words.width)
                 text: root.detail
                 style: Theme.labelText
                 color: Theme.inkSecondary

@@ -3,7 +3,7 @@
 import QtQuick
 import Mivo
 
-StyledText {
+MeasuredText {
     id: root
 
     required property real room

@@ -49,7 +49,7 @@ Item {
 
             WholeWordsText {
                 room: root.room - 40
-                width: Math.min(implicitWidth, room)
+                width: Math.min(lineWidth, room)
                 text: App.fasting.zoneName
                 style: Theme.bodyStrongText
                 mostScale: root.textLimit

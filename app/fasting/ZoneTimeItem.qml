@@ -15,7 +15,7 @@ Item {
     /// Of all, and the width of one; 0 where each is as wide as it needs.
     required property int columns
     required property real columnWidth
-    readonly property real naturalWidth: Math.max(Theme.swatchSize + 6 + Math.ceil(heading.implicitWidth), number.implicitWidth)
+    readonly property real naturalWidth: Math.max(Theme.swatchSize + 6 + heading.lineWidth, number.implicitWidth)
     readonly property real rest: width - texts.width
     // The first column stands at the leading edge, the last one at the trailing edge.
     readonly property real fromLeading: columns > 1 ? rest * (index % columns) / (columns - 1) : 0
@@ -40,10 +40,10 @@ Item {
                 color: Theme.accentOf(root.zone).fill
             }
 
-            StyledText {
+            MeasuredText {
                 id: heading
                 text: root.name
-                width: Math.min(Math.ceil(implicitWidth), root.width - Theme.swatchSize - 6)
+                width: Math.min(lineWidth, root.width - Theme.swatchSize - 6)
                 style: Theme.captionText
                 font.weight: root.isPresent ? 600 : 400
                 color: root.isPresent ? Theme.ink : Theme.inkSecondary

@@ -31,11 +31,11 @@ Item {
         color: Theme.card
     }
 
-    StyledText {
+    MeasuredText {
         id: label
         anchors.horizontalCenter: parent.horizontalCenter
         y: Math.max(12, 48 - height / 2)
-        width: Math.min(implicitWidth, root.width - 48)
+        width: Math.min(lineWidth, root.width - 48)
         horizontalAlignment: Text.AlignHCenter
         text: root.text
         style: Theme.labelText

@@ -55,6 +55,7 @@ FocusScope {
             width: root.width - 2 * x
 
             Item {
+                id: head
                 width: parent.width
                 height: Math.max(Theme.titleBarSize, title.height + 24)
 
@@ -72,8 +73,9 @@ FocusScope {
                     model: root.wide && App.screen.timeRange !== null ? 1 : 0
 
                     delegate: TimeRangeRow {
-                        anchors.right: parent.right
-                        anchors.verticalCenter: parent.verticalCenter
+                        // Not by anchors: it has no parent any more while it goes.
+                        x: LayoutMirroring.enabled ? 0 : head.width - width
+                        y: (head.height - height) / 2
                         card: App.screen.timeRange
                         maxWidth: column.width - title.width - 24
                         onChosen: index => App.chooseTimeRange(index)

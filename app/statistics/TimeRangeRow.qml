@@ -18,9 +18,9 @@ Row {
     Column {
         anchors.verticalCenter: parent.verticalCenter
 
-        StyledText {
+        MeasuredText {
             anchors.right: parent.right
-            width: Math.min(implicitWidth, root.textRoom)
+            width: Math.min(lineWidth, root.textRoom)
             horizontalAlignment: Text.AlignRight
             text: root.card.title
             style: Theme.bodyStrongText
@@ -28,9 +28,9 @@ Row {
             Accessible.name: text
         }
 
-        StyledText {
+        MeasuredText {
             anchors.right: parent.right
-            width: Math.min(implicitWidth, root.textRoom)
+            width: Math.min(lineWidth, root.textRoom)
             horizontalAlignment: Text.AlignRight
             text: root.card.prompt
             style: Theme.labelText

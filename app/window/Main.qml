@@ -127,7 +127,7 @@ Window {
                 id: fasting
                 anchors.fill: parent
                 visible: root.tab === "fasting"
-                active: visible || status === Loader.Ready
+                active: root.tab === "fasting" || status === Loader.Ready // also below a page that covers it
                 focus: visible
                 sourceComponent: FastingPage { focus: true }
             }
@@ -157,7 +157,7 @@ Window {
                 id: settings
                 anchors.fill: parent
                 visible: root.tab === "settings"
-                active: visible || status === Loader.Ready
+                active: root.tab === "settings" || status === Loader.Ready // also below a page that covers it
                 focus: visible
                 sourceComponent: SettingsPage { focus: true }
             }

@@ -18,11 +18,20 @@ QQuickItem* findBelow(QQuickItem* item, const std::function<bool(const QQuickIte
   return nullptr;
 }
 
+Environment environmentWith(const Options& options, const Client<DateGenerator>& clock) {
+  Environment made = makeEnvironment(options).value();
+  if (!clock) return made;
+  const auto clients = std::make_shared<Dependencies>(*made.dependencies);
+  clients->date = clock;
+  made.dependencies = clients;
+  return made;
+}
+
 }  // namespace
 
-ShownApp::ShownApp(const Options& wanted, QSize size)
+ShownApp::ShownApp(const Options& wanted, QSize size, const Client<DateGenerator>& clock)
     : options{wanted},
-      environment{makeEnvironment(options).value()},
+      environment{environmentWith(options, clock)},
       scope{environment.dependencies},
       app{environment, options, size} {
   settle(window());

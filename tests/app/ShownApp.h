@@ -12,10 +12,11 @@
 
 namespace mivo::app {
 
-/// The app in a window that nobody sees, to be driven with clicks and keys. Nothing in it moves.
+/// The app in a window that nobody sees, to be driven with clicks and keys. Nothing in it moves where the options ask
+/// for a picture. A clock goes before that of the options.
 class ShownApp {
  public:
-  explicit ShownApp(const Options& wanted, QSize size = {390, 844});
+  explicit ShownApp(const Options& wanted, QSize size = {390, 844}, const Client<DateGenerator>& clock = nullptr);
 
   /// A sample at noon of 1 March 2026 in Berlin, in British English; the clock stands still.
   static Options optionsFor(const std::string& sample);
