@@ -23,7 +23,7 @@ Sheet {
             id: kind
             required property donationKind modelData
 
-            width: parent.width
+            width: parent ? parent.width : 0
             spacing: 8
 
             StyledText {

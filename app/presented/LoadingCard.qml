@@ -7,6 +7,7 @@ Card {
     id: root
 
     Item {
+        id: lines
         width: parent.width
         height: 76
 
@@ -17,9 +18,10 @@ Card {
                 required property int index
                 required property real modelData
 
-                anchors.left: parent.left
+                // Not by the parent: it has none any more while it goes.
+                x: LayoutMirroring.enabled ? lines.width - width : 0
                 y: 8 + index * 24
-                width: parent.width * modelData
+                width: lines.width * modelData
                 height: 12
                 radius: 6
                 color: Theme.fill

@@ -5,6 +5,10 @@
 #include <QtGui/QWheelEvent>
 #include <QtTest/QTest>
 
+#include <array>
+#include <map>
+
+#include "host/app/Settings.h"
 #include "tests/app/ShownApp.h"
 
 namespace mivo::app {
@@ -179,6 +183,86 @@ TEST(Pages, goToAMonthOfTheHistory) {
   });
   ASSERT_NE(row, nullptr);
   EXPECT_NEAR(row->mapToScene({0, 0}).y(), 0, 1) << "the latest fast of the month is the first that is seen";
+}
+
+constexpr std::array<const char*, 26> screens{
+    "statistics",   "badges",      "milestones", "streaks",  "roadmap",   "feedback", "donations",
+    "overlaps",     "goalWeight",  "date",       "table",    "fasting",   "editFast", "addFast",
+    "fastGoal",     "fastStart",   "months",     "fastMenu", "settings",  "cards",    "about",
+    "firstWeekday", "defaultGoal", "weightUnit", "language", "appearance"};
+
+/// Nothing where none is open.
+const QQuickItem* openSheet(ShownApp& app) {
+  return app.find([](const QQuickItem* item) { return item->inherits("QQuickPopupItem"); });
+}
+
+/// The texts of the sheet that is open; of the page where none is.
+QStringList seenTexts(ShownApp& app) {
+  QStringList texts;
+  const QQuickItem* sheet = openSheet(app);
+  app.find([&](const QQuickItem* item) {
+    const bool isIn = !sheet || sheet->isAncestorOf(item);
+    if (isIn && item->inherits("QQuickText")) texts.append(item->property("text").toString());
+    return false;
+  });
+  return texts;
+}
+
+// With motion: a sheet that was moved away has to come back. A window that changes its size does not hold it up.
+TEST(Screens, openAgainAndAfterEachOther) {
+  Options options = ShownApp::optionsFor(threeWeeks);
+  options.picture = "";
+  options.tab = "statistics";
+  ShownApp app{options};
+  const auto present = [&](const char* screen) {
+    QMetaObject::invokeMethod(&app.window(), "present", Q_ARG(QString, QString::fromLatin1(screen)));
+    settle(app.window());
+  };
+  std::map<std::string, QStringList> first;
+  for (const std::size_t step : {1U, 7U, 11U}) {  // none divides the number of screens, so each comes once a round
+    for (std::size_t count = 0; count < screens.size(); ++count) {
+      const char* screen = screens[count * step % screens.size()];
+      SCOPED_TRACE(screen);
+      if (step == 7) app.window().resize(900, 700);
+      present(screen);
+      if (step == 7) app.window().resize(390, 844);
+      settle(app.window());
+      const QRectF window{0, 0, app.window().width() + 1.0, app.window().height() + 1.0};
+      const QQuickItem* sheet = openSheet(app);
+      EXPECT_TRUE(!sheet || window.contains(sheet->mapRectToScene({0, 0, sheet->width(), sheet->height()})));
+      const auto [known, isNew] = first.emplace(screen, seenTexts(app));
+      EXPECT_EQ(seenTexts(app).size(), known->second.size()) << "it shows what it showed the first time";
+    }
+  }
+}
+
+TEST(Fields, takeWhateverIsTypedAndSaveNothingWrong) {
+  for (const char* screen :
+       {"statistics", "goalWeight", "fastGoal", "defaultGoal", "editFast", "addFast", "feedback"}) {
+    SCOPED_TRACE(screen);
+    Options options = ShownApp::optionsFor(threeWeeks);
+    options.screen = screen;
+    ShownApp app{options, {390, 1400}};
+    const auto before = app.environment.history->load();
+    const double goal = host::goalWeight(*app.environment.dependencies->userDefaults).value_or(0);
+    std::vector<QQuickItem*> fields;
+    app.find([&](const QQuickItem* item) {
+      if (item->inherits("QQuickTextInput")) fields.push_back(const_cast<QQuickItem*>(item));
+      return false;
+    });
+    for (QQuickItem* field : fields)
+      for (const QString& text : {QStringLiteral("abc"), QStringLiteral("-1"), QString{60, QLatin1Char{'9'}},
+                                  QStringLiteral("7.2.4"), QStringLiteral("0:60")}) {
+        field->forceActiveFocus();
+        app.key(Qt::Key_A, Qt::ControlModifier);
+        app.type(text);
+        app.key(Qt::Key_Return);
+      }
+    const auto after = app.environment.history->load();
+    EXPECT_EQ(after.fasts, before.fasts);
+    EXPECT_EQ(after.weights, before.weights);
+    EXPECT_EQ(host::goalWeight(*app.environment.dependencies->userDefaults).value_or(0), goal);
+  }
 }
 
 }  // namespace
