@@ -12,7 +12,7 @@ Flickable {
     /// A held finger drags the selection instead of the chart.
     property bool selectsWhileHeld: false
 
-    readonly property real scroll: rightToLeft ? maxScroll - contentX : contentX
+    readonly property alias scroll: followed.scroll
     readonly property real maxScroll: Math.max(0, contentWidth - width)
 
     signal tapped(real x)
@@ -25,6 +25,20 @@ Flickable {
     contentWidth: Math.max(width, wantedContentWidth)
     contentHeight: height
     interactive: !touch.isHeld
+
+    // No binding: the chart may want another position as soon as it is told of one.
+    function follow() {
+        followed.scroll = rightToLeft ? maxScroll - contentX : contentX;
+    }
+
+    onContentXChanged: follow()
+    onMaxScrollChanged: follow()
+    onRightToLeftChanged: follow()
+
+    QtObject {
+        id: followed
+        property real scroll: 0
+    }
 
     function scrollTo(position: real, animated: bool) {
         const x = rightToLeft ? maxScroll - position : position;

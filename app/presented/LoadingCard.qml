@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // A feature that is not there yet.
+pragma ComponentBehavior: Bound
 import QtQuick
 import Mivo
 
