@@ -23,6 +23,9 @@ class GoalChoiceModel : public QObject {
   Q_PROPERTY(QString customText MEMBER customText NOTIFY titleChanged)
   Q_PROPERTY(bool isTyped MEMBER isTyped NOTIFY isTypedChanged)
   Q_PROPERTY(QString fieldText MEMBER fieldText NOTIFY titleChanged)
+  Q_PROPERTY(QString unit MEMBER unit NOTIFY titleChanged)
+  Q_PROPERTY(QString example MEMBER example NOTIFY titleChanged)
+  Q_PROPERTY(QString hint MEMBER hint NOTIFY problemChanged)
   Q_PROPERTY(QString typed MEMBER typed NOTIFY typedChanged)
   Q_PROPERTY(QString problem MEMBER problem NOTIFY problemChanged)
   Q_PROPERTY(bool canSave MEMBER canSave NOTIFY canSaveChanged)
@@ -59,7 +62,7 @@ class GoalChoiceModel : public QObject {
   host::GoalEntry entry;
   std::string otherProblem;
   RecordRows offered{rolesOf<host::GoalOffer>()};
-  QString title, customText, fieldText, typed, problem, saveLabel;
+  QString title, customText, fieldText, unit, example, hint, typed, problem, saveLabel;
   double seconds = 0;
   bool isTyped = false, canSave = true;
 };

@@ -52,6 +52,10 @@ Rectangle {
             Accessible.name: root.accessibleName
             onTextEdited: root.edited(text)
             onAccepted: root.accepted()
+            onActiveFocusChanged: {
+                if (activeFocus)
+                    selectAll();
+            }
         }
 
         StyledText {
@@ -62,7 +66,15 @@ Rectangle {
         }
     }
 
+    SelectingArea {
+        anchors.left: minus.right
+        anchors.right: plus.left
+        height: parent.height
+        input: input
+    }
+
     IconButton {
+        id: plus
         anchors.right: parent.right
         anchors.verticalCenter: parent.verticalCenter
         iconName: "plus"

@@ -10,6 +10,10 @@ Rectangle {
     property string placeholder
     property string accessibleName: placeholder
     property bool hasProblem: false
+    /// Stands behind the text.
+    property alias unit: unitText.text
+    /// Whoever comes to the field types over what stands there.
+    property bool selectsOnFocus: false
 
     signal accepted
 
@@ -30,8 +34,9 @@ Rectangle {
     TextInput {
         id: input
         anchors.left: parent.left
-        anchors.right: parent.right
-        anchors.margins: 12
+        anchors.leftMargin: 12
+        anchors.right: unitText.left
+        anchors.rightMargin: unitText.text === "" ? 0 : 8
         anchors.verticalCenter: parent.verticalCenter
         font.family: Theme.textFamily
         font.pixelSize: Theme.bodyText.size * Theme.textScale
@@ -45,6 +50,25 @@ Rectangle {
         Accessible.role: Accessible.EditableText
         Accessible.name: root.accessibleName
         onAccepted: root.accepted()
+        onActiveFocusChanged: {
+            if (activeFocus && root.selectsOnFocus)
+                selectAll();
+        }
+    }
+
+    StyledText {
+        id: unitText
+        anchors.right: parent.right
+        anchors.rightMargin: 12
+        anchors.verticalCenter: parent.verticalCenter
+        color: Theme.inkSecondary
+        wrapMode: Text.NoWrap
+    }
+
+    SelectingArea {
+        anchors.fill: parent
+        visible: root.selectsOnFocus && !input.activeFocus
+        input: input
     }
 
     StyledText {

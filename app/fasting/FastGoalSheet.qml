@@ -17,10 +17,16 @@ Sheet {
 
     onAboutToShow: choice.begin(goal)
 
+    function save() {
+        chosen(choice.seconds);
+        close();
+    }
+
     GoalChoice {
         labelled: false
         width: parent.width
         goal: root.choice
+        onAccepted: root.save()
     }
 
     ActionButton {
@@ -28,9 +34,6 @@ Sheet {
         leastHeight: Theme.sheetButtonSize
         enabled: root.choice.canSave
         text: root.choice.saveLabel
-        onClicked: {
-            root.chosen(root.choice.seconds);
-            root.close();
-        }
+        onClicked: root.save()
     }
 }

@@ -83,6 +83,7 @@ Sheet {
     GoalChoice {
         width: parent.width
         goal: root.goal
+        onAccepted: root.draft.save()
     }
 
     Column {

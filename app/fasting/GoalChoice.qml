@@ -10,6 +10,9 @@ Column {
     required property GoalChoiceModel goal
     property bool labelled: true
 
+    /// Enter, while what stands in the field is a goal.
+    signal accepted
+
     spacing: 8
 
     StyledText {
@@ -53,12 +56,28 @@ Column {
         width: parent.width
         hasProblem: root.goal.problem !== ""
         accessibleName: root.goal.fieldText
-        placeholder: root.goal.fieldText
+        placeholder: root.goal.example
+        unit: root.goal.unit
+        selectsOnFocus: true
         text: root.goal.typed
+        onAccepted: {
+            if (root.goal.canSave)
+                root.accepted();
+        }
         onTextChanged: {
             if (text !== root.goal.typed)
                 root.goal.type(text);
         }
+    }
+
+    StyledText {
+        visible: text !== ""
+        width: parent.width
+        text: root.goal.hint
+        style: Theme.captionText
+        color: Theme.inkSecondary
+        Accessible.role: Accessible.StaticText
+        Accessible.name: text
     }
 
     StyledText {

@@ -26,7 +26,8 @@ Sheet {
         width: parent.width
         hasProblem: App.goalSheet.problem !== ""
         accessibleName: root.title
-        placeholder: App.goalSheet.unit
+        unit: App.goalSheet.unit
+        selectsOnFocus: true
         onAccepted: root.save()
     }
 

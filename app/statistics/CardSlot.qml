@@ -88,7 +88,7 @@ Item {
     Component { id: roadmap; TileCard { card: root.card as NoticeCardModel; iconName: "feedback"; onClicked: App.openRoadmap() } }
     Component { id: health; NoticeCard { card: root.card as NoticeCardModel; iconName: "health"; onTapped: App.requestHealthAccess() } }
     Component { id: addWeight; AddWeightCard { card: root.card as NoticeCardModel; entry: App.addWeight; inRow: root.span === 2; onDateTapped: root.dateWanted() } }
-    Component { id: goalWeight; GoalWeightCard { card: root.card as GoalWeightCardModel; onGoalTapped: root.goalWanted() } }
+    Component { id: goalWeight; GoalWeightCard { card: root.card as GoalWeightCardModel; onClicked: root.goalWanted() } }
     Component { id: badges; BadgesCard { card: root.card as BadgesCardModel; onClicked: App.openBadges() } }
     Component { id: timeRange; TimeRangePicker {
             card: root.card as TimeRangeCardModel

@@ -10,8 +10,9 @@
 namespace mivo::host {
 namespace {
 
-constexpr std::array<std::int64_t, 4> usualHours{16, 18, 20, 24};
+constexpr std::array<std::int64_t, 8> usualHours{12, 13, 14, 15, 16, 18, 20, 24};
 constexpr std::int64_t secondsOfAnHour = 3600;
+constexpr double secondsOfTheExample = 48600;
 
 bool isUsual(std::int64_t seconds) {
   return std::ranges::any_of(usualHours, [=](std::int64_t hours) { return hours * secondsOfAnHour == seconds; });
@@ -52,14 +53,20 @@ std::vector<GoalOffer> goalOffers(std::int64_t seconds, const PageClients& clien
 
 GoalChoice composeGoalChoice(const GoalEntry& entry, const std::string& problem, const PageClients& clients) {
   const auto& texts = clients.texts;
+  const std::string example = typedGoal(secondsOfTheExample);
+  const std::string wrong = entry.isUnread ? texts.text("Type up to 168 hours, such as 17 or 16:30.") : problem;
+  const bool hasHint = entry.isTyped && wrong.empty();
   return {.title = texts.text("Goal"),
           .seconds = static_cast<double>(entry.seconds),
           .offers = goalOffers(entry.isTyped ? 0 : entry.seconds, clients),
           .customText = texts.text("Custom"),
           .isTyped = entry.isTyped,
           .fieldText = texts.text("Goal in hours"),
+          .unit = texts.text("h"),
+          .example = example,
+          .hint = hasHint ? filledIn(texts.text("Hours, or hours and minutes, such as {1}."), {example}) : "",
           .typed = entry.typed,
-          .problem = entry.isUnread ? texts.text("Type up to 168 hours, such as 17 or 16:30.") : problem,
+          .problem = wrong,
           .canSave = !entry.isUnread,
           .saveLabel = texts.text("Save")};
 }

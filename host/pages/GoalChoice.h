@@ -59,6 +59,9 @@ struct GoalChoice {
   std::string customText;  ///< "Custom"
   bool isTyped = false;    ///< the field is there
   std::string fieldText;   ///< "Goal in hours"
+  std::string unit;        ///< "h", behind what is typed
+  std::string example;     ///< "13:30", where nothing is typed yet
+  std::string hint;        ///< how a goal is typed; none beside a problem, and without the field
   std::string typed;       ///< "16:30"
   std::string problem;     ///< what is wrong with the goal, in a sentence
   bool canSave = false;
@@ -68,13 +71,17 @@ struct GoalChoice {
 
 template <RecordOf<GoalChoice> Listed, class Visit>
 void fields(Listed& record, Visit&& visit) {
-  auto& [title, seconds, offers, customText, isTyped, fieldText, typed, problem, canSave, saveLabel] = record;
+  auto& [title, seconds, offers, customText, isTyped, fieldText, unit, example, hint, typed, problem, canSave,
+         saveLabel] = record;
   visit("title", title);
   visit("seconds", seconds);
   visit("offers", offers);
   visit("customText", customText);
   visit("isTyped", isTyped);
   visit("fieldText", fieldText);
+  visit("unit", unit);
+  visit("example", example);
+  visit("hint", hint);
   visit("typed", typed);
   visit("problem", problem);
   visit("canSave", canSave);

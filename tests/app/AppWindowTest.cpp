@@ -180,6 +180,45 @@ TEST(AppWindow, logsAWeightOnceAndTakesItBack) {
   EXPECT_EQ(shown.environment.history->load().weights.size(), before) << "on disk";
 }
 
+TEST(AppWindow, typesAWeightOverTheOneThatIsClicked) {
+  Shown shown{threeWeeks};
+  QQuickItem* field = shown.ofType("NumberField");
+  ASSERT_NE(field, nullptr);
+  shown.click(field);
+  shown.type("1804");
+  shown.key(Qt::Key_Return);
+  EXPECT_NE(shown.text("Type up to 700 kg or 1543 lb, such as 81.4."), nullptr);
+  shown.click(field, {field->width() / 2 - 60, field->height() / 2});
+  shown.key(Qt::Key_Backspace);
+  EXPECT_EQ(field->property("text").toString().size(), 3) << "a second click only moves the caret";
+  field->parentItem()->forceActiveFocus();
+  shown.click(field, {60, field->height() / 2});
+  shown.type("80.4kg");
+  shown.key(Qt::Key_Return);
+  EXPECT_TRUE(eventually([&] { return *shown.statistics().stats.currentWeightInKg == 80.4; }));
+}
+
+TEST(AppWindow, opensTheGoalWeightFromItsCard) {
+  Shown shown{threeWeeks};
+  const auto& goal = shown.statistics().goalWeightCardState.goalInKg;
+  const auto typeGoal = [&](const char* typed) {
+    QQuickItem* card = shown.ofType("GoalWeightCard");
+    shown.click(card, {card->width() / 3, 24});
+    shown.type(QString::fromLatin1(typed));
+    shown.key(Qt::Key_Return);
+  };
+  typeGoal("68kg");
+  EXPECT_EQ(*goal, 68);
+  typeGoal("67.5kg");
+  EXPECT_EQ(*goal, 67.5) << "what stood there was selected";
+  QQuickItem* card = shown.ofType("GoalWeightCard");
+  card->forceActiveFocus();
+  shown.key(Qt::Key_Space);
+  shown.type("66kg");
+  shown.key(Qt::Key_Return);
+  EXPECT_EQ(*goal, 66) << "by keys alone";
+}
+
 TEST(AppWindow, fixesOverlapsOnConfirmationAndUndoesIt) {
   const tests::TemporaryFolder folder;
   const std::string sample = (folder.path / "overlapping.json").string();

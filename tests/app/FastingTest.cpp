@@ -126,7 +126,6 @@ TEST_F(Fasting, editsAFastAndKeepsWhatWasNotTouched) {
   clickField("End");
   turn("Hour", -2);
   click("Custom");
-  QTest::keyClick(&app->window(), Qt::Key_A, Qt::ControlModifier);
   app->type("17:30");
   click("Save");
   ASSERT_TRUE(eventually([&] { return onDisk()[2] != before; }));
@@ -137,6 +136,39 @@ TEST_F(Fasting, editsAFastAndKeepsWhatWasNotTouched) {
   settle(app->window());
   EXPECT_EQ(app->text("Edit fast"), nullptr) << "the sheet closes";
   EXPECT_NE(app->text("17h 30m goal"), nullptr);
+}
+
+TEST_F(Fasting, takesATypedGoalOverTheOldOneByEnter) {
+  show(three);
+  clickField("Goal");
+  click("Custom");
+  app->type("13:30");
+  EXPECT_NE(app->text("h"), nullptr) << "its unit stands beside it";
+  app->key(Qt::Key_Return);
+  EXPECT_EQ(app->text("Custom"), nullptr) << "the sheet closes";
+  EXPECT_EQ(*app->state().nextGoalSeconds, 48600);
+
+  clickField("Goal");
+  ASSERT_NE(app->ofType("TextField"), nullptr) << "it is none of the usual ones";
+  app->type("169");
+  app->key(Qt::Key_Return);
+  EXPECT_NE(app->text("Type up to 168 hours, such as 17 or 16:30."), nullptr);
+  app->key(Qt::Key_Backspace);
+  app->key(Qt::Key_Return);
+  EXPECT_EQ(*app->state().nextGoalSeconds, 57600) << "what stood there was selected";
+}
+
+TEST_F(Fasting, savesAFastByEnterInItsGoal) {
+  show(three);
+  clickRow(0);
+  click("Custom");
+  app->type("17");
+  app->key(Qt::Key_Enter);
+  ASSERT_TRUE(eventually([&] { return onDisk()[2].fast.goalSeconds == 61200; }));
+  settle(app->window());
+  EXPECT_EQ(app->text("Edit fast"), nullptr) << "the sheet closes";
+  click("Undo");
+  EXPECT_TRUE(eventually([&] { return onDisk()[2].fast.goalSeconds == 57600; }));
 }
 
 TEST_F(Fasting, removesAtOnceAndBringsBack) {

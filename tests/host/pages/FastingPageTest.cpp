@@ -133,8 +133,9 @@ TEST(FastingPage, offersTheUsualGoals) {
     for (const GoalOffer& offer : page.goals) all += offer.text + (offer.isChosen ? "! " : " ");
     return all;
   };
-  EXPECT_EQ(chosen(pageOf({running("2026-03-01 06:48", 18 * hours)}, "2026-03-01 12:00")), "16h 18h! 20h 24h ");
-  EXPECT_EQ(chosen(pageOf({}, "2026-03-01 12:00", 17 * hours)), "16h 18h 20h 24h ");
+  EXPECT_EQ(chosen(pageOf({running("2026-03-01 06:48", 18 * hours)}, "2026-03-01 12:00")),
+            "12h 13h 14h 15h 16h 18h! 20h 24h ");
+  EXPECT_EQ(chosen(pageOf({}, "2026-03-01 12:00", 17 * hours)), "12h 13h 14h 15h 16h 18h 20h 24h ");
 }
 
 TEST(FastingPage, speaksItsTilesWithTheirLabels) {

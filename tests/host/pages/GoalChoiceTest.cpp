@@ -53,12 +53,13 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(ChoiceRow{"usual", sixteen, "16h", false, "16", 57600},
                     ChoiceRow{"unusual", goalEntry(17 * hours), "", true, "17", 61200},
                     ChoiceRow{"none", goalEntry(0), "", true, "0", 0},
-                    ChoiceRow{"another", withUsualGoal(sixteen, 3), "24h", false, "24", 86400},
-                    ChoiceRow{"aPlaceThatIsNone", withUsualGoal(sixteen, 4), "16h", false, "16", 57600},
+                    ChoiceRow{"usualForBeginners", goalEntry(13 * hours), "13h", false, "13", 46800},
+                    ChoiceRow{"another", withUsualGoal(sixteen, 7), "24h", false, "24", 86400},
+                    ChoiceRow{"aPlaceThatIsNone", withUsualGoal(sixteen, 8), "16h", false, "16", 57600},
                     ChoiceRow{"fieldOpens", withFieldOpen(sixteen), "", true, "16", 57600},
                     ChoiceRow{"typed", withTypedGoal(withFieldOpen(sixteen), "16:30"), "", true, "16:30", 59400},
                     ChoiceRow{"typedAsOffered", withTypedGoal(withFieldOpen(sixteen), "18"), "", true, "18", 64800},
-                    ChoiceRow{"pickedAfterNonsense", withUsualGoal(nonsense, 1), "18h", false, "18", 64800},
+                    ChoiceRow{"pickedAfterNonsense", withUsualGoal(nonsense, 5), "18h", false, "18", 64800},
                     ChoiceRow{"fieldOpensAgain", withFieldOpen(nonsense), "", true, "16", 57600}),
     [](const auto& row) { return std::string{row.param.name}; });
 
@@ -70,6 +71,15 @@ TEST(GoalChoice, keepsTheLastGoalWhileNonsenseIsTyped) {
     EXPECT_EQ(choice.typed, text);
     EXPECT_EQ(choice.seconds, 16 * hours);
   }
+}
+
+TEST(GoalChoice, saysHowAGoalIsTyped) {
+  const GoalChoice choice = choiceOf(withFieldOpen(sixteen));
+  EXPECT_EQ(choice.unit, "h");
+  EXPECT_EQ(choice.example, "13:30");
+  EXPECT_EQ(choice.hint, "Hours, or hours and minutes, such as 13:30.");
+  EXPECT_EQ(choiceOf(nonsense).hint, "") << "its problem says more";
+  EXPECT_EQ(choiceOf(sixteen).hint, "") << "nothing is typed";
 }
 
 TEST(GoalChoice, saysWhatElseIsWrongWithTheGoal) {
