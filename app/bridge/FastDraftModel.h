@@ -39,6 +39,9 @@ class FastDraftModel : public QObject {
   Q_PROPERTY(QString overlap MEMBER overlap NOTIFY overlapChanged)
   Q_PROPERTY(qreal goalSeconds MEMBER goalSeconds NOTIFY goalChanged)
   Q_PROPERTY(QString goalProblem MEMBER goalProblem NOTIFY goalChanged)
+  Q_PROPERTY(QString noteLabel MEMBER noteLabel NOTIFY titleChanged)
+  Q_PROPERTY(QString note MEMBER note NOTIFY noteChanged)
+  Q_PROPERTY(QString noteProblem MEMBER noteProblem NOTIFY noteChanged)
   Q_PROPERTY(QString zonesLabel MEMBER zonesLabel NOTIFY titleChanged)
   Q_PROPERTY(mivo::app::RecordRows* zones READ zones CONSTANT)
   Q_PROPERTY(QString failure MEMBER failure NOTIFY failureChanged)
@@ -57,6 +60,7 @@ class FastDraftModel : public QObject {
   Q_INVOKABLE void setStart(double instant) { send(Action::didChangeDraftStart{dateSince1970(instant)}); }
   Q_INVOKABLE void setEnd(double instant) { send(Action::didChangeDraftEnd{dateSince1970(instant)}); }
   Q_INVOKABLE void setGoal(double seconds);
+  Q_INVOKABLE void setNote(const QString& text) { send(Action::didChangeDraftNote{text.toStdString()}); }
   Q_INVOKABLE void save() { send(Action::didTapSaveDraft{}); }
   Q_INVOKABLE void remove();
   Q_INVOKABLE void dismiss() { send(Action::didDismissDraft{}); }
@@ -68,6 +72,7 @@ class FastDraftModel : public QObject {
   void lengthChanged();
   void overlapChanged();
   void goalChanged();
+  void noteChanged();
   void failureChanged();
   /// It was saved or dismissed.
   void ended();
@@ -80,7 +85,8 @@ class FastDraftModel : public QObject {
   std::vector<Stamp> seen;
   RecordRows zoneRows{rolesOf<host::ZoneTimeText>()};
   QString title, startLabel, startText, startSpoken, startProblem, endLabel, endText, endSpoken, endProblem,
-      lengthLabel, length, lengthSpoken, overlap, goalProblem, zonesLabel, failure, saveLabel, removeLabel;
+      lengthLabel, length, lengthSpoken, overlap, goalProblem, noteLabel, note, noteProblem, zonesLabel, failure,
+      saveLabel, removeLabel;
   bool isNew = false;
   double start = 0, end = 0;
   qreal seconds = 0, goalSeconds = 0;

@@ -154,5 +154,10 @@ T.Popup {
         }
     }
 
+    FocusFollower {
+        parent: root.content
+        view: flick
+    }
+
     contentItem: content
 }

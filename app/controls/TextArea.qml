@@ -8,11 +8,17 @@ Rectangle {
 
     property alias text: edit.text
     property string accessibleName
+    property bool hasProblem: false
+    /// What its text needs to be seen whole.
+    readonly property real wholeHeight: edit.implicitHeight + 24
+
+    /// By whoever types, not by whoever sets the text.
+    signal edited(string text)
 
     radius: Theme.controlRadius
     color: Theme.field
-    border.width: edit.activeFocus ? 2 : 0
-    border.color: Theme.focus
+    border.width: hasProblem || edit.activeFocus ? 2 : 0
+    border.color: hasProblem ? Theme.danger : Theme.focus
     onActiveFocusChanged: {
         if (activeFocus)
             edit.forceActiveFocus();
@@ -43,8 +49,12 @@ Rectangle {
             Accessible.role: Accessible.EditableText
             Accessible.multiLine: true
             Accessible.name: root.accessibleName
-            // Tab leaves the field; a text of an idea needs none.
+            // Tab leaves the field; no text here needs one.
             KeyNavigation.priority: KeyNavigation.BeforeItem
+            onTextChanged: {
+                if (activeFocus)
+                    root.edited(text);
+            }
             onCursorRectangleChanged: {
                 if (cursorRectangle.y < flick.contentY)
                     flick.contentY = cursorRectangle.y;

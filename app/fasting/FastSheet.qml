@@ -12,7 +12,10 @@ Sheet {
     title: draft.title
     spacing: 16
 
-    onAboutToShow: goal.begin(draft.goalSeconds)
+    onAboutToShow: {
+        goal.begin(draft.goalSeconds);
+        note.text = draft.note;
+    }
     onClosed: draft.dismiss()
 
     Connections {
@@ -84,6 +87,37 @@ Sheet {
         width: parent.width
         goal: root.goal
         onAccepted: root.draft.save()
+    }
+
+    Column {
+        width: parent.width
+        spacing: 8
+
+        StyledText {
+            width: parent.width
+            text: root.draft.noteLabel
+            style: Theme.labelText
+            color: Theme.inkSecondary
+        }
+
+        TextArea {
+            id: note
+            width: parent.width
+            height: Math.max(Theme.fieldSize, Math.min(wholeHeight, 132))
+            hasProblem: root.draft.noteProblem !== ""
+            accessibleName: root.draft.noteLabel
+            onEdited: text => root.draft.setNote(text)
+        }
+
+        StyledText {
+            visible: text !== ""
+            width: parent.width
+            text: root.draft.noteProblem
+            style: Theme.captionText
+            color: Theme.danger
+            Accessible.role: Accessible.AlertMessage
+            Accessible.name: text
+        }
     }
 
     Column {

@@ -11,6 +11,7 @@ Item {
     required property string times
     required property string length
     required property string goal
+    required property string note
     required property string overlap
     required property string spoken
     required property real seconds
@@ -24,7 +25,7 @@ Item {
 
     x: list ? list.rowX : 0
     width: list ? list.rowWidth : 0
-    implicitHeight: mark.y + mark.height + (overlap === "" ? 0 : caution.height + 8) + 12
+    implicitHeight: mark.y + mark.height + (remarks.height > 0 ? remarks.height + 8 : 0) + 12
     clip: content.x !== 0
     Accessible.role: Accessible.ListItem
     Accessible.name: spoken
@@ -133,15 +134,30 @@ Item {
             fraction: root.goalFraction
         }
 
-        CautionLine {
-            id: caution
-            visible: root.overlap !== ""
+        Column {
+            id: remarks
             anchors.left: parent.left
             anchors.leftMargin: root.padding
             anchors.top: mark.bottom
             anchors.topMargin: 8
             width: root.inner
-            text: root.overlap
+            spacing: 4
+
+            StyledText {
+                visible: text !== ""
+                width: parent.width
+                text: root.note
+                style: Theme.labelText
+                color: Theme.inkSecondary
+                maximumLineCount: 2
+                elide: Text.ElideRight
+            }
+
+            CautionLine {
+                visible: text !== ""
+                width: parent.width
+                text: root.overlap
+            }
         }
     }
 

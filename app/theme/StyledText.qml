@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Text in one of the theme's styles. Wraps; never elided.
+// Text in one of the theme's styles. Wraps; only notes are ever elided.
 import QtQuick
 
 Text {

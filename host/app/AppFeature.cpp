@@ -156,6 +156,11 @@ auto AppFeature::on(State& state, const Action::didChangeDraftGoal& changed) con
   return {};
 }
 
+auto AppFeature::on(State& state, const Action::didChangeDraftNote& changed) const -> Effect<Action> {
+  if (*state.draft) state.draft = withNote(**state.draft, changed.note);
+  return {};
+}
+
 // What is wrong with it is said beside its fields already.
 auto AppFeature::on(State& state, const Action::didTapSaveDraft&) const -> Effect<Action> {
   if (!*state.draft || (*state.draft)->isSaving || faultOf(**state.draft, date->now())) return {};

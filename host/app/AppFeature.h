@@ -122,6 +122,10 @@ struct AppFeature {
       std::int64_t goalSeconds;
       bool operator==(const didChangeDraftGoal&) const = default;
     };
+    struct didChangeDraftNote {
+      std::string note;
+      bool operator==(const didChangeDraftNote&) const = default;
+    };
     /// The draft is gone once it is on disk.
     struct didTapSaveDraft {
       bool operator==(const didTapSaveDraft&) const = default;
@@ -172,10 +176,10 @@ struct AppFeature {
         std::variant<Cases::statistics, Cases::reload, Cases::didLoad, Cases::didFail, Cases::didChangeSettings,
                      Cases::recompute, Cases::didTapStart, Cases::didTapStop, Cases::didChangeStart,
                      Cases::didChangeGoal, Cases::didTapEditFast, Cases::didTapAddFast, Cases::didChangeDraftStart,
-                     Cases::didChangeDraftEnd, Cases::didChangeDraftGoal, Cases::didTapSaveDraft,
-                     Cases::didDismissDraft, Cases::didDeleteFast, Cases::didChangeWeight, Cases::didDeleteWeight,
-                     Cases::didConfirmOverlapRepair, Cases::didCancelOverlapRepair, Cases::didTapMessage,
-                     Cases::didDismissMessages, Cases::didWrite, Cases::didFailToWrite> {
+                     Cases::didChangeDraftEnd, Cases::didChangeDraftGoal, Cases::didChangeDraftNote,
+                     Cases::didTapSaveDraft, Cases::didDismissDraft, Cases::didDeleteFast, Cases::didChangeWeight,
+                     Cases::didDeleteWeight, Cases::didConfirmOverlapRepair, Cases::didCancelOverlapRepair,
+                     Cases::didTapMessage, Cases::didDismissMessages, Cases::didWrite, Cases::didFailToWrite> {
     using variant::variant;
   };
 
@@ -205,6 +209,7 @@ struct AppFeature {
   Effect<Action> on(State& state, const Action::didChangeDraftStart& sent) const;
   Effect<Action> on(State& state, const Action::didChangeDraftEnd& sent) const;
   Effect<Action> on(State& state, const Action::didChangeDraftGoal& sent) const;
+  Effect<Action> on(State& state, const Action::didChangeDraftNote& sent) const;
   Effect<Action> on(State& state, const Action::didTapSaveDraft& sent) const;
   Effect<Action> on(State& state, const Action::didDismissDraft& sent) const;
   Effect<Action> on(State& state, const Action::didDeleteFast& sent) const;

@@ -64,6 +64,12 @@ FastDraft withGoal(FastDraft draft, std::int64_t goalSeconds) {
   return changed(std::move(draft), fast.start, fast.finished->end, goalSeconds);
 }
 
+FastDraft withNote(FastDraft draft, std::string note) {
+  draft.record.note = std::move(note);
+  draft.failure.clear();
+  return draft;
+}
+
 std::optional<RecordFault> faultOf(const FastDraft& draft, Date now) {
   return recordFault(draft.record, draft.before, now);
 }

@@ -27,11 +27,12 @@ FastDraft draftOf(const FastRecord& record);
 /// that fast instead. O(n log n).
 FastDraft newDraft(std::span<const FastRecord> fasts, UUID id, std::int64_t goalSeconds, Date now);
 
-/// The same with another time, as `keepingSeconds` takes it, or goal; what was said about the last attempt is
+/// The same with another time, as `keepingSeconds` takes it, goal or note; what was said about the last attempt is
 /// forgotten.
 FastDraft withStart(FastDraft draft, Date start);
 FastDraft withEnd(FastDraft draft, Date end);
 FastDraft withGoal(FastDraft draft, std::int64_t goalSeconds);
+FastDraft withNote(FastDraft draft, std::string note);
 
 /// What is wrong with it; it is not worth saving for as long as something is. A fault that the fast had before it was
 /// edited is left in peace.

@@ -20,9 +20,11 @@ void sayProblem(FastSheet& sheet, RecordFault fault, const TextLookup& texts) {
     case RecordFault::goalOutOfRange:
       sheet.goalProblem = faultText(fault, texts);
       return;
+    case RecordFault::noteTooLong:
+      sheet.noteProblem = faultText(fault, texts);
+      return;
     case RecordFault::dateInFuture:
     case RecordFault::dateOutOfRange:
-    case RecordFault::noteTooLong:
     case RecordFault::weightOutOfRange:
       return;  // of what this sheet does not change
   }
@@ -51,6 +53,8 @@ FastSheet composeFastSheet(const FastDraft& draft, std::span<const FastRecord> f
   if (const auto fault = faultOf(draft, clients.now)) sayProblem(sheet, *fault, texts);
   if (const auto* other = overlapOf(draft, fasts, clients.now)) sheet.overlap = overlapText(other->fast.start, clients);
   sheet.goalSeconds = static_cast<double>(fast.goalSeconds);
+  sheet.noteLabel = texts.text("Note");
+  sheet.note = draft.record.note;
   sheet.zonesLabel = texts.text("Zones");
   sheet.zones = zoneTimeTexts(sheet.seconds, clients);
   sheet.failure = draft.failure;

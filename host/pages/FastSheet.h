@@ -25,7 +25,8 @@ struct FastSheet {
   std::string overlap;                            ///< "Overlaps the fast of Sat 6 Jun"
   double goalSeconds = 0;
   std::string goalProblem;
-  std::string zonesLabel;  ///< "Zones"
+  std::string noteLabel, note, noteProblem;  ///< "Note", "slept well"
+  std::string zonesLabel;                    ///< "Zones"
   std::vector<ZoneTimeText> zones;
   std::string failure;  ///< why it could not be written
   std::string saveLabel, removeLabel;
@@ -35,8 +36,8 @@ struct FastSheet {
 template <RecordOf<FastSheet> Listed, class Visit>
 void fields(Listed& record, Visit&& visit) {
   auto& [title, isNew, start, end, startLabel, startText, startSpoken, startProblem, endLabel, endText, endSpoken,
-         endProblem, lengthLabel, length, lengthSpoken, seconds, overlap, goalSeconds, goalProblem, zonesLabel, zones,
-         failure, saveLabel, removeLabel] = record;
+         endProblem, lengthLabel, length, lengthSpoken, seconds, overlap, goalSeconds, goalProblem, noteLabel, note,
+         noteProblem, zonesLabel, zones, failure, saveLabel, removeLabel] = record;
   visit("title", title);
   visit("isNew", isNew);
   visit("start", start);
@@ -56,6 +57,9 @@ void fields(Listed& record, Visit&& visit) {
   visit("overlap", overlap);
   visit("goalSeconds", goalSeconds);
   visit("goalProblem", goalProblem);
+  visit("noteLabel", noteLabel);
+  visit("note", note);
+  visit("noteProblem", noteProblem);
   visit("zonesLabel", zonesLabel);
   visit("zones", zones);
   visit("failure", failure);

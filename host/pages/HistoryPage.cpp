@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cassert>
+#include <string_view>
 #include <utility>
 
 #include "host/fasting/OverlappingFasts.h"
@@ -25,9 +26,17 @@ double goalFraction(const FinishedFastingDataEntry& fast) {
   return goal > 0 ? std::min(1.0, fast.duration() / goal) : 1;
 }
 
+std::string firstLine(std::string_view note) {
+  constexpr std::string_view blanks = " \t\r\n";
+  note.remove_prefix(std::min(note.find_first_not_of(blanks), note.size()));
+  note = note.substr(0, note.find_first_of("\r\n"));
+  return std::string{note.substr(0, note.find_last_not_of(blanks) + 1)};
+}
+
 std::string spokenRow(const HistoryRow& row, const TextLookup& texts) {
   std::string all = row.date + ", " + row.times + ", " + row.length + ", " + row.goal;
   if (row.goalFraction >= 1) all += ", " + texts.text("goal reached");
+  if (!row.note.empty()) all += ", " + row.note;
   if (!row.overlap.empty()) all += ", " + row.overlap;
   return all;
 }
@@ -42,7 +51,7 @@ bool saysOtherwise(const HistoryFacts& before, std::size_t rowBefore, const Hist
   const FastRecord *one = overlappedBy(before, rowBefore), *other = overlappedBy(after, row);
   if ((one == nullptr) != (other == nullptr)) return true;
   if (one && one->fast.start != other->fast.start) return true;
-  return recordAt(before, rowBefore).fast != recordAt(after, row).fast;
+  return recordAt(before, rowBefore) != recordAt(after, row);
 }
 
 }  // namespace
@@ -76,6 +85,7 @@ HistoryRow composeHistoryRow(const HistoryFacts& facts, std::size_t row, const P
                       .goal = filledIn(texts.text("{1} goal"), {goal}),
                       .seconds = fast.duration(),
                       .goalFraction = goalFraction(fast),
+                      .note = firstLine(recordAt(facts, row).note),
                       .overlap = {},
                       .spoken = {}};
   if (const FastRecord* other = overlappedBy(facts, row)) composed.overlap = overlapText(other->fast.start, clients);

@@ -37,6 +37,7 @@ struct HistoryRow {
   std::string goal;         ///< "16h goal"
   double seconds = 0;       ///< how long it was
   double goalFraction = 0;  ///< of its goal; 1 where it was reached
+  std::string note;         ///< the first line of its note that says something; empty where none does
   std::string overlap;      ///< "Overlaps the fast of Sat 6 Jun"; empty where it overlaps none
   std::string spoken;       ///< all of it
   bool operator==(const HistoryRow&) const = default;
@@ -44,13 +45,14 @@ struct HistoryRow {
 
 template <RecordOf<HistoryRow> Listed, class Visit>
 void fields(Listed& record, Visit&& visit) {
-  auto& [date, times, length, goal, seconds, goalFraction, overlap, spoken] = record;
+  auto& [date, times, length, goal, seconds, goalFraction, note, overlap, spoken] = record;
   visit("date", date);
   visit("times", times);
   visit("length", length);
   visit("goal", goal);
   visit("seconds", seconds);
   visit("goalFraction", goalFraction);
+  visit("note", note);
   visit("overlap", overlap);
   visit("spoken", spoken);
 }

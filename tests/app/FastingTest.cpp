@@ -171,6 +171,33 @@ TEST_F(Fasting, savesAFastByEnterInItsGoal) {
   EXPECT_TRUE(eventually([&] { return onDisk()[2].fast.goalSeconds == 57600; }));
 }
 
+TEST_F(Fasting, keepsANoteAndTakesItBack) {
+  show(three);
+  const auto writeNote = [this](const QString& note) {
+    app->click(app->ofType("TextArea"));
+    app->key(Qt::Key_A, Qt::ControlModifier);
+    app->type(note);
+    click("Save");
+  };
+  ASSERT_NE(app->text("slept well"), nullptr) << "in its row";
+  clickRow(0);
+  EXPECT_EQ(app->ofType("TextArea")->property("text"), "slept well");
+  writeNote("slept badly");
+  ASSERT_TRUE(eventually([&] { return onDisk()[2].note == "slept badly"; }));
+  settle(app->window());
+  EXPECT_NE(app->text("slept badly"), nullptr);
+  click("Undo");
+  ASSERT_TRUE(eventually([&] { return onDisk()[2].note == "slept well"; }));
+
+  click("Add fast");
+  EXPECT_EQ(app->ofType("TextArea")->property("text"), "") << "not the one before";
+  writeNote("tea");
+  ASSERT_TRUE(eventuallyHas(4));
+  EXPECT_EQ(onDisk()[3].note, "tea");
+  click("Undo");
+  EXPECT_TRUE(eventuallyHas(3));
+}
+
 TEST_F(Fasting, removesAtOnceAndBringsBack) {
   show(three);
   const auto before = onDisk();

@@ -183,6 +183,7 @@ TEST_F(AppFeatureTest, savesADraftAndForgetsIt) {
   EXPECT_EQ((*state().draft)->record.fast.goalSeconds, 72000);
   send(Action::didChangeDraftEnd{at(-2)});
   send(Action::didChangeDraftGoal{36000});
+  send(Action::didChangeDraftNote{"slept well"});
   EXPECT_THAT(onDisk(), IsEmpty());
   const FastRecord made = (*state().draft)->record;
   app.send(Action::didTapSaveDraft{});
@@ -193,6 +194,7 @@ TEST_F(AppFeatureTest, savesADraftAndForgetsIt) {
   EXPECT_THAT(onDisk(), ElementsAre(made));
   EXPECT_EQ(made.fast.finished->end, at(-2));
   EXPECT_EQ(made.fast.goalSeconds, 36000);
+  EXPECT_EQ(made.note, "slept well");
   EXPECT_EQ((*state().undo)->step, AppFeature::Step::add);
   EXPECT_EQ((*state().undo)->change, removing(made));
 

@@ -48,7 +48,7 @@ TEST(FastSheet, addsAFastThatReachesItsGoalNow) {
 struct ProblemRow {
   const char* name;
   FastDraft draft;
-  std::string start, end, goal;
+  std::string start, end, goal, note = {};
 };
 void PrintTo(const ProblemRow& row, std::ostream* out) { *out << row.name; }
 
@@ -59,6 +59,7 @@ TEST_P(FastSheetProblems, standAtTheirFields) {
   EXPECT_EQ(sheet.startProblem, GetParam().start);
   EXPECT_EQ(sheet.endProblem, GetParam().end);
   EXPECT_EQ(sheet.goalProblem, GetParam().goal);
+  EXPECT_EQ(sheet.noteProblem, GetParam().note);
 }
 
 const FastRecord odd = ended(2, "2026-02-24 19:00", "2026-02-24 18:00");
@@ -75,7 +76,9 @@ INSTANTIATE_TEST_SUITE_P(
                                "The end is in the future. Is the clock right?", ""},
                     ProblemRow{"endBeforeStart", withEnd(draftOf(tuesday), utc("2026-02-24 18:00")), "",
                                "The end is before the start.", ""},
-                    ProblemRow{"goal", withGoal(draftOf(tuesday), -1), "", "", "Choose a shorter goal."}),
+                    ProblemRow{"goal", withGoal(draftOf(tuesday), -1), "", "", "Choose a shorter goal."},
+                    ProblemRow{"note", withNote(draftOf(tuesday), std::string(65537, 'x')), "", "", "",
+                               "Write a shorter note."}),
     [](const auto& row) { return std::string{row.param.name}; });
 
 TEST(FastSheet, warnsOfTheFastThatItWouldOverlap) {

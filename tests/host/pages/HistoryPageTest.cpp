@@ -75,6 +75,19 @@ INSTANTIATE_TEST_SUITE_P(Rows, HistoryRows,
                                                 "02-28, 11:00 – 19:00, 8h 0m, 16h goal, Overlaps the fast of 02-28"}),
                          [](const auto& row) { return std::string{row.param.name}; });
 
+TEST(History, showsTheFirstLineOfANoteThatSaysSomething) {
+  const std::pair<const char*, const char*> notes[] = {{"", ""},
+                                                       {"slept well", "slept well"},
+                                                       {" \n\t\n", ""},
+                                                       {"\r\n  tea and broth \r\n, later more", "tea and broth"},
+                                                       {"müde", "müde"}};
+  for (const auto& [note, line] : notes) {
+    FastRecord record = ended(1, "2026-02-27 20:00", "2026-02-28 12:00");
+    record.note = note;
+    EXPECT_EQ(rowOf({record}).note, line);
+  }
+}
+
 TEST(History, standsLatestFirstWithoutTheRunningOne) {
   const std::vector<FastRecord> fasts{ended(1, "2026-02-25 19:00", "2026-02-26 12:00"),
                                       ended(2, "2026-02-26 19:00", "2026-02-27 12:00"), running("2026-02-28 18:00")};
@@ -110,6 +123,7 @@ TEST(History, printsAsJson) {
 const FastRecord monday = ended(1, "2026-02-23 19:00", "2026-02-24 12:00"),
                  tuesday = ended(2, "2026-02-24 19:00", "2026-02-25 12:00"),
                  wednesday = ended(3, "2026-02-25 19:00", "2026-02-26 12:00"),
+                 notedTuesday = {tuesday.fast, "slept well"},
                  longTuesday = ended(2, "2026-02-24 19:00", "2026-02-25 20:00");
 
 struct ChangeRow {
@@ -138,6 +152,7 @@ INSTANTIATE_TEST_SUITE_P(
                     ChangeRow{"begins", {monday}, {monday, running("2026-03-01 10:00")}, {1, 0, 0}, {}},
                     ChangeRow{
                         "edited", {monday, tuesday, wednesday}, {monday, longTuesday, wednesday}, {1, 1, 1}, {0, 1}},
+                    ChangeRow{"noted", {monday, tuesday}, {monday, notedTuesday}, {0, 1, 1}, {0}},
                     ChangeRow{"overlapGone", {monday, longTuesday, wednesday}, {monday, wednesday}, {1, 1, 0}, {0}},
                     ChangeRow{"movedPastAnother",
                               {monday, tuesday},
