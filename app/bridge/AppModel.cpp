@@ -54,6 +54,7 @@ AppModel::AppModel(AppServices given)
                  [this](DayBarsModel::Action action) { sendStatistics(Sent::eatingChartAction{std::move(action)}); }},
       weightEntry{
           [this](AddWeightModel::Action action) { sendStatistics(Sent::addWeightLogAction{std::move(action)}); }},
+      allWeights{clients, [this](Action action) { send(std::move(action)); }},
       runningFast{clients, [this](Action action) { send(std::move(action)); }},
       badgeSummary{[this](BadgeSummaryFeature::Action action) {
         using Shown = PresentationAction<Destination::Action>;
@@ -123,6 +124,7 @@ void AppModel::followZone() {
   if (!zone) return;
   send(Action::recompute{});
   runningFast.retell();
+  allWeights.retell();
   const auto& texts = *dependency(&Dependencies::texts);
   say(filledIn(texts.text("Your time zone is now {1}. All times are shown in it; nothing was changed."),
                {qString(*zone).replace(QLatin1Char{'_'}, QLatin1Char{' '}).toStdString()}));
@@ -147,6 +149,7 @@ void AppModel::follow(const State& state) {
                   state.now);
   pairLine.show(mivo::weightFastingChart(statistics.stats, statistics.timeRange), unit, state.now);
   weightEntry.show(composeAddWeight(statistics.addWeightLogState, clients()));
+  allWeights.follow(state);
   runningFast.follow(state);
   overlapRepair.follow(state.overlapRepair);
   chosenSettings.follow(statistics);

@@ -22,6 +22,7 @@
 #include "app/bridge/RoadmapModel.h"
 #include "app/bridge/ScreenModel.h"
 #include "app/bridge/SettingsModel.h"
+#include "app/bridge/WeightsModel.h"
 #include "host/app/AppFeature.h"
 #include "host/tips/Tips.h"
 #include "mivo/store/Store.h"
@@ -56,6 +57,7 @@ class AppModel : public QObject {
   Q_PROPERTY(mivo::app::LineChartModel* weightChart READ weightChart CONSTANT)
   Q_PROPERTY(mivo::app::LineChartModel* weightFastingChart READ weightFastingChart CONSTANT)
   Q_PROPERTY(mivo::app::AddWeightModel* addWeight READ addWeight CONSTANT)
+  Q_PROPERTY(mivo::app::WeightsModel* weights READ weights CONSTANT)
   Q_PROPERTY(mivo::app::FastingModel* fasting READ fasting CONSTANT)
   Q_PROPERTY(mivo::app::BadgesModel* badges READ badges CONSTANT)
   Q_PROPERTY(mivo::app::DonationsModel* donations READ donations CONSTANT)
@@ -85,6 +87,7 @@ class AppModel : public QObject {
   LineChartModel* weightChart() { return &weightLine; }
   LineChartModel* weightFastingChart() { return &pairLine; }
   AddWeightModel* addWeight() { return &weightEntry; }
+  WeightsModel* weights() { return &allWeights; }
   FastingModel* fasting() { return &runningFast; }
   BadgesModel* badges() { return &badgeSummary; }
   DonationsModel* donations() { return &donationSheet; }
@@ -154,6 +157,7 @@ class AppModel : public QObject {
   DayBarsModel fastingBars, eatingBars;
   LineChartModel weightLine{drawing::WeightChart{}}, pairLine{WeightFastingChart{}};
   AddWeightModel weightEntry;
+  WeightsModel allWeights;
   FastingModel runningFast;
   BadgesModel badgeSummary;
   DonationsModel donationSheet;

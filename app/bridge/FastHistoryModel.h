@@ -2,21 +2,20 @@
 #pragma once
 
 #include <QtQml/qqmlregistration.h>
-#include <QtCore/QAbstractListModel>
 #include <QtCore/QString>
 
-#include <cstddef>
 #include <functional>
 #include <vector>
 
 #include "app/bridge/RecordRows.h"
+#include "app/bridge/SeenRows.h"
 #include "host/app/AppFeature.h"
 #include "host/pages/HistoryPage.h"
 
 namespace mivo::app {
 
-/// A `host::HistoryPage` and its rows, each composed when it is seen; a view is told of those that differ.
-class FastHistoryModel : public QAbstractListModel {
+/// A `host::HistoryPage` and its rows.
+class FastHistoryModel : public SeenRows {
   Q_OBJECT
   QML_ELEMENT
   QML_UNCREATABLE("the app has one")
@@ -40,12 +39,6 @@ class FastHistoryModel : public QAbstractListModel {
   RecordRows* months() { return &monthRows; }
 
   void follow(const host::AppFeature::State& state);
-  /// The texts of all rows may read differently.
-  void retell();
-
-  int rowCount(const QModelIndex& parent = {}) const override;
-  QVariant data(const QModelIndex& index, int role) const override;
-  QHash<int, QByteArray> roleNames() const override { return rolesOf<host::HistoryRow>(); }
 
   /// Begins the draft with the fast of a row.
   Q_INVOKABLE void edit(int row);
@@ -60,15 +53,11 @@ class FastHistoryModel : public QAbstractListModel {
   void scaleSecondsChanged();
 
  private:
-  void become(host::HistoryFacts next);
+  void take(host::HistoryFacts next);
 
-  std::function<PageClients()> clients;
   std::function<void(Action)> send;
   host::HistoryFacts facts;
   std::vector<Stamp> seen;
-  Date toldAt;
-  mutable int composedRow = -1;  // the one that was asked for last: a view asks for all its roles
-  mutable QVariantList composed;
   QString title, addLabel, note, menuTitle, editLabel, removeLabel, monthsLabel;
   int count = 0;
   bool hasMonths = false;

@@ -24,33 +24,12 @@ FocusScope {
         view: flick
     }
 
-    Item {
+    PushBar {
         id: bar
         width: parent.width
-        height: Math.max(Theme.pushBarSize, titleText.height + 8)
-
-        IconButton {
-            id: backButton
-            anchors.left: parent.left
-            anchors.leftMargin: 4
-            anchors.verticalCenter: parent.verticalCenter
-            iconName: "back"
-            turns: true
-            focus: true
-            text: Words.back
-            onClicked: root.back()
-        }
-
-        MeasuredText {
-            id: titleText
-            anchors.centerIn: parent
-            width: Math.min(lineWidth, parent.width - 2 * (Theme.touchSize + 12))
-            horizontalAlignment: Text.AlignHCenter
-            text: root.title
-            style: Theme.headlineText
-            Accessible.role: Accessible.Heading
-            Accessible.name: text
-        }
+        focus: true
+        title: root.title
+        onBack: root.back()
     }
 
     Flickable {

@@ -130,8 +130,11 @@ FocusScope {
         }
     }
 
-    FastMenu {
+    RowMenu {
         id: menu
+        title: App.fasting.history.menuTitle
+        editText: App.fasting.history.editLabel
+        removeText: App.fasting.history.removeLabel
         onEditWanted: root.edit(row)
         onRemoveWanted: App.fasting.history.remove(row)
     }

@@ -55,21 +55,10 @@ Item {
         }
     }
 
-    // Stands for the rows, where Tab comes to them.
-    Item {
-        id: keys
-
+    RowKeys {
         anchors.bottom: parent.bottom
         width: parent.width
-        activeFocusOnTab: root.list !== null && root.list.count > 0
-        Accessible.role: Accessible.List
-        Accessible.name: activeFocusOnTab ? App.fasting.history.spokenText(root.list.keyedRow) : App.fasting.history.title
-        Accessible.focusable: true
-        onActiveFocusChanged: {
-            root.list.keyed = activeFocus;
-            if (activeFocus)
-                root.list.step(root.list.keyedRow);
-        }
-        Keys.onPressed: event => root.list.keyPressed(event)
+        list: root.list
+        spoken: root.list ? App.fasting.history.spokenText(root.list.keyedRow) : ""
     }
 }

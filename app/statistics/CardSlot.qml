@@ -22,6 +22,7 @@ Item {
     signal startWanted
     signal settingsWanted
     signal goalWanted
+    signal weightsWanted
     signal dateWanted
     signal tableWanted(chart: ChartTable, title: string)
     signal pickerMade(picker: TimeRangePicker)
@@ -88,7 +89,7 @@ Item {
     Component { id: roadmap; TileCard { card: root.card as NoticeCardModel; iconName: "feedback"; onClicked: App.openRoadmap() } }
     Component { id: health; NoticeCard { card: root.card as NoticeCardModel; iconName: "health"; onTapped: App.requestHealthAccess() } }
     Component { id: addWeight; AddWeightCard { card: root.card as NoticeCardModel; entry: App.addWeight; inRow: root.span === 2; onDateTapped: root.dateWanted() } }
-    Component { id: goalWeight; GoalWeightCard { card: root.card as GoalWeightCardModel; onClicked: root.goalWanted() } }
+    Component { id: goalWeight; GoalWeightCard { card: root.card as GoalWeightCardModel; onClicked: root.goalWanted(); onWeightsWanted: root.weightsWanted() } }
     Component { id: badges; BadgesCard { card: root.card as BadgesCardModel; onClicked: App.openBadges() } }
     Component { id: timeRange; TimeRangePicker {
             card: root.card as TimeRangeCardModel
@@ -98,7 +99,7 @@ Item {
         } }
     Component { id: fastingChart; DayBarsCard { card: root.card as DayBarsCardModel; chart: App.fastingChart; accent: Theme.fasting; chartHeight: 200; onTableWanted: root.tableWanted(App.fastingChart, card.title) } }
     Component { id: eatingChart; DayBarsCard { card: root.card as DayBarsCardModel; chart: App.eatingChart; accent: Theme.eating; chartHeight: root.beside ? 200 : 160; onTableWanted: root.tableWanted(App.eatingChart, card.title) } }
-    Component { id: weightChart; WeightChartCard { card: root.card as WeightChartCardModel; chart: App.weightChart; wide: root.wide; onTableWanted: root.tableWanted(App.weightChart, card.title) } }
+    Component { id: weightChart; WeightChartCard { card: root.card as WeightChartCardModel; chart: App.weightChart; wide: root.wide; onTableWanted: root.tableWanted(App.weightChart, card.title); onWeightsWanted: root.weightsWanted() } }
     Component { id: weightFastingChart; WeightFastingCard { card: root.card as WeightFastingChartCardModel; chart: App.weightFastingChart; wide: root.wide; onTableWanted: root.tableWanted(App.weightFastingChart, card.title) } }
     Component { id: trends; TrendsCard { card: root.card as TrendsCardModel; wide: root.wide } }
 }

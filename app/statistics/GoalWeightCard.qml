@@ -8,6 +8,8 @@ TappableCard {
 
     required property GoalWeightCardModel card
 
+    signal weightsWanted
+
     text: {
         let said = card.title;
         for (const fact of [card.remaining, card.current, card.goal])
@@ -114,6 +116,13 @@ TappableCard {
                 kind: ActionButton.Secondary
                 text: root.card.button
                 onClicked: root.clicked()
+            }
+
+            CardLink {
+                width: parent.width
+                visible: text !== ""
+                text: App.weights.openLabel
+                onClicked: root.weightsWanted()
             }
         }
     }

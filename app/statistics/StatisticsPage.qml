@@ -23,6 +23,7 @@ FocusScope {
     signal startWanted
     signal settingsWanted
     signal goalWanted
+    signal weightsWanted
     signal dateWanted
     signal tableWanted(chart: ChartTable, title: string)
 
@@ -100,6 +101,7 @@ FocusScope {
                         onStartWanted: root.startWanted()
                         onSettingsWanted: root.settingsWanted()
                         onGoalWanted: root.goalWanted()
+                        onWeightsWanted: root.weightsWanted()
                         onDateWanted: root.dateWanted()
                         onTableWanted: (chart, name) => root.tableWanted(chart, name)
                         onPickerMade: made => root.picker = made

@@ -10,8 +10,9 @@ Card {
     property bool wide: false
 
     signal tableWanted
+    signal weightsWanted
 
-    bottomPadding: root.chart.isEmpty ? padding : 8
+    bottomPadding: link.visible ? 4 : root.chart.isEmpty ? padding : 8
     spacing: 8
 
     CardHead {
@@ -61,5 +62,13 @@ Card {
         chart: root.chart
         title: root.card.title
         onTableWanted: root.tableWanted()
+    }
+
+    CardLink {
+        id: link
+        width: parent.width
+        visible: text !== ""
+        text: App.weights.openLabel
+        onClicked: root.weightsWanted()
     }
 }

@@ -10,6 +10,8 @@ Window {
     property string tab: "statistics"
     /// What is open over the page when the window appears.
     property string screen
+    /// The list of weights is shown.
+    property bool weights: false
     readonly property bool side: width >= Theme.sideBarWidth
     readonly property list<string> tabs: ["fasting", "statistics", "settings"]
     readonly property list<string> names: [Words.fasting, Words.statistics, Words.settings]
@@ -37,6 +39,8 @@ Window {
         App.settings.page = "";
         App.dismiss();
         App.repair.cancel();
+        App.weights.dismissEdited();
+        weights = false;
         for (const sheet of [feedback, goalWeight, table, weightDate])
             sheet.close();
         switch (name) {
@@ -84,6 +88,12 @@ Window {
             return App.fixOverlaps();
         case "goalWeight":
             return goalWeight.open();
+        case "weights":
+            weights = true;
+            return;
+        case "editWeight":
+            weights = true;
+            return App.weights.edit(0);
         case "date":
             return weightDate.open();
         case "table":
@@ -112,7 +122,7 @@ Window {
     Item {
         id: pages
 
-        readonly property bool covered: badgesLayer.covers || roadmapLayer.covers || cardsLayer.covers || aboutLayer.covers
+        readonly property bool covered: badgesLayer.covers || roadmapLayer.covers || weightsLayer.covers || cardsLayer.covers || aboutLayer.covers
 
         anchors.fill: parent
         anchors.leftMargin: root.side ? Theme.sideBarSize : 0
@@ -121,7 +131,7 @@ Window {
             anchors.fill: parent
             anchors.bottomMargin: root.side ? 0 : Theme.tabBarSize
             visible: !pages.covered
-            enabled: (App.destination === "" || App.destination === "donations") && App.settings.page === ""
+            enabled: (App.destination === "" || App.destination === "donations") && App.settings.page === "" && !root.weights
 
             Loader {
                 id: fasting
@@ -144,6 +154,7 @@ Window {
                 }
                 onSettingsWanted: root.present("cards")
                 onGoalWanted: goalWeight.open()
+                onWeightsWanted: root.weights = true
                 onDateWanted: weightDate.open()
                 onTableWanted: (chart, name) => root.showTable(chart, name)
                 // What was changed on other tabs is seen on return.
@@ -199,6 +210,20 @@ Window {
         }
 
         PushLayer {
+            id: weightsLayer
+            anchors.fill: parent
+            open: root.weights
+            page: WeightsPage {}
+        }
+
+        Connections {
+            target: weightsLayer.shown as WeightsPage
+            function onBack() {
+                root.weights = false;
+            }
+        }
+
+        PushLayer {
             id: cardsLayer
             anchors.fill: parent
             open: App.settings.page === "cards"
@@ -235,6 +260,7 @@ Window {
     function choose(wanted: string) {
         App.dismiss();
         App.settings.page = "";
+        weights = false;
         tab = wanted;
     }
 
@@ -270,6 +296,12 @@ Window {
     LateSheet {
         id: goalWeight
         sourceComponent: GoalWeightSheet {}
+    }
+
+    LateSheet {
+        readonly property bool wanted: App.weights.isEditing
+        onWantedChanged: wanted ? open() : close()
+        sourceComponent: WeightSheet { onAboutToHide: App.weights.dismissEdited() }
     }
 
     LateSheet {

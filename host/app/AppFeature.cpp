@@ -30,6 +30,10 @@ bool isOf(const std::optional<FastDraft>& draft, const HistoryChange& change) {
   return draft && draft->isSaving && change.addedFasts == std::vector{draft->record};
 }
 
+bool isOf(const Presentation<AppFeature::EditedWeight>& edited, const HistoryChange& change) {
+  return edited && change.removedWeights == std::vector{edited->before};
+}
+
 }  // namespace
 
 AppFeature::State AppFeature::State::make(TimeRange timeRange, WeightUnit usualUnit) {
@@ -43,9 +47,13 @@ AppFeature::State AppFeature::State::make(TimeRange timeRange, WeightUnit usualU
 const FastRecord* AppFeature::State::runningFast() const { return host::runningFast(*fasts); }
 
 auto AppFeature::reduce(State& state, const Action& action) const -> Effect<Action> {
-  return combine(scope<Action::statistics>(&State::statistics, statistics), [this](State& s, const Action& a) {
-    return std::visit([&](const auto& sent) { return on(s, sent); }, a);
-  })(state, action);
+  const auto entry = [this](EditedWeight& edited, const AddWeightLogFeature::Action& sent) {
+    return weightEntry.reduce(edited.entry, sent);
+  };
+  return combine(scope<Action::statistics>(&State::statistics, statistics),
+                 presenting<Action::editedWeight>(&State::editedWeight, entry), [this](State& s, const Action& a) {
+                   return std::visit([&](const auto& sent) { return on(s, sent); }, a);
+                 })(state, action);
 }
 
 // What the statistics leave to their host.
@@ -186,8 +194,20 @@ auto AppFeature::on(State& state, const Action::didDeleteFast& deleted) const ->
   return writeOrSay(state, Step::remove, removingFast(*state.fasts, deleted.id));
 }
 
-auto AppFeature::on(State& state, const Action::didChangeWeight& changed) const -> Effect<Action> {
-  return writeOrSay(state, Step::editWeight, changingWeight(*state.weights, changed.sample, date->now()));
+auto AppFeature::on(State& state, const Action::didTapEditWeight& tapped) const -> Effect<Action> {
+  const BodyWeightSample* sample = weightWithID(*state.weights, tapped.id);
+  if (!sample) return {};
+  const WeightUnit unit = state.statistics.addWeightLogState.weightUnit;
+  state.editedWeight = EditedWeight{
+      *sample, {.weightInKg = sample->weightInKg, .logDate = sample->date, .isDateChosen = true, .weightUnit = unit}};
+  return {};
+}
+
+auto AppFeature::on(State& state, const Action::editedWeight& sent) const -> Effect<Action> {
+  using Shown = PresentationAction<AddWeightLogFeature::Action>;
+  const auto* shown = std::get_if<Shown::presented>(&sent.action);
+  const auto* accepted = shown ? std::get_if<AddWeightLogFeature::Action::didAcceptSample>(&shown->action) : nullptr;
+  return accepted && state.editedWeight ? saveEditedWeight(state, accepted->sample) : Effect<Action>{};
 }
 
 auto AppFeature::on(State& state, const Action::didDeleteWeight& deleted) const -> Effect<Action> {
@@ -228,6 +248,7 @@ auto AppFeature::on(State& state, const Action::didWrite& written) const -> Effe
   take(state, std::move(fasts), std::move(weights));
   state.failure = std::string{};
   if (isOf(*state.draft, written.change)) state.draft = std::nullopt;
+  if (isOf(state.editedWeight, written.change)) state.editedWeight = std::nullopt;
   if (written.step == Step::undo) state.undo = std::nullopt;
   if (offersUndo(written.step)) state.undo = UndoOffer{written.step, inverse(written.change)};
   recompute(state);
@@ -246,6 +267,8 @@ auto AppFeature::on(State& state, const Action::didFailToWrite& failed) const ->
     state.draft = std::move(draft);
     return {};
   }
+  if (isOf(state.editedWeight, failed.change))
+    return tellEditedWeight(state, AddWeightLogFeature::Action::didFailToSave{failed.sentence});
   if (failed.step == Step::undo && *state.undo) {
     UndoOffer offer = **state.undo;  // still to be had
     offer.isTaken = false;
@@ -278,6 +301,23 @@ auto AppFeature::saveWeight(State& state, const BodyWeightSample& sample) const 
     return tellWeightCard(state, AddWeightLogFeature::Action::didFailToSave{sentence});
   state.failure = sentence;
   return tellWeightCard(state, AddWeightLogFeature::Action::didSave{});
+}
+
+auto AppFeature::saveEditedWeight(State& state, const BodyWeightSample& accepted) const -> Effect<Action> {
+  BodyWeightSample after = state.editedWeight->before;
+  after.date = keepingSeconds(after.date, accepted.date);
+  after.weightInKg = accepted.weightInKg;
+  auto outcome = changingWeight(*state.weights, after, date->now());
+  if (!outcome)
+    return tellEditedWeight(state, AddWeightLogFeature::Action::didFailToSave{refusalText(outcome.error(), *texts)});
+  if (!outcome->isEmpty()) return write(Step::editWeight, std::move(*outcome));
+  state.editedWeight = std::nullopt;
+  return {};
+}
+
+auto AppFeature::tellEditedWeight(State& state, AddWeightLogFeature::Action action) const -> Effect<Action> {
+  return reduce(state,
+                Action::editedWeight{PresentationAction<AddWeightLogFeature::Action>::presented{std::move(action)}});
 }
 
 auto AppFeature::tellWeightCard(State& state, AddWeightLogFeature::Action action) const -> Effect<Action> {

@@ -11,6 +11,7 @@
 #include "host/history/FieldRules.h"
 #include "mivo/statistics/StatisticsFeature.h"
 #include "mivo/store/List.h"
+#include "mivo/store/Presentation.h"
 
 namespace mivo::host {
 
@@ -42,6 +43,13 @@ struct AppFeature {
     bool operator==(const UndoOffer&) const = default;
   };
 
+  /// A weight of the list while it is edited: in a field and with a date, as where weights are added.
+  struct EditedWeight {
+    BodyWeightSample before;  ///< as it is kept
+    AddWeightLogFeature::State entry;
+    bool operator==(const EditedWeight&) const = default;
+  };
+
   struct State {
     StatisticsFeature::State statistics;
     Observed<List<FastRecord>> fasts = List<FastRecord>{};                ///< by start
@@ -49,6 +57,7 @@ struct AppFeature {
     Observed<Date> now;                                                   ///< of the last recomputation
     Observed<std::int64_t> nextGoalSeconds = defaultGoalSeconds;          ///< what the next fast is meant to last
     Observed<std::optional<FastDraft>> draft = std::optional<FastDraft>{};
+    Presentation<EditedWeight> editedWeight = {};
     Observed<std::optional<HistoryChange>> overlapRepair = std::optional<HistoryChange>{};  ///< proposed, not yet done
     Observed<std::optional<UndoOffer>> undo = std::optional<UndoOffer>{};
     Observed<std::string> failure = std::string{};  ///< one sentence, until dismissed
@@ -137,9 +146,14 @@ struct AppFeature {
       UUID id;
       bool operator==(const didDeleteFast&) const = default;
     };
-    struct didChangeWeight {
-      BodyWeightSample sample;
-      bool operator==(const didChangeWeight&) const = default;
+    struct didTapEditWeight {
+      UUID id;
+      bool operator==(const didTapEditWeight&) const = default;
+    };
+    /// The weight is no longer edited once it is on disk.
+    struct editedWeight {
+      PresentationAction<AddWeightLogFeature::Action> action;
+      bool operator==(const editedWeight&) const = default;
     };
     struct didDeleteWeight {
       UUID id;
@@ -177,9 +191,10 @@ struct AppFeature {
                      Cases::recompute, Cases::didTapStart, Cases::didTapStop, Cases::didChangeStart,
                      Cases::didChangeGoal, Cases::didTapEditFast, Cases::didTapAddFast, Cases::didChangeDraftStart,
                      Cases::didChangeDraftEnd, Cases::didChangeDraftGoal, Cases::didChangeDraftNote,
-                     Cases::didTapSaveDraft, Cases::didDismissDraft, Cases::didDeleteFast, Cases::didChangeWeight,
-                     Cases::didDeleteWeight, Cases::didConfirmOverlapRepair, Cases::didCancelOverlapRepair,
-                     Cases::didTapMessage, Cases::didDismissMessages, Cases::didWrite, Cases::didFailToWrite> {
+                     Cases::didTapSaveDraft, Cases::didDismissDraft, Cases::didDeleteFast, Cases::didTapEditWeight,
+                     Cases::editedWeight, Cases::didDeleteWeight, Cases::didConfirmOverlapRepair,
+                     Cases::didCancelOverlapRepair, Cases::didTapMessage, Cases::didDismissMessages, Cases::didWrite,
+                     Cases::didFailToWrite> {
     using variant::variant;
   };
 
@@ -190,6 +205,7 @@ struct AppFeature {
   Client<TextLookup> texts = dependency(&Dependencies::texts);
   Client<MassFormatter> masses = dependency(&Dependencies::massFormatter);
   StatisticsFeature statistics = {};
+  AddWeightLogFeature weightEntry = {};
 
   Effect<Action> reduce(State& state, const Action& action) const;
 
@@ -213,7 +229,8 @@ struct AppFeature {
   Effect<Action> on(State& state, const Action::didTapSaveDraft& sent) const;
   Effect<Action> on(State& state, const Action::didDismissDraft& sent) const;
   Effect<Action> on(State& state, const Action::didDeleteFast& sent) const;
-  Effect<Action> on(State& state, const Action::didChangeWeight& sent) const;
+  Effect<Action> on(State& state, const Action::didTapEditWeight& sent) const;
+  Effect<Action> on(State& state, const Action::editedWeight& sent) const;
   Effect<Action> on(State& state, const Action::didDeleteWeight& sent) const;
   Effect<Action> on(State& state, const Action::didConfirmOverlapRepair& sent) const;
   Effect<Action> on(State& state, const Action::didCancelOverlapRepair& sent) const;
@@ -224,6 +241,8 @@ struct AppFeature {
   void takeSettings(State& state) const;
   void recompute(State& state) const;
   Effect<Action> saveWeight(State& state, const BodyWeightSample& sample) const;
+  Effect<Action> saveEditedWeight(State& state, const BodyWeightSample& accepted) const;
+  Effect<Action> tellEditedWeight(State& state, AddWeightLogFeature::Action action) const;
   Effect<Action> tellWeightCard(State& state, AddWeightLogFeature::Action action) const;
   Effect<Action> writeOrSay(State& state, Step step, Outcome outcome) const;
   Effect<Action> write(Step step, HistoryChange change) const;
@@ -232,15 +251,23 @@ struct AppFeature {
 /// "Fast deleted": what was done, beside the offer to undo it; empty for a step without one.
 std::string doneText(AppFeature::Step step, const TextLookup& texts);
 
+template <RecordOf<AppFeature::EditedWeight> Listed, class Visit>
+void fields(Listed& record, Visit&& visit) {
+  auto& [before, entry] = record;
+  visit("before", before);
+  visit("entry", entry);
+}
+
 template <RecordOf<AppFeature::State> Listed, class Visit>
 void fields(Listed& record, Visit&& visit) {
-  auto& [statistics, fasts, weights, now, nextGoalSeconds, draft, overlapRepair, undo, failure] = record;
+  auto& [statistics, fasts, weights, now, nextGoalSeconds, draft, editedWeight, overlapRepair, undo, failure] = record;
   visit("statistics", statistics);
   visit("fasts", fasts);
   visit("weights", weights);
   visit("now", now);
   visit("nextGoalSeconds", nextGoalSeconds);
   visit("draft", draft);
+  visit("editedWeight", editedWeight);
   visit("overlapRepair", overlapRepair);
   visit("undo", undo);
   visit("failure", failure);

@@ -131,14 +131,8 @@ std::vector<HistoryMonth> composeHistoryMonths(const HistoryFacts& facts, const 
 
 RowChange rowChange(const HistoryFacts& before, const HistoryFacts& after) {
   if (before.fasts.sharesStorageWith(after.fasts)) return {};
-  const std::size_t old = before.places.size(), fresh = after.places.size(), shorter = std::min(old, fresh);
-  const auto isSame = [&](std::size_t one, std::size_t other) {
-    return recordAt(before, one) == recordAt(after, other);
-  };
-  std::size_t top = 0, bottom = 0;
-  while (top < shorter && isSame(top, top)) ++top;
-  while (bottom < shorter - top && isSame(old - 1 - bottom, fresh - 1 - bottom)) ++bottom;
-  return {top, old - top - bottom, fresh - top - bottom};
+  return rowChange(before.places.size(), after.places.size(),
+                   [&](std::size_t one, std::size_t other) { return recordAt(before, one) == recordAt(after, other); });
 }
 
 std::vector<std::size_t> rowsThatDiffer(const HistoryFacts& before, const HistoryFacts& after) {

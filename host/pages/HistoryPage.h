@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "host/history/History.h"
+#include "host/pages/RowChange.h"
 #include "mivo/model/Record.h"
 #include "mivo/pages/PageClients.h"
 #include "mivo/store/List.h"
@@ -114,14 +115,7 @@ void fields(Listed& record, Visit&& visit) {
 
 HistoryPage composeHistoryPage(const HistoryFacts& facts, const PageClients& clients);
 
-/// Where the rows of two histories differ: rows [first, first + removed) became [first, first + added), the first of
-/// them in their places. The other rows show the same records, though what these overlap may have changed.
-struct RowChange {
-  std::size_t first = 0, removed = 0, added = 0;
-  bool operator==(const RowChange&) const = default;
-};
-
-/// O(n); O(1) for the same list.
+/// Where the rows of two histories differ; what the others overlap may have changed. O(n); O(1) for the same list.
 RowChange rowChange(const HistoryFacts& before, const HistoryFacts& after);
 
 /// The rows of `after` that were there before, but say something else now. O(n).

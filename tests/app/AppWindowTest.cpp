@@ -18,7 +18,8 @@ constexpr const char* overlappingFasts =
 constexpr const char* somethingForEverySheet =
     R"({"version":1,"fasts":[{"start":"2026-02-25T19:00:00Z","end":"2026-02-26T12:00:00Z"},
                              {"start":"2026-02-26T11:00:00Z","end":"2026-02-27T03:00:00Z"},
-                             {"start":"2026-03-01T03:00:00Z","end":null}],"weights":[]})";
+                             {"start":"2026-03-01T03:00:00Z","end":null}],
+        "weights":[{"date":"2026-02-28T07:00:00Z","weightInKg":72.4}]})";
 
 /// A window high enough for the whole column.
 struct Shown : ShownApp {
@@ -70,7 +71,7 @@ TEST(AppWindow, opensEverySheetAsOftenAsItIsWantedWhileThingsMove) {
   };
   for (const char* sheet :
        {"editFast", "addFast", "fastGoal", "fastStart", "fastMenu", "defaultGoal", "weightUnit", "firstWeekday",
-        "language", "appearance", "feedback", "donations", "overlaps", "goalWeight", "date", "table"})
+        "language", "appearance", "feedback", "donations", "overlaps", "goalWeight", "editWeight", "date", "table"})
     for (const char* time : {" first", " again"}) {
       present(sheet);
       EXPECT_TRUE(eventually([&] { return wholeSheet(shown) != nullptr; })) << sheet << time;

@@ -6,6 +6,7 @@
 
 #include "host/app/Settings.h"
 #include "host/database/DatabaseHistory.h"
+#include "mivo/statistics/AddWeightForm.h"
 #include "tests/statistics/StatisticsWorld.h"
 #include "tests/support/TemporaryFolder.h"
 
@@ -175,6 +176,68 @@ TEST_F(AppFeatureTest, showsTheTimeAsTheOneOfTheNextWeightUntilAnotherIsChosen) 
   EXPECT_EQ(*card.logDate, at(0));
 }
 
+class WeightEdits : public AppFeatureTest {
+ protected:
+  using Entry = AddWeightLogFeature::Action;
+
+  WeightEdits() {
+    for (const auto& sample : {kept, other}) Database{file}.apply(adding(sample));
+    send(Action::reload{});
+    send(Action::didTapEditWeight{kept.id});
+  }
+
+  void enter(Entry action) { send(Action::editedWeight{PresentationAction<Entry>::presented{std::move(action)}}); }
+  std::vector<BodyWeightSample> weightsOnDisk() const { return Database{file}.history().weights; }
+
+  BodyWeightSample kept{{7, 1}, at(-3) + Duration{30}, 72.43}, other{{7, 2}, at(-2), 90};
+};
+
+TEST_F(WeightEdits, putAWeightRightAndAreUndone) {
+  enter(Entry::didChangeText{"71.9"});
+  enter(Entry::didChangeDate{at(-3)});
+  enter(Entry::didTapSave{});
+  BodyWeightSample right = kept;
+  right.weightInKg = 71.9;
+  EXPECT_THAT(weightsOnDisk(), ElementsAre(right, other)) << "the minute that was chosen again keeps its seconds";
+  EXPECT_EQ(state().weights->elements(), weightsOnDisk());
+  EXPECT_FALSE(state().editedWeight);
+  EXPECT_EQ((*state().undo)->step, AppFeature::Step::editWeight);
+  send(Action::didTapMessage{});
+  EXPECT_THAT(weightsOnDisk(), ElementsAre(kept, other));
+
+  send(Action::didTapEditWeight{kept.id});
+  enter(Entry::didChangeDate{at(-1)});
+  enter(Entry::didTapSave{});
+  EXPECT_EQ(state().weights->elements().back().weightInKg, 72.43) << "not the one that the field shows";
+}
+
+TEST_F(WeightEdits, writeNothingThatIsNoChange) {
+  enter(Entry::didTapSave{});
+  EXPECT_FALSE(state().editedWeight);
+  EXPECT_EQ(*state().undo, std::nullopt);
+  send(Action::didTapEditWeight{kept.id});
+  enter(Entry::didChangeText{"60"});
+  send(Action::editedWeight{PresentationAction<Entry>::dismiss{}});
+  EXPECT_FALSE(state().editedWeight);
+  EXPECT_THAT(weightsOnDisk(), ElementsAre(kept, other));
+}
+
+TEST_F(WeightEdits, sayInTheirSheetWhyNothingWasSaved) {
+  const auto problem = [this] { return problemText(state().editedWeight->entry, *world.dependencies.texts); };
+  enter(Entry::didChangeText{"7200"});
+  enter(Entry::didTapSave{});
+  EXPECT_EQ(problem(), "Type up to 700 kg or 1543 lb, such as 81.4.");
+  enter(Entry::didChangeText{"72"});
+  Database{file}.apply(removing(kept));  // by another program
+  enter(Entry::didTapSave{});
+  EXPECT_EQ(problem(), "Nothing was saved: the record was changed by another program. Look at it and try again.");
+  send(Action::reload{});
+  enter(Entry::didTapSave{});
+  EXPECT_EQ(problem(), "Nothing was changed: the record is gone.");
+  EXPECT_THAT(*state().failure, IsEmpty());
+  EXPECT_THAT(weightsOnDisk(), ElementsAre(other));
+}
+
 TEST_F(AppFeatureTest, savesADraftAndForgetsIt) {
   setGoalSeconds(*world.dependencies.userDefaults, 72000);
   send(Action::didChangeSettings{});
@@ -260,8 +323,7 @@ TEST_F(AppFeatureTest, writesNothingThatIsNoRecord) {
                       "The start is in the future. Is the clock right?"},
            RefusedRow{"negativeGoal", Action::didChangeGoal{-1}, "Choose a shorter goal."},
            RefusedRow{"removedAlready", Action::didDeleteFast{{7, 99}}, "Nothing was changed: the record is gone."},
-           RefusedRow{"noSuchWeight", Action::didChangeWeight{{{7, 99}, at(-1), 80}},
-                      "Nothing was changed: the record is gone."},
+           RefusedRow{"noSuchWeight", Action::didDeleteWeight{{7, 99}}, "Nothing was changed: the record is gone."},
        }) {
     send(row.action);
     EXPECT_EQ(*state().failure, row.failure) << row.name;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What can be done with a fast of the history.
+// What can be done with a row of a list.
 import QtQuick
 import Mivo
 
@@ -7,12 +7,13 @@ Sheet {
     id: root
 
     property int row: -1
+    property alias editText: edit.text
+    property alias removeText: remove.text
     property bool edits: false
 
     signal editWanted
     signal removeWanted
 
-    title: App.fasting.history.menuTitle
     spacing: 8
     onAboutToShow: edits = false
     // The keys are back at the row by then, and come back there again.
@@ -22,9 +23,9 @@ Sheet {
     }
 
     ActionButton {
+        id: edit
         width: parent.width
         kind: ActionButton.Secondary
-        text: App.fasting.history.editLabel
         onClicked: {
             root.edits = true;
             root.close();
@@ -32,10 +33,10 @@ Sheet {
     }
 
     ActionButton {
+        id: remove
         width: parent.width
         kind: ActionButton.Destructive
         iconName: "trash"
-        text: App.fasting.history.removeLabel
         onClicked: {
             root.close();
             root.removeWanted();

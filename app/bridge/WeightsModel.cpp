@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: MIT
+#include "WeightsModel.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "app/bridge/Records.h"
+#include "app/bridge/Text.h"
+
+namespace mivo::app {
+
+using Edit = PresentationAction<AddWeightLogFeature::Action>;
+
+WeightsModel::WeightsModel(std::function<PageClients()> present, std::function<void(Action)> sends, QObject* parent)
+    : SeenRows{rolesOf<host::WeightRow>(), std::move(present),
+               [this](std::size_t row, const PageClients& now) {
+                 return valuesOf(host::composeWeightRow(*host::weightOf(weights, row), unit, now));
+               },
+               parent},
+      send{std::move(sends)},
+      form{[this](AddWeightModel::Action action) { sendEdited(Edit::presented{std::move(action)}); }} {}
+
+void WeightsModel::follow(const host::AppFeature::State& state) {
+  take(state);
+  const auto& present = state.editedWeight;
+  if (present) form.show(composeAddWeight(present->entry, clients()));
+  const auto id = present ? std::optional{present->before.id} : std::nullopt;
+  if (std::exchange(edited, id) != id) Q_EMIT isEditingChanged();
+}
+
+void WeightsModel::take(const host::AppFeature::State& state) {
+  const auto& shown = state.statistics.addWeightLogState.weightUnit;
+  std::vector<Stamp> read{state.weights.stamp(), shown.stamp(), state.now.stamp()};
+  if (std::exchange(seen, read) == read) return;
+  const host::RowChange change = host::rowChange(weights, *state.weights);
+  become(change, [&] { weights = *state.weights; });
+  for (std::size_t row = change.first; row < change.first + std::min(change.removed, change.added); ++row) tellRow(row);
+  if (std::exchange(unit, *shown) != unit)
+    retell();
+  else
+    retellOnAnotherDay();
+  carry(host::composeWeightsPage(weights, clients().texts), *this);
+}
+
+void WeightsModel::edit(int row) {
+  if (const auto* sample = sampleOf(row)) send(Action::didTapEditWeight{sample->id});
+}
+
+void WeightsModel::remove(int row) {
+  if (const auto* sample = sampleOf(row)) send(Action::didDeleteWeight{sample->id});
+}
+
+void WeightsModel::removeEdited() {
+  if (!edited) return;
+  send(Action::didDeleteWeight{*edited});
+  dismissEdited();
+}
+
+void WeightsModel::dismissEdited() { sendEdited(Edit::dismiss{}); }
+
+// A sheet that closes may still be touched.
+void WeightsModel::sendEdited(Edit action) {
+  if (edited) send(Action::editedWeight{std::move(action)});
+}
+
+QString WeightsModel::spokenText(int row) const {
+  return qString(host::weightsSpoken(weights, static_cast<std::size_t>(row), unit, clients()));
+}
+
+}  // namespace mivo::app
