@@ -21,6 +21,7 @@ class DateTimeChoiceModel : public QObject {
   Q_PROPERTY(double today MEMBER today NOTIFY todayChanged)
   Q_PROPERTY(QString text MEMBER text NOTIFY instantChanged)
   Q_PROPERTY(int dayCount MEMBER dayCount NOTIFY todayChanged)
+  Q_PROPERTY(int todayPlace MEMBER todayPlace NOTIFY todayChanged)
   Q_PROPERTY(int day MEMBER day NOTIFY dayChanged)
   Q_PROPERTY(int hour MEMBER hour NOTIFY hourChanged)
   Q_PROPERTY(int minute MEMBER minute NOTIFY minuteChanged)
@@ -61,7 +62,7 @@ class DateTimeChoiceModel : public QObject {
   host::DateTimeEntry entry;
   QString text, daySpoken, hourSpoken, minuteSpoken, doneLabel, typeLabel, typed, typedProblem;
   double instant = 0, today = 0;
-  int dayCount = 0, day = 0, hour = 0, minute = 0;
+  int dayCount = 0, todayPlace = 0, day = 0, hour = 0, minute = 0;
 };
 
 }  // namespace mivo::app

@@ -48,8 +48,10 @@ Sheet {
 
         function end() {
             failed = !root.choice.type(field.text);
-            if (failed)
+            if (failed) {
+                field.forceActiveFocus();
                 return;
+            }
             typing = false;
             root.showChoice();
             done.forceActiveFocus();
@@ -116,17 +118,12 @@ Sheet {
             id: days
             width: 152
             page: 7
+            home: root.choice.todayPlace
             count: root.choice.dayCount
             spoken: root.choice.daySpoken
             onValueChanged: root.choice.turnDay(value)
             // Days have no numbers: who types wants to type the date.
-            Keys.onPressed: event => {
-                keyPressed(event);
-                if (!event.accepted && /^[0-9]$/.test(event.text)) {
-                    event.accepted = true;
-                    heading.begin(event.text, false);
-                }
-            }
+            onDigitTyped: digit => heading.begin(digit, false)
 
             function textOf(value: int): string {
                 return root.choice.dayText(value, root.choice.today);
@@ -177,9 +174,13 @@ Sheet {
         id: done
         width: parent.width
         leastHeight: Theme.sheetButtonSize
-        enabled: root.problem === "" && !heading.typing
+        enabled: root.problem === ""
         text: root.choice.doneLabel
         onClicked: {
+            if (heading.typing)
+                heading.end();
+            if (heading.typing)
+                return;
             root.chosen(root.current);
             root.close();
         }

@@ -14,11 +14,16 @@ Item {
     /// Digits choose by number, from 0 on.
     property bool typable: false
     property int page: 5
+    /// Where Home leads.
+    property int home: 0
     property string spoken
 
     /// The choice in the middle.
     readonly property int value: list.currentIndex % count
     readonly property alias moving: list.moving
+
+    /// Where digits choose nothing.
+    signal digitTyped(digit: string)
 
     /// The text of a choice; each wheel has its own.
     function textOf(value: int): string {
@@ -52,13 +57,17 @@ Item {
         case Qt.Key_PageDown:
             return turn(page);
         case Qt.Key_Home:
-            return turnTo(0);
+            return turnTo(home);
         case Qt.Key_End:
             return turnTo(count - 1);
         }
-        event.accepted = typable && /^[0-9]$/.test(event.text);
-        if (event.accepted)
+        event.accepted = /^[0-9]$/.test(event.text);
+        if (!event.accepted)
+            return;
+        if (typable)
             typed.add(Number(event.text));
+        else
+            digitTyped(event.text);
     }
 
     implicitWidth: 72

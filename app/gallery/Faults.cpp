@@ -25,6 +25,7 @@ struct ShownText {
   QQuickItem* item = nullptr;
   QQuickItem* card = nullptr;   // none for a text that stands on the page
   QQuickItem* frame = nullptr;  // the button that it names, or else the card
+  QQuickItem* group = nullptr;  // the card or the sheet, within which no text may lie over another
   QRectF place = {};            // of its glyphs, in the window
   bool isOnTop = true;          // nothing modal lies over it
 };
@@ -52,11 +53,12 @@ QRectF glyphPlace(const QQuickItem* text) {
 void collect(QQuickItem* item, ShownText above, QList<ShownText>& texts) {
   if (!item->isVisible() || item->opacity() < 1) return;
   if (isCard(item)) above.card = item;
+  if (isCard(item) || item->inherits("QQuickPopupItem")) above.group = item;
   if (isCard(item) || isButton(item)) above.frame = item;
   const bool isNumber = item->inherits("mivo::app::NumberText");
   if ((isNumber || item->inherits("QQuickText")) && !item->property("text").toString().isEmpty()) {
     const QRectF whole = item->mapRectToScene({0, 0, item->width(), item->height()});
-    texts.append({item, above.card, above.frame, isNumber ? whole : glyphPlace(item), above.isOnTop});
+    texts.append({item, above.card, above.frame, above.group, isNumber ? whole : glyphPlace(item), above.isOnTop});
   }
   for (QQuickItem* child : item->childItems()) collect(child, above, texts);
 }
@@ -158,7 +160,7 @@ QStringList overlaps(const QList<ShownText>& texts) {
   QStringList faults;
   for (qsizetype one = 0; one < texts.size(); ++one)
     for (qsizetype other = one + 1; other < texts.size(); ++other) {
-      if (!texts[one].card || texts[one].card != texts[other].card) continue;
+      if (!texts[one].group || texts[one].group != texts[other].group) continue;
       const QRectF both = texts[one].place & texts[other].place;
       if (both.width() > tolerance && both.height() > 2 * tolerance)
         faults.append(

@@ -60,12 +60,6 @@ constexpr std::array<Look, 3> looks{{{"light", host::AppearanceMode::light, 1},
                                      {"dark", host::AppearanceMode::dark, 1},
                                      {"large-text", host::AppearanceMode::light, 2}}};
 
-constexpr std::array<const char*, 28> screens{
-    "statistics", "badges",     "milestones",   "streaks",     "roadmap",    "feedback", "donations",
-    "overlaps",   "goalWeight", "weights",      "editWeight",  "date",       "table",    "fasting",
-    "editFast",   "addFast",    "fastGoal",     "fastStart",   "fastMenu",   "months",   "settings",
-    "cards",      "about",      "firstWeekday", "defaultGoal", "weightUnit", "language", "appearance"};
-
 struct Wanted {
   std::string folder;  // none only measures
   double scale = 1;

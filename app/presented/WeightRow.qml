@@ -41,7 +41,7 @@ SwipeRow {
         readonly property real fromLeading: root.stacked ? root.padding : root.width - root.padding - width
 
         x: LayoutMirroring.enabled ? root.width - width - fromLeading : fromLeading
-        y: root.stacked ? leading.y + leading.height + 4 : (root.height - height) / 2
+        y: leading.y + (root.stacked ? leading.height + 4 : (leading.height - height) / 2)
         text: root.weight
         style: Theme.numberRowText
         evenDigits: true

@@ -10,6 +10,12 @@ FocusScope {
 
     Keys.onEscapePressed: root.back()
     Keys.onBackPressed: root.back()
+    Keys.onPressed: event => scrollKeys.pressed(event)
+
+    ScrollKeys {
+        id: scrollKeys
+        view: list
+    }
 
     PushBar {
         id: bar

@@ -42,6 +42,7 @@ namespace fs = std::filesystem;
 using host::Read;
 
 constexpr const char* folderVariable = "MIVO_SAMPLE_FOLDER";
+constexpr std::string_view folderName = "mivo-sample-";
 
 // What the command line says goes before what the user chose, and that before what the system is set to.
 Read<adapters::UserLocale> userLocale(const std::string& asked, const UserDefaults& defaults) {
@@ -174,14 +175,17 @@ host::Database open(const fs::path& file, const TextLookup& texts, std::string& 
 
 }  // namespace
 
+// The folder goes with the program, with all that is in it: only one that an earlier program made is taken over.
 SampleFolder::SampleFolder() {
-  if (const char* left = std::getenv(folderVariable)) {
-    folder = left;
+  const char* const left = std::getenv(folderVariable);
+  const fs::path offered = left ? left : "";
+  ::unsetenv(folderVariable);
+  if (offered.parent_path() == fs::temp_directory_path() && offered.filename().string().starts_with(folderName)) {
+    folder = offered;
     inherited = true;
-    ::unsetenv(folderVariable);
     return;
   }
-  std::string pattern = (fs::temp_directory_path() / "mivo-sample-XXXXXX").string();
+  std::string pattern = (fs::temp_directory_path() / folderName).string() + "XXXXXX";
   if (!::mkdtemp(pattern.data()))
     throw std::system_error{errno, std::generic_category(), "no folder for the sample in " + pattern};
   folder = pattern;

@@ -2,6 +2,7 @@
 #include "app/program/Options.h"
 
 #include <CLI/CLI.hpp>
+#include <set>
 
 namespace mivo::app {
 namespace {
@@ -47,11 +48,7 @@ void addLook(CLI::App& program, Options& options) {
       .add_option("--tab", options.tab, "What is shown first; default: the running fast, or else what was shown last")
       ->check(CLI::IsMember({"fasting", "statistics", "settings"}));
   program.add_option("--screen", options.screen, "What is open over it")
-      ->check(CLI::IsMember({"badges",   "milestones", "streaks",  "roadmap",     "feedback",   "donations",
-                             "overlaps", "goalWeight", "date",     "table",       "statistics", "fasting",
-                             "editFast", "addFast",    "fastGoal", "fastStart",   "fastMenu",   "months",
-                             "settings", "cards",      "about",    "defaultGoal", "weightUnit", "firstWeekday",
-                             "language", "appearance"}));
+      ->check(CLI::IsMember(std::set<std::string>{screens.begin(), screens.end()}));
 }
 
 }  // namespace

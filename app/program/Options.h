@@ -2,10 +2,18 @@
 #pragma once
 
 #include <CLI/App.hpp>
+#include <array>
 #include <optional>
 #include <string>
 
 namespace mivo::app {
+
+/// The pages and sheets that the window can present by name.
+inline constexpr std::array<const char*, 28> screens{
+    "statistics", "badges",     "milestones",   "streaks",     "roadmap",    "feedback", "donations",
+    "overlaps",   "goalWeight", "weights",      "editWeight",  "date",       "table",    "fasting",
+    "editFast",   "addFast",    "fastGoal",     "fastStart",   "fastMenu",   "months",   "settings",
+    "cards",      "about",      "firstWeekday", "defaultGoal", "weightUnit", "language", "appearance"};
 
 /// What stands after `mivo-app`, as it was typed.
 struct Options {

@@ -6,9 +6,13 @@
 #include <QtCore/QEventLoop>
 #include <QtCore/QTimer>
 #include <QtCore/QVariant>
+#include <QtGui/QIcon>
+#include <QtGui/QPainter>
+#include <QtGui/QPixmap>
 #include <QtQml/QQmlExtensionPlugin>
 #include <QtQuick/QQuickItem>
 #include <QtQuick/QQuickWindow>
+#include <QtSvg/QSvgRenderer>
 
 #include "app/bridge/EngineModels.h"
 #include "app/program/SystemZone.h"
@@ -31,6 +35,21 @@ std::optional<host::AppearanceMode> modeOf(const Options& options) {
 std::string openingTabOf(const AppModel& app, const UserDefaults& defaults, const Options& options) {
   if (!options.picture.empty()) return host::openingTab(options.tab, false, "");
   return host::openingTab(options.tab, app.state().runningFast() != nullptr, host::windowState(defaults).tab);
+}
+
+// The sign of the app, in the sizes that task bars and switchers have.
+QIcon windowIcon() {
+  QSvgRenderer sign{QStringLiteral(":/Mivo/icons/mivo.svg")};
+  QIcon icon;
+  for (const int size : {16, 24, 32, 48, 64, 128, 256}) {
+    QPixmap drawn{size, size};
+    drawn.fill(Qt::transparent);
+    QPainter painter{&drawn};
+    sign.render(&painter);
+    painter.end();
+    icon.addPixmap(drawn);
+  }
+  return icon;
 }
 
 std::function<std::optional<std::string>()> following(std::shared_ptr<SystemZone> zone) {
@@ -106,7 +125,8 @@ AppWindow::AppWindow(const Environment& environment, const Options& options, QSi
   QObject::connect(window(), &QWindow::visibilityChanged, &app, [this](QWindow::Visibility now) {
     app.setWatched(now != QWindow::Hidden && now != QWindow::Minimized);
   });
-  window()->setIcon(windowIcon());
+  // The first frame need not wait for it.
+  QTimer::singleShot(0, &app, [this] { window()->setIcon(windowIcon()); });
   end.emplace(*window());
 }
 

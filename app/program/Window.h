@@ -11,8 +11,8 @@
 
 #include "app/bridge/AppModel.h"
 #include "app/bridge/Appearance.h"
+#include "app/program/EndsWithWindow.h"
 #include "app/program/Environment.h"
-#include "app/program/WindowHabits.h"
 
 class QQuickWindow;
 

@@ -122,6 +122,7 @@ DateTimeChoice composeDateTimeChoice(const DateTimeEntry& entry, const PageClien
   choice.today = entry.today;
   choice.text = dateTimeText(choice.instant, clients);
   choice.dayCount = dayTotal;
+  choice.todayPlace = lastDay - daysAhead;
   choice.day = entry.day;
   choice.hour = entry.hour;
   choice.minute = entry.minute;

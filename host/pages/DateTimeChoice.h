@@ -50,6 +50,7 @@ struct DateTimeChoice {
   Date today;
   std::string text;  ///< "Today, 13:24"
   int dayCount = 0;
+  int todayPlace = 0;  ///< in the list of days
   int day = 0, hour = 0, minute = 0;
   std::string daySpoken, hourSpoken, minuteSpoken;  ///< "Hour, 13"
   std::string doneLabel;                            ///< "Done"
@@ -61,12 +62,13 @@ struct DateTimeChoice {
 
 template <RecordOf<DateTimeChoice> Listed, class Visit>
 void fields(Listed& record, Visit&& visit) {
-  auto& [instant, today, text, dayCount, day, hour, minute, daySpoken, hourSpoken, minuteSpoken, doneLabel, typeLabel,
-         typed, typedProblem] = record;
+  auto& [instant, today, text, dayCount, todayPlace, day, hour, minute, daySpoken, hourSpoken, minuteSpoken, doneLabel,
+         typeLabel, typed, typedProblem] = record;
   visit("instant", instant);
   visit("today", today);
   visit("text", text);
   visit("dayCount", dayCount);
+  visit("todayPlace", todayPlace);
   visit("day", day);
   visit("hour", hour);
   visit("minute", minute);

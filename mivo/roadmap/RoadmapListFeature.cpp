@@ -32,9 +32,14 @@ RoadmapFile loadedFile(const RoadmapConfiguration& configuration, std::stop_toke
   return JSONDataFetcher::loadJSON<RoadmapFile>(url, std::move(stop));
 }
 
+// One that cannot be read is none: what is said then is that the other could not be loaded.
 RoadmapFile shippedFile(const RoadmapConfiguration& configuration) {
   if (configuration.shippedRoadmap.empty()) return {};
-  return RoadmapFile::decoded(dependency(&Dependencies::jsonDecoder)->decoded(configuration.shippedRoadmap));
+  try {
+    return RoadmapFile::decoded(dependency(&Dependencies::jsonDecoder)->decoded(configuration.shippedRoadmap));
+  } catch (const DecodingError&) {
+    return {};
+  }
 }
 
 List<RoadmapRow> rowsOf(const std::vector<RoadmapFeature>& features, const RoadmapVotes& votes) {

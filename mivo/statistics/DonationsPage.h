@@ -46,9 +46,8 @@ struct DonationsPage {
   std::string title, text;
   std::vector<DonationGroup> groups;
   std::string failure;  ///< while loading has failed
-  std::string
-      button;  ///< "Donate 10 €"; "Try again" after a failure; none while it loads, and where there is no way to give
-  std::string close;  ///< on the button that leaves without giving
+  std::string button;   ///< "Donate 10 €"; "Try again" after a failure; none while it loads and without ways to give
+  std::string close;    ///< on the button that leaves without giving
   bool operator==(const DonationsPage&) const = default;
 };
 

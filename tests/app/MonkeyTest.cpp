@@ -145,7 +145,7 @@ TEST(Monkey, findsNothingWrong) {
       SCOPED_TRACE("action " + std::to_string(action));
       monkey.act();
       for (int look = 0; look < 3; ++look) QCoreApplication::processEvents();
-      if (action % 25 != 0) continue;
+      if (action % 50 != 0) continue;
       settle(monkey.app.window());
       EXPECT_TRUE(eventually([&] { return monkey.fault().empty(); })) << monkey.fault();
     }

@@ -169,6 +169,17 @@ TEST_F(RoadmapList, showsWhatCameWithTheAppWhereNoServerAnswers) {
   EXPECT_EQ(state, before) << "there is nobody to count a vote";
 }
 
+TEST_F(RoadmapList, takesAShippedFileThatCannotBeReadForNone) {
+  for (const char* shipped : {"<html>", R"([{"id": 5}])"}) {
+    world.dependencies.shippedRoadmap = shipped;
+    enter();
+    session->isOffline = true;
+    const State state = stateOnceLoaded();
+    EXPECT_EQ(state.phase, RoadmapPhase::failed) << shipped;
+    EXPECT_TRUE(state.rows->empty()) << shipped;
+  }
+}
+
 TEST_F(RoadmapList, aFileThatDoesNotFitIsAFailureToo) {
   session->body = "<html>";
   const State state = stateOnceLoaded();

@@ -3,7 +3,8 @@
 
 #include <QtCore/QAbstractNativeEventFilter>
 #include <QtCore/QByteArray>
-#include <QtGui/QIcon>
+
+#include <cstdint>
 
 class QWindow;
 
@@ -21,8 +22,5 @@ class EndsWithWindow : public QAbstractNativeEventFilter {
  private:
   std::uint32_t id;
 };
-
-/// The sign of the app, in the sizes that task bars and switchers have.
-QIcon windowIcon();
 
 }  // namespace mivo::app

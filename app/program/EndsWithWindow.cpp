@@ -1,11 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "app/program/WindowHabits.h"
+#include "app/program/EndsWithWindow.h"
 
 #include <QtCore/QCoreApplication>
-#include <QtGui/QPainter>
-#include <QtGui/QPixmap>
 #include <QtGui/QWindow>
-#include <QtSvg/QSvgRenderer>
 
 namespace mivo::app {
 namespace {
@@ -31,20 +28,6 @@ bool EndsWithWindow::nativeEventFilter(const QByteArray& type, void* message, qi
   const auto* event = static_cast<const DestroyNotify*>(message);
   if ((event->type & ~sentByAProgram) == destroyNotify && event->window == id) QCoreApplication::quit();
   return false;
-}
-
-QIcon windowIcon() {
-  QSvgRenderer sign{QStringLiteral(":/Mivo/icons/mivo.svg")};
-  QIcon icon;
-  for (const int size : {16, 24, 32, 48, 64, 128, 256}) {
-    QPixmap drawn{size, size};
-    drawn.fill(Qt::transparent);
-    QPainter painter{&drawn};
-    sign.render(&painter);
-    painter.end();
-    icon.addPixmap(drawn);
-  }
-  return icon;
 }
 
 }  // namespace mivo::app
