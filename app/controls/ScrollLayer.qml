@@ -15,6 +15,9 @@ Flickable {
     readonly property alias scroll: followed.scroll
     readonly property real maxScroll: Math.max(0, contentWidth - width)
 
+    /// Moved by a hand or a wheel, or gliding to its place.
+    readonly property bool underway: moving || glide.running
+
     signal tapped(real x)
     signal touched(real x)
     signal released

@@ -55,6 +55,7 @@ void DayBars::setModel(DayBarsModel* model) {
   if (shown) {
     connect(shown, &DayBarsModel::changed, this, &DayBars::relayout);
     connect(shown, &DayBarsModel::barsChanged, this, [this] {
+      lastSeen.reset();
       relayout();
       Q_EMIT scrollWanted(layout.maxScroll());
       Q_EMIT unitChanged();
@@ -68,6 +69,9 @@ void DayBars::setScroll(qreal scroll) {
   if (scroll == offset) return;
   offset = scroll;
   Q_EMIT scrollChanged();
+  if (isLayingOut || !shown) return;
+  const auto last = layout.lastSeen(offset);
+  lastSeen = last ? std::optional{(*shown->state().data)[*last].dateInterval.start} : std::nullopt;
   reportVisibleBars();
   update();
 }
@@ -91,14 +95,25 @@ void DayBars::relayout() {
   const auto& state = shown->state();
   const Layout next = Layout::make({innerWidth(), height()}, state.chartTimeUnit, state.data->size(), gutterWidth());
   const bool isOther = next.barCount != layout.barCount || next.pitch != layout.pitch || next.height != layout.height;
-  const double wanted = next.scrollAfter(layout, offset);
   layout = next;
-  if (isOther) {
-    Q_EMIT layoutChanged();
-    Q_EMIT scrollWanted(wanted);
-  }
+  if (isOther) keepPlace();
   reportVisibleBars();
   update();
+}
+
+// What scrolls is told of the new widths first, and moves by itself while it takes them over.
+void DayBars::keepPlace() {
+  const auto& data = *shown->state().data;
+  const auto isEarlier = [](const ChartDataEntry& bar, Date date) { return bar.dateInterval.start < date; };
+  isLayingOut = true;
+  Q_EMIT layoutChanged();
+  std::optional<std::size_t> bar;
+  if (lastSeen)
+    bar = std::min<std::size_t>(
+        data.size() - 1,
+        static_cast<std::size_t>(std::lower_bound(data.begin(), data.end(), *lastSeen, isEarlier) - data.begin()));
+  Q_EMIT scrollWanted(layout.scrollToEndAt(bar));
+  isLayingOut = false;
 }
 
 // The state derives the popup's place from what is reported here, so it is told of every move, and of other periods in
@@ -109,8 +124,15 @@ void DayBars::reportVisibleBars() {
   const auto [first, last] = layout.visibleBars(offset);
   auto days = layout.visibleDays(data, offset);
   if (first == last || days == *shown->state().visibleDays) return;
-  shown->setVisible({data[first].dateInterval.start, data[last - 1].dateInterval.end});
+  if (const auto seen = layout.seenBars(offset); seen.first < seen.last)
+    shown->setVisible({data[seen.first].dateInterval.start, data[seen.last - 1].dateInterval.end});
   shown->send(DayBarsModel::Action::didUpdateVisibleDays{std::move(days)});
+  polish();
+}
+
+// The other chart follows the middle, so it is told once both have the width that a window gives them.
+void DayBars::updatePolish() {
+  if (!shown || layout.pitch <= 0) return;
   const double midX = offset + layout.plotWidth / 2;
   if (shown->state().scrollViewMidX != midX) shown->send(DayBarsModel::Action::didUpdateMidX{midX});
 }

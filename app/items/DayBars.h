@@ -59,10 +59,12 @@ class DayBars : public mivo::app::ChartItem {
 
  protected:
   void geometryChange(const QRectF& newGeometry, const QRectF& oldGeometry) override;
+  void updatePolish() override;
 
  private:
   void relayout();
   qreal gutterWidth() const;
+  void keepPlace();
   void reportVisibleBars();
   std::optional<std::size_t> selectedBar() const;
   void select(std::size_t bar);
@@ -75,6 +77,8 @@ class DayBars : public mivo::app::ChartItem {
   DayBarsModel* shown = nullptr;
   drawing::DayBarsLayout layout;
   qreal offset = 0;
+  std::optional<Date> lastSeen;  ///< where the bar at the trailing edge begins, if that is not the latest one
+  bool isLayingOut = false;
   QColor barTop, barFill, barDim;
   qreal growth = 1;
 };

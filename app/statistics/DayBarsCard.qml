@@ -101,7 +101,7 @@ Card {
         Connections {
             target: root.chart
             function onMidXWanted(midX: real) {
-                if (!layer.moving)
+                if (!layer.underway)
                     layer.scrollTo(midX - bars.plotWidth / 2, false);
             }
         }

@@ -14,7 +14,7 @@ constexpr double aboveBarArea = 14, belowBarArea = 36;
 constexpr double barInset = 7, stubHeight = 3;
 constexpr double topRadius = 8, bottomRadius = 3, betweenLabels = 4;
 constexpr double popupLineBelowBaseline = 14, popupUsualBody = 30, popupMargin = 8, popupPadding = 12;
-constexpr double mostHourLines = 3.6;
+constexpr double mostHourLines = 3.6, hairOfAColumn = 1e-6;
 constexpr std::array<double, 12> hourSteps{1, 2, 4, 8, 12, 24, 40, 50, 100, 200, 250, 500};
 
 }  // namespace
@@ -34,9 +34,14 @@ double DayBarsLayout::barArea() const { return height - aboveBarArea - belowBarA
 
 double DayBarsLayout::maxScroll() const { return std::max(0.0, static_cast<double>(barCount) * pitch - plotWidth); }
 
-double DayBarsLayout::scrollAfter(const DayBarsLayout& before, double scroll) const {
-  const double barsBeyond = before.pitch > 0 ? std::round((before.maxScroll() - scroll) / before.pitch) : 0;
-  return std::max(0.0, maxScroll() - barsBeyond * pitch);
+std::optional<std::size_t> DayBarsLayout::lastSeen(double scroll) const {
+  const auto [first, last] = seenBars(scroll);
+  return first < last && last < barCount ? std::optional{last - 1} : std::nullopt;
+}
+
+double DayBarsLayout::scrollToEndAt(std::optional<std::size_t> bar) const {
+  if (!bar) return maxScroll();
+  return std::clamp(static_cast<double>(*bar + 1) * pitch - plotWidth, 0.0, maxScroll());
 }
 
 std::optional<double> DayBarsLayout::scrollToSee(std::size_t bar, double scroll) const {
@@ -57,9 +62,16 @@ double DayBarsLayout::middle(std::size_t bar, double scroll) const {
 
 DayBarsLayout::Range DayBarsLayout::visibleBars(double scroll) const {
   if (pitch <= 0) return {};
-  const auto first = static_cast<std::size_t>(std::max(0.0, std::floor(scroll / pitch)));
-  const auto last = static_cast<std::size_t>(std::max(0.0, std::ceil((scroll + plotWidth) / pitch)));
+  // What begins at the very edge is not seen, however it was rounded.
+  const auto first = static_cast<std::size_t>(std::max(0.0, std::floor(scroll / pitch + hairOfAColumn)));
+  const auto last = static_cast<std::size_t>(std::max(0.0, std::ceil((scroll + plotWidth) / pitch - hairOfAColumn)));
   return {std::min(first, barCount), std::min(last, barCount)};
+}
+
+DayBarsLayout::Range DayBarsLayout::seenBars(double scroll) const {
+  if (pitch <= 0) return {};
+  const auto first = static_cast<std::size_t>(std::max(0.0, std::round(scroll / pitch)));
+  return {std::min(first, barCount), std::min(first + static_cast<std::size_t>(visibleColumns), barCount)};
 }
 
 ScrollChartFeature::VisibleDays DayBarsLayout::visibleDays(const IdentifiedArray<ChartDataEntry>& bars,

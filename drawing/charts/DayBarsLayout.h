@@ -33,9 +33,11 @@ struct DayBarsLayout {
   double barArea() const;
   /// How far the content can scroll; 0 where every bar is visible.
   double maxScroll() const;
-  /// How far to scroll so that what stood at the trailing edge of an earlier layout stays there, whether bars came in
-  /// or the window changed its size.
-  double scrollAfter(const DayBarsLayout& before, double scroll) const;
+  /// The bar at the trailing edge of what is seen; none where that is the latest one, which stays in sight whatever
+  /// comes in.
+  std::optional<std::size_t> lastSeen(double scroll) const;
+  /// How far to scroll so that a bar stands at the trailing edge; the latest one for none.
+  double scrollToEndAt(std::optional<std::size_t> bar) const;
   /// How far to scroll to see a bar; nothing where it is seen.
   std::optional<double> scrollToSee(std::size_t bar, double scroll) const;
   /// The nearest position at which whole columns are visible.
@@ -48,6 +50,8 @@ struct DayBarsLayout {
     std::size_t first = 0, last = 0;
   };
   Range visibleBars(double scroll) const;
+  /// Bars that count as seen, more than half of each: as many as there are columns, between two places too.
+  Range seenBars(double scroll) const;
   /// What the chart's state is to know of them.
   ScrollChartFeature::VisibleDays visibleDays(const IdentifiedArray<ChartDataEntry>& bars, double scroll) const;
   /// The painted bar, slimmer than its column; a stub where there is no time.

@@ -97,13 +97,24 @@ TEST(HourLines, areTheFirstStepWithAtMostThreeAndAHalfLines) {
 TEST(DayBarsLayout, keepsWhatStandsAtTheTrailingEdge) {
   const auto before = DayBarsLayout::make(phone, ChartTimeUnit::day, 20);
   const double twoBarsBack = before.maxScroll() - 2 * before.pitch;
+  EXPECT_EQ(before.lastSeen(twoBarsBack), 17u);
+  EXPECT_EQ(before.lastSeen(twoBarsBack - 0.4 * before.pitch), 17u) << "more than half of it";
+  EXPECT_EQ(before.lastSeen(before.maxScroll()), std::nullopt) << "the latest, whichever that will be";
+  EXPECT_EQ(DayBarsLayout{}.lastSeen(0), std::nullopt) << "not laid out yet";
   const auto wide = DayBarsLayout::make({468, 200}, ChartTimeUnit::day, 20);
-  EXPECT_DOUBLE_EQ(wide.scrollAfter(before, twoBarsBack), wide.maxScroll() - 2 * wide.pitch);
-  const auto withAnother = DayBarsLayout::make(phone, ChartTimeUnit::day, 21);
-  EXPECT_DOUBLE_EQ(withAnother.scrollAfter(before, before.maxScroll()), withAnother.maxScroll());
-  const auto fewer = DayBarsLayout::make(phone, ChartTimeUnit::day, 8);
-  EXPECT_DOUBLE_EQ(fewer.scrollAfter(before, 0), 0);
-  EXPECT_DOUBLE_EQ(before.scrollAfter(DayBarsLayout{}, 0), before.maxScroll()) << "not laid out before";
+  EXPECT_DOUBLE_EQ(wide.scrollToEndAt(17), wide.maxScroll() - 2 * wide.pitch);
+  EXPECT_DOUBLE_EQ(wide.scrollToEndAt(std::nullopt), wide.maxScroll());
+  EXPECT_DOUBLE_EQ(wide.scrollToEndAt(3), 0) << "as far as there are bars";
+}
+
+TEST(DayBarsLayout, countsAsManyBarsAsSeenAsThereAreColumns) {
+  const auto layout = DayBarsLayout::make(phone, ChartTimeUnit::day, 30);
+  for (const auto& [scroll, first, last] :
+       {std::tuple{0.0, 0u, 7u}, {42.0 * 5, 5u, 12u}, {42.0 * 5 + 20, 5u, 12u}, {42.0 * 5 + 22, 6u, 13u}}) {
+    EXPECT_EQ(layout.seenBars(scroll).first, first) << scroll;
+    EXPECT_EQ(layout.seenBars(scroll).last, last) << scroll;
+  }
+  EXPECT_EQ(DayBarsLayout::make(phone, ChartTimeUnit::day, 3).seenBars(0).last, 3u);
 }
 
 TEST(DayBarsLayout, scrollsOnlyToBarsThatAreNotSeen) {
