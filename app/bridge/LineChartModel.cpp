@@ -19,9 +19,12 @@ void LineChartModel::become(const drawing::LineChart::Source& source, WeightUnit
 }
 
 void LineChartModel::show(const drawing::LineChart::Source& source, WeightUnit unit, Date present) {
+  const DateInterval before = domain();
   now = present;
-  if (chart->shows(source, unit)) return;
-  become(source, unit);
+  if (!chart->shows(source, unit))
+    become(source, unit);
+  else if (domain() == before)
+    return;
   Q_EMIT changed();
   Q_EMIT tableChanged();
   Q_EMIT headerChanged();

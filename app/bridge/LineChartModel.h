@@ -37,9 +37,13 @@ class LineChartModel final : public mivo::app::ChartTable {
 
   const std::vector<drawing::LineSeries>& lines() const { return chart->lines(); }
   DateInterval domain() const { return chart->domain(clients()); }
+  TimeRange timeRange() const { return chart->timeRange(); }
   double span() const;  ///< seconds on screen at once
   std::vector<drawing::TimeAxisLabel> labels(DateInterval visible) const { return chart->labels(visible, clients()); }
   std::string axisText(double value, int fractionDigits) const;
+  std::string gutterText(std::size_t line, double value) const { return chart->gutterText(line, value, clients()); }
+  std::vector<std::string> gutterTexts() const { return chart->gutterTexts(clients()); }
+  std::string note(DateInterval visible) const { return chart->note(visible, clients()); }
   void didScroll(Date leading) { chart->didScroll(leading); }
   void didTouch(std::optional<Date> date) { chart->didTouch(date); }
   std::vector<std::optional<drawing::LinePoint>> selection() const { return chart->selection(); }
@@ -56,7 +60,7 @@ class LineChartModel final : public mivo::app::ChartTable {
   QString value(int row) const override;
 
  Q_SIGNALS:
-  void changed();  ///< other points
+  void changed();  ///< other points, or another day
   void selectionChanged();
   void headerChanged();
 

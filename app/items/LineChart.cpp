@@ -4,19 +4,23 @@
 #include <QtGui/QLinearGradient>
 #include <QtGui/QPainter>
 
+#include <utility>
+
 #include "app/items/TextMetrics.h"
 
 namespace mivo::app {
 namespace {
-
-using Layout = drawing::LineChartLayout;
 
 constexpr qreal lineWidth = 2.5, markStroke = 2.5, areaOpacity = 0.2;
 constexpr qreal annotationMarkRadius = 3, annotationMarkStroke = 2;
 
 }  // namespace
 
-LineChart::LineChart(QQuickItem* parent) : ChartItem{parent} {}
+LineChart::LineChart(QQuickItem* parent) : ChartItem{parent} {
+  connect(this, &ChartItem::appearanceChanged, this, [this] {
+    if (shown && gutter != wantedGutter()) dataChanged();
+  });
+}
 
 void LineChart::setModel(LineChartModel* model) {
   if (model == shown) return;
@@ -30,23 +34,35 @@ void LineChart::setModel(LineChartModel* model) {
   dataChanged();
 }
 
+// Whoever sees the latest keeps seeing it, whoever looks further back keeps looking at the same dates. What scrolls is
+// told of the new widths first, and moves by itself while it takes them over.
 void LineChart::dataChanged() {
+  if (shown) gutter = wantedGutter();
+  if (shown && std::exchange(range, shown->timeRange()) != shown->timeRange()) endKept.reset();
+  isLayingOut = true;
   Q_EMIT layoutChanged();
-  if (!shown || plotWidth() <= 0) return;
-  Q_EMIT scrollWanted(maxScroll());
-  shown->didScroll(visible().start);
-  updateAxis(false);
+  if (shown && plotWidth() > 0) {
+    Q_EMIT scrollWanted(endKept ? layout().scrollToEndAt(*endKept) : maxScroll());
+    lookAtVisible(false);
+  }
+  isLayingOut = false;
   update();
+}
+
+void LineChart::lookAtVisible(bool animated) {
+  shown->didScroll(visible().start);
+  updateAxis(animated);
+  const QString next = qText(shown->note(visible()));
+  if (std::exchange(sentence, next) != next) Q_EMIT noteChanged();
 }
 
 void LineChart::setScroll(qreal scroll) {
   if (scroll == offset) return;
   offset = scroll;
   Q_EMIT scrollChanged();
-  if (shown && plotWidth() > 0) {
-    shown->didScroll(visible().start);
-    updateAxis(true);
-  }
+  if (isLayingOut || !shown || plotWidth() <= 0) return;
+  endKept = offset < maxScroll() - 0.5 ? std::optional{visible().end} : std::nullopt;
+  lookAtVisible(true);
   update();
 }
 
@@ -57,7 +73,18 @@ void LineChart::setAxisShift(qreal value) {
   update();
 }
 
+const QFont& LineChart::gutterFont() const { return shown->hasTwoLines() ? axisStrongFont : axisFont; }
+
+qreal LineChart::wantedGutter() const {
+  return drawing::lineGutterWidth(shown->gutterTexts(), shown->hasTwoLines(), numberWidthIn(gutterFont()));
+}
+
 qreal LineChart::plotWidth() const { return layout().plotWidth(); }
+
+qreal LineChart::plotMiddle() const {
+  const drawing::LinePlot place = plot();
+  return (place.top + place.bottom) / 2;
+}
 
 qreal LineChart::contentWidth() const { return layout().contentWidth(); }
 
@@ -66,14 +93,15 @@ void LineChart::geometryChange(const QRectF& newGeometry, const QRectF& oldGeome
   if (newGeometry.size() != oldGeometry.size()) dataChanged();
 }
 
-Layout LineChart::layout() const {
+drawing::LineChartLayout LineChart::layout() const {
   const Size size{innerWidth(), height()};
   if (!shown) return {.size = size, .domain = {}};
   return {.size = size,
           .domain = shown->domain(),
           .span = shown->span(),
           .scrolls = shown->scrolls(),
-          .isPair = shown->hasTwoLines()};
+          .isPair = shown->hasTwoLines(),
+          .gutter = gutter};
 }
 
 void LineChart::updateAxis(bool animated) {
@@ -115,9 +143,9 @@ void LineChart::paint(QPainter* painter) {
   painter->translate(roomAtTheSides, 0);
   const drawing::LinePlot place = plot();
   paintLines(painter, place);
-  painter->save();
-  painter->setClipRect(placed(QRectF{0, 0, place.width, height()}));
   paintLabels(painter, place);
+  painter->save();
+  painter->setClipRect(placed(layout().area(place)));
   for (std::size_t line = 0; line < shown->lines().size(); ++line) paintLine(painter, place, line);
   painter->restore();
   paintGutter(painter, place);
@@ -192,7 +220,7 @@ void LineChart::paintMark(QPainter* painter, QPointF at, std::size_t line, qreal
 
 void LineChart::paintGutter(QPainter* painter, const drawing::LinePlot& place) const {
   const bool isPair = shown->hasTwoLines();
-  painter->setFont(isPair ? axisStrongFont : axisFont);
+  painter->setFont(gutterFont());
   const qreal belowMiddle = QFontMetricsF{painter->font()}.capHeight() / 2;
   if (!isPair) {
     painter->setPen(inkTertiary);
@@ -203,44 +231,51 @@ void LineChart::paintGutter(QPainter* painter, const drawing::LinePlot& place) c
   }
   for (const auto& [line, value, y] : drawing::gutterValues(shown->lines(), place)) {
     painter->setPen(textColors.value(static_cast<qsizetype>(line)));
-    drawNumber(painter, shown->axisText(value, line == 0 ? 1 : 0), innerWidth(), y + belowMiddle, Anchor::trailing);
+    drawNumber(painter, shown->gutterText(line, value), innerWidth(), y + belowMiddle, Anchor::trailing);
   }
 }
 
 void LineChart::paintSelection(QPainter* painter, const drawing::LinePlot& place) const {
   using Box = drawing::AnnotationBox;
+  const auto& lines = shown->lines();
   const auto annotation = shown->annotation();
   const auto selection = shown->selection();
   const auto ruleX = drawing::selectionRule(selection, place);
   if (!annotation || !ruleX) return;
-  painter->fillRect(QRectF{fromLeading(*ruleX) - 0.5, Box::height, 1, layout().baseline() - Box::height}, inkSecondary);
+  const double top = shown->hasTwoLines() ? Box::height : place.top;
+  painter->fillRect(QRectF{fromLeading(*ruleX) - 0.5, top, 1, layout().baseline() - top}, inkSecondary);
   for (std::size_t line = 0; line < selection.size(); ++line) {
     if (!selection[line]) continue;
     const QColor color = fills.value(static_cast<qsizetype>(line));
-    paintMark(painter, at(place, shown->lines()[line], *selection[line]), line, drawing::selectedMarkRadius, true, 0,
-              color, color);
+    paintMark(painter, at(place, lines[line], *selection[line]), line, drawing::selectedMarkRadius, true, 0, color,
+              color);
   }
-  paintAnnotation(painter, *annotation, *ruleX);
+  const auto caption = widthIn(captionFont), value = numberWidthIn(valueFont);
+  paintAnnotation(painter, *annotation,
+                  shown->hasTwoLines()
+                      ? drawing::annotationBox(*annotation, *ruleX, plotWidth(), innerWidth(), caption, value)
+                      : drawing::annotationBeside(*annotation, {*ruleX, place.y(selection[0]->value / lines[0].scale)},
+                                                  place, caption, value));
 }
 
-void LineChart::paintAnnotation(QPainter* painter, const drawing::Annotation& annotation, double ruleX) const {
+void LineChart::paintAnnotation(QPainter* painter, const drawing::Annotation& annotation,
+                                const drawing::AnnotationBox& box) const {
   using Box = drawing::AnnotationBox;
   const QFontMetricsF caption{captionFont}, value{valueFont};
-  const Box box = drawing::annotationBox(annotation, ruleX, plotWidth(), innerWidth(), widthIn(captionFont),
-                                         numberWidthIn(valueFont));
   painter->setPen(Qt::NoPen);
   painter->setBrush(inverse);
-  painter->drawRoundedRect(placed(QRectF{box.x, 0, box.width, Box::height}), Box::radius, Box::radius);
+  painter->drawRoundedRect(placed(QRectF{box.x, box.y, box.width, Box::height}), Box::radius, Box::radius);
   painter->setFont(captionFont);
   painter->setPen(textOnInverseSecondary);
-  drawText(painter, annotation.date, box.x + Box::padding, Box::captionMiddle + caption.capHeight() / 2,
+  drawText(painter, annotation.date, box.x + Box::padding, box.y + Box::captionMiddle + caption.capHeight() / 2,
            Anchor::leading);
   for (const auto& [line, mark, text] : box.values) {
-    paintMark(painter, {fromLeading(mark), Box::valueMiddle}, line, annotationMarkRadius, false, annotationMarkStroke,
-              inverseFills.value(static_cast<qsizetype>(line)), inverse);
+    paintMark(painter, {fromLeading(mark), box.y + Box::valueMiddle}, line, annotationMarkRadius, false,
+              annotationMarkStroke, inverseFills.value(static_cast<qsizetype>(line)), inverse);
     painter->setFont(valueFont);
     painter->setPen(textOnInverse);
-    drawNumber(painter, annotation.values[line], text, Box::valueMiddle + value.capHeight() / 2, Anchor::leading);
+    drawNumber(painter, annotation.values[line], text, box.y + Box::valueMiddle + value.capHeight() / 2,
+               Anchor::leading);
   }
 }
 

@@ -19,10 +19,15 @@ class LineChart : public mivo::app::ChartItem {
   Q_PROPERTY(qreal scroll READ scroll WRITE setScroll NOTIFY scrollChanged)
   Q_PROPERTY(qreal contentWidth READ contentWidth NOTIFY layoutChanged)
   Q_PROPERTY(qreal plotWidth READ plotWidth NOTIFY layoutChanged)
+  /// y of the middle of the plot.
+  Q_PROPERTY(qreal plotMargins READ plotMargins NOTIFY modelChanged)
+  Q_PROPERTY(qreal plotMiddle READ plotMiddle NOTIFY layoutChanged)
   /// The colours of the lines, first to last: fill, text, and the mark on the other theme's surface.
   Q_PROPERTY(QList<QColor> fills MEMBER fills NOTIFY appearanceChanged)
   Q_PROPERTY(QList<QColor> textColors MEMBER textColors NOTIFY appearanceChanged)
   Q_PROPERTY(QList<QColor> inverseFills MEMBER inverseFills NOTIFY appearanceChanged)
+  /// A sentence for the middle of a plot into which no line comes; otherwise empty.
+  Q_PROPERTY(QString note READ note NOTIFY noteChanged)
   /// 0 to 1: from the axis before the last scroll to the present one.
   Q_PROPERTY(qreal axisShift READ axisShift WRITE setAxisShift NOTIFY axisShiftChanged)
 
@@ -35,6 +40,9 @@ class LineChart : public mivo::app::ChartItem {
   void setScroll(qreal scroll);
   qreal contentWidth() const;
   qreal plotWidth() const;
+  qreal plotMiddle() const;
+  qreal plotMargins() const { return drawing::LineChartLayout::plotMargins(shown && shown->hasTwoLines()); }
+  QString note() const { return sentence; }
   qreal axisShift() const { return shift; }
   void setAxisShift(qreal value);
 
@@ -52,6 +60,7 @@ class LineChart : public mivo::app::ChartItem {
   void modelChanged();
   void scrollChanged();
   void layoutChanged();
+  void noteChanged();
   void axisShiftChanged();
   /// The axis has another range than before: animate axisShift from 0 to 1.
   void axisMoved();
@@ -61,10 +70,15 @@ class LineChart : public mivo::app::ChartItem {
   void geometryChange(const QRectF& newGeometry, const QRectF& oldGeometry) override;
 
  private:
+  using Layout = drawing::LineChartLayout;
+
   void dataChanged();
+  const QFont& gutterFont() const;
+  qreal wantedGutter() const;
+  void lookAtVisible(bool animated);
   void updateAxis(bool animated);
   void selectDate(std::optional<Date> date);
-  drawing::LineChartLayout layout() const;
+  Layout layout() const;
   drawing::LinePlot plot() const;
   DateInterval visible() const { return layout().visible(offset); }
   QPointF at(const drawing::LinePlot& plot, const drawing::LineSeries& line, const drawing::LinePoint& point) const;
@@ -75,12 +89,18 @@ class LineChart : public mivo::app::ChartItem {
   void paintArea(QPainter* painter, const QPainterPath& path, qreal bottom, QColor tint) const;
   void paintGutter(QPainter* painter, const drawing::LinePlot& plot) const;
   void paintSelection(QPainter* painter, const drawing::LinePlot& plot) const;
-  void paintAnnotation(QPainter* painter, const drawing::Annotation& annotation, double ruleX) const;
+  void paintAnnotation(QPainter* painter, const drawing::Annotation& annotation,
+                       const drawing::AnnotationBox& box) const;
   void paintMark(QPainter* painter, QPointF at, std::size_t line, qreal radius, bool isFilled, qreal stroke,
                  const QColor& color, const QColor& surface) const;
 
   LineChartModel* shown = nullptr;
   qreal offset = 0;
+  qreal gutter = Layout::usualGutter;
+  TimeRange range = TimeRange::week;
+  std::optional<Date> endKept;  ///< of what is seen, where that is not the latest
+  bool isLayingOut = false;
+  QString sentence;
   qreal shift = 1;
   drawing::ValueAxis axis, axisBefore;
   QList<QColor> fills, textColors, inverseFills;

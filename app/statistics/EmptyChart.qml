@@ -24,21 +24,10 @@ Item {
         }
     }
 
-    Rectangle {
-        anchors.centerIn: label
-        width: label.width + 24
-        height: label.height
-        color: Theme.card
-    }
-
-    MeasuredText {
+    ChartNote {
         id: label
-        anchors.horizontalCenter: parent.horizontalCenter
         y: Math.max(12, 48 - height / 2)
-        width: Math.min(lineWidth, root.width - 48)
-        horizontalAlignment: Text.AlignHCenter
+        room: root.width
         text: root.text
-        style: Theme.labelText
-        color: Theme.inkSecondary
     }
 }

@@ -8,13 +8,16 @@ FocusScope {
 
     required property LineChartModel chart
     property string title
+    property real leastHeight: 0
 
     signal tableWanted
 
+    // A sentence in large text is higher than the plot.
+    implicitHeight: Math.max(leastHeight, line.note ? note.height + 2 * note.distance + line.plotMargins : 0)
     activeFocusOnTab: true
     Accessible.role: Accessible.Chart
     Accessible.name: title + ", " + chart.visibleDates
-    Accessible.description: chart.spokenSelection
+    Accessible.description: chart.spokenSelection || line.note
     Accessible.focusable: true
 
     Keys.onLeftPressed: line.moveSelection(line.mirrored ? 1 : -1)
@@ -48,6 +51,21 @@ FocusScope {
             to: 1
             duration: Theme.rangeFadeDuration
             easing.type: Easing.OutCubic
+        }
+    }
+
+    Item {
+        anchors.left: parent.left
+        width: line.plotWidth
+        height: parent.height
+
+        ChartNote {
+            id: note
+            readonly property int distance: 8
+            visible: line.note !== ""
+            y: line.plotMiddle - height / 2
+            room: parent.width
+            text: line.note
         }
     }
 

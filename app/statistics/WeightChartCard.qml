@@ -57,7 +57,7 @@ Card {
 
     LineChartArea {
         width: parent.width
-        height: root.wide ? 224 : 176
+        leastHeight: root.wide ? 224 : 176
         visible: !root.chart.isEmpty
         chart: root.chart
         title: root.card.title

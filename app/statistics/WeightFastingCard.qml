@@ -65,7 +65,7 @@ Card {
 
     LineChartArea {
         width: parent.width
-        height: root.wide ? 236 : 216
+        leastHeight: root.wide ? 236 : 216
         visible: !root.chart.isEmpty
         chart: root.chart
         title: root.card.title

@@ -2,15 +2,25 @@
 #include "drawing/charts/LineChart.h"
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
+
+#include "mivo/platform/TextLookup.h"
 
 namespace mivo::drawing {
 namespace {
+
+/// A kilogram, or two pounds.
+double leastWeightSpan(WeightUnit unit) {
+  if (unit == WeightUnit::kilograms) return 1;
+  return 2 * kilogramsPer(WeightUnit::pounds) / kilogramsPer(unit);
+}
 
 std::vector<LineSeries> linesOf(const WeightChart& chart, WeightUnit unit) {
   std::vector<LineSeries> lines(1);
   for (const auto& sample : chart.entries)
     lines[0].points.push_back({sample.date, sample.weightInKg / kilogramsPer(unit)});
+  lines[0].leastSpan = leastWeightSpan(unit);
   return lines;
 }
 
@@ -21,6 +31,7 @@ std::vector<LineSeries> linesOf(const WeightFastingChart& chart, WeightUnit unit
   for (const auto& entry : chart.fastingEntries) lines[1].points.push_back({entry.date, entry.hours});
   lines[0].scale = chart.weightScale / kilogramsPer(unit);
   lines[1].scale = chart.fastingScale / secondsPerHour;
+  lines[0].leastSpan = leastWeightSpan(unit);
   return lines;
 }
 
@@ -49,6 +60,30 @@ DateInterval LineChart::domain(const PageClients& clients) const {
 
 std::vector<TimeAxisLabel> LineChart::labels(DateInterval visible, const PageClients& clients) const {
   return timeAxisLabels(timeRange(), visible, clients.now, clients.calendar, clients.dates);
+}
+
+std::string LineChart::gutterText(std::size_t line, double value, const PageClients& clients) {
+  return line == 0 ? clients.numbers.string(value, 1) : clients.numbers.string(std::floor(value), 0);
+}
+
+std::vector<std::string> LineChart::gutterTexts(const PageClients& clients) const {
+  std::vector<std::string> texts;
+  for (std::size_t line = 0; line < series.size(); ++line) {
+    if (series[line].points.empty()) continue;
+    const double most = std::ranges::max(series[line].points, {}, &LinePoint::value).value;
+    texts.push_back(series.size() == 2 ? gutterText(line, std::ceil(most), clients)
+                                       : clients.numbers.string(std::ceil(most), series[0].leastSpan < 2 ? 1 : 0));
+  }
+  return texts;
+}
+
+std::string LineChart::note(DateInterval visible, const PageClients& clients) const {
+  const auto latest = endDate(series, true);
+  if (!latest || isAnyVisible(series, visible)) return {};
+  const std::string key = series.size() == 1
+                              ? clients.texts.text("No weight between these dates. The latest one is of {1}.")
+                              : clients.texts.text("No weight and no fast between these dates. The latest is of {1}.");
+  return filledIn(key, {clients.dates.string(*latest, "yMMMd").value_or("")});
 }
 
 std::string LineChart::valueText(std::size_t line, double value, const PageClients& clients) const {

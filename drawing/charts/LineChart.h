@@ -43,6 +43,12 @@ class LineChart {
 
   /// What it can be scrolled through.
   DateInterval domain(const PageClients& clients) const;
+  /// What the gutter says beside a line of a pair. Hours are cut as they are where a point is touched.
+  static std::string gutterText(std::size_t line, double value, const PageClients& clients);
+  /// The longest text that the gutter may have to hold beside each line.
+  std::vector<std::string> gutterTexts(const PageClients& clients) const;
+  /// A sentence in place of lines, where none comes into the span; otherwise empty.
+  std::string note(DateInterval visible, const PageClients& clients) const;
   std::vector<TimeAxisLabel> labels(DateInterval visible, const PageClients& clients) const;
   /// "72.4 kg", "17h": a value of a line.
   std::string valueText(std::size_t line, double value, const PageClients& clients) const;

@@ -10,10 +10,11 @@ namespace {
 
 constexpr std::array<double, 8> weightSteps{0.1, 0.2, 0.5, 1, 2, 5, 10, 20};
 constexpr double mostWeightSteps = 3;
-constexpr double gutter = 32, plotBottom = 32;
+constexpr double plotBottom = 32;
 constexpr double weightTop = 8, pairTop = 64, pairBottom = 18;
-constexpr int pairGridlines = 4;
+constexpr int evenGridlines = 4;
 constexpr double labelDistance = 4, gutterDistance = 14;
+constexpr double besideLabels = 4, besideMarks = 8, aboveMarks = 8;
 
 }  // namespace
 
@@ -31,18 +32,37 @@ std::span<const LinePoint> pointsToDraw(std::span<const LinePoint> series, DateI
   return series.subspan(from, std::min(last + 1, series.size()) - from);
 }
 
-ValueAxis weightAxis(std::span<const LinePoint> visible) {
-  double low = 0, high = 0;
-  if (!visible.empty()) {
-    const auto [least, most] = std::ranges::minmax(visible, {}, &LinePoint::value);
-    low = least.value;
-    high = most.value;
-  }
-  const auto fits = [&](double step) { return (high - low) / step <= mostWeightSteps; };
+std::optional<Extent> visibleExtent(std::span<const LinePoint> series, DateInterval visible) {
+  const auto drawn = pointsToDraw(series, visible);
+  std::optional<Extent> extent;
+  const auto reach = [&extent](double value) {
+    extent = extent ? Extent{std::min(extent->low, value), std::max(extent->high, value)} : Extent{value, value};
+  };
+  for (const LinePoint& point : pointsInside(series, visible)) reach(point.value);
+  for (std::size_t next = 1; next < drawn.size(); ++next)
+    for (const Date edge : {visible.start, visible.end}) {
+      const LinePoint &before = drawn[next - 1], &after = drawn[next];
+      if (before.date < edge && edge < after.date)
+        reach(std::lerp(before.value, after.value,
+                        secondsBetween(before.date, edge) / secondsBetween(before.date, after.date)));
+    }
+  return extent;
+}
+
+bool isAnyVisible(Lines lines, DateInterval visible) {
+  return std::ranges::any_of(
+      lines, [visible](const LineSeries& line) { return visibleExtent(line.points, visible).has_value(); });
+}
+
+ValueAxis weightAxis(std::optional<Extent> weights, double leastSpan) {
+  if (!weights) return {};
+  const auto [low, high] = *weights;
+  const auto fits = [&](double step) { return step >= leastSpan / 2 && (high - low) / step <= mostWeightSteps; };
   const auto found = std::ranges::find_if(weightSteps, fits);
   const double step = found == weightSteps.end() ? std::ceil((high - low) / mostWeightSteps / 20) * 20 : *found;
   // Rounded to a thousandth of a step first: 72.3 / 0.1 is a little less than 723.
-  const double first = std::floor(low / step + 1e-3), last = std::ceil(high / step - 1e-3);
+  double first = std::floor(low / step + 1e-3), last = std::ceil(high / step - 1e-3);
+  if (first == last) --first, ++last;
   ValueAxis axis{.low = (first - 0.5) * step, .high = (last + 0.5) * step, .step = step};
   for (double line = first; line <= last; ++line) axis.lines.push_back(line * step);
   axis.fractionDigits = step < 1 ? 1 : 0;
@@ -50,12 +70,13 @@ ValueAxis weightAxis(std::span<const LinePoint> visible) {
 }
 
 ValueAxis valueAxis(Lines lines, DateInterval visible) {
-  if (lines.size() == 1) return weightAxis(pointsInside(lines[0].points, visible));
+  if (lines.size() == 1) return weightAxis(visibleExtent(lines[0].points, visible), lines[0].leastSpan);
   double low = INFINITY, high = -INFINITY;
   for (const LineSeries& line : lines)
-    for (const LinePoint& point : pointsInside(line.points, visible)) {
-      low = std::min(low, point.value / line.scale);
-      high = std::max(high, point.value / line.scale);
+    if (const auto extent = visibleExtent(line.points, visible)) {
+      const double missing = std::max(0.0, line.leastSpan - (extent->high - extent->low));
+      low = std::min(low, (extent->low - missing / 2) / line.scale);
+      high = std::max(high, (extent->high + missing / 2) / line.scale);
     }
   return low <= high ? ValueAxis{.low = low, .high = high} : ValueAxis{};
 }
@@ -78,6 +99,8 @@ double LineChartLayout::contentWidth() const {
 
 double LineChartLayout::baseline() const { return size.height - plotBottom; }
 
+double LineChartLayout::plotMargins(bool isPair) { return plotBottom + (isPair ? pairTop + pairBottom : weightTop); }
+
 DateInterval LineChartLayout::visible(double scroll) const {
   const double shown = scrolls ? span : std::max(span, domain.duration());
   const Date end = domain.end - Duration{(maxScroll() - scroll) / plotWidth() * shown};
@@ -95,12 +118,22 @@ LinePlot LineChartLayout::plot(double scroll, const ValueAxis& before, const Val
 
 std::vector<double> LineChartLayout::gridlines(const LinePlot& plot, const ValueAxis& axis) const {
   std::vector<double> lines;
-  if (!isPair)
+  if (!isPair && !axis.lines.empty())
     for (const double value : axis.lines) lines.push_back(plot.y(value));
   else
-    for (int line = 0; line < pairGridlines; ++line)
-      lines.push_back(plot.top + line * (plot.bottom - plot.top) / (pairGridlines - 1));
+    for (int line = 0; line < evenGridlines; ++line)
+      lines.push_back(plot.top + line * (plot.bottom - plot.top) / (evenGridlines - 1));
   return lines;
+}
+
+Rectangle LineChartLayout::area(const LinePlot& plot) const {
+  const double top = plot.top - aboveMarks;
+  return {{0, top}, {plot.width, baseline() - top}};
+}
+
+double LineChartLayout::scrollToEndAt(Date end) const {
+  const double beyond = secondsBetween(end, domain.end) / span * plotWidth();
+  return std::clamp(maxScroll() - beyond, 0.0, std::max(0.0, maxScroll()));
 }
 
 std::optional<double> LineChartLayout::scrollToSee(const LinePlot& plot, Date date, double scroll) const {
@@ -112,6 +145,7 @@ std::optional<double> LineChartLayout::scrollToSee(const LinePlot& plot, Date da
 std::vector<PlacedLabel> labelsThatFit(std::span<const TimeAxisLabel> labels, const LinePlot& plot,
                                        const TextWidth& usual, const TextWidth& present) {
   std::vector<PlacedLabel> placed;
+  constexpr double halfAPoint = 0.5;
   double free = -INFINITY;
   for (std::size_t index = 0; index < labels.size(); ++index) {
     const TimeAxisLabel& label = labels[index];
@@ -119,7 +153,7 @@ std::vector<PlacedLabel> labelsThatFit(std::span<const TimeAxisLabel> labels, co
     const double x = isCentred ? (plot.x(label.date) + plot.x(label.until)) / 2 : plot.x(label.date);
     const double advance = (label.isPresent ? present : usual)(label.text);
     const double begin = isCentred ? x - advance / 2 : x;
-    if (begin < free) continue;
+    if (begin < std::max(free, -halfAPoint) || begin + advance > plot.width + halfAPoint) continue;
     free = begin + advance + labelDistance;
     placed.push_back({index, x, isCentred});
   }
@@ -141,6 +175,12 @@ std::vector<GutterValue> gutterValues(Lines lines, const LinePlot& plot) {
     values[1].y = middle + (isFirstAbove ? gutterDistance : -gutterDistance) / 2;
   }
   return values;
+}
+
+double lineGutterWidth(std::span<const std::string> texts, bool isPair, const TextWidth& width) {
+  double widest = 0;
+  for (const std::string& text : texts) widest = std::max(widest, width(text));
+  return std::max(LineChartLayout::usualGutter, std::ceil(widest + (isPair ? besideMarks : besideLabels)));
 }
 
 bool hasMarks(const LinePlot& plot, std::size_t pointCount) {

@@ -32,9 +32,9 @@ struct Annotation {
   std::vector<std::string> values;  ///< one a line; empty where that line has no selected point
 };
 
-/// The box over the plot that holds an annotation: centred on the rule, and kept inside the plot.
+/// The box that holds an annotation, inside the plot.
 struct AnnotationBox {
-  double x = 0, width = 0;
+  double x = 0, y = 0, width = 0;
   /// Where a value and the mark before it stand, from the plot's leading edge.
   struct Value {
     std::size_t line = 0;
@@ -45,10 +45,15 @@ struct AnnotationBox {
   std::vector<Value> values;
 
   static constexpr double height = 46, padding = 12, radius = 10;
-  static constexpr double captionMiddle = 14, valueMiddle = 32;  ///< y
+  static constexpr double captionMiddle = 14, valueMiddle = 32;  ///< from the top of the box
 };
 
+/// The box of a pair: over the plot, centred on the rule, in the room that is kept free for it.
 AnnotationBox annotationBox(const Annotation& annotation, double ruleX, double plotWidth, double innerWidth,
                             const TextWidth& caption, const TextWidth& value);
+
+/// The box of a single point: beside it, where there is more room; over or under it where neither side has enough.
+AnnotationBox annotationBeside(const Annotation& annotation, Point point, const LinePlot& plot,
+                               const TextWidth& caption, const TextWidth& value);
 
 }  // namespace mivo::drawing

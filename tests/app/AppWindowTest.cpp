@@ -3,10 +3,13 @@
 #include <gtest/gtest.h>
 
 #include <QtTest/QTest>
+#include <cmath>
 #include <fstream>
 
 #include "app/items/DayBars.h"
 #include "tests/app/ShownApp.h"
+#include "tests/support/FixedClients.h"
+#include "tests/support/Instants.h"
 #include "tests/support/TemporaryFolder.h"
 
 namespace mivo::app {
@@ -29,7 +32,7 @@ struct Shown : ShownApp {
   }
 };
 
-DayBars* dayBars(Shown& shown) {
+DayBars* dayBars(ShownApp& shown) {
   return dynamic_cast<DayBars*>(
       shown.find([](const QQuickItem* item) { return dynamic_cast<const DayBars*>(item) != nullptr; }));
 }
@@ -78,6 +81,30 @@ TEST(AppWindow, opensEverySheetAsOftenAsItIsWantedWhileThingsMove) {
       present("");
       EXPECT_TRUE(eventually([&] { return shown.ofType("QQuickPopupItem") == nullptr; })) << sheet << time;
     }
+}
+
+TEST(AppWindow, movesAllChartsToTheNewDayAtMidnight) {
+  const auto clock = std::make_shared<tests::FixedClock>(tests::utc("2026-03-01 22:59:50"));
+  Options options = ShownApp::optionsFor(threeWeeks);
+  options.locale = "en-DE";  // kilograms
+  ShownApp shown{options, {390, 844}, clock};
+  AppModel& app = shown.model();
+  const auto heads = [&] {
+    return QStringList{app.fastingChart()->visibleDates(), app.eatingChart()->visibleDates(),
+                       app.weightChart()->visibleDates(), app.weightFastingChart()->visibleDates()}
+        .join(QLatin1Char{','})
+        .simplified()
+        .toStdString();
+  };
+  shown.window().setHeight(shown.window().property("wholeHeight").toInt());
+  settle(shown.window());
+  const std::string before = "23 Feb – 1 Mar 2026", after = "24 Feb – 2 Mar 2026";
+  EXPECT_EQ(heads(), before + "," + before + "," + before + "," + before);
+  const std::string average = app.weightChart()->average().toStdString();
+  clock->date = tests::utc("2026-03-01 23:00:10");
+  app.send(AppModel::Action::recompute{});
+  EXPECT_EQ(heads(), after + "," + after + "," + after + "," + after);
+  EXPECT_NE(app.weightChart()->average().toStdString(), average) << "without the weight of 23 February";
 }
 
 TEST(AppWindow, choosesTheRangeByClickAndByKey) {
@@ -133,6 +160,54 @@ TEST(AppWindow, scrollsBothDayBarChartsTogether) {
   EXPECT_EQ(*stats.eatingChartState.scrollViewMidX, *stats.fastingChartState.scrollViewMidX);
   EXPECT_FALSE(
       stats.eatingChartState.visibleDays->contains(stats.eatingChartState.data->elements().back().dateInterval.start));
+}
+
+/// Sends a turn of a sideways wheel, in eighths of a degree, a moment after the pointer's last event: one from before
+/// it is left out.
+void turnSideways(QQuickWindow& window, QPointF place, int angle) {
+  QWheelEvent event{place,          window.mapToGlobal(place), {},   {angle, 0}, Qt::NoButton,
+                    Qt::NoModifier, Qt::NoScrollPhase,         false};
+  event.setTimestamp(static_cast<quint64>(QTest::lastMouseTimestamp += 100));
+  QCoreApplication::sendEvent(&window, &event);
+}
+
+void drag(QQuickWindow& window, QPoint from, int distance) {
+  QTest::mousePress(&window, Qt::LeftButton, Qt::NoModifier, from);
+  for (int moved = 0; moved != distance; moved += distance / 10)
+    QTest::mouseMove(&window, from + QPoint{moved + distance / 10, 0}, 10);
+  QTest::mouseRelease(&window, Qt::LeftButton, Qt::NoModifier, from + QPoint{distance, 0}, 400);
+}
+
+TEST(AppWindow, snapsItsBarsAndNamesThoseThatAreSeen) {
+  Options options = ShownApp::optionsFor(threeWeeks);
+  options.picture.clear();  // things move
+  ShownApp shown{options, {390, 2600}};
+  DayBars* bars = dayBars(shown);
+  ASSERT_NE(bars, nullptr);
+  const auto& data = *shown.statistics().stats.fastingChartState.data;
+  const QPointF middle = bars->mapToScene({bars->width() / 2, bars->height() / 2});
+  const QQuickItem* layer = shown.find([bars](const QQuickItem* item) {
+    return item->inherits("QQuickFlickable") && item->parentItem() == bars->parentItem();
+  });
+  ASSERT_NE(layer, nullptr);
+  const std::pair<const char*, std::function<void()>> gestures[] = {
+      {"drag", [&] { drag(shown.window(), middle.toPoint(), 150); }},
+      {"sideways wheel", [&] { turnSideways(shown.window(), middle, -120); }},
+  };
+  for (const auto& [name, make] : gestures) {
+    const qreal before = bars->scroll();
+    make();
+    EXPECT_TRUE(eventually([&] { return bars->scroll() != before; })) << name << " moves";
+    EXPECT_TRUE(eventually([&] {
+      return !layer->property("underway").toBool() && std::abs(bars->scroll() - bars->snapped(bars->scroll())) < 0.01;
+    })) << name
+        << ": stands at " << bars->scroll() << ", not at " << bars->snapped(bars->scroll());
+    const auto first = static_cast<std::size_t>(std::lround(bars->scroll() / (bars->plotWidth() / 7)));
+    const auto dates = dependency(&Dependencies::dateIntervalFormatter)
+                           ->string({data[first].dateInterval.start, data[first + 6].dateInterval.end});
+    EXPECT_EQ(shown.model().fastingChart()->visibleDates().toStdString(), dates) << name;
+    EXPECT_EQ(shown.model().eatingChart()->visibleDates().toStdString(), dates) << name;
+  }
 }
 
 TEST(AppWindow, opensTheBadgesAndGoesBackStepByStep) {

@@ -98,6 +98,30 @@ TEST_F(LineCharts, tellTheDatesAndTheAverageOfWhatIsOnScreen) {
   EXPECT_EQ(chart.average(clients()), "–") << "nobody was weighed";
 }
 
+TEST_F(LineCharts, sayWhereTheyHaveNothingToShow) {
+  const DependencyScope scope = world.enter();
+  const LineChart chart{weights, WeightUnit::kilograms};
+  const auto weekFrom = [](const char* date) {
+    return DateInterval{utc(date), utc(date) + Duration{7 * secondsPerDay}};
+  };
+  EXPECT_EQ(chart.note(weekFrom("2026-02-25 00:00"), clients()), "");
+  EXPECT_EQ(chart.note(weekFrom("2026-03-05 00:00"), clients()), "") << "the line runs through";
+  EXPECT_EQ(chart.note(weekFrom("2026-03-21 00:00"), clients()),
+            "No weight between these dates. The latest one is of 03-20.");
+  EXPECT_EQ((LineChart{pair(), WeightUnit::kilograms}.note(weekFrom("2026-04-01 00:00"), clients())),
+            "No weight and no fast between these dates. The latest is of 03-15.");
+  EXPECT_EQ((LineChart{WeightChart{}, WeightUnit::kilograms}.note(weekFrom("2026-03-01 00:00"), clients())), "")
+      << "the card says what to do";
+}
+
+TEST_F(LineCharts, knowTheLongestTextsOfTheirGutter) {
+  const DependencyScope scope = world.enter();
+  EXPECT_THAT((LineChart{weights, WeightUnit::kilograms}.gutterTexts(clients())), ElementsAre("90.0"));
+  EXPECT_THAT((LineChart{pair(), WeightUnit::kilograms}.gutterTexts(clients())), ElementsAre("82.0", "18"));
+  EXPECT_EQ(LineChart::gutterText(0, 81.26, clients()), "81.3");
+  EXPECT_EQ(LineChart::gutterText(1, 16.5, clients()), "16") << "as a touched point says it";
+}
+
 TEST_F(LineCharts, tellWhatIsTouched) {
   const DependencyScope scope = world.enter();
   LineChart chart{pair(), WeightUnit::kilograms};

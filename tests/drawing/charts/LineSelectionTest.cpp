@@ -85,6 +85,32 @@ TEST(AnnotationBox, isCentredOnTheRuleAndKeptInsideThePlot) {
   EXPECT_EQ(box({"Sunday 1 March 2026, around noon", {"1"}}, 140).width, 312) << "no wider than the item";
 }
 
+TEST(AnnotationBox, standsBesideItsPointAndInsideThePlot) {
+  const LinePlot weight{.width = 280, .top = 8, .bottom = 144, .visible = {day(0), day(7)}};
+  const auto beside = [&](Point point, double textWidth) {
+    const auto width = [textWidth](std::string_view) { return textWidth; };
+    return annotationBeside({"Sun 1", {"72.4 kg"}}, point, weight, width, width);
+  };
+  for (const double textWidth : {60.0, 100.0, 240.0})
+    for (double x = 0; x <= 280; x += 10)
+      for (double y = 8; y <= 144; y += 8) {
+        const AnnotationBox box = beside({x, y}, textWidth);
+        EXPECT_GE(box.x, 0);
+        EXPECT_LE(box.x + box.width, 280);
+        EXPECT_GE(box.y, 8);
+        EXPECT_LE(box.y + AnnotationBox::height, 144);
+        const double reach = selectedMarkRadius;
+        EXPECT_FALSE(box.x < x + reach && x - reach < box.x + box.width && box.y < y + reach &&
+                     y - reach < box.y + AnnotationBox::height)
+            << "over the point at " << x << ", " << y;
+      }
+  EXPECT_EQ(beside({60, 80}, 60).x, 71.5) << "after it, where there is more room";
+  EXPECT_EQ(beside({60, 80}, 60).y, 57) << "in the middle beside it";
+  EXPECT_EQ(beside({220, 80}, 60).x + beside({220, 80}, 60).width, 208.5);
+  EXPECT_EQ(beside({140, 100}, 240).y, 42.5) << "over it, where neither side has room";
+  EXPECT_EQ(beside({60, 80}, 60).values[0].mark, 71.5 + 17);
+}
+
 TEST(AnnotationBox, putsValuesBesideEachOtherEachBehindItsMark) {
   using Value = AnnotationBox::Value;
   EXPECT_THAT(box({"Sun", {"72.4", "16h"}}, 80).values, ElementsAre(Value{0, 17, 28}, Value{1, 83, 94}));
