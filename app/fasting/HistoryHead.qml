@@ -8,15 +8,12 @@ Item {
 
     readonly property HistoryView list: ListView.view as HistoryView
     readonly property bool whole: list !== null && list.whole
-    property real before: 0
 
     width: list ? list.width : 0
     height: column.height
-    // It grows upwards from the rows; who sees it wants its top to stay.
     onHeightChanged: {
-        if (list && list.contentY < 0)
-            list.contentY -= height - before;
-        before = height;
+        if (list)
+            list.takeHead(height);
     }
 
     Column {

@@ -12,4 +12,7 @@ namespace mivo::app {
 /// for large text 3:1).
 QStringList faultsOf(QQuickWindow& window);
 
+/// Only what lies over something else in its card: texts, badges and bars.
+QStringList overlapsOf(QQuickWindow& window);
+
 }  // namespace mivo::app

@@ -1,12 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "CardGrid.h"
 
+#include <QtQuick/QQuickWindow>
+
 #include <algorithm>
 
 namespace mivo::app {
 namespace {
 
 constexpr int columns = 6;
+// The heights of cards follow their widths by a frame or two, and the view is moved until they have.
+constexpr int framesUntilStill = 2;
 
 int spanOf(const QQuickItem* card) {
   const int span = card->property("span").toInt();
@@ -25,6 +29,8 @@ void CardGrid::itemChange(ItemChange change, const ItemChangeData& data) {
     if (data.item->metaObject()->indexOfSignal("spanChanged()") >= 0)
       connect(data.item, SIGNAL(spanChanged()), this, SLOT(layOutSoon()));
   }
+  if (change == ItemSceneChange && data.window)
+    connect(data.window, &QQuickWindow::frameSwapped, this, &CardGrid::countFrame, Qt::UniqueConnection);
   if (change == ItemChildRemovedChange) data.item->disconnect(this);
   if (change == ItemChildAddedChange || change == ItemChildRemovedChange) polish();
   QQuickItem::itemChange(change, data);
@@ -32,10 +38,41 @@ void CardGrid::itemChange(ItemChange change, const ItemChangeData& data) {
 
 void CardGrid::geometryChange(const QRectF& newGeometry, const QRectF& oldGeometry) {
   QQuickItem::geometryChange(newGeometry, oldGeometry);
-  if (newGeometry.width() != oldGeometry.width()) polish();
+  if (newGeometry.width() == oldGeometry.width()) return;
+  if (!seenCard || viewTop != wantedTop) chooseCard();
+  framesToFollow = framesUntilStill;
+  polish();
 }
 
 void CardGrid::updatePolish() {
+  layOut();
+  if (framesToFollow > 0) followCard();
+}
+
+// The first one of which at least half is seen.
+void CardGrid::chooseCard() {
+  seenCard = nullptr;
+  if (viewTop <= 0) return;
+  for (QQuickItem* card : childItems()) {
+    if (card->height() <= 0 || card->y() + card->height() / 2 < viewTop) continue;
+    seenCard = card;
+    seenAt = card->y() - viewTop;
+    return;
+  }
+}
+
+void CardGrid::followCard() {
+  if (!seenCard) return;
+  const auto cards = childItems();
+  const auto hasPlace = [](const QQuickItem* card) { return card->implicitHeight() > 0; };
+  const auto card = std::find_if(std::ranges::find(cards, seenCard.data()), cards.end(), hasPlace);
+  if (card == cards.end()) return;
+  framesToFollow = framesUntilStill;
+  wantedTop = (*card)->y() - seenAt;
+  if (wantedTop != viewTop) Q_EMIT viewTopWanted(wantedTop);
+}
+
+void CardGrid::layOut() {
   qreal y = 0;
   QList<QQuickItem*> row;
   int used = 0;

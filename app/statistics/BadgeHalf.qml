@@ -11,8 +11,8 @@ Column {
 
     Badge {
         anchors.horizontalCenter: parent.horizontalCenter
-        width: 88
-        height: 88
+        width: Math.min(88, root.width - 8)
+        height: width
         family: root.family
         threshold: root.figure.threshold
         count: root.figure.isEarned ? root.figure.threshold : 0
@@ -33,7 +33,7 @@ Column {
 
     ProgressTrack {
         anchors.horizontalCenter: parent.horizontalCenter
-        width: 112
+        width: Math.min(112, root.width - 16)
         fraction: root.figure.fraction
     }
 

@@ -90,6 +90,8 @@ FocusScope {
                 height: implicitHeight
                 gap: root.wide ? Theme.cardGapWide : Theme.cardGap
                 mirrored: LayoutMirroring.enabled
+                viewTop: flick.contentY - y
+                onViewTopWanted: top => flick.contentY = Math.max(0, top + y)
 
                 Repeater {
                     model: App.screen

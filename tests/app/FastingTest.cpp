@@ -116,6 +116,39 @@ TEST_F(Fasting, recordsAFastAndTheFiguresMove) {
   EXPECT_TRUE(eventually([&] { return app->state().runningFast() != nullptr; })) << "stopped by mistake";
 }
 
+TEST_F(Fasting, standsStillWhereAFastBeginsOrEnds) {
+  std::string fasts = R"({"start":"2026-03-01T03:00:00Z","end":null})";
+  for (const char* day : {"08", "09", "10", "11", "12", "13", "14", "15", "16", "17", "18", "19", "20", "21"})
+    fasts += R"(,{"start":"2026-02-)" + std::string{day} + R"(T01:00:00Z","end":"2026-02-)" + day + R"(T17:00:00Z"})";
+  show((R"({"version":1,"weights":[],"fasts":[)" + fasts + "]}").c_str());
+  Options options = app->options;
+  for (const double scrolled : {0.0, 60.0, 1200.0}) {
+    app.reset();
+    app = std::make_unique<ShownApp>(options, QSize{390, 844});
+    QQuickItem* list = app->ofType("HistoryList");
+    ASSERT_NE(list, nullptr);
+    list->setProperty("contentY", list->property("originY").toReal() + scrolled);
+    settle(app->window());
+    const bool isHeadSeen = scrolled < 500;
+    // The title and the ring, or a row with its date.
+    const QString date = isHeadSeen ? QString{} : rowItem(7)->property("date").toString();
+    const auto place = [&] {
+      const QQuickItem* item = isHeadSeen ? app->ofType("TimerRing") : app->find([&](const QQuickItem* one) {
+        return one->property("date").toString() == date && one->property("seconds").isValid();
+      });
+      return item ? item->mapToScene({0, 0}).y() : NAN;
+    };
+    const double before = place();
+    for (const char* what : {"stops", "begins"}) {
+      const bool wasRunning = app->state().runningFast() != nullptr;
+      app->model().fasting()->press();
+      ASSERT_TRUE(eventually([&] { return (app->state().runningFast() != nullptr) != wasRunning; }));
+      settle(app->window());
+      EXPECT_NEAR(place(), before, 0.5) << what << ", scrolled by " << scrolled;
+    }
+  }
+}
+
 TEST_F(Fasting, editsAFastAndKeepsWhatWasNotTouched) {
   show(three);
   const host::FastRecord before = onDisk()[2];
