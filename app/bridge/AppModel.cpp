@@ -6,12 +6,14 @@
 #include <QtGui/QClipboard>
 #include <QtGui/QDesktopServices>
 #include <QtGui/QGuiApplication>
+#include <cmath>
 
 #include "app/bridge/EngineModels.h"
 #include "app/bridge/Stamps.h"
 #include "app/bridge/Text.h"
 #include "host/app/CurrentTipFacts.h"
 #include "host/app/FaultText.h"
+#include "host/fasting/Fasting.h"
 #include "host/pages/Message.h"
 #include "mivo/platform/Dependencies.h"
 #include "mivo/roadmap/FeedbackSheet.h"
@@ -27,7 +29,7 @@ namespace {
 using Sent = StatisticsFeature::Action;
 using Destination = StatisticsFeature::Destination;
 
-constexpr std::chrono::seconds untilRecomputed{60}, untilLookedAround{2};
+constexpr std::chrono::seconds untilLookedAround{2};
 
 drawing::DayBarsClients barClients() {
   return {*dependency(&Dependencies::dateIntervalFormatter), *dependency(&Dependencies::hourMinDurationUnitFormatter),
@@ -85,13 +87,20 @@ void AppModel::load() {
 
 // A running fast moves the figures, another program may write into the same database, and people travel.
 void AppModel::watchTime() {
-  connect(&everyMinute, &QTimer::timeout, this, [this] {
+  nextMinute.setSingleShot(true);
+  connect(&nextMinute, &QTimer::timeout, this, [this] {
     if (!watched) lookAround();
     send(Action::recompute{});
+    waitForNextMinute();
   });
-  everyMinute.start(untilRecomputed);
+  waitForNextMinute();
   connect(&watch, &QTimer::timeout, this, &AppModel::lookAround);
   watch.start(untilLookedAround);
+}
+
+// The clock's minutes, so that a day goes when it ends.
+void AppModel::waitForNextMinute() {
+  nextMinute.start(static_cast<int>(std::ceil(host::untilNextMinute(clients().now) * 1000)) + 1);
 }
 
 void AppModel::setWatched(bool isNow) {

@@ -141,6 +141,7 @@ class AppModel : public QObject {
  private:
   void load();
   void watchTime();
+  void waitForNextMinute();
   void lookAround();
   void lookForOtherPrograms();
   void followZone();
@@ -166,7 +167,7 @@ class AppModel : public QObject {
   std::unique_ptr<RoadmapModel> features;
   QString shownDestination;
   bool watched = true;
-  QTimer everyMinute, watch;
+  QTimer nextMinute, watch;
   Subscription following;
 };
 

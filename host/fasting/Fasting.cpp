@@ -106,6 +106,8 @@ Date startOfMinute(Date date) {
   return dateSince1970(std::floor(secondsSince1970(date) / secondsPerMinute) * secondsPerMinute);
 }
 
+double untilNextMinute(Date date) { return secondsPerMinute - secondsBetween(startOfMinute(date), date); }
+
 Date keepingSeconds(Date old, Date chosen) { return startOfMinute(old) == startOfMinute(chosen) ? old : chosen; }
 
 Outcome removingFast(std::span<const FastRecord> fasts, UUID id) {

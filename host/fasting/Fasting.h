@@ -41,6 +41,9 @@ Outcome changingFast(std::span<const FastRecord> fasts, FastRecord after, Date n
 /// The last whole minute at or before a date.
 Date startOfMinute(Date date);
 
+/// Seconds from a date to the next minute: at most 60, never 0.
+double untilNextMinute(Date date);
+
 /// `chosen`, or `old` where both lie in the same minute: whoever chooses minutes does not mean to change seconds.
 Date keepingSeconds(Date old, Date chosen);
 

@@ -59,10 +59,15 @@ void VirtualDisplay::key(const QString& name) const { act({QStringLiteral("key")
 
 void VirtualDisplay::type(const QString& text) const { act({QStringLiteral("type"), text}); }
 
-QString VirtualDisplay::waitForWindow(const QString& title) const {
+QString VirtualDisplay::waitForWindow(qint64 process) const {
   const QString found = act({QStringLiteral("search"), QStringLiteral("--sync"), QStringLiteral("--onlyvisible"),
-                             QStringLiteral("--name"), QLatin1Char{'^'} + title + QLatin1Char{'$'}});
+                             QStringLiteral("--pid"), QString::number(process)});
   return found.section(QLatin1Char{'\n'}, 0, 0);
+}
+
+void VirtualDisplay::move(const QString& window, QPoint to) const {
+  act({QStringLiteral("windowmove"), QStringLiteral("--sync"), window, QString::number(to.x()),
+       QString::number(to.y())});
 }
 
 void VirtualDisplay::focus(const QString& window) const {

@@ -26,8 +26,9 @@ class VirtualDisplay {
   void key(const QString& name) const;
   void type(const QString& text) const;
 
-  /// The window of another program with that title, once it is there. Throws where none comes.
-  QString waitForWindow(const QString& title) const;
+  /// The window of another process, once it is there. Throws where none comes.
+  QString waitForWindow(qint64 process) const;
+  void move(const QString& window, QPoint to) const;
   /// As a window manager does: keys go there from now on.
   void focus(const QString& window) const;
   /// Takes a window away without asking its program.
