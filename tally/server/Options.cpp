@@ -59,7 +59,8 @@ struct Texts {
         requestSeconds{usual.requestTime.count()},
         idleSeconds{usual.idleTime.count()},
         drainSeconds{usual.drainTime.count()},
-        storeSeconds{usual.storeTime.count()},
+        storeSeconds{usual.storeTimes.answer.count()},
+        probeSeconds{usual.storeTimes.probe.count()},
         mostUnsentMegabytes{usual.mostUnsentBytes >> 20U} {}
 
   std::string listen;
@@ -71,6 +72,7 @@ struct Texts {
   std::int64_t idleSeconds;
   std::int64_t drainSeconds;
   std::int64_t storeSeconds;
+  std::int64_t probeSeconds;
   std::size_t mostConnections = 0;
   std::size_t mostUnsentMegabytes;
 };
@@ -122,6 +124,7 @@ void addStore(CLI::App& app, ServeOptions& options, Texts& texts) {
             "Counters kept; votes for a further one are refused. In Redis all keys of the database count")
       ->check(CLI::Range(std::int64_t{1}, std::int64_t{1} << 40));
   addSeconds(app, "--store-seconds", texts.storeSeconds, "Time for what is asked of the store");
+  addSeconds(app, "--probe-seconds", texts.probeSeconds, "Time without a vote, until a write shows that one is kept");
 }
 
 void addLog(CLI::App& app, ServeOptions& options) {
@@ -264,7 +267,8 @@ ServeOptions finished(ServeOptions options, const Texts& texts) {
   options.requestTime = std::chrono::seconds{texts.requestSeconds};
   options.idleTime = std::chrono::seconds{texts.idleSeconds};
   options.drainTime = std::chrono::seconds{texts.drainSeconds};
-  options.storeTime = std::chrono::seconds{texts.storeSeconds};
+  options.storeTimes.answer = std::chrono::seconds{texts.storeSeconds};
+  options.storeTimes.probe = std::chrono::seconds{texts.probeSeconds};
   options.mostUnsentBytes = texts.mostUnsentMegabytes << 20U;
   if (!options.certificate.empty()) options.mostConnections = tlsConnections;
   if (texts.mostConnections > 0) options.mostConnections = texts.mostConnections;

@@ -11,6 +11,7 @@
 #include "tally/net/Network.h"
 #include "tally/request/Manners.h"
 #include "tally/server/Log.h"
+#include "tally/store/CounterStore.h"
 #include "tally/store/StoreAddress.h"
 
 namespace mivo::tally {
@@ -20,6 +21,7 @@ struct ServeOptions {
   std::optional<int> inherited = {};   // a socket that the service manager opened: `listen` is its address
   std::optional<Endpoint> admin = {};  // where /metrics and /health are then answered, and nowhere else
   StoreAddress store;
+  StoreTimes storeTimes;
   std::filesystem::path roadmap;      // empty: the example that is built in
   std::filesystem::path certificate;  // empty: plain HTTP
   std::filesystem::path key;
@@ -36,7 +38,6 @@ struct ServeOptions {
   std::chrono::seconds requestTime{10};  // from a request's first byte to its last, and to take an answer
   std::chrono::seconds idleTime{60};     // between two requests
   std::chrono::seconds drainTime{2};     // for the next request of a connection that is kept, once told to stop
-  std::chrono::seconds storeTime{5};     // for what is asked of the store
   std::size_t mostConnections = 20'000;
   std::size_t mostConnectionsOfAnAddress = 256;  // 0: as many as it likes
   std::size_t mostHandshakes = 512;              // begun and not ended

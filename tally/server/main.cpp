@@ -38,8 +38,8 @@ std::size_t raiseDescriptorLimit(std::size_t wanted) {
 std::unique_ptr<CounterStore> makeStore(asio::io_context& loop, const ServeOptions& options, Log& log) {
   const Report report = [&log](std::string_view text) { log.event("store", text); };
   if (const auto* redis = std::get_if<RedisAddress>(&options.store))
-    return std::make_unique<RedisStore>(loop, *redis, report, options.storeTime, options.mostCounters);
-  return std::make_unique<SqliteStore>(loop, std::get<SqliteAddress>(options.store).file, report, options.storeTime,
+    return std::make_unique<RedisStore>(loop, *redis, report, options.storeTimes, options.mostCounters);
+  return std::make_unique<SqliteStore>(loop, std::get<SqliteAddress>(options.store).file, report, options.storeTimes,
                                        options.mostCounters);
 }
 

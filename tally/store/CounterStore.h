@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
+#include <chrono>
 #include <cstdint>
 #include <functional>
 #include <limits>
@@ -33,6 +34,12 @@ using Operations = std::vector<Operation>;
 using Results = std::vector<Result>;
 /// Takes one line for the log: what went wrong with the store, or that it is back.
 using Report = std::function<void(std::string_view)>;
+
+struct StoreTimes {
+  std::chrono::seconds answer{5};      // for what is asked of it, and until another process lets go of the file
+  std::chrono::seconds probe{30};      // without a vote, until a write shows whether one would be kept
+  std::chrono::seconds probeAgain{2};  // the same while votes fail
+};
 
 /// Where the counters are. Used from the event loop's thread alone; `submit` is called again only from its `done`, or
 /// after it; where the store reads apart, a batch of reads and one with votes may be under way beside each other.

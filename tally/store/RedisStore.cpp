@@ -49,14 +49,14 @@ bool refusesAllVotes(const RedisReply& reply) {
 
 }  // namespace
 
-RedisStore::RedisStore(asio::io_context& eventLoop, RedisAddress server, Report reporter, std::chrono::seconds patience,
+RedisStore::RedisStore(asio::io_context& eventLoop, RedisAddress server, Report reporter, const StoreTimes& given,
                        std::int64_t counterLimit)
     : loop(eventLoop),
       address(std::move(server)),
       report(std::move(reporter)),
       retry(eventLoop),
       nextDelay(firstDelay),
-      longestWait(patience),
+      times(given),
       second(eventLoop),
       mostCounters(counterLimit) {
   connect();
@@ -66,7 +66,7 @@ RedisStore::RedisStore(asio::io_context& eventLoop, RedisAddress server, Report 
 RedisStore::~RedisStore() { link->close(); }
 
 void RedisStore::connect() {
-  link = std::make_shared<RedisLink>(loop, address, longestWait);
+  link = std::make_shared<RedisLink>(loop, address, times.answer);
   link->open([this] { didConnect(); }, [this](const std::string& reason) { didLose(reason); });
 }
 
@@ -177,11 +177,9 @@ void RedisStore::didReply(const std::vector<RedisReply>& replies) {
 }
 
 void RedisStore::lookAfter() {
-  constexpr std::chrono::seconds afterSuccess{30};
-  constexpr std::chrono::seconds afterFailure{2};
   const auto age = std::chrono::steady_clock::now() - lastWrite;
   const bool isFree = isConnected && !isProbing && !done;
-  if (isFree && age >= (takesVotes ? afterSuccess : afterFailure)) probe();
+  if (isFree && age >= (takesVotes ? times.probe : times.probeAgain)) probe();
   second.expires_after(std::chrono::seconds{1});
   second.async_wait([this](error_code error) {
     if (!error) lookAfter();

@@ -21,8 +21,7 @@ namespace mivo::tally {
 /// what they have under way.
 class RedisStore final : public CounterStore {
  public:
-  RedisStore(asio::io_context& loop, RedisAddress address, Report report,
-             std::chrono::seconds longestWait = std::chrono::seconds{5},
+  RedisStore(asio::io_context& loop, RedisAddress address, Report report, const StoreTimes& times = {},
              std::int64_t mostCounters = std::numeric_limits<std::int64_t>::max());
   ~RedisStore() override;
 
@@ -54,7 +53,7 @@ class RedisStore final : public CounterStore {
   std::shared_ptr<RedisLink> link;
   asio::steady_timer retry;
   std::chrono::milliseconds nextDelay;
-  std::chrono::seconds longestWait;
+  StoreTimes times;
   asio::steady_timer second;
   std::chrono::steady_clock::time_point lastWrite;
   bool isConnected = false;

@@ -17,12 +17,13 @@ bool isVote(const Operation& operation) { return operation.delta != 0; }
 }  // namespace
 
 SqliteStore::SqliteStore(asio::io_context& eventLoop, const std::filesystem::path& file, Report reporter,
-                         std::chrono::milliseconds busyTime, std::int64_t mostCounters)
+                         const StoreTimes& given, std::int64_t mostCounters)
     : loop(eventLoop),
       report(std::move(reporter)),
+      times(given),
       lock(file),
-      counters(file, SqliteCounters::Access::readWrite, busyTime, mostCounters),
-      reads(file, SqliteCounters::Access::readOnly, busyTime),
+      counters(file, SqliteCounters::Access::readWrite, times.answer, mostCounters),
+      reads(file, SqliteCounters::Access::readOnly, times.answer),
       database(file),
       writeAheadLog(file.string() + "-wal") {
   learnDamage(reads.damage());
@@ -84,14 +85,12 @@ void SqliteStore::write() {
 }
 
 void SqliteStore::lookAfter() {
-  constexpr std::chrono::seconds afterSuccess{30};
-  constexpr std::chrono::seconds afterFailure{2};
   bool wasChanged = false;
   std::optional<std::string> fault;
   try {
     wasChanged = counters.wasChangedByOthers();
     const auto age = std::chrono::steady_clock::now() - lastWrite;
-    if (age >= (didWriteFail ? afterFailure : afterSuccess)) {
+    if (age >= (didWriteFail ? times.probeAgain : times.probe)) {
       fault = faultOfProbe();
     } else if (auto missing = faultOfFile(); !missing.empty()) {
       didWriteFail = true;

@@ -20,11 +20,9 @@ namespace mivo::tally {
 /// votes can be kept.
 class SqliteStore final : public CounterStore {
  public:
-  /// Votes for a counter beyond `mostCounters` are `full`. A batch waits up to `busyTime` for another process that
-  /// writes. Throws std::runtime_error with one sentence where the file cannot be used at all; one that is damaged or
-  /// cannot be written is served, and reported.
-  SqliteStore(asio::io_context& loop, const std::filesystem::path& file, Report report,
-              std::chrono::milliseconds busyTime = std::chrono::seconds{5},
+  /// Votes for a counter beyond `mostCounters` are `full`. Throws std::runtime_error with one sentence where the file
+  /// cannot be used at all; one that is damaged or cannot be written is served, and reported.
+  SqliteStore(asio::io_context& loop, const std::filesystem::path& file, Report report, const StoreTimes& times = {},
               std::int64_t mostCounters = std::numeric_limits<std::int64_t>::max());
   ~SqliteStore() override;
 
@@ -61,6 +59,7 @@ class SqliteStore final : public CounterStore {
 
   asio::io_context& loop;
   Report report;
+  StoreTimes times;
   FileLock lock;
   SqliteCounters counters;
   SqliteCounters reads;

@@ -3,6 +3,7 @@
 #include <sys/resource.h>
 
 #include "tests/support/TemporaryFolder.h"
+#include "tests/tally_support/Eventually.h"
 #include "tests/tally_support/HttpClient.h"
 #include "tests/tally_support/TallyServer.h"
 
@@ -21,7 +22,7 @@ TEST(FullDisk, refusesVotesAndKeepsWhatWasThere) {
   const tests::TemporaryFolder folder;
   const auto store = "sqlite:" + folder.file("tally.sqlite");
   {
-    TallyServer server{store};
+    TallyServer server{store, {"--probe-seconds", "1"}};
     HttpClient client{server.port()};
     for (int i = 1; i <= 3; ++i) EXPECT_EQ(countOf(client.get("/add/a/feature1?delta=1")), i);
 
@@ -41,6 +42,7 @@ TEST(FullDisk, refusesVotesAndKeepsWhatWasThere) {
     EXPECT_EQ(client.get("/health").status, 200U);
     server.process().waitForLine("votes are kept again");
     limitFiles(server.process(), 1);
+    EXPECT_TRUE(eventually([&] { return client.get("/health").status == 503; })) << "nobody votes";
     EXPECT_EQ(client.get("/add/a/feature1?delta=1").status, 503U);
     server.process().kill();
   }

@@ -22,7 +22,8 @@ struct Fixture : testing::Test {
   RedisStore& storeAt(const std::string& address, std::int64_t mostCounters = 1000) {
     store.emplace(
         loop, std::get<RedisAddress>(parseStoreAddress(address)),
-        [this](std::string_view text) { reports.emplace_back(text); }, std::chrono::seconds{5}, mostCounters);
+        [this](std::string_view text) { reports.emplace_back(text); }, StoreTimes{.probe = std::chrono::seconds{1}},
+        mostCounters);
     return *store;
   }
 
@@ -52,6 +53,7 @@ TEST_F(RedisStoreTest, countsInOrderAndKeepsNothingHimself) {
   const test::RedisServer redis;
   auto& sut = storeAt(redis.address());
   EXPECT_FALSE(sut.isAvailable());
+  EXPECT_THAT(ask({{"a/feature1", 0}}), ElementsAre(away)) << "nothing waits for the connection";
   runUntil([&] { return sut.isAvailable(); });
   EXPECT_THAT(ask({{"a/feature1", 0}, {"a/feature1", 1}, {"a/feature1", 1}, {"a/feature2", -1}, {"a/feature1", 0}}),
               ElementsAre(counted(0), counted(1), counted(2), counted(-1), counted(2)));
@@ -101,6 +103,8 @@ TEST_F(RedisStoreTest, isAwayWithRedisAndComesBackByItself) {
   runUntil([&] { return !sut.isAvailable(); });  // without a vote that would have to be lost to find out
   EXPECT_THAT(ask({{"a/feature1", 1}, {"a/feature1", 0}}), Each(away));
   redis.restart();
+  runUntil([&] { return reports.size() == 3; });
+  EXPECT_FALSE(sut.isAvailable()) << "it is there, and may refuse to write";
   runUntil([&] { return sut.isAvailable(); });
   EXPECT_THAT(ask({{"a/feature1", 1}}), ElementsAre(counted(2)));
   EXPECT_THAT(reports, ElementsAre(HasSubstr("is there"), HasSubstr("is away"), HasSubstr("is there")));
@@ -121,6 +125,7 @@ TEST_F(RedisStoreTest, isNotAvailableWhileRedisRefusesToWrite) {
   runUntil([&] { return sut.isAvailable(); });  // nobody votes
   EXPECT_THAT(reports.back(), HasSubstr("takes votes again"));
   set("maxmemory", "1");
+  runUntil([&] { return !sut.isAvailable(); });  // still nobody
   EXPECT_THAT(ask({{"a/feature1", 1}}), ElementsAre(away));
   EXPECT_FALSE(sut.isAvailable());
 }
