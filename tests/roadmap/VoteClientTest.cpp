@@ -78,6 +78,7 @@ TEST_F(VoteClient, composesAddressesByPlainConcatenation) {
   EXPECT_EQ(voter.unvote(feature), 7);
   EXPECT_THAT(server->targets(), ElementsAre("/get/app.example/feature12", "/add/app.example/feature12?delta=1",
                                              "/add/app.example/feature12?delta=-1"));
+  EXPECT_EQ(server->connectionCount(), 3) << "each vote on its own, where nothing is sent twice";
   EXPECT_EQ(log->taken(),
             "Successfully voted, count is now: Optional(7)\nSuccessfully voted, count is now: Optional(7)\n");
 }

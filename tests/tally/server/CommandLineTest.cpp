@@ -7,6 +7,7 @@
 #include <boost/version.hpp>
 #include <fstream>
 
+#include "tally/server/Options.h"
 #include "tests/support/TemporaryFolder.h"
 #include "tests/tally_support/HttpClient.h"
 #include "tests/tally_support/TallyServer.h"
@@ -124,9 +125,21 @@ TEST(MivoTally, takesTheLeastOfEachLimit) {
                       "1",
                       "--store-seconds",
                       "1",
+                      "--probe-seconds",
+                      "1",
                       "--log-one-in",
                       "1"}};
   EXPECT_EQ((HttpClient{server.port()}.get("/health").status), 503U);
+}
+
+TEST(MivoTally, holdsFewerConnectionsUnderTls) {
+  const auto connections = [](std::vector<const char*> words) {
+    words.insert(words.begin(), "mivo-tally");
+    return std::get<ServeOptions>(parseCommandLine(static_cast<int>(words.size()), words.data())).mostConnections;
+  };
+  EXPECT_EQ(connections({}), 20'000U);
+  EXPECT_EQ(connections({"--certificate", "c.pem", "--key", "k.pem"}), 5'000U);
+  EXPECT_EQ(connections({"--certificate", "c.pem", "--key", "k.pem", "--max-connections", "7000"}), 7'000U);
 }
 
 TEST(MivoTally, takesThePasswordOfRedisFromOnePlace) {

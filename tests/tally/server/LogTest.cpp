@@ -4,6 +4,7 @@
 #include <fcntl.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <sys/socket.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -12,13 +13,20 @@
 #include <thread>
 #include <utility>
 
+#include "tests/tally_support/Eventually.h"
+
 namespace mivo::tally {
 namespace {
 
 using testing::HasSubstr;
 
 struct Pipe {
-  Pipe() { EXPECT_EQ(::pipe2(ends.data(), O_CLOEXEC), 0); }
+  enum class Kind { pipe, socket };
+  explicit Pipe(Kind kind = Kind::pipe) {
+    EXPECT_EQ(kind == Kind::pipe ? ::pipe2(ends.data(), O_CLOEXEC)
+                                 : ::socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends.data()),
+              0);
+  }
   ~Pipe() {
     ::close(ends[0]);
     ::close(ends[1]);
@@ -120,8 +128,7 @@ TEST(LogTest, endsWhereNobodyReads) {
 }
 
 // Whoever shares the terminal may have made it non-blocking: a full pipe is then waited for, and no line is lost.
-TEST(LogTest, losesNothingWhereItsEndDoesNotBlock) {
-  Pipe pipe;
+void expectNothingIsLost(Pipe pipe) {
   ::fcntl(pipe.ends[1], F_SETFL, O_NONBLOCK);
   constexpr int lines = 5000;
   std::string text;
@@ -137,6 +144,17 @@ TEST(LogTest, losesNothingWhereItsEndDoesNotBlock) {
   ::close(std::exchange(pipe.ends[1], -1));
   reader.join();
   EXPECT_EQ(std::ranges::count(text, '\n'), lines);
+}
+
+TEST(LogTest, losesNothingWhereItsEndDoesNotBlock) { expectNothingIsLost(Pipe{}); }
+TEST(LogTest, losesNothingInASocket) { expectNothingIsLost(Pipe{Pipe::Kind::socket}); }
+
+TEST(LogTest, countsWhatNobodyIsLeftToTake) {
+  Pipe pipe{Pipe::Kind::socket};
+  ::close(std::exchange(pipe.ends[0], -1));
+  Log log{pipe.writeEnd()};
+  for (int i = 0; i < 3; ++i) log.event("filler", "x");
+  EXPECT_TRUE(test::eventually([&] { return log.linesLeftOut() == 3; }));
 }
 
 }  // namespace

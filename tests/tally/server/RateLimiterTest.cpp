@@ -47,6 +47,14 @@ TEST(RateLimiterTest, remembersAcrossMinutes) {
   EXPECT_EQ(taken(limiter, 2, start + seconds{122}), 60);
 }
 
+TEST(SeededHashTest, letsNobodyChooseWhichNumbersFallTogether) {
+  const SeededHash one;
+  const SeededHash other;
+  EXPECT_EQ(one(7), one(7));
+  EXPECT_NE(one(7), one(8));
+  EXPECT_NE(one(7), other(7));
+}
+
 TEST(RateLimiterTest, letsEverythingThroughWhenSwitchedOff) {
   RateLimiter limiter{0};
   EXPECT_EQ(taken(limiter, 1, start), 1000);

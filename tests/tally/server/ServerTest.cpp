@@ -182,6 +182,19 @@ TEST_F(ServerTest, votesUnderItsOwnNamesOnly) {
   TallyServer named{"sqlite:" + folder.file("named.sqlite"), {"--host", "tally.example,other.example"}};
   EXPECT_EQ(statusOf(named, "Other.example\r\n\r\n"), 200U);
   EXPECT_EQ(statusOf(named, "localhost\r\n\r\n"), 421U);
+  TallyServer everywhere{"sqlite:" + folder.file("everywhere.sqlite"), {"--listen", "0.0.0.0:0", "--allow-plain-http"}};
+  EXPECT_EQ(statusOf(everywhere, page), 421U);
+  EXPECT_EQ(statusOf(everywhere, "tally.example\r\n\r\n"), 200U) << "an app, and no page";
+}
+
+TEST_F(ServerTest, givesAnIPv6SiteTenTimesTheVotesOfAHousehold) {
+  TallyServer server{store(), {"--votes-per-minute", "1", "--trust-forwarded-for", "127.0.0.0/8"}};
+  HttpClient client{server.port()};
+  const auto voteOf = [&](const std::string& household) {
+    return client.get("/add/a/feature1?delta=1", {"X-Forwarded-For: 2001:db8:1:" + household + "::1"}).status;
+  };
+  for (int household = 1; household <= 10; ++household) EXPECT_EQ(voteOf(std::to_string(household)), 200U);
+  EXPECT_EQ(voteOf("11"), 429U);
 }
 
 TEST_F(ServerTest, believesForwardedAddressesOfTheNamedProxiesOnly) {

@@ -57,6 +57,21 @@ TEST_F(StoreTrouble, aDatabaseThatWasTakenAwayKeepsNoVote) {
   server.process().waitForLine("was removed or replaced while it was open");
   std::filesystem::rename(file + ".away", file);
   EXPECT_TRUE(eventually([&] { return client.get("/health").status == 200; }));
+  const auto log = file + "-wal";
+  std::filesystem::rename(log, log + ".away");
+  std::filesystem::copy_file(log + ".away", log);
+  EXPECT_TRUE(eventually([&] { return client.get("/health").status == 503; })) << "nobody votes";
+  EXPECT_EQ(client.get("/add/a/feature1?delta=1").status, 503U);
+}
+
+TEST_F(StoreTrouble, theSizeOfTheWriteAheadLogIsTold) {
+  TallyServer server{store};
+  HttpClient client{server.port()};
+  client.get("/add/a/feature1?delta=1");
+  const auto bytes = std::filesystem::file_size(file + "-wal");
+  EXPECT_GT(bytes, 0U);
+  EXPECT_THAT(client.get("/metrics").body,
+              testing::HasSubstr("mivo_tally_store_write_ahead_log_bytes " + std::to_string(bytes) + '\n'));
 }
 
 // The log of the votes is larger than the file may be that the second server writes, so nothing can be added to it.

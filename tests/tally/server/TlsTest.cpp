@@ -42,6 +42,26 @@ TEST_F(TlsTest, votesAndPipelinesAsInPlainHttp) {
   EXPECT_EQ(client.receiveAll(), "");
 }
 
+TEST_F(TlsTest, votesUnderTheNamesOfItsCertificate) {
+  const auto statusOf = [&](const std::string& host) {
+    HttpClient client{server.port(), tls};
+    client.send("GET /add/a/feature1?delta=1 HTTP/1.1\r\nHost: " + host + "\r\n\r\n");
+    return client.receive().status;
+  };
+  EXPECT_EQ(statusOf("tally.example"), 200U);
+  EXPECT_EQ(statusOf("198.51.100.7:443"), 200U);
+  EXPECT_EQ(statusOf("evil.example"), 421U);
+}
+
+// Whoever records a connection and steals the key later could read it: only a key of RSA allows for that at all.
+TEST_F(TlsTest, keepsThePastSecretWhereTheKeyIsStolen) {
+  const CertificateFiles rsa{folder.file("rsa.pem"), folder.file("rsa-key.pem")};
+  makeCertificate(rsa, 1, std::chrono::days{1}, KeyKind::rsa);
+  TallyServer strict{"sqlite:" + folder.file("strict.sqlite"), {"--certificate", rsa.certificate, "--key", rsa.key}};
+  EXPECT_EQ((HttpClient{strict.port(), HttpClient::Security::tls12}.get("/health").status), 200U);
+  EXPECT_THROW((HttpClient{strict.port(), HttpClient::Security::tls12WithoutForwardSecrecy}), std::runtime_error);
+}
+
 TEST_F(TlsTest, hangUpBringsANewCertificateAndKeepsOpenConnections) {
   HttpClient before{server.port(), tls};
   EXPECT_EQ(before.certificateSerial(), 1);

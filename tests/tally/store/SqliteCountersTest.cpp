@@ -6,6 +6,10 @@
 
 #include <SQLiteCpp/SQLiteCpp.h>
 
+#include <fcntl.h>
+#include <sys/file.h>
+#include <unistd.h>
+
 #include <fstream>
 
 #include "PrintedResult.h"
@@ -103,6 +107,13 @@ TEST_F(SqliteCountersTest, isLockedThroughALinkAndWithoutItsLockFile) {
   std::filesystem::remove(file + ".lock");
   for (const auto& path : {link, file})
     EXPECT_EQ(faultOf([&] { const FileLock second{path}; }), path + ": another mivo-tally is using it");
+}
+
+TEST_F(SqliteCountersTest, isLockedForOlderServersToo) {
+  const FileLock lock{file};
+  const int older = ::open((file + ".lock").c_str(), O_RDONLY | O_CLOEXEC);
+  EXPECT_EQ(::flock(older, LOCK_EX | LOCK_NB), -1);
+  ::close(older);
 }
 
 TEST_F(SqliteCountersTest, worksAgainAfterAnotherHeldTheFile) {

@@ -1,8 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "tally/store/Transfer.h"
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
+#include <algorithm>
+#include <array>
 #include <fstream>
 #include <functional>
 #include <sstream>
@@ -72,6 +77,20 @@ TEST(WriteCounts, letsOnlyTheOwnerReadAlsoWhereOthersCould) {
   writeCounts(file, {{"a/feature1", 7}});
   EXPECT_EQ(std::filesystem::status(file).permissions(), std::filesystem::perms{0600});
   EXPECT_FALSE(std::filesystem::exists(file.string() + ".part"));
+}
+
+TEST(WriteCounts, writesIntoAPipeAndPutsNoFileInItsPlace) {
+  const tests::TemporaryFolder folder;
+  const auto pipe = folder.file("pipe");
+  ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
+  const int reader = ::open(pipe.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+  writeCounts(std::filesystem::path{pipe}, {{"a/feature1", 7}});
+  std::array<char, 100> bytes{};
+  const auto size = ::read(reader, bytes.data(), bytes.size());
+  ::close(reader);
+  EXPECT_EQ((std::string_view{bytes.data(), static_cast<std::size_t>(std::max<ssize_t>(size, 0))}),
+            "{\"counter\":\"a/feature1\",\"value\":7}\n");
+  EXPECT_TRUE(std::filesystem::is_fifo(pipe));
 }
 
 TEST(PlanImport, neverOverwritesUnasked) {

@@ -3,6 +3,7 @@
 
 #include <openssl/evp.h>
 #include <openssl/pem.h>
+#include <openssl/rsa.h>
 #include <openssl/x509v3.h>
 
 #include <cstdio>
@@ -27,15 +28,16 @@ void nameLocalhost(X509* certificate) {
   auto* name = X509_get_subject_name(certificate);
   X509_NAME_add_entry_by_txt(name, "CN", MBSTRING_ASC, reinterpret_cast<const unsigned char*>("localhost"), -1, -1, 0);
   X509_set_issuer_name(certificate, name);
-  const Owned<X509_EXTENSION, X509_EXTENSION_free> names{
-      X509V3_EXT_conf_nid(nullptr, nullptr, NID_subject_alt_name, "DNS:localhost,IP:127.0.0.1")};
+  const Owned<X509_EXTENSION, X509_EXTENSION_free> names{X509V3_EXT_conf_nid(
+      nullptr, nullptr, NID_subject_alt_name, "DNS:localhost,DNS:tally.example,IP:127.0.0.1,IP:198.51.100.7")};
   X509_add_ext(certificate, names.get(), -1);
 }
 
 }  // namespace
 
-void makeCertificate(const CertificateFiles& files, long serial, std::chrono::seconds valid) {
-  const Owned<EVP_PKEY, EVP_PKEY_free> key{EVP_EC_gen("P-256")};
+void makeCertificate(const CertificateFiles& files, long serial, std::chrono::seconds valid, KeyKind kind) {
+  constexpr std::size_t rsaBits = 2048;
+  const Owned<EVP_PKEY, EVP_PKEY_free> key{kind == KeyKind::rsa ? EVP_RSA_gen(rsaBits) : EVP_EC_gen("P-256")};
   const Owned<X509, X509_free> certificate{X509_new()};
   X509_set_version(certificate.get(), X509_VERSION_3);
   ASN1_INTEGER_set(X509_get_serialNumber(certificate.get()), serial);

@@ -9,7 +9,11 @@ struct CertificateFiles {
   std::string certificate, key;
 };
 
-/// Makes a certificate for "localhost" that signs itself, valid from now, and writes both as PEM.
-void makeCertificate(const CertificateFiles& files, long serial, std::chrono::seconds valid = std::chrono::days{1});
+enum class KeyKind { ellipticCurve, rsa };
+
+/// Makes a certificate for "localhost", "tally.example" and 198.51.100.7 that signs itself, valid from now, and writes
+/// both as PEM.
+void makeCertificate(const CertificateFiles& files, long serial, std::chrono::seconds valid = std::chrono::days{1},
+                     KeyKind kind = KeyKind::ellipticCurve);
 
 }  // namespace mivo::tally::test

@@ -61,7 +61,8 @@ HttpClient::HttpClient(std::uint16_t port, Security security, int receiveBuffer)
     : socket(connectedTo(port, receiveBuffer)) {
   if (security == Security::plain) return;
   context.reset(SSL_CTX_new(TLS_client_method()));
-  if (security == Security::tls12) SSL_CTX_set_max_proto_version(context.get(), TLS1_2_VERSION);
+  if (security != Security::tls) SSL_CTX_set_max_proto_version(context.get(), TLS1_2_VERSION);
+  if (security == Security::tls12WithoutForwardSecrecy) SSL_CTX_set_cipher_list(context.get(), "kRSA");
   tls.reset(SSL_new(context.get()));
   SSL_set_fd(tls.get(), socket);
   if (SSL_connect(tls.get()) == 1) return;

@@ -21,7 +21,7 @@ struct HttpAnswer {
 /// std::runtime_error.
 class HttpClient {
  public:
-  enum class Security { plain, tls, tls12 };
+  enum class Security { plain, tls, tls12, tls12WithoutForwardSecrecy };
 
   /// A receive buffer of 0 bytes leaves its size to the system.
   explicit HttpClient(std::uint16_t port, Security security = Security::plain, int receiveBuffer = 0);

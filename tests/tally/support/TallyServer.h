@@ -9,11 +9,11 @@ namespace mivo::tally::test {
 /// The path of the program under test.
 std::string tallyProgram();
 
-/// The port in a line of the log that names an address of this machine.
+/// The port in a line of the log that names an IPv4 address, "http://127.0.0.1:8787".
 std::uint16_t portIn(const std::string& line);
 
-/// `mivo-tally` on a free port of this machine, started through the wrapper's words where there are any. It listens
-/// when the constructor returns.
+/// `mivo-tally` on a free port of this machine, where the flags do not say `--listen`, started through the wrapper's
+/// words where there are any. It listens when the constructor returns.
 class TallyServer {
  public:
   explicit TallyServer(const std::string& store,
