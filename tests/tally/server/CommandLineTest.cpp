@@ -45,6 +45,7 @@ INSTANTIATE_TEST_SUITE_P(
             "plainForOthers", {"--listen", "0.0.0.0:0"}, 2, "give --certificate and --key, or --allow-plain-http"},
         CommandRow{"plainForOthersByName", {"--listen", "tally.example:0"}, 2, "give --certificate and --key"},
         CommandRow{"adminForOthers", {"--admin", "0.0.0.0:0"}, 2, "--admin 0.0.0.0:0: others can reach it"},
+        CommandRow{"blankBetweenNetworks", {"--trust-forwarded-for", "10.0.0.0/8", "192.0.2.0/24"}, 2, "192.0.2.0/24"},
         CommandRow{"keyAlone", {"--key", "k.pem"}, 2, "--certificate and --key are given together"},
         CommandRow{"noCertificate",
                    {"--listen", "127.0.0.1:0", "--store", "redis://127.0.0.1:1", "--certificate", "/no/c.pem", "--key",
