@@ -10,6 +10,7 @@
 #include <sys/file.h>
 #include <unistd.h>
 
+#include <cerrno>
 #include <fstream>
 
 #include "PrintedResult.h"
@@ -111,8 +112,9 @@ TEST_F(SqliteCountersTest, isLockedThroughALinkAndWithoutItsLockFile) {
 
 TEST_F(SqliteCountersTest, isLockedForOlderServersToo) {
   const FileLock lock{file};
-  const int older = ::open((file + ".lock").c_str(), O_RDONLY | O_CLOEXEC);
+  const int older = ::open((file + ".lock").c_str(), O_RDONLY | O_CREAT | O_CLOEXEC, 0600);
   EXPECT_EQ(::flock(older, LOCK_EX | LOCK_NB), -1);
+  EXPECT_EQ(errno, EWOULDBLOCK);
   ::close(older);
 }
 
