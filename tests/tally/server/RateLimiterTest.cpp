@@ -36,6 +36,7 @@ TEST(RateLimiterTest, countsEachClientForItself) {
   RateLimiter limiter{60};
   taken(limiter, 1, start);
   EXPECT_EQ(taken(limiter, 2, start), 60);
+  EXPECT_EQ(taken(limiter, 1, start), 0) << "not forgotten for the other";
 }
 
 // Buckets move from one generation to the next; an emptied one must not be forgotten early.

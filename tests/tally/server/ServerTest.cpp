@@ -188,7 +188,7 @@ TEST_F(ServerTest, votesUnderItsOwnNamesOnly) {
 }
 
 TEST_F(ServerTest, givesAnIPv6SiteTenTimesTheVotesOfAHousehold) {
-  TallyServer server{store(), {"--votes-per-minute", "1", "--trust-forwarded-for", "127.0.0.0/8"}};
+  TallyServer server{store(), {"--votes-per-minute", "1", "--trust-forwarded-for", "192.0.2.0/24,127.0.0.0/8"}};
   HttpClient client{server.port()};
   const auto voteOf = [&](const std::string& household) {
     return client.get("/add/a/feature1?delta=1", {"X-Forwarded-For: 2001:db8:1:" + household + "::1"}).status;
@@ -245,6 +245,19 @@ TEST_F(ServerTest, cutsOffWhoTakesTooLong) {
   EXPECT_EQ(idle.get("/health").status, 200U);
   EXPECT_THAT(slow.receiveAll(), HasSubstr("408 Request Timeout"));
   EXPECT_EQ(idle.receiveAll(), "");
+}
+
+// The beginning of the next request came with the one before; that others time out says that a second has passed.
+TEST_F(ServerTest, givesEachRequestOfAConnectionItsTime) {
+  TallyServer server{store(), {"--request-seconds", "60", "--idle-seconds", "1"}};
+  HttpClient begun{server.port()};
+  begun.send("GET /health HTTP/1.1\r\nHost: h\r\n\r\nGET /get/a/feature1 HT");
+  EXPECT_EQ(begun.receive().status, 200U);
+  HttpClient idle{server.port()};
+  EXPECT_EQ(idle.get("/health").status, 200U);
+  EXPECT_EQ(idle.receiveAll(), "");
+  begun.send("TP/1.1\r\nHost: h\r\n\r\n");
+  EXPECT_EQ(countOf(begun.receive()), 0);
 }
 
 // Whatever is sent, the server lives, and the counters move by exactly the votes it answered with 200.
