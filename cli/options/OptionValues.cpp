@@ -4,11 +4,38 @@
 #include <array>
 #include <charconv>
 
+#include "mivo/weights/WeightUnits.h"
+
 namespace mivo::cli {
 
 Read<bool> readFormat(std::string_view text) {
   constexpr std::array<Choice<bool>, 2> formats{{{"text", false}, {"json", true}}};
   return readChoice<bool>("--format", "expected text or json", formats, text);
+}
+
+Read<std::optional<host::DateOrder>> readDateOrder(std::string_view text) {
+  using Order = std::optional<host::DateOrder>;
+  constexpr std::array<Choice<Order>, 3> orders{
+      {{"", std::nullopt}, {"day-first", host::DateOrder::dayFirst}, {"month-first", host::DateOrder::monthFirst}}};
+  return readChoice<Order>("--date-order", "expected day-first or month-first", orders, text);
+}
+
+Read<std::optional<WeightUnit>> readWeightUnit(std::string_view text) {
+  const auto unit = weightUnitNamed(text);
+  if (!unit && !text.empty()) return wrong("--weight-unit", "expected kg, lb or st", text);
+  return unit;
+}
+
+std::string_view answeringOption(host::ImportFault::Asks asks) {
+  switch (asks) {
+    case host::ImportFault::Asks::nothing:
+      return "";
+    case host::ImportFault::Asks::dateOrder:
+      return "--date-order day-first or month-first says it";
+    case host::ImportFault::Asks::weightUnit:
+      return "--weight-unit kg, lb or st says it";
+  }
+  return "";
 }
 
 Read<std::int64_t> readNumber(std::string_view option, std::string_view expected, std::string_view text,

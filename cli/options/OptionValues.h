@@ -2,10 +2,14 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <string_view>
 
+#include "host/dates/WrittenDate.h"
+#include "host/import/ImportedFile.h"
 #include "host/place/PlaceOptions.h"
+#include "mivo/platform/Formatters.h"
 
 namespace mivo::cli {
 
@@ -27,6 +31,15 @@ Read<Value> readChoice(std::string_view option, std::string_view expected, std::
 
 /// `--format`: whether it is json.
 Read<bool> readFormat(std::string_view text);
+
+/// `--date-order` and `--weight-unit`: what files leave open that people bring along. Nothing where they were not
+/// given.
+Read<std::optional<host::DateOrder>> readDateOrder(std::string_view text);
+Read<std::optional<WeightUnit>> readWeightUnit(std::string_view text);
+
+/// The option that answers what a file leaves open: "--weight-unit kg, lb or st says it". Nothing where it asks
+/// nothing.
+std::string_view answeringOption(host::ImportFault::Asks asks);
 
 /// A whole number from `low` to `high`.
 Read<std::int64_t> readNumber(std::string_view option, std::string_view expected, std::string_view text,

@@ -21,6 +21,8 @@ int runUndo(const RecordOptions& options);
 /// What the fasting page of the app says just now, in a line or as the whole page.
 int runStatus(const RecordOptions& options);
 int runList(const RecordOptions& options);
+/// Adds what files hold to the history, all of them or none.
+int runImport(const RecordOptions& options);
 int runExport(const RecordOptions& options);
 int runWeightAdd(const RecordOptions& options);
 int runWeightList(const RecordOptions& options);

@@ -20,6 +20,7 @@ constexpr const char* fastExamples = R"(Examples:
   mivo status
   mivo list
   mivo export --to backup.json
+  mivo import backup.json fasts.csv weights.csv
 
 A date without an offset is in --time-zone. An ID is what mivo list shows, or more of it.
 
@@ -115,6 +116,18 @@ void addFastCommands(Commands& to) {
       ->type_name("FILE.json")
       ->required();
   all.add_flag("--force", options.isForced, "Replace a file that is there already");
+  CLI::App& import =
+      to.add("import", "Add what files hold to the fasts and weights, whichever app wrote them", runImport);
+  import.add_option("FILE", options.files, "Backups, tables or logs, known by their content; - for standard input")
+      ->required()
+      ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
+  import.add_flag("--dry-run", options.isDryRun, "Only tell what would be added");
+  import.add_option("--weight-unit", options.ambiguities.weightUnit, "Of weights without one: kg, lb or st")
+      ->type_name("UNIT");
+  import
+      .add_option("--date-order", options.ambiguities.dateOrder,
+                  "Of dates such as 1/2/2026: day-first or month-first; default: what the file shows")
+      ->type_name("ORDER");
 }
 
 void addWeightCommands(CLI::App& program, Commands& to) {

@@ -11,7 +11,11 @@ namespace mivo::cli {
 /// What stands after a command that keeps the history, as it was typed; empty or missing where it was not.
 struct RecordOptions {
   std::string id, weight, to;
+  std::vector<std::string> files;  ///< to import
   std::optional<std::string> at, start, end, goalHours, note;
+  struct {
+    std::string dateOrder, weightUnit;
+  } ambiguities;  ///< what files leave open
   bool isRunning = false, isForced = false, isDryRun = false;
   std::string database, locale, timeZone, format = "text";
 };

@@ -7,7 +7,6 @@
 #include "adapters/icu/Calendars.h"
 #include "adapters/system/SystemClock.h"
 #include "cli/options/OptionValues.h"
-#include "mivo/weights/WeightUnits.h"
 
 namespace mivo::cli {
 namespace {
@@ -49,9 +48,8 @@ tl::expected<RunSettings, std::string> runSettings(const ReportOptions& options)
   if (!range) return tl::unexpected{range.error()};
   const auto asJson = readFormat(options.format);
   if (!asJson) return tl::unexpected{asJson.error()};
-  const auto weightUnit = weightUnitNamed(options.weightUnit);
-  if (!weightUnit && !options.weightUnit.empty())
-    return wrong("--weight-unit", "expected kg, lb or st", options.weightUnit);
+  const auto weightUnit = readWeightUnit(options.weightUnit);
+  if (!weightUnit) return tl::unexpected{weightUnit.error()};
   const auto streaks = streakSettings(options);
   if (!streaks) return tl::unexpected{streaks.error()};
   const auto zone = readTimeZone(options.timeZone);
@@ -64,7 +62,7 @@ tl::expected<RunSettings, std::string> runSettings(const ReportOptions& options)
   if (!calendar) return wrong("--calendar", calendar.error());
   const auto instant = now(options.now, **zone);
   if (!instant) return tl::unexpected{instant.error()};
-  return RunSettings{*range, *instant, *calendar, *userLocale, *streaks, weightUnit, *asJson};
+  return RunSettings{*range, *instant, *calendar, *userLocale, *streaks, *weightUnit, *asJson};
 }
 
 }  // namespace mivo::cli

@@ -8,53 +8,12 @@
 #include <cstdint>
 #include <cstdio>
 
+#include "host/dates/Scanner.h"
+
 namespace mivo::host {
 namespace {
 
 using namespace std::chrono;
-
-/// Takes the front of a text, piece by piece.
-class Scanner {
- public:
-  explicit Scanner(std::string_view text) : rest{text} {}
-
-  bool atEnd() const { return rest.empty(); }
-
-  template <class... Characters>
-  bool take(Characters... anyOf) {
-    if (rest.empty() || ((rest.front() != anyOf) && ...)) return false;
-    rest.remove_prefix(1);
-    return true;
-  }
-
-  /// Exactly `count` digits, as a number.
-  template <std::size_t count>
-  std::optional<unsigned> number() {
-    if (rest.size() < count) return std::nullopt;
-    unsigned result = 0;
-    bool isNumber = true;
-    for (std::size_t index = 0; index < count; ++index) {
-      const unsigned digit = static_cast<unsigned char>(rest[index]) - unsigned{'0'};
-      isNumber &= digit <= 9;
-      result = result * 10 + digit;
-    }
-    if (!isNumber) return std::nullopt;
-    rest.remove_prefix(count);
-    return result;
-  }
-
-  std::string_view digits() {
-    const std::size_t count = std::min(rest.find_first_not_of("0123456789"), rest.size());
-    const std::string_view result = rest.substr(0, count);
-    rest.remove_prefix(count);
-    return result;
-  }
-
-  char front() const { return rest.empty() ? '\0' : rest.front(); }
-
- private:
-  std::string_view rest;
-};
 
 std::optional<local_days> scanDay(Scanner& scanner) {
   const auto yearNumber = scanner.number<4>();
@@ -89,20 +48,6 @@ std::optional<TimeOfDay> scanTime(Scanner& scanner) {
   time.fraction = scanner.digits();
   if (time.fraction.empty()) return std::nullopt;
   return time;
-}
-
-/// `Z`, `+01:00`, `+0100` or `+01`.
-std::optional<seconds> scanOffset(Scanner& scanner) {
-  if (scanner.take('Z', 'z')) return seconds{0};
-  const bool isWest = scanner.front() == '-';
-  if (!scanner.take('+', '-')) return std::nullopt;
-  const auto hour = scanner.number<2>();
-  if (!hour || *hour > 23) return std::nullopt;
-  std::optional<unsigned> minute{0};
-  if (scanner.take(':') || !scanner.atEnd()) minute = scanner.number<2>();
-  if (!minute || *minute > 59) return std::nullopt;
-  const seconds east = hours{*hour} + minutes{*minute};
-  return isWest ? -east : east;
 }
 
 /// 1 minus a fraction, digit by digit and so exact: "25" gives "75". The digits are not all zero.

@@ -16,8 +16,8 @@ namespace {
 /// kept and what follows ignored until the parser returns from its piece of the text.
 class RecordCollector {
  public:
-  RecordCollector(const std::string& fileName, const std::function<std::optional<BadRecord>(const CsvRow&)>& callback)
-      : file{fileName}, onRow{callback} {}
+  RecordCollector(std::string fileName, OnCsvRow callback, std::int64_t firstLine)
+      : file{std::move(fileName)}, onRow{std::move(callback)}, line{firstLine} {}
 
   void field(std::string_view text) {
     if (fault) return;
@@ -56,43 +56,14 @@ class RecordCollector {
     fault = onRow({line, fields});
   }
 
-  const std::string& file;
-  const std::function<std::optional<BadRecord>(const CsvRow&)>& onRow;
+  std::string file;
+  OnCsvRow onRow;
   std::string bytes;  // of the record's fields, one after the other
   std::vector<std::size_t> ends;
   std::vector<std::string_view> fields;
-  std::int64_t line = 1;
+  std::int64_t line;
   std::int64_t lineBreaksInRecord = 0;
   bool lastWasReturn = false;
-};
-
-class Parser {
- public:
-  explicit Parser(char separator) {
-    constexpr unsigned char options = CSV_STRICT | CSV_STRICT_FINI | CSV_REPALL_NL;
-    if (csv_init(&parser, options) != 0) throw std::bad_alloc{};
-    csv_set_delim(&parser, static_cast<unsigned char>(separator));
-    csv_set_blk_size(&parser,
-                     std::size_t{1} << 16);  // grows by this much: the default of 128 bytes makes long fields slow
-  }
-  ~Parser() { csv_free(&parser); }
-  Parser(const Parser&) = delete;
-  Parser& operator=(const Parser&) = delete;
-
-  bool parse(std::string_view piece, RecordCollector& collector) {
-    return csv_parse(&parser, piece.data(), piece.size(), takeField, takeEnd, &collector) == piece.size();
-  }
-  bool finish(RecordCollector& collector) { return csv_fini(&parser, takeField, takeEnd, &collector) == 0; }
-
- private:
-  static void takeField(void* text, std::size_t length, void* collector) {
-    static_cast<RecordCollector*>(collector)->field({static_cast<const char*>(text), length});
-  }
-  static void takeEnd(int terminator, void* collector) {
-    static_cast<RecordCollector*>(collector)->endOfRecord(terminator);
-  }
-
-  csv_parser parser;
 };
 
 std::string_view firstLine(std::string_view text) {
@@ -114,25 +85,70 @@ char csvSeparator(std::string_view text) {
   return candidates[static_cast<std::size_t>(std::ranges::max_element(counts) - counts.begin())];
 }
 
-std::optional<BadRecord> readCsv(std::string_view text, char separator, const std::string& file,
-                                 const std::function<std::optional<BadRecord>(const CsvRow&)>& onRow) {
-  constexpr std::size_t pieceInBytes = std::size_t{1} << 16;
-  RecordCollector collector{file, onRow};
-  Parser parser{separator};
-  std::size_t bytesSinceRecord = 0;
-  while (!text.empty()) {
-    const std::string_view piece = text.substr(0, pieceInBytes);
-    text.remove_prefix(piece.size());
+struct CsvReader::Parser {
+  Parser(char separator, std::string file, OnCsvRow onRow, std::int64_t firstLine)
+      : collector{std::move(file), std::move(onRow), firstLine} {
+    constexpr unsigned char options = CSV_STRICT | CSV_STRICT_FINI | CSV_REPALL_NL;
+    if (csv_init(&parser, options) != 0) throw std::bad_alloc{};
+    csv_set_delim(&parser, static_cast<unsigned char>(separator));
+    csv_set_blk_size(&parser,
+                     std::size_t{1} << 16);  // grows by this much: the default of 128 bytes makes long fields slow
+  }
+  ~Parser() { csv_free(&parser); }
+  Parser(const Parser&) = delete;
+  Parser& operator=(const Parser&) = delete;
+
+  std::optional<BadRecord> feed(std::string_view piece) {
     const auto recordsBefore = collector.recordsSeen;
-    const bool isWellFormed = parser.parse(piece, collector);
+    const bool isWellFormed =
+        csv_parse(&parser, piece.data(), piece.size(), takeField, takeEnd, &collector) == piece.size();
     if (collector.fault) return std::move(collector.fault);
     if (!isWellFormed) return collector.bad("expected quotes only around whole fields, and doubled inside them");
     bytesSinceRecord = collector.recordsSeen == recordsBefore ? bytesSinceRecord + piece.size() : 0;
     if (bytesSinceRecord > longestCsvRecordInBytes) return collector.bad("expected a record of at most 1 MiB");
+    return std::nullopt;
   }
-  if (!parser.finish(collector))
-    return collector.bad("expected a quote that closes the one opened here, found the end of the file");
-  return std::move(collector.fault);
+
+  std::optional<BadRecord> finish() {
+    if (csv_fini(&parser, takeField, takeEnd, &collector) != 0)
+      return collector.bad("expected a quote that closes the one opened here, found the end of the file");
+    return std::move(collector.fault);
+  }
+
+  static void takeField(void* text, std::size_t length, void* collector) {
+    static_cast<RecordCollector*>(collector)->field({static_cast<const char*>(text), length});
+  }
+  static void takeEnd(int terminator, void* collector) {
+    static_cast<RecordCollector*>(collector)->endOfRecord(terminator);
+  }
+
+  csv_parser parser;
+  RecordCollector collector;
+  std::size_t bytesSinceRecord = 0;
+};
+
+CsvReader::CsvReader(char separator, std::string file, OnCsvRow onRow, std::int64_t firstLine)
+    : parser{std::make_unique<Parser>(separator, std::move(file), std::move(onRow), firstLine)} {}
+
+CsvReader::~CsvReader() = default;
+CsvReader::CsvReader(CsvReader&&) noexcept = default;
+CsvReader& CsvReader::operator=(CsvReader&&) noexcept = default;
+
+std::optional<BadRecord> CsvReader::feed(std::string_view piece) {
+  constexpr std::size_t mostAtOnce = std::size_t{1} << 16;
+  while (!piece.empty()) {
+    if (auto fault = parser->feed(piece.substr(0, mostAtOnce))) return fault;
+    piece.remove_prefix(std::min(mostAtOnce, piece.size()));
+  }
+  return std::nullopt;
+}
+
+std::optional<BadRecord> CsvReader::finish() { return parser->finish(); }
+
+std::optional<BadRecord> readCsv(std::string_view text, char separator, const std::string& file, OnCsvRow onRow) {
+  CsvReader reader{separator, file, std::move(onRow)};
+  if (auto fault = reader.feed(text)) return fault;
+  return reader.finish();
 }
 
 }  // namespace mivo::host

@@ -1,0 +1,69 @@
+// SPDX-License-Identifier: MIT
+#include <array>
+#include <string>
+#include <vector>
+
+#include "adapters/system/LocalUUIDGenerator.h"
+#include "cli/options/OptionValues.h"
+#include "cli/records/RecordCommands.h"
+#include "cli/records/RecordRun.h"
+#include "cli/terminal/StandardOutput.h"
+#include "cli/usage/Usage.h"
+#include "host/files/ReadImportFiles.h"
+#include "host/import/ImportText.h"
+#include "host/import/PlanImport.h"
+#include "mivo/weights/WeightUnits.h"
+
+namespace mivo::cli {
+namespace {
+
+using Files = std::vector<host::ImportedFile>;
+
+host::ImportSettings settings(const RecordRun& run) {
+  const auto& [order, unit] = run.options.ambiguities;
+  const auto dateOrder = readDateOrder(order);
+  if (!dateOrder) throw Refused{wrongUsage, dateOrder.error()};
+  const auto weightUnit = readWeightUnit(unit);
+  if (!weightUnit) throw Refused{wrongUsage, weightUnit.error()};
+  return {.zone = run.zone, .weightUnit = *weightUnit, .dateOrder = *dateOrder};
+}
+
+Files read(const RecordRun& run, const UUIDGenerator& ids) {
+  auto files = host::readImportFiles(run.options.files, settings(run), ids);
+  if (files) return std::move(*files);
+  const auto& [bad, asks] = files.error();
+  throw Refused{asks == host::ImportFault::Asks::nothing ? atFault : wrongUsage,
+                withHelp(describe(bad), answeringOption(asks))};
+}
+
+/// The rows, one a line, and how many more there are than are kept.
+void complainOf(const host::RefusedRecords& refused, const RecordRun& run) {
+  for (const auto& bad : refused.first()) complain(describe(bad));
+  const auto more = refused.count() - static_cast<std::int64_t>(refused.first().size());
+  if (more > 0)
+    complain(filledIn(run.texts->plural("{1} more was refused.", "{1} more were refused.", more),
+                      {run.formatters.numberFormatter->string(more)}));
+}
+
+std::string import(const RecordRun& run) {
+  const adapters::LocalUUIDGenerator ids;
+  const Files files = read(run, ids);
+  HistoryFile history = run.open();
+  const host::ImportPlan plan = planImport(history.history(), files, ids);
+  const bool isDone = !run.options.isDryRun;
+  if (isDone && !plan.change.isEmpty()) history.apply(plan.change);
+  std::string report;
+  for (std::size_t index = 0; index < files.size(); ++index) {
+    const auto& numbers = *run.formatters.numberFormatter;
+    report += importSummary(files[index], plan.counts[index], isDone, *run.texts, numbers) + '\n';
+    for (const std::string& note : importNotes(files[index], *run.texts, numbers)) report += "  " + note + '\n';
+  }
+  complainOf(plan.refused, run);
+  return report;
+}
+
+}  // namespace
+
+int runImport(const RecordOptions& options) { return runRecordCommand(options, import); }
+
+}  // namespace mivo::cli

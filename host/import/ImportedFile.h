@@ -1,0 +1,74 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "host/history/History.h"
+#include "host/text/BadRecord.h"
+
+namespace mivo::host {
+
+/// What a file was recognised as, by its content.
+enum class ImportKind { snapshot, fastTable, weightTable, weightLog };
+
+/// The records that were refused: the first of them, in the order of the file, and how many there are.
+class RefusedRecords {
+ public:
+  static constexpr std::size_t mostKept = 100;
+
+  void add(BadRecord bad) {
+    if (kept.size() < mostKept) kept.push_back(std::move(bad));
+    ++counted;
+  }
+  /// Counts some that nothing more is to be said of.
+  void addUnseen(std::int64_t more) { counted += more; }
+  const std::vector<BadRecord>& first() const { return kept; }
+  std::int64_t count() const { return counted; }
+  bool operator==(const RefusedRecords&) const = default;
+
+ private:
+  std::vector<BadRecord> kept;
+  std::int64_t counted = 0;
+};
+
+/// What else there is to say of a file.
+struct ImportNotes {
+  std::int64_t notWeighed = 0;                  ///< rows with no weight, or a weight of 0
+  std::int64_t linesPassedOver = 0;             ///< above the header and below the table
+  std::int64_t skippedTimes = 0;                ///< that the clocks skipped, taken as the first instant after the gap
+  std::int64_t doubledTimes = 0;                ///< that the clocks showed twice, taken as the first of the two
+  std::vector<std::string> unusedColumns = {};  ///< as the header spells them
+  bool operator==(const ImportNotes&) const = default;
+};
+
+struct ImportedFast {
+  FastRecord record;
+  std::int64_t line = 0;  ///< from 1; 0 where the file has no lines
+  bool operator==(const ImportedFast&) const = default;
+};
+
+/// What a file holds, in its own order.
+struct ImportedFile {
+  std::string name;  ///< for sentences
+  ImportKind kind = ImportKind::snapshot;
+  std::vector<ImportedFast> fasts = {};
+  std::vector<BodyWeightSample> weights = {};
+  RefusedRecords refused = {};
+  ImportNotes notes = {};
+};
+
+/// Why nothing of a file can be taken in.
+struct ImportFault {
+  /// What a person would have to say for it to be read.
+  enum class Asks { nothing, dateOrder, weightUnit };
+
+  BadRecord bad;
+  Asks asks = Asks::nothing;
+  bool operator==(const ImportFault&) const = default;
+};
+
+}  // namespace mivo::host

@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: MIT
+#include "host/import/ReadRows.h"
+
+#include <cstddef>
+
+#include "host/import/FastRows.h"
+#include "host/import/RowDates.h"
+#include "host/import/WeightRows.h"
+
+namespace mivo::host {
+namespace {
+
+/// How many rows stand before the stray lines below a table, which have one text and no date.
+std::size_t rowsOfTable(const RecordRows& rows) {
+  std::size_t count = 0, seen = 0;
+  rows.forEach([&](const RecordRows::Row& row) {
+    ++seen;
+    if (!row.isLone || readDateCell(row.cells[0]).date) count = seen;
+  });
+  return count;
+}
+
+}  // namespace
+
+std::optional<ImportFault> readRows(const RecordRows& rows, const ImportSettings& settings, const UUIDGenerator& ids,
+                                    ImportedFile& file) {
+  const auto order = dateOrderOf(rows, file.name, settings);
+  if (!order) return order.error();
+  const RowDates dates{*settings.zone, *order, rows.columns().place(Role::utcOffset).has_value()};
+  const std::size_t count = rowsOfTable(rows);
+  file.notes.linesPassedOver += static_cast<std::int64_t>(rows.size() - count);
+  file.notes.unusedColumns = rows.columns().unused;
+  const auto readEach = [&](auto&& reader) {
+    std::size_t place = 0;
+    rows.forEach([&](const RecordRows::Row& row) {
+      if (place++ < count) reader.row(row);
+    });
+  };
+  if (rows.columns().areWeights) {
+    WeightRows reader{rows, dates, settings, ids, file};
+    if (auto fault = reader.missingUnit()) return fault;
+    file.weights.reserve(count);
+    readEach(reader);
+  } else {
+    file.fasts.reserve(count);
+    readEach(FastRows{rows, dates, ids, file});
+  }
+  return std::nullopt;
+}
+
+}  // namespace mivo::host

@@ -1,0 +1,93 @@
+// SPDX-License-Identifier: MIT
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+#include "host/database/Database.h"
+#include "tests/cli_support/MivoProcess.h"
+
+namespace mivo::cli {
+namespace {
+
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+class Import : public testing::Test {
+ protected:
+  Import() {
+    place.write("fasts", "start,end,note\n2026-03-01T20:00Z,2026-03-02T12:00Z,tea\n2026-03-02T20:00Z,,\nsoon,,\n");
+    place.write("weights", "date,weight\n2026-03-01T07:00Z,81.4 kg\n2026-03-02T07:00Z,0\n");
+  }
+
+  host::History history() const { return host::Database{place.file("d")}.history(); }
+
+  Workplace place;
+};
+
+TEST_F(Import, addsFilesAsOneChangeAndTellsWhatWasRefused) {
+  const Ran ran = place.run("import fasts weights --database d");
+  EXPECT_EQ(ran.status, 0);
+  EXPECT_EQ(ran.output,
+            "fasts: 2 fasts and 0 weights added, 0 there already, 1 refused\n"
+            "weights: 0 fasts and 1 weight added, 0 there already, 0 refused\n  1 row has no weight.\n");
+  EXPECT_EQ(ran.errors,
+            "mivo: fasts:4: start: expected a date and time of the years 1 to 9999, as in 2026-03-01T12:00:00Z, found "
+            "\"soon\"\n");
+  EXPECT_EQ(history().fasts.size(), 2u);
+  EXPECT_EQ(history().weights.size(), 1u);
+
+  EXPECT_THAT(place.run("import weights fasts --database d").output,
+              HasSubstr("fasts: 0 fasts and 0 weights added, 2 there already, 1 refused\n"));
+  EXPECT_EQ(history().fasts.size(), 2u);
+  EXPECT_EQ(place.run("undo --database d").status, 0);
+  EXPECT_THAT(history().fasts, IsEmpty());
+  EXPECT_THAT(history().weights, IsEmpty());
+}
+
+TEST_F(Import, readsStandardInputAndOnlyTellsWhenDry) {
+  EXPECT_EQ(place.run("import --dry-run - --database d", "<fasts >output").output,
+            "standard input: 2 fasts and 0 weights to add, 0 there already, 1 refused\n");
+  EXPECT_FALSE(std::filesystem::exists(place.file("d")));
+  EXPECT_EQ(place.run("import --database d -", "<fasts >output").status, 0);
+  EXPECT_EQ(history().fasts.size(), 2u);
+}
+
+struct RefusedImport {
+  const char* name;
+  std::string arguments, error;
+  int status = 1;
+};
+
+TEST_F(Import, changesNothingWhereAFileIsRefused) {
+  place.write("letter", "Dear all,");
+  place.write("open", "date,kg\n2/3/2026,81\n");
+  place.write("bare", "date,weight\n2026-03-01,81\n");
+  for (const RefusedImport& row : {
+           RefusedImport{"noFile", "fasts none", "none: expected a file that can be read: No such file or directory"},
+           RefusedImport{"folder", "fasts .", ".: expected a file that can be read: Is a directory"},
+           RefusedImport{"unknown", "fasts letter", "letter: expected a backup of the app, a table"},
+           RefusedImport{"order", "fasts open",
+                         "2026-02-03, found \"2/3/2026\" (--date-order day-first or month-first "
+                         "says it)",
+                         2},
+           RefusedImport{"unit", "fasts bare", "found \"81\" (--weight-unit kg, lb or st says it)", 2},
+           RefusedImport{"noSuchOrder", "fasts --date-order us",
+                         "--date-order: expected day-first or month-first, found "
+                         "\"us\"",
+                         2},
+           RefusedImport{"noSuchUnit", "fasts --weight-unit g", "--weight-unit: expected kg, lb or st, found \"g\"", 2},
+           RefusedImport{"nothing", "", "FILE is required", 2},
+       }) {
+    const Ran ran = place.run("import --database d " + row.arguments);
+    EXPECT_EQ(ran.status, row.status) << row.name;
+    EXPECT_THAT(ran.errors, HasSubstr(row.error)) << row.name;
+    EXPECT_THAT(ran.output, IsEmpty()) << row.name;
+    EXPECT_FALSE(std::filesystem::exists(place.file("d"))) << row.name;
+  }
+  EXPECT_EQ(place.run("import --database d bare open --weight-unit lb --date-order month-first").status, 0);
+  EXPECT_EQ(history().weights.front().weightInKg, 81);
+}
+
+}  // namespace
+}  // namespace mivo::cli
