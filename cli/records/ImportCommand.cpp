@@ -58,6 +58,8 @@ std::string import(const RecordRun& run) {
     report += importSummary(files[index], plan.counts[index], isDone, *run.texts, numbers) + '\n';
     for (const std::string& note : importNotes(files[index], *run.texts, numbers)) report += "  " + note + '\n';
   }
+  for (const auto& file : files)
+    if (file.endsBeforeStart) complain(describe(*file.endsBeforeStart));
   complainOf(plan.refused, run);
   return report;
 }

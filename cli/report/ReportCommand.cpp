@@ -1,21 +1,25 @@
 // SPDX-License-Identifier: MIT
 #include "cli/report/ReportCommand.h"
 
+#include <array>
 #include <filesystem>
 #include <string>
 #include <tl/expected.hpp>
 #include <utility>
 
+#include "cli/options/OptionValues.h"
 #include "cli/report/Report.h"
 #include "cli/report/ReportJson.h"
 #include "cli/report/ReportText.h"
 #include "cli/report/RunSettings.h"
 #include "cli/terminal/Paint.h"
 #include "cli/terminal/StandardOutput.h"
+#include "cli/usage/Usage.h"
 #include "host/database/Database.h"
+#include "host/files/ReadImportFiles.h"
 #include "host/history/FastsCsv.h"
-#include "host/history/Snapshot.h"
 #include "host/history/WeightsCsv.h"
+#include "host/import/PlanImport.h"
 #include "host/text/TextFile.h"
 
 namespace mivo::cli {
@@ -23,8 +27,9 @@ namespace {
 
 using host::BadRecord;
 using host::History;
+using host::ImportFault;
 
-constexpr int done = 0, badData = 1, wrongUsage = 2;
+constexpr int done = 0, badData = atFault;
 
 int refused(int status, const std::string& sentence) {
   complain(sentence);
@@ -71,14 +76,36 @@ tl::expected<History, BadRecord> readDatabase(const std::filesystem::path& file)
   return host::Database{file}.history();
 }
 
-tl::expected<History, BadRecord> readHistory(const ReportOptions& options, const RunSettings& settings,
+/// What a file of any kind holds, up to the first record that is wrong. A backup is taken as it is; of what other apps
+/// write, repeats count once.
+tl::expected<History, ImportFault> readInput(const ReportOptions& options, const RunSettings& settings,
                                              const UUIDGenerator& ids) {
-  if (!options.input.empty())
-    return host::readTextInput(options.input).and_then([&](const std::string& text) {
-      return host::readSnapshot(text, host::inputName(options.input), ids);
-    });
-  if (hasTables(options)) return readTables(options, settings, ids);
-  return readDatabase(options.database.empty() ? host::ownDatabaseFile() : std::filesystem::path{options.database});
+  auto files = host::readImportFiles(
+      std::array{options.input},
+      {.zone = settings.calendar->zone(), .weightUnit = settings.weightUnit, .dateOrder = settings.dateOrder}, ids);
+  if (!files) return tl::unexpected{std::move(files.error())};
+  host::ImportedFile& file = files->front();
+  History history{.fasts = {}, .weights = {}, .endsBeforeStart = std::move(file.endsBeforeStart)};
+  if (file.kind == host::ImportKind::snapshot) {
+    history.fasts = std::move(file.fasts);
+    history.weights = std::move(file.weights);
+    return history;
+  }
+  host::ImportPlan plan = planImport({}, *files, ids);
+  if (plan.refused.count() > 0) return tl::unexpected{ImportFault{plan.refused.first().front()}};
+  history.fasts = std::move(plan.change.addedFasts);
+  history.weights = std::move(plan.change.addedWeights);
+  host::sortByDate(history.weights);
+  return history;
+}
+
+tl::expected<History, ImportFault> readHistory(const ReportOptions& options, const RunSettings& settings,
+                                               const UUIDGenerator& ids) {
+  if (!options.input.empty()) return readInput(options, settings, ids);
+  auto history = hasTables(options) ? readTables(options, settings, ids)
+                                    : readDatabase(options.database.empty() ? host::ownDatabaseFile()
+                                                                            : std::filesystem::path{options.database});
+  return std::move(history).map_error([](BadRecord bad) { return ImportFault{std::move(bad)}; });
 }
 
 std::string drawn(const Report& report, const RunSettings& settings) {
@@ -99,7 +126,11 @@ int runReport(const ReportOptions& options) {
   const auto clients = runDependencies(*settings);
   const DependencyScope scope{clients};
   const auto history = readHistory(options, *settings, *clients->uuid);
-  if (!history) return refused(badData, describe(history.error()));
+  if (!history) {
+    const auto& [bad, asks] = history.error();
+    return refused(asks == ImportFault::Asks::nothing ? badData : wrongUsage,
+                   withHelp(describe(bad), answeringOption(asks)));
+  }
   const std::string page = drawn(makeReport(*history, *settings), *settings);
   if (history->endsBeforeStart) complain(describe(*history->endsBeforeStart));
   if (const auto fault = writeOutput(page)) return refused(badData, *fault);

@@ -24,8 +24,10 @@ Exit status: 0 done, 1 a file or the output was at fault, 2 the command line was
 CLI::App& addReport(CLI::App& program, ReportOptions& options) {
   CLI::App& report = *program.add_subcommand("report", "Print every figure of a history of fasts and weights");
   report.footer(examples);
-  report.add_option("--input", options.input, "The history: a snapshot in JSON; - for standard input")
-      ->type_name("FILE.json");
+  report
+      .add_option("--input", options.input,
+                  "The history: a snapshot, or whatever mivo import reads; - for standard input")
+      ->type_name("FILE");
   report.add_option("--database", options.database, "The history: a database of the app; default: the app's own")
       ->type_name("FILE");
   report.add_option("--fasts", options.fasts, "The fasts: a table; - for standard input")->type_name("FILE.csv");
@@ -54,6 +56,10 @@ CLI::App& addReport(CLI::App& program, ReportOptions& options) {
       .add_option("--weight-unit", options.weightUnit,
                   "kg, lb or st: for texts, and for tables that do not name theirs; default: the locale's")
       ->type_name("UNIT");
+  report
+      .add_option("--date-order", options.dateOrder,
+                  "Of dates such as 1/2/2026 in --input: day-first or month-first; default: what the file shows")
+      ->type_name("ORDER");
   report.add_option("--format", options.format, "text or json")->type_name("FORMAT")->capture_default_str();
   return report;
 }

@@ -10,7 +10,7 @@ namespace mivo::cli {
 struct ReportOptions {
   std::string input, database, fasts, weights;
   std::string range = "week", now = {}, timeZone = {}, calendar = "gregorian", firstWeekday = {}, locale = {};
-  std::string count = "days", maxBreakHours = {}, weightUnit = {}, format = "text";
+  std::string count = "days", maxBreakHours = {}, weightUnit = {}, dateOrder = {}, format = "text";
   bool ignoreGoal = false;
 };
 

@@ -50,6 +50,8 @@ tl::expected<RunSettings, std::string> runSettings(const ReportOptions& options)
   if (!asJson) return tl::unexpected{asJson.error()};
   const auto weightUnit = readWeightUnit(options.weightUnit);
   if (!weightUnit) return tl::unexpected{weightUnit.error()};
+  const auto dateOrder = readDateOrder(options.dateOrder);
+  if (!dateOrder) return tl::unexpected{dateOrder.error()};
   const auto streaks = streakSettings(options);
   if (!streaks) return tl::unexpected{streaks.error()};
   const auto zone = readTimeZone(options.timeZone);
@@ -62,7 +64,7 @@ tl::expected<RunSettings, std::string> runSettings(const ReportOptions& options)
   if (!calendar) return wrong("--calendar", calendar.error());
   const auto instant = now(options.now, **zone);
   if (!instant) return tl::unexpected{instant.error()};
-  return RunSettings{*range, *instant, *calendar, *userLocale, *streaks, *weightUnit, *asJson};
+  return RunSettings{*range, *instant, *calendar, *userLocale, *streaks, *weightUnit, *dateOrder, *asJson};
 }
 
 }  // namespace mivo::cli

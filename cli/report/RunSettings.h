@@ -9,6 +9,7 @@
 #include "adapters/icu/UserLocale.h"
 #include "adapters/time/ZonedCalendar.h"
 #include "cli/report/ReportOptions.h"
+#include "host/dates/WrittenDate.h"
 #include "mivo/model/Date.h"
 #include "mivo/model/StreakSettings.h"
 #include "mivo/model/TimeRange.h"
@@ -23,6 +24,7 @@ struct RunSettings {
   adapters::UserLocale locale;
   StreakSettings streaks;
   std::optional<WeightUnit> weightUnit;  ///< as it was asked for
+  std::optional<host::DateOrder> dateOrder;
   bool asJson = false;
 
   const adapters::TimeZone& zone() const { return *calendar->zone(); }

@@ -2,6 +2,7 @@
 #include "host/files/ReadImportFiles.h"
 
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -33,6 +34,8 @@ tl::expected<ImportedFile, ImportFault> readImportFile(const std::string& path, 
   const auto file = opened(path);
   if (!file) return unreadable(path);
   ImportReader reader{inputName(path), settings, ids};
+  struct stat status{};
+  if (::fstat(file.get(), &status) == 0 && status.st_size > 0) reader.expect(static_cast<std::size_t>(status.st_size));
   std::string piece(pieceInBytes, '\0');
   while (reader.wantsMore()) {
     const ssize_t count = ::read(file.get(), piece.data(), piece.size());

@@ -109,7 +109,8 @@ void FastRows::ended(const RecordRows::Row& row, FastRecord record, const DateTe
     if (!end || !isRepresentable(*end) || row.isSplitNumber) return refuse(row, *lengthPlace, expectedLength);
     record = stopped(std::move(record), *end);
   }
-  file.fasts.push_back({std::move(record), row.line});
+  file.fasts.push_back(std::move(record));
+  file.fastLines.push_back(row.line);
 }
 
 void FastRows::refuse(const RecordRows::Row& row, std::size_t place, std::string_view reason) {

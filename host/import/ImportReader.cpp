@@ -41,7 +41,7 @@ void ImportReader::recognise() {
   const std::string text = std::exchange(beginning, {});
   const std::string_view first = firstText(text);
   if (first.starts_with('{')) {
-    reader.emplace<WholeText>();
+    reader.emplace<WholeText>().text.reserve(std::min(expectedBytes, largestFileInBytes));
     return hand(text);
   }
   if (auto table = findTable(text)) {
@@ -85,10 +85,11 @@ tl::expected<ImportedFile, ImportFault> ImportReader::finish() {
 tl::expected<ImportedFile, ImportFault> ImportReader::snapshot(std::string_view text) const {
   auto history = readSnapshot(text, name, ids);
   if (!history) return tl::unexpected{ImportFault{std::move(history.error())}};
-  ImportedFile file{.name = name, .kind = ImportKind::snapshot, .weights = std::move(history->weights)};
-  file.fasts.reserve(history->fasts.size());
-  for (FastRecord& record : history->fasts) file.fasts.push_back({std::move(record)});
-  return file;
+  return ImportedFile{.name = name,
+                      .kind = ImportKind::snapshot,
+                      .fasts = std::move(history->fasts),
+                      .weights = std::move(history->weights),
+                      .endsBeforeStart = std::move(history->endsBeforeStart)};
 }
 
 }  // namespace mivo::host

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <tl/expected.hpp>
@@ -31,6 +33,8 @@ class ImportReader {
   /// `file` names the file in sentences; `ids` makes those of records that bring none, and must outlive the reader.
   ImportReader(std::string file, ImportSettings settings, const UUIDGenerator& ids);
 
+  /// How long the file will be, where that is known: it saves copies.
+  void expect(std::size_t bytes) { expectedBytes = bytes; }
   void feed(std::string_view bytes);
   /// False once it is known that the file cannot be read.
   bool wantsMore() const { return !fault; }
@@ -51,6 +55,7 @@ class ImportReader {
   std::string name;
   ImportSettings settings;
   const UUIDGenerator& ids;
+  std::size_t expectedBytes = 0;
   Utf8Pieces pieces;
   std::string beginning;  // until the file is recognised
   std::variant<std::monostate, TableReader, WeightLog, WholeText> reader;

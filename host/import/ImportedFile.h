@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -45,20 +46,18 @@ struct ImportNotes {
   bool operator==(const ImportNotes&) const = default;
 };
 
-struct ImportedFast {
-  FastRecord record;
-  std::int64_t line = 0;  ///< from 1; 0 where the file has no lines
-  bool operator==(const ImportedFast&) const = default;
-};
-
 /// What a file holds, in its own order.
 struct ImportedFile {
   std::string name;  ///< for sentences
   ImportKind kind = ImportKind::snapshot;
-  std::vector<ImportedFast> fasts = {};
+  std::vector<FastRecord> fasts = {};
+  std::vector<std::int64_t> fastLines = {};  ///< of each, from 1; none where the file has no lines
   std::vector<BodyWeightSample> weights = {};
   RefusedRecords refused = {};
   ImportNotes notes = {};
+  std::optional<KeptOddity> endsBeforeStart = {};  ///< of a backup, which is taken as it is
+
+  std::int64_t lineOfFast(std::size_t index) const { return fastLines.empty() ? 0 : fastLines[index]; }
 };
 
 /// Why nothing of a file can be taken in.

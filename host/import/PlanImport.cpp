@@ -54,7 +54,8 @@ class Merge {
     counts = {.refused = file.refused.count()};
     for (const BadRecord& bad : file.refused.first()) plan.refused.add(bad);
     plan.refused.addUnseen(file.refused.count() - static_cast<std::int64_t>(file.refused.first().size()));
-    for (const ImportedFast& fast : file.fasts) add(fast, file.name);
+    for (std::size_t index = 0; index < file.fasts.size(); ++index)
+      add(file.fasts[index], file.name, file.lineOfFast(index));
     for (const BodyWeightSample& sample : file.weights) add(sample);
     plan.counts.push_back(counts);
   }
@@ -75,14 +76,13 @@ class Merge {
                          : starts.contains(Key{secondsSince1970(fast.start), 0});
   }
 
-  void add(const ImportedFast& imported, const std::string& fileName) {
-    FastRecord record = imported.record;
+  void add(FastRecord record, const std::string& fileName, std::int64_t line) {
     if (isThere(record.fast)) {
       ++counts.equal;
       return;
     }
     if (!record.fast.finished && isRunning) {
-      plan.refused.add({fileName, imported.line, "end", {}, "expected an end, since another fast is running already"});
+      plan.refused.add({fileName, line, "end", {}, "expected an end, since another fast is running already"});
       ++counts.refused;
       return;
     }

@@ -43,6 +43,7 @@ std::optional<ImportFault> readRows(const RecordRows& rows, const ImportSettings
     readEach(reader);
   } else {
     file.fasts.reserve(count);
+    file.fastLines.reserve(count);
     readEach(FastRows{rows, dates, ids, file});
   }
   return std::nullopt;

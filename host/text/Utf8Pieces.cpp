@@ -21,6 +21,10 @@ void append(std::string& text, std::uint32_t character) {
   text.append(bytes.data(), count);
 }
 
+std::uint32_t supplementary(std::uint32_t lead, std::uint32_t trail) {
+  return 0x10000 + ((lead & 0x3FF) << 10 | (trail & 0x3FF));
+}
+
 }  // namespace
 
 std::optional<std::string_view> Utf8Pieces::feed(std::string_view bytes) {
@@ -65,7 +69,7 @@ bool Utf8Pieces::decode(std::string_view bytes) {
     const std::uint32_t before = std::exchange(lead, 0);
     if (before != 0) {
       if (!U16_IS_TRAIL(unit)) return false;
-      append(held, U16_GET_SUPPLEMENTARY(before, unit));
+      append(held, supplementary(before, unit));
     } else if (U16_IS_LEAD(unit)) {
       lead = unit;
     } else if (U16_IS_TRAIL(unit)) {

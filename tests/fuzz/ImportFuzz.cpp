@@ -29,8 +29,8 @@ bool isSound(const FastingDataEntry& fast) {
 }
 
 void check(const host::ImportedFile& file) {
-  for (const auto& [record, line] : file.fasts)
-    if (!isSound(record.fast)) std::abort();
+  for (const auto& [fast, note] : file.fasts)
+    if (!isSound(fast)) std::abort();
   for (const auto& sample : file.weights)
     if (!isRepresentable(sample.date) || !isBodyWeight(sample.weightInKg)) std::abort();
   for (const auto& bad : file.refused.first())

@@ -29,6 +29,10 @@ TEST_P(ReportErrors, areOneSentenceAndNothingElse) {
 const std::string fromSnapshot = "report --input a.json", fromFasts = "report --fasts f.csv",
                   fromWeights = "report --weights w.csv";
 
+const std::string expectedFile =
+    "expected a backup of the app, a table of fasts with a start and an end, or a table or log of weights with a date "
+    "and a weight, found ";
+
 std::string fastWith(const std::string& members) {
   return "{\"version\": 1, \"fasts\": [\n{" + members + "}], \"weights\": []}";
 }
@@ -41,8 +45,18 @@ INSTANTIATE_TEST_SUITE_P(
         ErrorRow{"folder", "", "", "report --input .", "mivo: .: expected a file that can be read: Is a directory"},
         ErrorRow{"missingDatabase", "", "", "report --database a.sqlite",
                  "mivo: a.sqlite: expected a database of the app"},
-        ErrorRow{"emptySnapshot", "a.json", "", fromSnapshot,
-                 "mivo: a.json:1: snapshot: expected an object, found the end of the file"},
+        ErrorRow{"emptyFile", "a.json", "", fromSnapshot, "mivo: a.json: " + expectedFile + "an empty file"},
+        ErrorRow{"otherText", "a.json", "Dear all,", fromSnapshot, "mivo: a.json: " + expectedFile + "\"Dear all,\""},
+        ErrorRow{"firstWrongRow", "a.json", "start,end\n2026-03-01T20:00Z,2026-03-02T12:00Z\nsoon,\n2026-03-03,\n",
+                 fromSnapshot,
+                 "mivo: a.json:3: start: expected a date and time of the years 1 to 9999, as in 2026-03-01T12:00:00Z, "
+                 "found \"soon\""},
+        ErrorRow{"secondRunning", "a.json", "start,end\n2026-03-01T20:00Z,\n2026-03-02T20:00Z,\n", fromSnapshot,
+                 "mivo: a.json:3: end: expected an end, since another fast is running already"},
+        ErrorRow{"dateInTwoWays", "a.json", "start,hours\n2/3/2026 20:00,16\n", fromSnapshot,
+                 "mivo: a.json:2: start: expected a date that can be read in one way only, not as 2026-03-02 or "
+                 "2026-02-03, found \"2/3/2026 20:00\" (--date-order day-first or month-first says it)",
+                 2},
         ErrorRow{"emptyTable", "f.csv", "", fromFasts,
                  "mivo: f.csv: expected a header with the columns \"start\" and \"end\", found an empty file"},
         ErrorRow{"truncated", "a.json", "{\"version\": 1,\n\"fasts\": [{\"start\": \"2026", fromSnapshot,
@@ -61,7 +75,7 @@ INSTANTIATE_TEST_SUITE_P(
                  "mivo: a.json:3: fasts[1].end: expected an end, since line 2 has a fast that is still running, found "
                  "\"null\""},
         ErrorRow{"deepNesting", "a.json", std::string(10'000, '['), fromSnapshot,
-                 "mivo: a.json:1: snapshot: expected an object, found \"[\""},
+                 "mivo: a.json: " + expectedFile + "\"" + std::string(40, '[') + "...\""},
         ErrorRow{"longLine", "a.json", fastWith("\"note\": \"" + std::string(10'000'000, 'x') + '"'), fromSnapshot,
                  "mivo: a.json:2: fasts[0].note: expected UTF-8 text of at most 65536 bytes, found "
                  "\"xxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxx...\""},

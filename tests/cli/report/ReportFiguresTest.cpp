@@ -27,6 +27,14 @@ Json reportOf(std::string_view snapshot, const std::string& arguments) {
   return Json::parse(ran.output);
 }
 
+TEST(ReportFigures, areTheSameOfATableInWhicheverForm) {
+  const Json fromTable = reportOf(
+      "Fast Start;Hours\n20.02.2026 20:00;16\n27.02.2026 20:00;18\n28.02.2026 20:00;16\n28.02.2026 20:00;16\n", "");
+  EXPECT_EQ(fromTable["stats"]["totalFasts"], 3) << "one stands there twice";
+  EXPECT_EQ(fromTable["stats"]["longestFast"], 18 * 3600.0);
+  EXPECT_EQ(fromTable["stats"]["fastingAverages"], reportOf(threeFasts, "")["stats"]["fastingAverages"]);
+}
+
 Json averages(double thisSeconds, double lastSeconds) {
   return {{"thisTimeRange", thisSeconds}, {"lastTimeRange", lastSeconds}};
 }

@@ -27,8 +27,7 @@ inline host::ImportSettings berlin(std::optional<WeightUnit> unit = {}, std::opt
 /// A line for each record, "2026-03-01T20:00:00Z 2026-03-02T12:00:00Z 16h tea"; then those refused, and the notes.
 inline std::string described(const host::ImportedFile& file) {
   std::string text;
-  for (const auto& [record, line] : file.fasts) {
-    const auto& [fast, note] = record;
+  for (const auto& [fast, note] : file.fasts) {
     text += host::rfc3339(fast.start) + ' ' + (fast.finished ? host::rfc3339(fast.finished->end) : "running") + ' ' +
             shortest(static_cast<double>(fast.goalSeconds) / 3600) + 'h' + (note.empty() ? "" : ' ' + note) + '\n';
   }

@@ -26,7 +26,10 @@ struct Records {
 ImportedFile file(const Records& records) {
   ImportedFile result{.name = "a.csv", .weights = records.weights};
   std::int64_t line = 1;
-  for (const FastRecord& record : records.fasts) result.fasts.push_back({record, ++line});
+  for (const FastRecord& record : records.fasts) {
+    result.fasts.push_back(record);
+    result.fastLines.push_back(++line);
+  }
   return result;
 }
 
