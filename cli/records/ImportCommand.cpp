@@ -31,7 +31,7 @@ host::ImportSettings settings(const RecordRun& run) {
 Files read(const RecordRun& run, const UUIDGenerator& ids) {
   auto files = host::readImportFiles(run.options.files, settings(run), ids);
   if (files) return std::move(*files);
-  const auto& [bad, asks] = files.error();
+  const auto& [bad, asks, isUnknown] = files.error();
   throw Refused{asks == host::ImportFault::Asks::nothing ? atFault : wrongUsage,
                 withHelp(describe(bad), answeringOption(asks))};
 }

@@ -76,6 +76,10 @@ tl::expected<History, BadRecord> readDatabase(const std::filesystem::path& file)
   return host::Database{file}.history();
 }
 
+bool isOwn(const host::ImportedFile& file) {
+  return file.kind == host::ImportKind::snapshot || file.kind == host::ImportKind::database;
+}
+
 /// What a file of any kind holds, up to the first record that is wrong. A backup is taken as it is; of what other apps
 /// write, repeats count once.
 tl::expected<History, ImportFault> readInput(const ReportOptions& options, const RunSettings& settings,
@@ -85,16 +89,11 @@ tl::expected<History, ImportFault> readInput(const ReportOptions& options, const
       {.zone = settings.calendar->zone(), .weightUnit = settings.weightUnit, .dateOrder = settings.dateOrder}, ids);
   if (!files) return tl::unexpected{std::move(files.error())};
   host::ImportedFile& file = files->front();
-  History history{.fasts = {}, .weights = {}, .endsBeforeStart = std::move(file.endsBeforeStart)};
-  if (file.kind == host::ImportKind::snapshot) {
-    history.fasts = std::move(file.fasts);
-    history.weights = std::move(file.weights);
-    return history;
-  }
+  if (files->size() == 1 && isOwn(file) && file.refused.count() == 0)
+    return History{std::move(file.fasts), std::move(file.weights), std::move(file.endsBeforeStart)};
   host::ImportPlan plan = planImport({}, *files, ids);
   if (plan.refused.count() > 0) return tl::unexpected{ImportFault{plan.refused.first().front()}};
-  history.fasts = std::move(plan.change.addedFasts);
-  history.weights = std::move(plan.change.addedWeights);
+  History history{std::move(plan.change.addedFasts), std::move(plan.change.addedWeights), {}};
   host::sortByDate(history.weights);
   return history;
 }
@@ -127,7 +126,7 @@ int runReport(const ReportOptions& options) {
   const DependencyScope scope{clients};
   const auto history = readHistory(options, *settings, *clients->uuid);
   if (!history) {
-    const auto& [bad, asks] = history.error();
+    const auto& [bad, asks, isUnknown] = history.error();
     return refused(asks == ImportFault::Asks::nothing ? badData : wrongUsage,
                    withHelp(describe(bad), answeringOption(asks)));
   }

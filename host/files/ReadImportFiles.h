@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <functional>
 #include <span>
+#include <stop_token>
 #include <string>
 #include <tl/expected.hpp>
 #include <vector>
@@ -12,10 +14,18 @@
 
 namespace mivo::host {
 
-/// What files hold that a person brings along, "-" for standard input; see `ImportReader`. The first one that cannot be
-/// read is the answer instead: they come all or not at all. Nothing is written to disk.
+/// How far reading has come, and how it is stopped.
+struct ImportWatch {
+  std::function<void(double)> progress = {};  ///< called with 0 to 1 of the present file, for each piece
+  std::stop_token stop = {};
+};
+
+/// What files hold that a person brings along, "-" for standard input; see `ImportReader`. Of a zip archive, which must
+/// be a file and no pipe, each file that is known is one of the answer, "archive.zip/export.xml". The first file that
+/// cannot be read is the answer instead: they come all or not at all. Nothing is written to disk, and nothing unpacked.
 tl::expected<std::vector<ImportedFile>, ImportFault> readImportFiles(std::span<const std::string> paths,
                                                                      const ImportSettings& settings,
-                                                                     const UUIDGenerator& ids);
+                                                                     const UUIDGenerator& ids,
+                                                                     const ImportWatch& watch = {});
 
 }  // namespace mivo::host

@@ -17,11 +17,13 @@ struct KnownName {
   Role role;
 };
 
-constexpr std::array<KnownName, 62> knownNames{{{"start", Role::start},
+constexpr std::array<KnownName, 64> knownNames{{{"start", Role::start},
                                                 {"started", Role::start},
                                                 {"begin", Role::start},
                                                 {"faststart", Role::start},
                                                 {"from", Role::start},
+                                                {"startdtm", Role::start},
+                                                {"enddtm", Role::end},
                                                 {"startdate", Role::startDate},
                                                 {"starttime", Role::startTime},
                                                 {"end", Role::end},

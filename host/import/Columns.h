@@ -45,6 +45,8 @@ struct ImportColumns {
   std::vector<ImportColumn> known = {};
   std::vector<std::string> unused = {};
   std::size_t fieldCount = 0;
+  std::string list = {};  ///< that the rows are the objects of, where a refusal is to name the way to them
+  bool hasPaths = false;
 
   /// The place among `known` of the first column with a role.
   std::optional<std::size_t> place(Role role) const;

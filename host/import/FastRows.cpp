@@ -114,7 +114,7 @@ void FastRows::ended(const RecordRows::Row& row, FastRecord record, const DateTe
 }
 
 void FastRows::refuse(const RecordRows::Row& row, std::size_t place, std::string_view reason) {
-  file.refused.add({file.name, row.line, column(place).name, quotable(row.cells[place]), std::string{reason}});
+  file.refused.add({file.name, row.line, rows.nameOf(row, place), quotable(row.cells[place]), std::string{reason}});
 }
 
 }  // namespace mivo::host

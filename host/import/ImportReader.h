@@ -8,6 +8,7 @@
 #include <tl/expected.hpp>
 #include <variant>
 
+#include "host/import/HealthExport.h"
 #include "host/import/ImportSettings.h"
 #include "host/import/ImportedFile.h"
 #include "host/import/TableReader.h"
@@ -18,16 +19,17 @@
 namespace mivo::host {
 
 /// Reads a file that somebody brings along, in pieces of any size, whoever has the bytes. What it is, its content says,
-/// never its name: the app's snapshot, a table of fasts, a table of weights, a weight log.
+/// never its name: the app's snapshot or database, a table of fasts or weights, a weight log, lists in JSON, a health
+/// export. Whoever holds an archive opens it and has a reader for each of its files.
 ///
 ///     ImportReader reader{"fasts.csv", settings, ids};
 ///     while (reader.wantsMore() && source.hasMore()) reader.feed(source.next());
 ///     const auto file = reader.finish();  // what it holds, with the rows that were refused
 ///
 /// Text is UTF-8, or UTF-16 that a mark announces. Tables and logs are kept as far as their records need them, at most
-/// `RecordRows::mostBytes`; a snapshot is kept whole, at most `largestFileInBytes`. A fault means that nothing of the
-/// file was taken: it is none of these, it breaks off, or it leaves open what only a person can say. Thread: one at a
-/// time.
+/// `RecordRows::mostBytes`; what is JSON or a database is kept whole, at most `largestFileInBytes`; of a health export
+/// only the weights are kept. A fault means that nothing of the file was taken: it is none of these, it breaks off, or
+/// it leaves open what only a person can say. Thread: one at a time.
 class ImportReader {
  public:
   /// `file` names the file in sentences; `ids` makes those of records that bring none, and must outlive the reader.
@@ -43,14 +45,18 @@ class ImportReader {
  private:
   /// A text that is read when it is there as a whole.
   struct WholeText {
-    std::string text;
+    enum class Kind { snapshot, jsonLists, database } kind;
+    std::string text = {};
   };
 
   void take(std::optional<std::string_view> text);
-  void recognise();
+  void recognise(bool isWhole);
+  template <class Reader, class... Arguments>
+  void begin(std::string_view text, Arguments&&... arguments);
   void hand(std::string_view text);
-  void fail(std::string reason, std::optional<std::string> value = {});
-  tl::expected<ImportedFile, ImportFault> snapshot(std::string_view text) const;
+  void fail(std::string reason);
+  void unknown(std::string_view text);
+  tl::expected<ImportedFile, ImportFault> whole(WholeText& held) const;
 
   std::string name;
   ImportSettings settings;
@@ -58,7 +64,7 @@ class ImportReader {
   std::size_t expectedBytes = 0;
   Utf8Pieces pieces;
   std::string beginning;  // until the file is recognised
-  std::variant<std::monostate, TableReader, WeightLog, WholeText> reader;
+  std::variant<std::monostate, TableReader, WeightLog, HealthExport, WholeText> reader;
   std::optional<ImportFault> fault;
 };
 

@@ -21,6 +21,12 @@ std::string nothingFound(ImportKind kind, const TextLookup& texts) {
   switch (kind) {
     case ImportKind::snapshot:
       return texts.text("It is a backup of the app, and both its lists are empty.");
+    case ImportKind::database:
+      return texts.text("It is a database of the app, and holds no fasts and no weights.");
+    case ImportKind::otherBackup:
+      return texts.text("It was read as lists of another app, and none of them has a fast or a weight.");
+    case ImportKind::healthExport:
+      return texts.text("It was read as a health export, and no record of it is a body mass.");
     case ImportKind::fastTable:
       return texts.text("It was read as a table of fasts, and no row below its header has one.");
     case ImportKind::weightTable:
@@ -51,10 +57,12 @@ std::vector<std::string> importNotes(const ImportedFile& file, const TextLookup&
   const auto say = [&](std::int64_t count, const std::string& pattern) {
     if (count > 0) notes.push_back(filledIn(pattern, {numbers.string(count)}));
   };
-  const auto& [notWeighed, passedOver, skipped, doubled, unused] = file.notes;
+  const auto& [notWeighed, toldTwice, passedOver, skipped, doubled, unused] = file.notes;
   if (file.fasts.empty() && file.weights.empty() && file.refused.count() == 0)
     notes.push_back(nothingFound(file.kind, texts));
   say(notWeighed, texts.plural("{1} row has no weight.", "{1} rows have no weight.", notWeighed));
+  say(toldTwice, texts.plural("{1} weighing was told by more than one source, and taken once.",
+                              "{1} weighings were told by more than one source, and taken once.", toldTwice));
   say(passedOver, texts.plural("{1} line above or below the table was passed over.",
                                "{1} lines above or below the table were passed over.", passedOver));
   say(skipped, texts.plural("{1} time that the clocks skipped was moved to the first one after it.",

@@ -14,7 +14,7 @@
 namespace mivo::host {
 
 /// What a file was recognised as, by its content.
-enum class ImportKind { snapshot, fastTable, weightTable, weightLog };
+enum class ImportKind { snapshot, database, fastTable, weightTable, weightLog, otherBackup, healthExport };
 
 /// The records that were refused: the first of them, in the order of the file, and how many there are.
 class RefusedRecords {
@@ -39,6 +39,7 @@ class RefusedRecords {
 /// What else there is to say of a file.
 struct ImportNotes {
   std::int64_t notWeighed = 0;                  ///< rows with no weight, or a weight of 0
+  std::int64_t toldTwice = 0;                   ///< weighings that several sources have told, of which one was taken
   std::int64_t linesPassedOver = 0;             ///< above the header and below the table
   std::int64_t skippedTimes = 0;                ///< that the clocks skipped, taken as the first instant after the gap
   std::int64_t doubledTimes = 0;                ///< that the clocks showed twice, taken as the first of the two
@@ -67,6 +68,7 @@ struct ImportFault {
 
   BadRecord bad;
   Asks asks = Asks::nothing;
+  bool isUnknown = false;  ///< its content is of no kind that can be read
   bool operator==(const ImportFault&) const = default;
 };
 

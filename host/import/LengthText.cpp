@@ -43,7 +43,8 @@ std::optional<double> takeWhole(std::string_view& text, std::size_t mostDigits) 
   const std::size_t count = countDigits(text);
   if (count == 0 || count > mostDigits) return std::nullopt;
   double number = 0;
-  std::from_chars(text.data(), text.data() + count, number);
+  const std::string_view digits = text.substr(0, count);
+  std::from_chars(digits.data(), digits.data() + digits.size(), number);
   text.remove_prefix(count);
   return number;
 }

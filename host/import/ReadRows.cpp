@@ -29,7 +29,7 @@ std::optional<ImportFault> readRows(const RecordRows& rows, const ImportSettings
   const RowDates dates{*settings.zone, *order, rows.columns().place(Role::utcOffset).has_value()};
   const std::size_t count = rowsOfTable(rows);
   file.notes.linesPassedOver += static_cast<std::int64_t>(rows.size() - count);
-  file.notes.unusedColumns = rows.columns().unused;
+  for (const std::string& column : rows.columns().unused) file.notes.unusedColumns.push_back(column);
   const auto readEach = [&](auto&& reader) {
     std::size_t place = 0;
     rows.forEach([&](const RecordRows::Row& row) {

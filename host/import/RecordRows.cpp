@@ -26,7 +26,7 @@ bool hasSplitNumber(std::span<const std::string_view> fields, const ImportColumn
 
 RecordRows::RecordRows(ImportColumns known) : layout{std::move(known)} {}
 
-bool RecordRows::add(std::int64_t line, std::span<const std::string_view> fields) {
+bool RecordRows::add(std::int64_t line, std::span<const std::string_view> fields, std::size_t number) {
   const auto isFilled = [](std::string_view field) { return !field.empty(); };
   if (std::ranges::none_of(fields, isFilled)) return true;
   const bool isLone = fields.size() == 1 && layout.fieldCount > 1;
@@ -39,8 +39,13 @@ bool RecordRows::add(std::int64_t line, std::span<const std::string_view> fields
     if (bytes.size() > mostBytes) return false;
     ends.push_back(static_cast<std::uint32_t>(bytes.size()));
   }
-  marks.push_back({line, isLone, hasSplitNumber(fields, layout)});
+  marks.push_back({line, number, isLone, hasSplitNumber(fields, layout)});
   return true;
+}
+
+std::string RecordRows::nameOf(const Row& row, std::size_t place) const {
+  const std::string& name = layout.known[place].name;
+  return layout.hasPaths ? layout.list + '[' + std::to_string(row.number) + "]." + name : name;
 }
 
 }  // namespace mivo::host

@@ -19,6 +19,7 @@ class RecordRows {
   struct Row {
     std::int64_t line;
     std::span<const std::string_view> cells;  ///< one a known column, in their order; empty where the row is shorter
+    std::size_t number;                       ///< from 0
     bool isLone;                              ///< it has only one field, which stands in the first cell
     bool isSplitNumber;  ///< it is longer than the header, and what follows the weight is a decimal comma's rest
   };
@@ -29,7 +30,12 @@ class RecordRows {
   explicit RecordRows(ImportColumns known);
 
   /// False where there is no more room.
-  bool add(std::int64_t line, std::span<const std::string_view> fields);
+  bool add(std::int64_t line, std::span<const std::string_view> fields) { return add(line, fields, marks.size()); }
+  /// The same of one that others come before that were not added.
+  bool add(std::int64_t line, std::span<const std::string_view> fields, std::size_t number);
+
+  /// What a refusal calls a column: its name, or the way to it, "fast_data[12].EndDTM".
+  std::string nameOf(const Row& row, std::size_t place) const;
 
   const ImportColumns& columns() const { return layout; }
   std::size_t size() const { return marks.size(); }
@@ -44,13 +50,14 @@ class RecordRows {
         cell = std::string_view{bytes}.substr(begin, ends[next] - begin);
         begin = ends[next++];
       }
-      visit(Row{mark.line, cells, mark.isLone, mark.isSplitNumber});
+      visit(Row{mark.line, cells, mark.number, mark.isLone, mark.isSplitNumber});
     }
   }
 
  private:
   struct Mark {
     std::int64_t line;
+    std::size_t number;
     bool isLone, isSplitNumber;
   };
 

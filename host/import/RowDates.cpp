@@ -37,12 +37,13 @@ std::string dayOf(std::optional<std::chrono::local_days> day) {
 
 class Witnesses {
  public:
-  void hear(std::int64_t line, const ImportColumn& column, std::string_view cell) {
+  void hear(const RecordRows& rows, const RecordRows::Row& row, std::size_t column) {
+    const std::string_view cell = row.cells[column];
     const auto date = readWrittenDate(cell);
     if (!date) return;
     std::optional<Witness>& place = date->isOpen() ? open : !date->monthFirst ? dayFirst : monthFirst;
     const bool tells = date->isOpen() || !date->dayFirst || !date->monthFirst;
-    if (tells && !place) place = Witness{line, column.name, std::string{cell}, *date};
+    if (tells && !place) place = Witness{row.line, rows.nameOf(row, column), std::string{cell}, *date};
   }
 
   tl::expected<DateOrder, ImportFault> verdict(const std::string& file) const {
@@ -78,7 +79,7 @@ tl::expected<DateOrder, ImportFault> dateOrderOf(const RecordRows& rows, const s
   Witnesses witnesses;
   rows.forEach([&](const RecordRows::Row& row) {
     for (std::size_t place = 0; place < columns.size(); ++place)
-      if (holdsDates(columns[place].role)) witnesses.hear(row.line, columns[place], row.cells[place]);
+      if (holdsDates(columns[place].role)) witnesses.hear(rows, row, place);
   });
   return witnesses.verdict(file);
 }

@@ -63,7 +63,7 @@ std::optional<ImportFault> WeightRows::missingUnit() const {
     const auto read = readWeight(row.cells[*place], unitOf(row, *place));
     const auto* const wrong = std::get_if<WeightTextFault>(&read);
     if (!wrong || *wrong != WeightTextFault::noUnit) return;
-    fault = ImportFault{{file.name, row.line, column(*place).name, quotable(row.cells[*place]),
+    fault = ImportFault{{file.name, row.line, rows.nameOf(row, *place), quotable(row.cells[*place]),
                          "expected a unit in the header or the cell: kg, lb or st"},
                         ImportFault::Asks::weightUnit};
   });
@@ -135,7 +135,7 @@ void WeightRows::row(const RecordRows::Row& row) {
 }
 
 void WeightRows::refuse(const RecordRows::Row& row, std::size_t place, std::string_view reason) {
-  file.refused.add({file.name, row.line, column(place).name, quotable(row.cells[place]), std::string{reason}});
+  file.refused.add({file.name, row.line, rows.nameOf(row, place), quotable(row.cells[place]), std::string{reason}});
 }
 
 }  // namespace mivo::host

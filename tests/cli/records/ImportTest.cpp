@@ -53,6 +53,19 @@ TEST_F(Import, readsStandardInputAndOnlyTellsWhenDry) {
   EXPECT_EQ(history().fasts.size(), 2u);
 }
 
+TEST_F(Import, takesADatabaseAndASnapshotAsTheyAre) {
+  EXPECT_EQ(place.run("import --database d fasts weights").status, 0);
+  EXPECT_EQ(place.run("export --database d --to all.json").status, 0);
+  for (const std::string source : {"d", "all.json"}) {
+    EXPECT_EQ(place.run("import " + source + " --database of-" + source).output,
+              source + ": 2 fasts and 1 weight added, 0 there already, 0 refused\n");
+    const host::History copy = host::Database{place.file("of-" + source)}.history();
+    EXPECT_EQ(copy.fasts, history().fasts);
+    EXPECT_EQ(copy.weights, history().weights);
+  }
+  EXPECT_EQ(place.run("import --database d d").output, "d: 0 fasts and 0 weights added, 3 there already, 0 refused\n");
+}
+
 struct RefusedImport {
   const char* name;
   std::string arguments, error;
@@ -66,7 +79,7 @@ TEST_F(Import, changesNothingWhereAFileIsRefused) {
   for (const RefusedImport& row : {
            RefusedImport{"noFile", "fasts none", "none: expected a file that can be read: No such file or directory"},
            RefusedImport{"folder", "fasts .", ".: expected a file that can be read: Is a directory"},
-           RefusedImport{"unknown", "fasts letter", "letter: expected a backup of the app, a table"},
+           RefusedImport{"unknown", "fasts letter", "letter: expected a backup or database of the app, a table"},
            RefusedImport{"order", "fasts open",
                          "2026-02-03, found \"2/3/2026\" (--date-order day-first or month-first "
                          "says it)",

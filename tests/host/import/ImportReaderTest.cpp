@@ -195,15 +195,102 @@ INSTANTIATE_TEST_SUITE_P(
             berlin({}, DateOrder::monthFirst)}),
     nameOf);
 
+INSTANTIATE_TEST_SUITE_P(
+    OtherBackups, ReadFile,
+    testing::Values(
+        Row{"fastsAndWeights",
+            R"({"user": {"name": "Anna", "list": [{"StartDTM": "nested"}]},
+"fast_data": [{"FastID": "A", "StartDTM": "2026-03-01T20:00:00Z", "EndDTM": "2026-03-02T12:00:00.000Z", "GoalHours": 18, "IsEnded": true},
+{"FastID": "B", "StartDTM": "2026-03-02T20:00:00Z", "EndDTM": null, "GoalHours": 16, "Moods": [{"StartDTM": 3}, 4]},
+{"StartDTM": "soon"}],
+"sleep_data": [{"start": "2026-03-01T20:00:00Z", "quality": 3}, 5], "weight_data": [{"log_dtm": "2026-03-01T06:00:00Z", "weightKG": 81.4},
+ {"log_dtm": "2026-03-01T06:00:00Z", "weightKG": 0}]})",
+            "2026-03-01T20:00:00Z 2026-03-02T12:00:00Z 18h\n2026-03-02T20:00:00Z running 16h\n"
+            "2026-03-01T06:00:00Z 81.4\n"
+            "a.csv:4: fast_data[2].StartDTM: expected a date and time of the years 1 to 9999, as in "
+            "2026-03-01T12:00:00Z, found \"soon\"\n1 row has no weight.\n"
+            "Columns that were not used: FastID, IsEnded\n"},
+        Row{"listOfWeights", R"([{"logId": 1, "weight": 181, "date": "02/13/26", "time": "07:42:13"},
+{"time": "07:00:00", "date": "03/11/26", "weight": "81.4 kg"}])",
+            "2026-02-13T06:42:13Z 82.10021897\n2026-03-11T06:00:00Z 81.4\nColumns that were not used: logId\n",
+            berlin(WeightUnit::pounds)},
+        Row{"openDate", R"([{"date": "02/03/26", "weight": "81.4 kg"}])",
+            "a.csv:1: [0].date: expected a date that can be read in one way only, not as 2026-03-02 or 2026-02-03, "
+            "found "
+            "\"02/03/26\" (order of dates?)\n"},
+        Row{"noneKnown", R"({"sleep_data": [{"quality": 3}]})",
+            "a.csv: expected lists of fasts with a start and an end, or of weights with a date\n"},
+        Row{"half", R"({"fast_data": [{"StartDTM": "2026-03-01T)",
+            "a.csv:1: expected more JSON, found the end of the file\n"},
+        Row{"malformed", "{\"fast_data\": [\n{\"StartDTM\" 3}]}",
+            "a.csv:2: expected well-formed JSON: Missing a colon after a name of object member.\n"}),
+    nameOf);
+
+const std::string prologue = R"(<?xml version="1.0" encoding="UTF-8"?>
+<!DOCTYPE HealthData [
+<!ELEMENT HealthData (ExportDate,Me,(Record|Correlation)*)>
+<!ATTLIST HealthData locale CDATA #REQUIRED>
+<!ATTLIST Record unit CDATA #IMPLIED <!-- "not valid -->
+<!ENTITY many "many, many">
+]>
+<HealthData locale="en_US">
+)";
+
+std::string healthExport(const std::string& records) { return prologue + records + "</HealthData>\n"; }
+
+std::string bodyMass(const std::string& value, const std::string& unit, const std::string& startDate) {
+  return R"( <Record type="HKQuantityTypeIdentifierBodyMass" sourceName="Scale" unit=")" + unit +
+         R"(" creationDate="2026-03-05" startDate=")" + startDate + R"(" value=")" + value + "\"/>\n";
+}
+
+const std::string
+    masses = healthExport(
+        R"( <Record type="HKQuantityTypeIdentifierStepCount" startDate="x" value="12"/>
+)" + bodyMass("200", "lb", "2026-03-01 08:35:00 -0400") +
+        R"( <Record value="81.4" startDate="20150603050200+0100" source="Old" type="HKQuantityTypeIdentifierBodyMass" unit="kg">
+  <MetadataEntry key="HKWasUserEntered" value="1"/>
+ </Record>
+)" + bodyMass("81400", "g", "2026-03-02 07:00:00 +0100") +
+        bodyMass("12.5", "st", "2026-03-03 07:00:00 +0100")),
+    repeated = healthExport(
+        bodyMass("81.4", "kg", "2026-03-02 07:00:31 +0100") + bodyMass("81.39", "kg", "2026-03-02 07:00:05 +0100") +
+        bodyMass("81.38", "kg", "2026-03-02 07:00:45 +0100") + bodyMass("81.4", "kg", "2026-03-02 07:01:00 +0100")),
+    wrong = healthExport(bodyMass("heavy", "kg", "2026-03-02 07:00:31 +0100") +
+                         bodyMass("81", "oz", "2026-03-02 07:00:31 +0100") + bodyMass("81", "kg", "yesterday")),
+    entities = healthExport(bodyMass("81", "kg", "2026-03-02 07:00:31 +0100") + "<Note>&many;</Note>\n"),
+    broken = prologue + bodyMass("81.4", "kg", "2026-03-02 07:00:31 +0100") + " <Record type=",
+    empty = healthExport(""), tangled = prologue + "<Record></HealthData>";
+
+INSTANTIATE_TEST_SUITE_P(
+    HealthExports, ReadFile,
+    testing::Values(
+        Row{"masses", masses,
+            "2015-06-03T04:02:00Z 81.4\n2026-03-01T12:35:00Z 90.718474\n2026-03-02T06:00:00Z 81.4\n"
+            "2026-03-03T06:00:00Z 79.37866475\n"},
+        Row{"severalSources", repeated,
+            "2026-03-02T06:00:05Z 81.39\n2026-03-02T06:01:00Z 81.4\n"
+            "2 weighings were told by more than one source, and taken once.\n"},
+        Row{"refusedMasses", wrong,
+            "a.csv:9: value: expected kilograms above 0 and at most 1000, found \"heavy\"\n"
+            "a.csv:10: unit: expected kg, g, lb or st, found \"oz\"\n"
+            "a.csv:11: startDate: expected a date and time of the years 1 to 9999, as in 2026-03-01T12:00:00Z, found "
+            "\"yesterday\"\n"},
+        Row{"noMasses", empty, "It was read as a health export, and no record of it is a body mass.\n"},
+        Row{"entities", entities, "a.csv:10: expected well-formed XML: undefined entity\n"},
+        Row{"halfAnExport", broken, "a.csv:10: expected </HealthData>, found the end of the file\n"},
+        Row{"tangled", tangled, "a.csv:9: expected well-formed XML: mismatched tag\n"}),
+    nameOf);
+
 constexpr std::string_view notRecognised =
-    "a.csv: expected a backup of the app, a table of fasts with a start and an end, or a table or log of weights with "
-    "a "
-    "date and a weight, found ";
+    "a.csv: expected a backup or database of the app, a table or list of fasts with a start and an end, one of weights "
+    "with a date and a weight, or a health export, found ";
 
 const std::string letterMore = std::string{notRecognised} + "\"Dear all,\"\n",
                   emptyMore = std::string{notRecognised} + "an empty file\n",
                   zeroMore = std::string{notRecognised} + "\"\\x00\\x01\"\n",
-                  xMore = std::string{notRecognised} + "\"date,fat\"\n";
+                  xMore = std::string{notRecognised} + "\"date,fat\"\n",
+                  otherXml = std::string{notRecognised} + "\"<ClinicalDocument>\"\n",
+                  onlyPrologue = std::string{notRecognised} + "an empty file\n";
 
 INSTANTIATE_TEST_SUITE_P(
     Texts, ReadFile,
@@ -217,6 +304,8 @@ INSTANTIATE_TEST_SUITE_P(
         Row{"empty", "", emptyMore}, Row{"blank", "\n \n", emptyMore},
         Row{"letter", "Dear all,\n\nhow are you?\n", letterMore}, Row{"bytes", std::string_view{"\0\1", 2}, zeroMore},
         Row{"noWeight", "date,fat\n2026-03-01,20\n", xMore},
+        Row{"otherXml", "<?xml version=\"1.0\"?>\n<!DOCTYPE x [<!ENTITY a 'b'>]>\n<ClinicalDocument>\n", otherXml},
+        Row{"noRoot", "<?xml version=\"1.0\"?>\n<!-- nothing -->", onlyPrologue},
         Row{"openQuote", "date,kg\n\"2026-03-01,81\n",
             "a.csv:2: expected a quote that closes the one opened here, found the end of the file\n"},
         Row{"snapshot",
@@ -249,6 +338,35 @@ TEST(ReadFile, readsUtf16ThatAMarkAnnounces) {
       EXPECT_EQ(imported(utf16(text, isLittleEndian), berlin(), piece), expected) << piece;
   EXPECT_EQ(imported(utf16(text.substr(0, text.size() - 2), true), berlin()),
             "a.csv: expected UTF-16 text, as its first two bytes announce\n");
+}
+
+TEST(ReadFile, takesAHealthExportLongerThanItsBounds) {
+  const tests::CountingUUIDs ids;
+  ImportReader reader{"a.xml", berlin(), ids};
+  reader.feed(prologue);
+  std::string steps;
+  for (int step = 0; step < 1000; ++step)
+    steps += R"( <Record type="HKQuantityTypeIdentifierStepCount" unit="count" value="12"/>)"
+             "\n";
+  for (int day = 0; day < 200; ++day)
+    reader.feed(bodyMass(std::to_string(70 + day / 10.), "kg", "2026-03-02 07:00:31 +0100") + steps);
+  reader.feed("</HealthData>");
+  EXPECT_EQ(reader.finish().value().weights.size(), 200u);
+}
+
+TEST(ReadFile, boundsWhatAnElementMayHold) {
+  const tests::CountingUUIDs ids;
+  ImportReader longOne{"long", berlin(), ids}, deepOne{"deep", berlin(), ids};
+  const std::string letters(std::size_t{1} << 16, 'x');
+  longOne.feed(prologue + "<Record value=\"");
+  int pieces = 0;
+  for (; longOne.wantsMore() && pieces < 100; ++pieces) longOne.feed(letters);
+  EXPECT_EQ(describe(longOne.finish().error().bad), "long:9: expected elements of at most 1 MiB");
+  EXPECT_LT(pieces, 40);  // the parser may wait until its buffer has doubled
+  std::string nested = prologue;
+  for (int depth = 0; depth < 100; ++depth) nested += "<a>";
+  deepOne.feed(nested);
+  EXPECT_EQ(describe(deepOne.finish().error().bad), "deep:9: expected elements in at most 64 others");
 }
 
 TEST(ReadFile, countsWhatItDoesNotKeepOfTheRefused) {
