@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include <algorithm>
+#include <array>
 #include <cctype>
 #include <filesystem>
+#include <optional>
 #include <system_error>
 
 #include "adapters/system/AtomicFile.h"
@@ -9,6 +11,7 @@
 #include "cli/records/RecordCommands.h"
 #include "cli/records/RecordRun.h"
 #include "cli/usage/Usage.h"
+#include "host/history/HistoryCsv.h"
 #include "host/history/Snapshot.h"
 
 namespace mivo::cli {
@@ -16,51 +19,82 @@ namespace {
 
 namespace fs = std::filesystem;
 
+enum class Form { snapshot, table };
+enum class What { everything, fasts, weights };
+
 /// The form is read off the name, so that another one can come without changing what this one means.
-bool isJson(const fs::path& file) {
+std::optional<Form> formOf(const fs::path& file) {
   std::string ending = file.extension().string();
   std::ranges::transform(ending, ending.begin(), [](unsigned char letter) { return std::tolower(letter); });
-  return ending == ".json";
+  if (ending == ".json") return Form::snapshot;
+  return ending == ".csv" ? std::optional{Form::table} : std::nullopt;
 }
 
-void write(const RecordOptions& options, std::string_view snapshot) {
+void write(const RecordOptions& options, std::string_view content) {
   const fs::path file = options.to;
   std::error_code unknown;
   if (fs::exists(file, unknown) && !fs::is_regular_file(file, unknown))
     throw Refused{atFault, options.to + ": expected a file, or no such name yet"};
   const auto existing = options.isForced ? adapters::Existing::replaced : adapters::Existing::refused;
   try {
-    adapters::writePrivately(file, snapshot, existing);
+    adapters::writePrivately(file, content, existing);
   } catch (const std::system_error& error) {
     if (error.code() != std::errc::file_exists) throw;
     throw Refused{atFault, options.to + ": the file is there already: expected another name, or --force to replace it"};
   }
 }
 
-/// "Exported to backup.json: 2 fasts, 1 weight"
-std::string summary(const host::History& history, const RecordRun& run) {
+/// "Exported to backup.json: 2 fasts, 1 weight", of a table one of the two.
+std::string summary(const host::History& history, What what, const RecordRun& run) {
   const TextLookup& texts = *run.texts;
   const auto filled = [&run](const std::string& pattern, std::int64_t count) {
     return filledIn(pattern, {run.formatters.numberFormatter->string(count)});
   };
-  const auto fasts = static_cast<std::int64_t>(history.fasts.size());
-  const auto weights = static_cast<std::int64_t>(history.weights.size());
-  return filledIn(texts.text("Exported to {1}: {2}, {3}"),
-                  {run.options.to, filled(texts.plural("{1} fast", "{1} fasts", fasts), fasts),
-                   filled(texts.plural("{1} weight", "{1} weights", weights), weights)}) +
-         '\n';
+  const auto fastCount = static_cast<std::int64_t>(history.fasts.size());
+  const auto weightCount = static_cast<std::int64_t>(history.weights.size());
+  const std::string fasts = filled(texts.plural("{1} fast", "{1} fasts", fastCount), fastCount),
+                    weights = filled(texts.plural("{1} weight", "{1} weights", weightCount), weightCount);
+  if (what == What::everything)
+    return filledIn(texts.text("Exported to {1}: {2}, {3}"), {run.options.to, fasts, weights}) + '\n';
+  return filledIn(texts.text("Exported to {1}: {2}"), {run.options.to, what == What::fasts ? fasts : weights}) + '\n';
+}
+
+What whatOf(const RecordOptions& options) {
+  constexpr std::array<Choice<What>, 3> choices{
+      {{"", What::everything}, {"fasts", What::fasts}, {"weights", What::weights}}};
+  const auto what = readChoice<What>("--what", "expected fasts or weights", choices, options.what);
+  if (!what) throw Refused{wrongUsage, what.error()};
+  return *what;
+}
+
+/// On standard output a part is a table, and all of it a snapshot.
+Form formOf(const RecordOptions& options, What what) {
+  if (options.to == "-") return what == What::everything ? Form::snapshot : Form::table;
+  const auto form = formOf(fs::path{options.to});
+  if (!form)
+    throw Refused{wrongUsage,
+                  wrong("--to", "expected a file whose name ends in .json or .csv, or -", options.to).value()};
+  if (*form == Form::table && what == What::everything)
+    throw Refused{wrongUsage, "--what: expected fasts or weights, since a table holds one of them"};
+  return *form;
+}
+
+std::string written(const host::History& history, Form form, What what) {
+  if (what == What::fasts)
+    return form == Form::table ? host::writeFastsCsv(history.fasts) : host::writeFasts(history.fasts);
+  if (what == What::weights)
+    return form == Form::table ? host::writeWeightsCsv(history.weights) : host::writeWeights(history.weights);
+  return host::writeSnapshot(history);
 }
 
 std::string exportAll(const RecordRun& run) {
-  const std::string& to = run.options.to;
-  const bool isPrinted = to == "-";
-  if (!isPrinted && !isJson(to))
-    throw Refused{wrongUsage, wrong("--to", "expected a file whose name ends in .json, or -", to).value()};
+  const What what = whatOf(run.options);
+  const Form form = formOf(run.options, what);
   const host::History history = run.history();
-  std::string snapshot = writeSnapshot(history);
-  if (isPrinted) return snapshot;
-  write(run.options, snapshot);
-  return summary(history, run);
+  std::string content = written(history, form, what);
+  if (run.options.to == "-") return content;
+  write(run.options, content);
+  return summary(history, what, run);
 }
 
 }  // namespace

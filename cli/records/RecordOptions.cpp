@@ -20,6 +20,7 @@ constexpr const char* fastExamples = R"(Examples:
   mivo status
   mivo list
   mivo export --to backup.json
+  mivo export --to fasts.csv --what fasts
   mivo import backup.json fasts.csv weights.csv
 
 A date without an offset is in --time-zone. An ID is what mivo list shows, or more of it.
@@ -111,10 +112,12 @@ void addFastCommands(Commands& to) {
   to.add("undo", "Take back the last change, also one of the app; once more does it again", runUndo);
   to.format(to.add("status", "Tell in a line which fast runs, and how far it has come", runStatus));
   to.format(to.add("list", "List the fasts, the latest last", runList));
-  CLI::App& all = to.add("export", "Write all fasts and weights into a file", runExport);
-  all.add_option("--to", options.to, "A snapshot, which mivo report --input reads; - for standard output")
-      ->type_name("FILE.json")
+  CLI::App& all = to.add("export", "Write fasts and weights into a file", runExport);
+  all.add_option("--to", options.to,
+                 "A snapshot (.json) or a table (.csv), as mivo import reads; - for standard output")
+      ->type_name("FILE")
       ->required();
+  all.add_option("--what", options.what, "Only the fasts or the weights; a table holds one of them")->type_name("LIST");
   all.add_flag("--force", options.isForced, "Replace a file that is there already");
   CLI::App& import =
       to.add("import", "Add what files hold to the fasts and weights, whichever app wrote them", runImport);

@@ -10,7 +10,7 @@ namespace mivo::cli {
 
 /// What stands after a command that keeps the history, as it was typed; empty or missing where it was not.
 struct RecordOptions {
-  std::string id, weight, to;
+  std::string id, weight, to, what;
   std::vector<std::string> files;  ///< to import
   std::optional<std::string> at, start, end, goalHours, note;
   struct {

@@ -65,6 +65,20 @@ TEST_F(Export, replacesAFileOnlyWhenForced) {
   EXPECT_EQ(fs::status(place.file("backup.JSON")).permissions(), fs::perms::owner_read | fs::perms::owner_write);
 }
 
+TEST_F(Export, writesTablesThatImportAsEqual) {
+  EXPECT_EQ(place.run("export --to f.csv --what fasts --database d").output, "Exported to f.csv: 2 fasts\n");
+  EXPECT_EQ(place.run("export --to w.CSV --what weights --database d").output, "Exported to w.CSV: 1 weight\n");
+  EXPECT_EQ(contents("f.csv"),
+            "start,end,goal_hours,note\n2026-02-27T20:00:00.125Z,2026-02-28T12:00:00.125Z,16,tea\n"
+            "2026-02-28T20:00:00.125Z,,16.5,\n");
+  EXPECT_EQ(place.run("export --to - --what weights --database d").output, contents("w.CSV"));
+  EXPECT_THAT(place.run("export --to w.json --what weights --database d").output, HasSubstr("1 weight"));
+  EXPECT_EQ(place.run("import f.csv w.CSV w.json --database d").output,
+            "f.csv: 0 fasts and 0 weights added, 2 there already, 0 refused\n"
+            "w.CSV: 0 fasts and 0 weights added, 1 there already, 0 refused\n"
+            "w.json: 0 fasts and 0 weights added, 1 there already, 0 refused\n");
+}
+
 struct RefusedExport {
   const char* name;
   std::string arguments, error;
@@ -74,8 +88,13 @@ struct RefusedExport {
 TEST_F(Export, leavesNothingBehindWhereItIsRefused) {
   fs::create_directory(place.file("folder.json"));
   for (const RefusedExport& row : {
-           RefusedExport{"otherForm", "--to backup.csv --database d",
-                         "--to: expected a file whose name ends in .json, or -, found \"backup.csv\"", wrongUsage},
+           RefusedExport{"otherForm", "--to backup.pdf --database d",
+                         "--to: expected a file whose name ends in .json or .csv, or -, found \"backup.pdf\"",
+                         wrongUsage},
+           RefusedExport{"tableOfWhat", "--to backup.csv --database d",
+                         "--what: expected fasts or weights, since a table holds one of them", wrongUsage},
+           RefusedExport{"otherList", "--to backup.csv --what badges --database d",
+                         "--what: expected fasts or weights, found \"badges\"", wrongUsage},
            RefusedExport{"noTarget", "--database d", "--to is required", wrongUsage},
            RefusedExport{"noFolder", "--to none/backup.json --database d",
                          "none/backup.json: could not be written: No such file or directory"},
