@@ -24,4 +24,6 @@ fs::path dataDirectory() { return directory("XDG_DATA_HOME", ".local/share"); }
 
 fs::path appDefaultsFile() { return configurationDirectory() / "app.json"; }
 
+fs::path groupDefaultsFile() { return configurationDirectory() / "group.json"; }
+
 }  // namespace mivo::adapters

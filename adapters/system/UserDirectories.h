@@ -15,5 +15,7 @@ std::filesystem::path dataDirectory();
 
 /// The settings of the app, for `FileUserDefaults`.
 std::filesystem::path appDefaultsFile();
+/// Those that the app shares with its widgets.
+std::filesystem::path groupDefaultsFile();
 
 }  // namespace mivo::adapters

@@ -5,12 +5,16 @@
 #include <filesystem>
 #include <optional>
 #include <system_error>
+#include <vector>
 
 #include "adapters/system/AtomicFile.h"
+#include "adapters/system/FileUserDefaults.h"
+#include "adapters/system/UserDirectories.h"
 #include "cli/options/OptionValues.h"
 #include "cli/records/RecordCommands.h"
 #include "cli/records/RecordRun.h"
 #include "cli/usage/Usage.h"
+#include "host/app/CarriedSettings.h"
 #include "host/history/HistoryCsv.h"
 #include "host/history/Snapshot.h"
 
@@ -79,19 +83,26 @@ Form formOf(const RecordOptions& options, What what) {
   return *form;
 }
 
-std::string written(const host::History& history, Form form, What what) {
+/// The app's settings go with its own history only.
+std::vector<host::Setting> settingsBeside(const RecordOptions& options) {
+  if (!options.database.empty()) return {};
+  const adapters::FileUserDefaults app{adapters::appDefaultsFile()}, group{adapters::groupDefaultsFile()};
+  return host::carriedSettings({app, group});
+}
+
+std::string written(const host::History& history, const std::vector<host::Setting>& settings, Form form, What what) {
   if (what == What::fasts)
     return form == Form::table ? host::writeFastsCsv(history.fasts) : host::writeFasts(history.fasts);
   if (what == What::weights)
     return form == Form::table ? host::writeWeightsCsv(history.weights) : host::writeWeights(history.weights);
-  return host::writeSnapshot(history);
+  return host::writeSnapshot(history, settings);
 }
 
 std::string exportAll(const RecordRun& run) {
   const What what = whatOf(run.options);
   const Form form = formOf(run.options, what);
   const host::History history = run.history();
-  std::string content = written(history, form, what);
+  std::string content = written(history, settingsBeside(run.options), form, what);
   if (run.options.to == "-") return content;
   write(run.options, content);
   return summary(history, what, run);

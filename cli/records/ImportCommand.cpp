@@ -3,12 +3,15 @@
 #include <string>
 #include <vector>
 
+#include "adapters/system/FileUserDefaults.h"
 #include "adapters/system/LocalUUIDGenerator.h"
+#include "adapters/system/UserDirectories.h"
 #include "cli/options/OptionValues.h"
 #include "cli/records/RecordCommands.h"
 #include "cli/records/RecordRun.h"
 #include "cli/terminal/StandardOutput.h"
 #include "cli/usage/Usage.h"
+#include "host/app/CarriedSettings.h"
 #include "host/files/ReadImportFiles.h"
 #include "host/import/ImportText.h"
 #include "host/import/PlanImport.h"
@@ -45,6 +48,16 @@ void complainOf(const host::RefusedRecords& refused, const RecordRun& run) {
                       {run.formatters.numberFormatter->string(more)}));
 }
 
+/// Of several files the last one's hold.
+std::string settingsTaken(const Files& files, const RecordRun& run) {
+  const adapters::FileUserDefaults app{adapters::appDefaultsFile()}, group{adapters::groupDefaultsFile()};
+  std::int64_t count = 0;
+  for (const auto& file : files) count += static_cast<std::int64_t>(host::choose(file.settings, {app, group}));
+  return filledIn(run.texts->plural("{1} setting taken over", "{1} settings taken over", count),
+                  {run.formatters.numberFormatter->string(count)}) +
+         '\n';
+}
+
 std::string import(const RecordRun& run) {
   const adapters::LocalUUIDGenerator ids;
   const Files files = read(run, ids);
@@ -58,6 +71,7 @@ std::string import(const RecordRun& run) {
     report += importSummary(files[index], plan.counts[index], isDone, *run.texts, numbers) + '\n';
     for (const std::string& note : importNotes(files[index], *run.texts, numbers)) report += "  " + note + '\n';
   }
+  if (isDone && run.options.takesSettings) report += settingsTaken(files, run);
   for (const auto& file : files)
     if (file.endsBeforeStart) complain(describe(*file.endsBeforeStart));
   complainOf(plan.refused, run);

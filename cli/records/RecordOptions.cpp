@@ -125,6 +125,7 @@ void addFastCommands(Commands& to) {
       ->required()
       ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
   import.add_flag("--dry-run", options.isDryRun, "Only tell what would be added");
+  import.add_flag("--with-settings", options.takesSettings, "Choose the settings too that a snapshot carries");
   import.add_option("--weight-unit", options.ambiguities.weightUnit, "Of weights without one: kg, lb or st")
       ->type_name("UNIT");
   import

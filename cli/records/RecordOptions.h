@@ -16,7 +16,7 @@ struct RecordOptions {
   struct {
     std::string dateOrder, weightUnit;
   } ambiguities;  ///< what files leave open
-  bool isRunning = false, isForced = false, isDryRun = false;
+  bool isRunning = false, isForced = false, isDryRun = false, takesSettings = false;
   std::string database, locale, timeZone, format = "text";
 };
 

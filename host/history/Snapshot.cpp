@@ -20,29 +20,34 @@
 namespace mivo::host {
 namespace {
 
-enum class Key { version, fasts, weights, id, start, end, goalSeconds, note, date, weightInKg };
+enum class Key { version, fasts, weights, settings, id, start, end, goalSeconds, note, date, weightInKg, setting };
+
+constexpr std::string_view expectedSetting = "expected a text of at most 1000 bytes, a number, true or false";
+constexpr std::size_t longestSettingInBytes = 1000, mostSettings = 1000;
 
 struct KeyRule {
   Key key;
   std::string_view name, expected;
 };
 
-constexpr std::array<KeyRule, 10> keyRules{{{Key::version, "version", "expected 1"},
+constexpr std::array<KeyRule, 12> keyRules{{{Key::version, "version", "expected 1"},
                                             {Key::fasts, "fasts", "expected a list"},
                                             {Key::weights, "weights", "expected a list"},
+                                            {Key::settings, "settings", "expected an object"},
                                             {Key::id, "id", "expected a UUID in quotes"},
                                             {Key::start, "start", expectedDate},
                                             {Key::end, "end", expectedDate},
                                             {Key::goalSeconds, "goalSeconds", "expected whole seconds, 0 or more"},
                                             {Key::note, "note", expectedNote},
                                             {Key::date, "date", expectedDate},
-                                            {Key::weightInKg, "weightInKg", expectedWeight}}};
+                                            {Key::weightInKg, "weightInKg", expectedWeight},
+                                            {Key::setting, "", expectedSetting}}};
 
 constexpr const KeyRule& rule(Key key) { return keyRules[static_cast<std::size_t>(key)]; }
 
 constexpr std::string_view delimiters = " \t\r\n,:[]{}";
 
-enum class Place { outside, snapshot, fasts, fast, weights, weight };
+enum class Place { outside, snapshot, fasts, fast, weights, weight, settings };
 
 struct PlaceRule {
   std::string_view list;      // the way to an object in it, "fasts" of "fasts[2]"
@@ -51,16 +56,20 @@ struct PlaceRule {
   std::size_t keyCount;
 };
 
-constexpr std::array<PlaceRule, 6> placeRules{
+constexpr std::array<PlaceRule, 7> placeRules{
     {{"", "expected an object", {}, 0},
-     {"", "expected the keys \"version\", \"fasts\", \"weights\"", {Key::version, Key::fasts, Key::weights}, 3},
+     {"",
+      "expected the keys \"version\", \"fasts\", \"weights\", \"settings\"",
+      {Key::version, Key::fasts, Key::weights, Key::settings},
+      4},
      {"fasts", "expected an object", {}, 0},
      {"fasts",
       "expected the keys \"id\", \"start\", \"end\", \"goalSeconds\", \"note\"",
       {Key::id, Key::start, Key::end, Key::goalSeconds, Key::note},
       5},
      {"weights", "expected an object", {}, 0},
-     {"weights", "expected the keys \"id\", \"date\", \"weightInKg\"", {Key::id, Key::date, Key::weightInKg}, 3}}};
+     {"weights", "expected the keys \"id\", \"date\", \"weightInKg\"", {Key::id, Key::date, Key::weightInKg}, 3},
+     {"settings", "expected at most 1000 settings", {}, 0}}};
 
 constexpr const PlaceRule& rule(Place place) { return placeRules[static_cast<std::size_t>(place)]; }
 
@@ -127,12 +136,15 @@ class SnapshotReader {
 
   tl::expected<History, BadRecord> read();
 
+  std::vector<Setting> settings;
+
   /// How far the parser has come: behind the last character that it took.
   void reach(std::size_t offset) { reached = text.data() + offset; }
 
   bool null() { return pending == Key::end ? runningFast() : refuse("null"); }
-  bool boolean(bool value) { return refuse(value ? "true" : "false"); }
+  bool boolean(bool value) { return pending == Key::setting ? keepSetting(value) : refuse(value ? "true" : "false"); }
   bool number(std::string_view digits) {
+    if (pending == Key::setting) return numericSetting(digits);
     if (pending == Key::weightInKg) return weighed(digits);
     if (pending == Key::version) return accept(digits == "1", digits);
     return accept(pending == Key::goalSeconds && wholeNumber(digits, fields.goalSeconds), digits);
@@ -141,6 +153,7 @@ class SnapshotReader {
     if (pending == Key::id) return accept(fields.id = parseUUID(value), value);
     if (pending == Key::start || pending == Key::date) return dateInto(fields.start, value);
     if (pending == Key::end) return finishedFastEnd(value);
+    if (pending == Key::setting && value.size() <= longestSettingInBytes) return keepSetting(std::string{value});
     if (pending != Key::note) return refuse(value);
     fields.note = value;
     return accept(isNote(value), value);
@@ -150,9 +163,11 @@ class SnapshotReader {
     if (place == Place::outside) return enter(Place::snapshot);
     if (place == Place::fasts) return enter(Place::fast);
     if (place == Place::weights) return enter(Place::weight);
+    if (pending == Key::settings) return enterSettings();
     return refuse("{");
   }
   bool key(std::string_view name) {
+    if (place == Place::settings) return settingNamed(name);
     const PlaceRule& here = rule(place);
     const auto keys = std::span{here.keys}.first(here.keyCount);
     const auto known = std::ranges::find(keys, name, [](Key key) { return rule(key).name; });
@@ -165,6 +180,7 @@ class SnapshotReader {
   bool endObject() {
     if (place == Place::fast) return leaveFast();
     if (place == Place::weight) return leaveWeight();
+    if (place == Place::settings) return leaveSettings();
     if (!hasSeen(Key::version)) return missing(Key::version);
     if (!hasSeen(Key::fasts) && !hasSeen(Key::weights)) return missing(Key::fasts);
     place = Place::outside;
@@ -249,6 +265,36 @@ class SnapshotReader {
     return error == std::errc{} && stop == end && digits.front() != '-';
   }
 
+  bool enterSettings() {
+    place = Place::settings;
+    return accept();
+  }
+  bool settingNamed(std::string_view name) {
+    if (settings.size() == mostSettings) return refuse(name);
+    if (std::ranges::find(settings, name, &Setting::key) != settings.end())
+      return fail(name, "expected each key once in an object");
+    settings.push_back({std::string{name}, {}});
+    pending = Key::setting;
+    return true;
+  }
+  bool keepSetting(UserDefaults::Value value) {
+    settings.back().value = std::move(value);
+    return accept();
+  }
+  bool numericSetting(std::string_view digits) {
+    const char* const begin = digits.data();
+    const char* const end = begin + digits.size();
+    std::int64_t whole = 0;
+    if (std::from_chars(begin, end, whole).ptr == end) return keepSetting(whole);
+    double number = 0;
+    const bool isNumber = std::from_chars(begin, end, number).ec == std::errc{};
+    return isNumber ? keepSetting(number) : refuse(digits);
+  }
+  bool leaveSettings() {
+    place = Place::snapshot;
+    return true;
+  }
+
   bool leaveFast() {
     for (const Key key : {Key::start, Key::end})
       if (!hasSeen(key)) return missing(key);
@@ -285,6 +331,7 @@ class SnapshotReader {
   /// "fasts[2].end"; "snapshot" where nothing has begun.
   std::string path(std::optional<Key> key) const {
     std::string way{rule(place).list};
+    if (place == Place::settings) return key == Key::setting ? way + '.' + quotable(settings.back().key) : way;
     const std::size_t index = way == "fasts" ? history.fasts.size() : history.weights.size();
     if (!way.empty()) way += '[' + std::to_string(index) + ']';
     if (!key) return way.empty() ? "snapshot" : way;
@@ -380,9 +427,12 @@ tl::expected<History, BadRecord> SnapshotReader::read() {
 
 }  // namespace
 
-tl::expected<History, BadRecord> readSnapshot(std::string_view text, const std::string& file,
-                                              const UUIDGenerator& ids) {
-  return SnapshotReader{text, file, ids}.read();
+tl::expected<History, BadRecord> readSnapshot(std::string_view text, const std::string& file, const UUIDGenerator& ids,
+                                              std::vector<Setting>* settings) {
+  SnapshotReader reader{text, file, ids};
+  auto history = reader.read();
+  if (history && settings) *settings = std::move(reader.settings);
+  return history;
 }
 
 }  // namespace mivo::host

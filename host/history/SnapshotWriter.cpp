@@ -43,12 +43,27 @@ std::string snapshotOf(auto&& writeLists) {
   return std::move(json).text();
 }
 
+void writeSetting(JsonWriter& json, const UserDefaults::Value& value) {
+  std::visit([&json](const auto& one) { writeJson(json, one); }, value);
+}
+
+void writeSettings(JsonWriter& json, std::span<const Setting> settings) {
+  json.key("settings");
+  json.beginObject(JsonWriter::Layout::spread);
+  for (const auto& [key, value] : settings) {
+    json.key(key);
+    writeSetting(json, value);
+  }
+  json.endObject();
+}
+
 }  // namespace
 
-std::string writeSnapshot(const History& history) {
+std::string writeSnapshot(const History& history, std::span<const Setting> settings) {
   return snapshotOf([&](JsonWriter& json) {
     writeLines(json, "fasts", history.fasts);
     writeLines(json, "weights", history.weights);
+    if (!settings.empty()) writeSettings(json, settings);
   });
 }
 

@@ -118,7 +118,7 @@ tl::expected<ImportedFile, ImportFault> ImportReader::whole(WholeText& held) con
   auto history =
       held.kind == Kind::database
           ? readDatabaseBytes(std::move(held.text), name, [&file](BadRecord bad) { file.refused.add(std::move(bad)); })
-          : readSnapshot(held.text, name, ids);
+          : readSnapshot(held.text, name, ids, &file.settings);
   if (!history) return tl::unexpected{ImportFault{std::move(history.error())}};
   file.fasts = std::move(history->fasts);
   file.weights = std::move(history->weights);

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "host/history/History.h"
+#include "host/history/Setting.h"
 #include "host/text/BadRecord.h"
 
 namespace mivo::host {
@@ -57,6 +58,8 @@ struct ImportedFile {
   RefusedRecords refused = {};
   ImportNotes notes = {};
   std::optional<KeptOddity> endsBeforeStart = {};  ///< of a backup, which is taken as it is
+
+  std::vector<Setting> settings = {};  ///< of a snapshot
 
   std::int64_t lineOfFast(std::size_t index) const { return fastLines.empty() ? 0 : fastLines[index]; }
 };

@@ -79,6 +79,22 @@ TEST_F(Export, writesTablesThatImportAsEqual) {
             "w.json: 0 fasts and 0 weights added, 1 there already, 0 refused\n");
 }
 
+TEST_F(Export, carriesSettingsThatAnImportChoosesWhereAsked) {
+  fs::create_directories(place.file("mivo"));
+  place.write("mivo/app.json", R"({"goalWeightInKg": 75.5, "weightUnit": "st", "windowTab": "settings"})");
+  place.write("mivo/group.json", R"({"streakMaxBreakHours": 30})");
+  EXPECT_EQ(place.run("export --to all.json").status, 0);
+  EXPECT_THAT(contents("all.json"), HasSubstr("\"goalWeightInKg\": 75.5"));
+  EXPECT_THAT(contents("all.json"), testing::Not(HasSubstr("windowTab")));
+  const std::string elsewhere = "XDG_CONFIG_HOME=\"$PWD/other\" ";
+  EXPECT_EQ(place.run("import all.json --database e", ">output", elsewhere).status, 0);
+  EXPECT_FALSE(fs::exists(place.file("other")));
+  EXPECT_THAT(place.run("import all.json --with-settings --database e", ">output", elsewhere).output,
+              HasSubstr("3 settings taken over\n"));
+  EXPECT_THAT(contents("other/mivo/app.json"), HasSubstr("75.5"));
+  EXPECT_THAT(contents("other/mivo/group.json"), HasSubstr("30"));
+}
+
 struct RefusedExport {
   const char* name;
   std::string arguments, error;

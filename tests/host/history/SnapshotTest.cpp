@@ -58,6 +58,23 @@ TEST(Snapshot, readsBackWhatWasWritten) {
   EXPECT_EQ(writeSnapshot({}), "{\n  \"version\": 1,\n  \"fasts\": [],\n  \"weights\": []\n}\n");
 }
 
+TEST(Snapshot, carriesSettings) {
+  const std::vector<Setting> settings{
+      {"weightUnit", std::string{"kg"}}, {"a \"b\"", true}, {"c", std::int64_t{-3}}, {"d", 0.25}};
+  std::vector<Setting> again;
+  const tests::CountingUUIDs ids;
+  EXPECT_EQ(readSnapshot(writeSnapshot({}, settings), "a.json", ids, &again), History{});
+  EXPECT_EQ(again, settings);
+  EXPECT_EQ(fault(R"({"version": 1, "fasts": [], "settings": {"a": [1]}})"),
+            "a.json:1: settings.a: expected a text of at most 1000 bytes, a number, true or false, found \"[\"");
+  EXPECT_EQ(fault(R"({"version": 1, "fasts": [], "settings": {"a": null}})"),
+            "a.json:1: settings.a: expected a text of at most 1000 bytes, a number, true or false, found \"null\"");
+  EXPECT_EQ(fault(R"({"version": 1, "fasts": [], "settings": {"a": 1, "a": 2}})"),
+            "a.json:1: settings: expected each key once in an object, found \"a\"");
+  EXPECT_EQ(fault(R"({"version": 1, "fasts": [], "settings": [1]})"),
+            "a.json:1: settings: expected an object, found \"[\"");
+}
+
 TEST(Snapshot, takesEmptyListsAndLeavesOneOut) {
   EXPECT_EQ(read(R"({"version": 1, "fasts": [], "weights": []})"), History{});
   EXPECT_EQ(read(R"({"weights": [], "version": 1})"), History{});
