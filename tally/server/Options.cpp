@@ -269,6 +269,7 @@ ServeOptions finished(ServeOptions options, const Texts& texts) {
   options.drainTime = std::chrono::seconds{texts.drainSeconds};
   options.storeTimes.answer = std::chrono::seconds{texts.storeSeconds};
   options.storeTimes.probe = std::chrono::seconds{texts.probeSeconds};
+  options.storeTimes.probeAgain = std::min(options.storeTimes.probeAgain, options.storeTimes.probe);
   options.mostUnsentBytes = texts.mostUnsentMegabytes << 20U;
   if (!options.certificate.empty()) options.mostConnections = tlsConnections;
   if (texts.mostConnections > 0) options.mostConnections = texts.mostConnections;

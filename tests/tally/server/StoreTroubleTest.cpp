@@ -22,7 +22,7 @@ struct Fixture : testing::Test {
 using StoreTrouble = Fixture;
 
 TEST_F(StoreTrouble, aLockOfAnotherStopsVotesOnlyAndOnlyWhileItLasts) {
-  TallyServer server{store, {"--store-seconds", "1"}};
+  TallyServer server{store, {"--store-seconds", "1", "--probe-seconds", "1"}};
   HttpClient voter{server.port()};
   HttpClient reader{server.port()};
   EXPECT_EQ(countOf(voter.get("/add/a/feature1?delta=1")), 1);
@@ -48,7 +48,7 @@ TEST_F(StoreTrouble, aCountThatAnotherWroteIsReadAgain) {
 }
 
 TEST_F(StoreTrouble, aDatabaseThatWasTakenAwayKeepsNoVote) {
-  TallyServer server{store};
+  TallyServer server{store, {"--probe-seconds", "1"}};
   HttpClient client{server.port()};
   EXPECT_EQ(countOf(client.get("/add/a/feature1?delta=1")), 1);
   std::filesystem::rename(file, file + ".away");

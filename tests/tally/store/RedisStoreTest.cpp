@@ -22,8 +22,8 @@ struct Fixture : testing::Test {
   RedisStore& storeAt(const std::string& address, std::int64_t mostCounters = 1000) {
     store.emplace(
         loop, std::get<RedisAddress>(parseStoreAddress(address)),
-        [this](std::string_view text) { reports.emplace_back(text); }, StoreTimes{.probe = std::chrono::seconds{1}},
-        mostCounters);
+        [this](std::string_view text) { reports.emplace_back(text); },
+        StoreTimes{.probe = std::chrono::seconds{1}, .probeAgain = std::chrono::seconds{1}}, mostCounters);
     return *store;
   }
 
