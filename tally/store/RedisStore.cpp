@@ -73,17 +73,21 @@ void RedisStore::connect() {
 void RedisStore::didConnect() {
   isConnected = true;
   there.clear();  // it may be another one, or have been emptied
-  nextDelay = firstDelay;
-  report("Redis at " + describe(address.endpoint) + " is there");
-  wasAwayReported = false;
   probe();
+}
+
+// A replica would say so at each attempt.
+void RedisStore::noteThatItIsThere() {
+  nextDelay = firstDelay;
+  if (std::exchange(told, Told::there) != Told::there) report("Redis at " + describe(address.endpoint) + " is there");
 }
 
 void RedisStore::didLose(const std::string& reason) {
   isConnected = false;
   takesVotes = false;
   isProbing = false;
-  if (!std::exchange(wasAwayReported, true)) report("Redis at " + describe(address.endpoint) + " is away: " + reason);
+  if (std::exchange(told, Told::away) != Told::away)
+    report("Redis at " + describe(address.endpoint) + " is away: " + reason);
   retry.expires_after(nextDelay);
   nextDelay = std::min(nextDelay * 2, longestDelay);
   retry.async_wait([this](error_code error) {
@@ -196,6 +200,7 @@ void RedisStore::probe() {
 
 void RedisStore::didProbe(const RedisReply& reply) {
   isProbing = false;
+  if (!asksToReconnect(reply)) noteThatItIsThere();
   const bool didTakeVotes = takesVotes;
   learn(reply);
   if (isFault(reply) && !std::exchange(wasRefusalReported, true)) report("Redis refuses: " + reply.text);

@@ -30,8 +30,11 @@ class RedisStore final : public CounterStore {
   bool isAvailable() const override { return isConnected && takesVotes; }
 
  private:
+  enum class Told { nothing, there, away };
+
   void connect();
   void didConnect();
+  void noteThatItIsThere();
   void didLose(const std::string& reason);
   void send();
   std::vector<std::string> strangers() const;
@@ -58,7 +61,7 @@ class RedisStore final : public CounterStore {
   std::chrono::steady_clock::time_point lastWrite;
   bool isConnected = false;
   bool takesVotes = false;  // as far as the last write tells
-  bool wasAwayReported = false;
+  Told told = Told::nothing;
   bool wasRefusalReported = false;
 
   std::int64_t mostCounters;
