@@ -4,6 +4,8 @@
 #include <array>
 #include <charconv>
 
+#include "host/dates/SpokenDate.h"
+#include "host/place/TypedDates.h"
 #include "mivo/weights/WeightUnits.h"
 
 namespace mivo::cli {
@@ -36,6 +38,20 @@ std::string_view answeringOption(host::ImportFault::Asks asks) {
       return "--weight-unit kg, lb or st says it";
   }
   return "";
+}
+
+Read<Date> readTypedDate(std::string_view option, std::string_view text, const adapters::UserLocale& locale,
+                         const adapters::TimeZone& zone, Date now, std::optional<Date> after) {
+  const auto date = host::readTypedDate(text, locale, zone, now, after);
+  if (date) return *date;
+  const auto& readings = date.error().readings;
+  if (!readings)
+    return wrong(option, "expected a date and time, as in 2026-03-01 20:00, 20:00, \"yesterday 8 pm\" or \"2h ago\"",
+                 text);
+  return wrong(option,
+               "expected " + host::typedDate(readings->first, zone) + " or " + host::typedDate(readings->second, zone) +
+                   ", since the clocks show this twice",
+               text);
 }
 
 Read<std::int64_t> readNumber(std::string_view option, std::string_view expected, std::string_view text,

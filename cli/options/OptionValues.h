@@ -41,6 +41,10 @@ Read<std::optional<WeightUnit>> readWeightUnit(std::string_view text);
 /// nothing.
 std::string_view answeringOption(host::ImportFault::Asks asks);
 
+/// A date as it was typed, or a sentence; see `host::readTypedDate`.
+Read<Date> readTypedDate(std::string_view option, std::string_view text, const adapters::UserLocale& locale,
+                         const adapters::TimeZone& zone, Date now, std::optional<Date> after);
+
 /// A whole number from `low` to `high`.
 Read<std::int64_t> readNumber(std::string_view option, std::string_view expected, std::string_view text,
                               std::int64_t low, std::int64_t high);

@@ -64,7 +64,8 @@ std::string stop(const RecordRun& run) {
 }
 
 std::string add(const RecordRun& run) {
-  const Date start = run.date("START", *run.options.start), end = run.date("END", *run.options.end);
+  const Date start = run.date("START", *run.options.start);
+  const Date end = run.date("END", *run.options.end, start);
   return addOne(run, translatable("Added {1}"),
                 finishedFast(adapters::LocalUUIDGenerator{}.next(), start, end, run.goalSeconds(usualGoal())));
 }
@@ -80,7 +81,7 @@ FastRecord edited(const FastRecord& before, const RecordRun& run) {
   const std::int64_t goalSeconds = run.goalSeconds(fast.goalSeconds);
   std::optional<Date> end;
   if (fast.finished) end = fast.finished->end;
-  if (options.end) end = run.date("--end", *options.end);
+  if (options.end) end = run.date("--end", *options.end, start);
   if (options.isRunning) end.reset();
   return {end ? finishedFast(fast.id, start, *end, goalSeconds) : ongoingFast(fast.id, start, goalSeconds),
           options.note.value_or(before.note)};

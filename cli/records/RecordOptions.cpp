@@ -10,9 +10,10 @@ namespace {
 
 constexpr const char* fastExamples = R"(Examples:
   mivo start
+  mivo start --at "2h ago"
   mivo start --at "2026-02-28 20:04" --goal-hours 18
   mivo stop
-  mivo add "2026-02-27 20:00" "2026-02-28 12:00" --note "no breakfast"
+  mivo add "yesterday 8 pm" 12:00 --note "no breakfast"
   mivo edit 3f9a --end 2026-02-28T12:30:00+01:00
   mivo remove 3f9a
   mivo repair --dry-run
@@ -23,7 +24,8 @@ constexpr const char* fastExamples = R"(Examples:
   mivo export --to fasts.csv --what fasts
   mivo import backup.json fasts.csv weights.csv
 
-A date without an offset is in --time-zone. An ID is what mivo list shows, or more of it.
+A date without an offset is in --time-zone; a time alone is the last one that has passed, and as an end the first one
+after the start. What mivo prints can be typed. An ID is what mivo list shows, or more of it.
 
 Exit status: 0 done and on disk, 1 the records or the database stood against it, 2 the command line did.)";
 

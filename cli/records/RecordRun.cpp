@@ -1,10 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "cli/records/RecordRun.h"
 
-#include <array>
-#include <chrono>
-#include <cmath>
-#include <cstdio>
 #include <utility>
 
 #include "adapters/locale/MessageCatalogue.h"
@@ -15,6 +11,7 @@
 #include "cli/terminal/StandardOutput.h"
 #include "cli/usage/Usage.h"
 #include "host/app/Settings.h"
+#include "host/dates/SpokenDate.h"
 #include "host/history/FieldRules.h"
 #include "host/text/BadRecord.h"
 #include "mivo/fasting/GoalTime.h"
@@ -90,8 +87,8 @@ host::History RecordRun::history() const {
   throw Refused{atFault, host::describe({.file = file().string(), .reason = "expected a database of the app"})};
 }
 
-Date RecordRun::date(std::string_view name, const std::string& text) const {
-  return orRefused(readDate(name, text, *zone));
+Date RecordRun::date(std::string_view name, const std::string& text, std::optional<Date> after) const {
+  return orRefused(readTypedDate(name, text, locale, *zone, now, after));
 }
 
 Date RecordRun::dateOrNow(std::string_view name, const std::optional<std::string>& text) const {
@@ -112,17 +109,7 @@ WeightUnit RecordRun::weightUnit() const {
   return host::weightUnit(adapters::FileUserDefaults{adapters::appDefaultsFile()}).value_or(locale.weightUnit());
 }
 
-std::string RecordRun::typed(Date date) const {
-  const auto wall = zone->wallTime(adapters::wholeSecond(date));
-  const auto day = std::chrono::floor<std::chrono::days>(wall);
-  const std::chrono::year_month_day fields{day};
-  const std::chrono::hh_mm_ss time{wall - day};
-  std::array<char, 40> text;
-  std::snprintf(text.data(), text.size(), "%04d-%02u-%02u %02d:%02d", static_cast<int>(fields.year()),
-                static_cast<unsigned>(fields.month()), static_cast<unsigned>(fields.day()),
-                static_cast<int>(time.hours().count()), static_cast<int>(time.minutes().count()));
-  return text.data();
-}
+std::string RecordRun::typed(Date date) const { return host::typedDate(date, *zone); }
 
 host::HistoryChange RecordRun::change(host::Outcome outcome) const {
   if (outcome) return std::move(*outcome);

@@ -46,7 +46,8 @@ class RecordRun {
 
   /// What an option says, or now without it.
   Date dateOrNow(std::string_view name, const std::optional<std::string>& text) const;
-  Date date(std::string_view name, const std::string& text) const;
+  /// Of a time without a day the last one that has passed, or the first one after a start.
+  Date date(std::string_view name, const std::string& text, std::optional<Date> after = {}) const;
   /// What `--goal-hours` says, in seconds; or the fallback without it.
   std::int64_t goalSeconds(std::int64_t fallback) const;
 

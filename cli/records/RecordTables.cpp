@@ -12,6 +12,7 @@
 #include "cli/terminal/Paint.h"
 #include "cli/terminal/StandardOutput.h"
 #include "cli/terminal/TextWidth.h"
+#include "host/dates/SpokenDate.h"
 #include "host/fasting/OverlappingFasts.h"
 #include "mivo/fasting/GoalTime.h"
 
@@ -20,13 +21,19 @@ namespace {
 
 constexpr std::string_view gap = "  ";
 
+/// What is printed can be typed in: it says which of two times is meant that the clocks show alike.
+std::string withOffset(const std::optional<std::string>& text, Date date, const RecordRun& run) {
+  const std::string offset = host::offsetIfDoubled(date, *run.zone);
+  return text.value_or("") + (offset.empty() ? "" : ' ' + offset);
+}
+
 std::string dateText(Date date, const RecordRun& run) {
-  return run.formatters.dateFormatter->string(date, "yMMMdjm").value_or("");
+  return withOffset(run.formatters.dateFormatter->string(date, "yMMMdjm"), date, run);
 }
 
 /// In digits: whole histories are read in columns.
 std::string shortDateText(Date date, const RecordRun& run) {
-  return run.formatters.dateFormatter->string(date, "yMdjm").value_or("");
+  return withOffset(run.formatters.dateFormatter->string(date, "yMdjm"), date, run);
 }
 
 std::string durationText(double seconds, const RecordRun& run) {

@@ -15,6 +15,7 @@ class Scanner {
   explicit Scanner(std::string_view text) : rest{text} {}
 
   bool atEnd() const { return rest.empty(); }
+  std::size_t size() const { return rest.size(); }
 
   template <class... Characters>
   bool take(Characters... anyOf) {

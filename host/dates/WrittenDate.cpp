@@ -40,12 +40,6 @@ std::string folded(std::string_view word) {
   return result;
 }
 
-std::optional<unsigned> numberOf(const std::vector<DateNames::Name>& names, std::string_view word) {
-  const std::string plain = folded(word);
-  const auto named = std::ranges::find(names, plain, &DateNames::Name::text);
-  return named == names.end() ? std::nullopt : std::optional{named->number};
-}
-
 std::optional<unsigned> scanYear(Scanner& scanner) {
   const auto number = scanNumber(scanner, 4);
   if (!number || (number->digitCount != 4 && number->digitCount != 2)) return std::nullopt;
@@ -123,23 +117,43 @@ WrittenDate scanDay(Scanner& scanner, const DateNames& names) {
   return scanNumbers(scanner, *first);
 }
 
+/// The half of the day that a word names, which may be in two parts: "p. m.".
+std::optional<unsigned> scanHalfName(Scanner& scanner, const DateNames& names) {
+  std::string name{scanner.word()};
+  if (const auto half = numberOf(names.halves, name)) return half;
+  if (name.empty() || !scanner.blanks()) return std::nullopt;
+  return numberOf(names.halves, name.append(scanner.word()));
+}
+
 /// AM or PM behind a time, if they are there.
-bool scanHalf(Scanner& scanner, unsigned& hour, bool isNeeded) {
+bool scanHalf(Scanner& scanner, const DateNames& names, unsigned& hour, bool isNeeded) {
   Scanner ahead = scanner;
   ahead.blanks();
-  const std::string half = folded(ahead.word());
-  if (half != "am" && half != "pm") return !isNeeded;
+  const auto half = scanHalfName(ahead, names);
+  if (!half) return !isNeeded;
   if (hour > 12) return false;
-  hour = hour % 12 + (half == "pm" ? 12 : 0);
+  hour = hour % 12 + *half * 12;
   scanner = ahead;
   return true;
 }
 
-std::optional<WrittenTime> scanTime(Scanner& scanner) {
+/// A colon, or the "h" of "20 h 30" and "20h30".
+bool takeBeforeMinutes(Scanner& scanner) {
+  if (scanner.take(':')) return true;
+  Scanner ahead = scanner;
+  ahead.blanks();
+  if (!ahead.take('h', 'H')) return false;
+  ahead.blanks();
+  if (ahead.front() < '0' || ahead.front() > '9') return false;
+  scanner = ahead;
+  return true;
+}
+
+std::optional<WrittenTime> scanTime(Scanner& scanner, const DateNames& names) {
   auto hour = scanNumber(scanner, 2);
   if (!hour || hour->value > 23) return std::nullopt;
   WrittenTime time;
-  const bool hasMinutes = scanner.take(':');
+  const bool hasMinutes = takeBeforeMinutes(scanner);
   if (hasMinutes) {
     const auto minute = scanner.number<2>();
     if (!minute || *minute > 59) return std::nullopt;
@@ -151,7 +165,7 @@ std::optional<WrittenTime> scanTime(Scanner& scanner) {
       if (scanner.take('.', ',') && (time.fraction = scanner.digits()).empty()) return std::nullopt;
     }
   }
-  if (!scanHalf(scanner, hour->value, !hasMinutes)) return std::nullopt;
+  if (!scanHalf(scanner, names, hour->value, !hasMinutes)) return std::nullopt;
   time.sinceMidnight += hours{hour->value};
   return time;
 }
@@ -171,6 +185,14 @@ bool scanZone(Scanner& scanner, std::optional<seconds>& offset) {
   }
   offset = scanOffset(scanner);
   return offset && scanner.atEnd();
+}
+
+/// "at" between a day and its time.
+void takeLink(Scanner& scanner, const DateNames& names) {
+  Scanner ahead = scanner;
+  if (std::ranges::find(names.links, folded(ahead.word())) == names.links.end()) return;
+  ahead.blanks();
+  scanner = ahead;
 }
 
 std::string_view trimmed(std::string_view text) {
@@ -231,10 +253,20 @@ DateNames namesOf(const std::array<const char*, 12>& months, const std::array<co
   for (unsigned index = 0; index < weekdays.size(); ++index) add(names.weekdays, weekdays[index], index);
   names.months.push_back({"sept", 9});
   names.weekdays.insert(names.weekdays.end(), {{"tues", 2}, {"thur", 4}, {"thurs", 4}});
+  names.halves = {{"am", 0}, {"pm", 1}};
+  names.daysAgo = {{"today", 0}, {"yesterday", 1}};
+  names.now = {"now"};
+  names.links = {"at"};
   return names;
 }
 
 }  // namespace
+
+std::optional<unsigned> numberOf(const std::vector<DateNames::Name>& names, std::string_view word) {
+  const std::string plain = folded(word);
+  const auto named = std::ranges::find(names, plain, &DateNames::Name::text);
+  return named == names.end() ? std::nullopt : std::optional{named->number};
+}
 
 const DateNames& englishDateNames() {
   static const DateNames names =
@@ -254,13 +286,14 @@ std::optional<WrittenDate> readWrittenDate(std::string_view text, const DateName
   if (scanner.atEnd()) return date;
   const bool isMarked = scanner.take('T', 't', ',');
   if (!scanner.blanks() && !isMarked) return std::nullopt;
-  date.time = scanTime(scanner);
+  takeLink(scanner, names);
+  date.time = scanTime(scanner, names);
   return date.time && scanZone(scanner, date.offset) ? std::optional{date} : std::nullopt;
 }
 
-std::optional<WrittenTime> readWrittenTime(std::string_view text) {
+std::optional<WrittenTime> readWrittenTime(std::string_view text, const DateNames& names) {
   Scanner scanner{trimmed(text)};
-  const auto time = scanTime(scanner);
+  const auto time = scanTime(scanner, names);
   return scanner.atEnd() ? time : std::nullopt;
 }
 

@@ -14,15 +14,20 @@ namespace mivo::host {
 /// Which of two numbers in a date is the day: 1/2/2026 is 1 February or January 2.
 enum class DateOrder { dayFirst, monthFirst };
 
-/// The names that a language gives to months (1 to 12) and days of the week (0 = Sunday), in lower case, full and
-/// short.
+/// The names that a language gives to months (1 to 12), days of the week (0 = Sunday), the halves of the day (0 = AM,
+/// 1 = PM), today and yesterday (0 and 1 days ago) and now, in small letters and without points, full and short; and
+/// the words that may stand between a day and its time.
 struct DateNames {
   struct Name {
     std::string text;
     unsigned number = 0;
   };
-  std::vector<Name> months, weekdays;
+  std::vector<Name> months, weekdays, halves, daysAgo;
+  std::vector<std::string> now, links;
 };
+
+/// The number of a name, whatever its ASCII case and its points.
+std::optional<unsigned> numberOf(const std::vector<DateNames::Name>& names, std::string_view word);
 
 /// Those of files, which write English.
 const DateNames& englishDateNames();
@@ -55,7 +60,7 @@ struct WrittenDate {
 std::optional<WrittenDate> readWrittenDate(std::string_view text, const DateNames& names = englishDateNames());
 
 /// Reads a time alone: "20:30", "8:30:15 PM", "8 pm".
-std::optional<WrittenTime> readWrittenTime(std::string_view text);
+std::optional<WrittenTime> readWrittenTime(std::string_view text, const DateNames& names = englishDateNames());
 
 /// The date in one order; nothing where that order gives none.
 std::optional<DateText> ordered(const WrittenDate& date, DateOrder order);

@@ -4,8 +4,8 @@
 #include <algorithm>
 #include <array>
 
+#include "host/dates/NamedLength.h"
 #include "host/history/Header.h"
-#include "host/import/LengthText.h"
 #include "mivo/model/Date.h"
 #include "mivo/weights/WeightUnits.h"
 

@@ -2,12 +2,11 @@
 #include "host/import/LengthText.h"
 
 #include <algorithm>
-#include <array>
 #include <charconv>
 #include <cmath>
-#include <limits>
 #include <string>
 
+#include "host/dates/NamedLength.h"
 #include "host/history/FieldRules.h"
 #include "host/history/Header.h"
 #include "mivo/model/Date.h"
@@ -15,29 +14,9 @@
 namespace mivo::host {
 namespace {
 
-// What another one ends with stands behind it.
-constexpr std::array<LengthUnit, 16> units{{{"seconds", 1},
-                                            {"second", 1},
-                                            {"secs", 1},
-                                            {"sec", 1},
-                                            {"minutes", 60},
-                                            {"minute", 60},
-                                            {"mins", 60},
-                                            {"min", 60},
-                                            {"hours", secondsPerHour},
-                                            {"hour", secondsPerHour},
-                                            {"hrs", secondsPerHour},
-                                            {"hr", secondsPerHour},
-                                            {"days", secondsPerDay},
-                                            {"h", secondsPerHour},
-                                            {"m", 60},
-                                            {"s", 1}}};
-
 constexpr std::size_t longest = 40;  // of any length that somebody writes
 
 std::size_t countDigits(std::string_view text) { return std::min(text.find_first_not_of("0123456789"), text.size()); }
-
-void skipBlanks(std::string_view& text) { text.remove_prefix(std::min(text.find_first_not_of(' '), text.size())); }
 
 std::optional<double> takeWhole(std::string_view& text, std::size_t mostDigits) {
   const std::size_t count = countDigits(text);
@@ -66,24 +45,6 @@ std::optional<double> clockLength(std::string_view text) {
   return text.empty() ? std::optional{seconds} : std::nullopt;
 }
 
-/// "16h 30m", "16 hours 30 minutes": whole numbers, the larger units first.
-std::optional<double> namedLength(std::string_view text) {
-  double seconds = 0, last = std::numeric_limits<double>::infinity();
-  while (!text.empty()) {
-    const auto number = takeWhole(text, 6);
-    if (!number) return std::nullopt;
-    skipBlanks(text);
-    const std::string_view word = text.substr(0, std::min(text.find_first_of(" 0123456789"), text.size()));
-    const auto unit = lengthUnitAtEnd(word);
-    if (!unit || unit->name != word || unit->seconds >= last) return std::nullopt;
-    text.remove_prefix(word.size());
-    skipBlanks(text);
-    last = unit->seconds;
-    seconds += *number * last;
-  }
-  return seconds;
-}
-
 bool mayPartThousands(std::string_view text) {
   const std::size_t comma = text.rfind(',');
   return comma != std::string_view::npos && text.size() - comma - 1 == 3;
@@ -98,12 +59,6 @@ std::string lowerCase(std::string_view text) {
 
 }  // namespace
 
-std::optional<LengthUnit> lengthUnitAtEnd(std::string_view text) {
-  const auto* const unit =
-      std::ranges::find_if(units, [text](const LengthUnit& one) { return text.ends_with(one.name); });
-  return unit == units.end() ? std::nullopt : std::optional{*unit};
-}
-
 std::optional<double> readLengthText(std::string_view text, std::optional<double> secondsPerUnit) {
   if (text.empty() || text.size() > longest) return std::nullopt;
   if (const auto length = clockLength(text)) return length;
@@ -111,7 +66,7 @@ std::optional<double> readLengthText(std::string_view text, std::optional<double
     if (!secondsPerUnit || *number < 0 || mayPartThousands(text)) return std::nullopt;
     return std::round(*number * *secondsPerUnit);
   }
-  return namedLength(lowerCase(text));
+  return readNamedLength(lowerCase(text));
 }
 
 std::optional<std::int64_t> readGoalText(std::string_view text, double secondsPerUnit) {

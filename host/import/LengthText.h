@@ -7,13 +7,6 @@
 
 namespace mivo::host {
 
-/// The unit of a length that a text ends with: "h", "hrs", "hours", "min", "seconds" and the like.
-struct LengthUnit {
-  std::string_view name;
-  double seconds = 0;
-};
-std::optional<LengthUnit> lengthUnitAtEnd(std::string_view text);
-
 /// The length of a fast as tables write it, in seconds:
 ///
 ///     readLengthText("16:30", {});          // 59400; also "16:30:00", "16h 30m", "16 hours 30 minutes", "45m"

@@ -4,6 +4,7 @@
 #include <cstdlib>
 #include <string_view>
 
+#include "host/dates/SpokenDate.h"
 #include "host/dates/WrittenDate.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
@@ -11,6 +12,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   static const auto zone = mivo::adapters::TimeZone::load("Pacific/Apia").value();
   const std::string_view bytes{reinterpret_cast<const char*>(data), size};
   if (const auto time = readWrittenTime(bytes); time && time->sinceMidnight >= std::chrono::days{1}) std::abort();
+  const SpokenFrame frame{mivo::dateSince1970(1795613420), *zone, DateOrder::monthFirst};
+  const auto spoken = readSpokenDate(bytes, englishDateNames(), frame);
+  if (spoken && !mivo::isRepresentable(*spoken)) std::abort();
   const auto date = readWrittenDate(bytes);
   if (!date) return 0;
   if (!date->dayFirst && !date->monthFirst) std::abort();

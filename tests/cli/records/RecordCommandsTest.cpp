@@ -2,6 +2,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <cmath>
+
 #include "host/database/Database.h"
 #include "tests/cli_support/MivoProcess.h"
 
@@ -31,6 +33,26 @@ std::string idIn(const std::string& answer) {
 }
 
 host::History own(const Workplace& place) { return host::Database{place.file("mivo/mivo.sqlite")}.history(); }
+
+double secondsInDay(Date date) { return std::fmod(secondsSince1970(date), secondsPerDay); }
+
+TEST(RecordCommands, takeTimesAsPeopleSayThem) {
+  const Workplace place;
+  said(place, "add '3 days ago' 0:00", " --time-zone UTC");
+  said(place, "start --at -90m");
+  const auto fasts = own(place).fasts;
+  ASSERT_EQ(fasts.size(), 2u);
+  const auto& past = fasts[0].fast.finished.value();
+  EXPECT_EQ(secondsInDay(past.end), 0) << "midnight";
+  EXPECT_GT(past.duration(), 0);
+  EXPECT_LE(past.duration(), secondsPerDay) << "the first one after the start";
+  EXPECT_NEAR(secondsBetween(past.start, fasts[1].fast.start), 2.9375 * secondsPerDay, 60);
+
+  said(place, "edit " + text(fasts[0].fast.id) + " --end '11:00 PM'", " --time-zone UTC");
+  EXPECT_EQ(secondsInDay(own(place).fasts[0].fast.finished->end), 23 * secondsPerHour);
+  EXPECT_THAT(said(place, "add '26.10.2025 02:30+02:00' '2025-10-26 02:30+01:00'", inKilograms),
+              MatchesRegex("Added .*02:30 .02:00 to .*02:30 .01:00, 1h 0m.*"));
+}
 
 TEST(RecordCommands, keepAFastFromItsStartToItsRemoval) {
   const Workplace place;

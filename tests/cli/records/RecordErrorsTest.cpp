@@ -45,7 +45,8 @@ const std::string now = "2[0-9-]+ [0-9:]+";
 const std::string noWeight =
     "Type up to 700 kg or 1543 lb, such as 81.4. "
     "\\(WEIGHT: expected a weight above 0 and at most 700 kg, as in 81.4, 81.4kg, 179lb or \"12st 11lb\", ";
-const std::string notADate = "expected a date and time of the years 1 to 9999, as in 2026-03-01T12:00:00Z, found ";
+const std::string notADate =
+    "expected a date and time, as in 2026-03-01 20:00, 20:00, \"yesterday 8 pm\" or \"2h ago\", found ";
 
 INSTANTIATE_TEST_SUITE_P(
     Data, RecordErrors,
@@ -74,6 +75,11 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(
         ErrorRow{"noDate", "start --at noon", "--at: " + notADate + "\"noon\"", wrongUsage},
         ErrorRow{"dayAlone", "stop --at 2026-03-01", "--at: " + notADate + "\"2026-03-01\"", wrongUsage},
+        ErrorRow{
+            "timeThatClocksShowTwice", "stop --time-zone Europe/Berlin --at '26.10.2025 02:30'",
+            "--at: expected 2025-10-26 02:30\\+02:00 or 2025-10-26 02:30\\+01:00, since the clocks show this twice, "
+            "found \"26.10.2025 02:30\"",
+            wrongUsage},
         ErrorRow{"yearTooLate", "add 2026-02-02T00:00Z 10000-01-01T00:00Z",
                  "END: " + notADate + "\"10000-01-01T00:00Z\"", wrongUsage},
         ErrorRow{"noSuchDay", "edit 11 --start '2026-02-30 12:00'", "--start: " + notADate + "\"2026-02-30 12:00\"",
