@@ -4,6 +4,7 @@
 #include <chrono>
 #include <cmath>
 #include <filesystem>
+#include <fstream>
 #include <set>
 #include <string>
 
@@ -46,6 +47,39 @@ TEST(KilledCommand, losesNothingThatWasConfirmed) {
   int files = 0;
   for ([[maybe_unused]] const auto& entry : std::filesystem::directory_iterator{folder.path}) ++files;
   EXPECT_EQ(files, 1) << "something was set aside or left behind";
+}
+
+constexpr std::size_t weightsInAFile = 2000;
+
+/// Weights by the minute of a day that no other round has.
+std::string tableOf(int round) {
+  std::string table = "date,weight_kg\n";
+  for (std::size_t minute = 0; minute < weightsInAFile; ++minute)
+    table += std::to_string(1'000'000'000 + round * 200'000 + static_cast<int>(minute) * 60) + ",81.4\n";
+  return table;
+}
+
+TEST(KilledCommand, importsAFileAsAWholeOrNotAtAll) {
+  const tests::TemporaryFolder folder;
+  const std::string database = folder.path / "d", table = folder.path / "weights.csv";
+  const auto isConfirmed = [&](int round, milliseconds time) {
+    std::ofstream{table} << tableOf(round);
+    tally::test::ChildProcess command{{MIVO_PROGRAM, "import", table, "--database", database}};
+    return command.killAfter(time).ends_with('\n');
+  };
+  const auto begin = steady_clock::now();
+  ASSERT_TRUE(isConfirmed(0, milliseconds{60'000}));
+  const auto usual = duration_cast<milliseconds>(steady_clock::now() - begin);
+  std::size_t confirmed = 1;
+  constexpr int rounds = 40;
+  for (int round = 1; round <= rounds; ++round) {
+    confirmed += isConfirmed(round, usual * (round % 20) / 16) ? 1 : 0;
+    const std::size_t there = host::Database{database}.history().weights.size();
+    ASSERT_EQ(there % weightsInAFile, 0u) << "a part of a file";
+    ASSERT_GE(there / weightsInAFile, confirmed) << "lost";
+  }
+  EXPECT_GT(confirmed, 1u) << "no run was left the time to end";
+  EXPECT_LT(confirmed, std::size_t{rounds}) << "no run was killed";
 }
 
 }  // namespace
