@@ -73,7 +73,7 @@ TEST(KilledCommand, importsAFileAsAWholeOrNotAtAll) {
   std::size_t confirmed = 1;
   constexpr int rounds = 40;
   for (int round = 1; round <= rounds; ++round) {
-    confirmed += isConfirmed(round, usual * (round % 20) / 16) ? 1 : 0;
+    confirmed += isConfirmed(round, usual * (round % 20) / 6) ? 1 : 0;
     const std::size_t there = host::Database{database}.history().weights.size();
     ASSERT_EQ(there % weightsInAFile, 0u) << "a part of a file";
     ASSERT_GE(there / weightsInAFile, confirmed) << "lost";

@@ -37,7 +37,7 @@ rc::Gen<History> random() {
     std::uint64_t id = 0;
     for (const auto& [start, end, goal] : *tests::histories(dateSince1970(1772222400.3))) {
       if (end < start || !known.insert({start, end}).second) continue;
-      history.fasts.push_back({finishedFast({7, ++id}, start, end, goal), *notes()});
+      history.fasts.push_back({finishedFast({7, ++id}, start, end, std::max<std::int64_t>(goal, 0)), *notes()});
     }
     if (*rc::gen::inRange(0, 2) == 1)
       history.fasts.push_back({ongoingFast({7, ++id}, dateSince1970(1893456000.125), 59401), *notes()});
