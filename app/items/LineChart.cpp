@@ -89,12 +89,14 @@ qreal LineChart::plotMiddle() const {
 qreal LineChart::contentWidth() const { return layout().contentWidth(); }
 
 void LineChart::geometryChange(const QRectF& newGeometry, const QRectF& oldGeometry) {
+  layoutHeight = newGeometry.height();  // first: the other one tells of it
   ChartItem::geometryChange(newGeometry, oldGeometry);
-  if (newGeometry.size() != oldGeometry.size()) dataChanged();
+  if (newGeometry.width() != oldGeometry.width()) dataChanged();
+  if (newGeometry.height() != oldGeometry.height()) update();
 }
 
 drawing::LineChartLayout LineChart::layout() const {
-  const Size size{innerWidth(), height()};
+  const Size size{innerWidth(), layoutHeight};
   if (!shown) return {.size = size, .domain = {}};
   return {.size = size,
           .domain = shown->domain(),

@@ -21,7 +21,7 @@ class LineChart : public mivo::app::ChartItem {
   Q_PROPERTY(qreal plotWidth READ plotWidth NOTIFY layoutChanged)
   /// y of the middle of the plot.
   Q_PROPERTY(qreal plotMargins READ plotMargins NOTIFY modelChanged)
-  Q_PROPERTY(qreal plotMiddle READ plotMiddle NOTIFY layoutChanged)
+  Q_PROPERTY(qreal plotMiddle READ plotMiddle NOTIFY heightChanged)
   /// The colours of the lines, first to last: fill, text, and the mark on the other theme's surface.
   Q_PROPERTY(QList<QColor> fills MEMBER fills NOTIFY appearanceChanged)
   Q_PROPERTY(QList<QColor> textColors MEMBER textColors NOTIFY appearanceChanged)
@@ -96,6 +96,8 @@ class LineChart : public mivo::app::ChartItem {
 
   LineChartModel* shown = nullptr;
   qreal offset = 0;
+  /// Not asked for: a binding that reads a width would come to depend on the height too, which may follow that width.
+  qreal layoutHeight = 0;
   qreal gutter = Layout::usualGutter;
   TimeRange range = TimeRange::week;
   std::optional<Date> endKept;  ///< of what is seen, where that is not the latest
