@@ -29,9 +29,9 @@ const CLI::App* addForeign(CLI::App& program, const char* name, const char* desc
   return command;
 }
 
-/// The roadmap is a program of its own beside this one: to load the network's libraries alone takes as long as a whole
-/// report.
-int becomeRoadmapProgram(std::vector<std::string> arguments) {
+/// What needs the network is a program of its own beside this one: to load the network's libraries alone takes as long
+/// as a whole report.
+int becomeNetworkProgram(std::vector<std::string> arguments) {
   std::error_code failure;
   const auto self = std::filesystem::read_symlink("/proc/self/exe", failure);
   const auto program = self.parent_path() / "mivo-roadmap";
@@ -89,7 +89,8 @@ int run(const std::vector<std::string>& arguments) {
   const CLI::App& report = addReport(program, reportOptions);
   RecordOptions recordOptions;
   const auto recordCommands = addRecordCommands(program, recordOptions);
-  const std::array foreign{addForeign(program, "roadmap", "List the features that may come, and their votes"),
+  const std::array foreign{addForeign(program, "doctor", "Tell what is where, and whether it is sound"),
+                           addForeign(program, "roadmap", "List the features that may come, and their votes"),
                            addForeign(program, "vote", "Vote for a feature of the roadmap"),
                            addForeign(program, "unvote", "Take a vote back")};
   program.add_subcommand("help", "Tell what a command can do: mivo help add");  // for the list; it never comes here
@@ -104,7 +105,7 @@ int run(const std::vector<std::string>& arguments) {
     return answer(program, parsed, hint(program).c_str());
   }
   if (std::ranges::any_of(foreign, [](const CLI::App* command) { return command->parsed(); }))
-    return becomeRoadmapProgram(arguments);
+    return becomeNetworkProgram(arguments);
   for (const auto& [command, runCommand] : recordCommands)
     if (command->parsed()) return runCommand(recordOptions);
   return report.parsed() ? runReport(reportOptions) : wrongUsage;

@@ -2,6 +2,8 @@
 #include <CLI/CLI.hpp>
 #include <exception>
 
+#include "adapters/curl/CurlURLSession.h"
+#include "cli/doctor/Doctor.h"
 #include "cli/roadmap/RoadmapCommands.h"
 #include "cli/terminal/StandardOutput.h"
 #include "cli/usage/Usage.h"
@@ -27,6 +29,36 @@ CLI::App& addCommand(CLI::App& program, const char* name, const char* descriptio
       ->capture_default_str();
   command.add_option("--locale", options.locale, "The language: de-DE; default: the system's")->type_name("TAG");
   return command;
+}
+
+constexpr const char* doctorFooter =
+    "Examples:\n"
+    "  mivo doctor\n"
+    "  mivo doctor --tally https://tally.example --format json\n\n"
+    "Exit status: 0 all is sound, 1 something is ill, 2 the command line was at fault.";
+
+CLI::App& addDoctor(CLI::App& program, DoctorOptions& options) {
+  CLI::App& doctor = *program.add_subcommand("doctor", "Tell what is where, and whether it is sound");
+  doctor.footer(doctorFooter);
+  doctor.add_option("--database", options.database, "The history; default: the app's own")->type_name("FILE");
+  doctor.add_option("--tally", options.tally, "The server of the votes, to see whether it can be reached")
+      ->type_name("URL")
+      ->envname("MIVO_TALLY_URL");
+  doctor.add_option("--format", options.format, "text or json")
+      ->type_name("FORMAT")
+      ->check(CLI::IsMember({"text", "json"}))
+      ->capture_default_str();
+  return doctor;
+}
+
+int runDoctor(const DoctorOptions& options) {
+  const adapters::CurlURLSession network{{.timeLimit = Duration{5}}};
+  const auto findings = examine(options, network);
+  if (const auto fault = writeOutput(options.format == "json" ? findingsJson(findings) : findingsText(findings))) {
+    complain(*fault);
+    return atFault;
+  }
+  return isSound(findings) ? 0 : atFault;
 }
 
 int finish(const Outcome& outcome) {
@@ -55,11 +87,14 @@ int run(int count, const char* const* arguments) {
   CLI::App& unvote = addCommand(program, "unvote", "Take a vote back", options);
   for (CLI::App* command : {&vote, &unvote})
     command->add_option("FEATURE", options.feature, "The feature's id, as mivo roadmap shows it")->required();
+  DoctorOptions doctorOptions;
+  const CLI::App& doctor = addDoctor(program, doctorOptions);
   try {
     program.parse(count, arguments);
   } catch (const CLI::ParseError& parsed) {
     return answer(program, parsed, "mivo roadmap --help tells what can");
   }
+  if (doctor.parsed()) return runDoctor(doctorOptions);
   const auto dependencies = roadmapDependencies(options);
   if (!dependencies) {
     complain(dependencies.error());

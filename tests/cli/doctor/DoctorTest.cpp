@@ -1,0 +1,83 @@
+// SPDX-License-Identifier: MIT
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <nlohmann/json.hpp>
+
+#include "tests/cli_support/MivoProcess.h"
+
+namespace mivo::cli {
+namespace {
+
+using testing::HasSubstr;
+using testing::Not;
+
+constexpr const char* nowhere = "http://127.0.0.1:1";
+
+TEST(Doctor, isContentWhereNothingHasBegun) {
+  const Workplace place;
+  const Ran ran = place.run("doctor");
+  EXPECT_EQ(ran.status, 0) << ran.output;
+  EXPECT_EQ(ran.errors, "");
+  EXPECT_THAT(ran.output, HasSubstr("mivo/mivo.sqlite: none yet\n"));
+  EXPECT_THAT(ran.output, HasSubstr("  time zone        UTC\n"));
+  EXPECT_THAT(ran.output, HasSubstr("  vote server      none named\n"));
+  EXPECT_FALSE(std::filesystem::exists(place.file("mivo"))) << "it changes nothing";
+}
+
+TEST(Doctor, countsWhatASoundDatabaseHolds) {
+  const Workplace place;
+  place.run("weight add 81kg");
+  const Ran ran = place.run("doctor --format json");
+  EXPECT_EQ(ran.status, 0);
+  const auto json = nlohmann::json::parse(ran.output);
+  EXPECT_EQ(json["isSound"], true);
+  EXPECT_THAT(json["findings"][2]["value"].get<std::string>(), HasSubstr("sound, fasts: 0, weights: 1"));
+}
+
+struct IllRow {
+  const char* name;
+  const char* file;
+  std::string content, arguments, finding;
+};
+
+TEST(Doctor, tellsWhatIsIllAndLeavesItAsItIs) {
+  for (const IllRow& row : {
+           IllRow{"database", "mivo/mivo.sqlite", std::string(5000, 'x'), "", "! database"},
+           IllRow{"namedDatabase", "other", "", "--database none", "! database         none: no such file\n"},
+           IllRow{"settings", "mivo/app.json", "{\"weightUnit\": ", "", "! settings"},
+           IllRow{"sharedSettings", "mivo/group.json", "no JSON", "", "! shared settings"},
+           IllRow{"server", "other", "", std::string{"--tally "} + nowhere,
+                  "! vote server      " + std::string{nowhere}},
+       }) {
+    const Workplace place;
+    std::filesystem::create_directories(place.file("mivo"));
+    place.write(row.file, row.content);
+    const Ran ran = place.run("doctor " + row.arguments);
+    EXPECT_EQ(ran.status, 1) << row.name;
+    EXPECT_THAT(ran.output, HasSubstr(row.finding)) << row.name;
+    EXPECT_EQ(std::filesystem::file_size(place.file(row.file)), row.content.size()) << row.name;
+  }
+}
+
+TEST(Doctor, namesWhatWasSetAside) {
+  const Workplace place;
+  std::filesystem::create_directories(place.file("mivo"));
+  place.write("mivo/mivo.sqlite.damaged-2026-03-01T12:00:00Z", "x");
+  place.write("mivo/mivo.sqlite.damaged-2026-03-01T12:00:00Z-wal", "x");
+  const Ran ran = place.run("doctor");
+  EXPECT_EQ(ran.status, 0);
+  EXPECT_THAT(ran.output, HasSubstr("  set aside        "));
+  EXPECT_THAT(ran.output, Not(HasSubstr("-wal")));
+}
+
+TEST(Doctor, isToldOfByHelpAndRefusesOtherForms) {
+  const Workplace place;
+  EXPECT_THAT(place.run("--help").output, HasSubstr("doctor"));
+  EXPECT_THAT(place.run("help doctor").output, HasSubstr("mivo doctor --tally"));
+  EXPECT_EQ(place.run("doctor --format xml").status, 2);
+}
+
+}  // namespace
+}  // namespace mivo::cli
