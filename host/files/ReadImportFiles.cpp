@@ -14,6 +14,7 @@
 
 #include "adapters/archive/ZipArchive.h"
 #include "adapters/system/FileDescriptor.h"
+#include "host/database/ReadDatabaseBytes.h"
 #include "host/import/ImportReader.h"
 #include "host/text/TextFile.h"
 
@@ -79,11 +80,19 @@ ImportFault unreadable(const std::string& name) {
 
 ImportFault cancelled(const std::string& name) { return fault(name, "cancelled; nothing was changed"); }
 
+/// What was written to a database last may stand in the log beside it, as long as a program has it open.
+bool hasLogBesideIt(const std::string& path) {
+  struct stat status{};
+  return ::stat((path + "-wal").c_str(), &status) == 0 && status.st_size > 0;
+}
+
 std::optional<ImportFault> Files::read(const std::string& path) {
   const std::string name = inputName(path);
   const auto file = opened(path);
   std::string piece;
   if (!file || readPiece(file, piece) < 0) return unreadable(name);
+  if (isDatabase(piece) && hasLogBesideIt(path))
+    return fault(name, "expected a database that no program has open; its latest changes are in " + path + "-wal");
   struct stat status{};
   done = 0;
   total = ::fstat(file.get(), &status) == 0 ? static_cast<std::uint64_t>(std::max<off_t>(status.st_size, 0)) : 0;

@@ -7,6 +7,7 @@
 #include <fstream>
 #include <ostream>
 
+#include "host/database/Database.h"
 #include "tests/support/FixedClients.h"
 #include "tests/support/TemporaryFolder.h"
 
@@ -98,6 +99,18 @@ TEST_F(ReadFiles, refusesArchivesThatAreCutOrLocked) {
   zipUp(folder.file("a.zip"), {{"fasts.csv", fasts}});
   std::filesystem::resize_file(folder.file("a.zip"), 60);
   EXPECT_TRUE(read({"a.zip"}).starts_with("a.zip: expected a zip archive that can be read, as a file: "));
+}
+
+TEST_F(ReadFiles, refusesADatabaseWhoseLatestChangesLieBesideIt) {
+  const Database open{folder.file("d")};
+  EXPECT_EQ(read({"d"}), "d: expected a database that no program has open; its latest changes are in d-wal");
+}
+
+TEST_F(ReadFiles, readsADatabaseThatIsClosed) {
+  {
+    const Database begun{folder.file("d")};
+  }
+  EXPECT_EQ(read({"d"}), "d: 0 fasts, 0 weights, 0 refused; ");
 }
 
 TEST_F(ReadFiles, allOrNone) {
