@@ -35,10 +35,16 @@ std::string dayOf(std::optional<std::chrono::local_days> day) {
   return rfc3339(Date{day->time_since_epoch()}).substr(0, 10);
 }
 
+/// Such a date tells nothing, and is what most files are full of.
+bool hasYearFirst(std::string_view cell) {
+  return cell.size() > 4 && cell[4] == '-' && cell.find_first_not_of("0123456789") == 4;
+}
+
 class Witnesses {
  public:
   void hear(const RecordRows& rows, const RecordRows::Row& row, std::size_t column) {
     const std::string_view cell = row.cells[column];
+    if (hasYearFirst(cell)) return;
     const auto date = readWrittenDate(cell);
     if (!date) return;
     std::optional<Witness>& place = date->isOpen() ? open : !date->monthFirst ? dayFirst : monthFirst;
