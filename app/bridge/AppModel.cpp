@@ -10,16 +10,11 @@
 
 #include "app/bridge/EngineModels.h"
 #include "app/bridge/Stamps.h"
-#include "app/bridge/Text.h"
 #include "host/app/CurrentTipFacts.h"
 #include "host/app/FaultText.h"
 #include "host/fasting/Fasting.h"
-#include "host/pages/Message.h"
 #include "mivo/platform/Dependencies.h"
-#include "mivo/roadmap/FeedbackSheet.h"
-#include "mivo/statistics/AddWeightForm.h"
 #include "mivo/statistics/ComposeScreen.h"
-#include "mivo/statistics/GoalWeightSheet.h"
 #include "mivo/statistics/LineCharts.h"
 #include "mivo/statistics/ScreenInput.h"
 
@@ -69,6 +64,7 @@ AppModel::AppModel(AppServices given)
       overlapRepair{clients, [this](Action action) { send(std::move(action)); }},
       chosenSettings{clients, services.calendar, *services.appearance, services.about,
                      [this] { send(Action::didChangeSettings{}); }} {
+  feedbackTexts.show(composeFeedback(*dependency(&Dependencies::texts)));
   following = store.observe([this](const State& state) { follow(state); });
   load();
   watchTime();
@@ -162,9 +158,11 @@ void AppModel::follow(const State& state) {
   runningFast.follow(state);
   overlapRepair.follow(state.overlapRepair);
   chosenSettings.follow(statistics);
+  goalWeight.show(composeGoalWeightSheet(statistics.goalWeightCardState, *dependency(&Dependencies::texts),
+                                         *dependency(&Dependencies::numberFormatter),
+                                         *dependency(&Dependencies::massFormatter)));
+  said.show(host::composeMessage(state, *dependency(&Dependencies::texts)));
   followDestination(statistics);
-  Q_EMIT messagesChanged();
-  Q_EMIT changed();
 }
 
 void AppModel::followDestination(const StatisticsFeature::State& state) {
@@ -190,19 +188,7 @@ void AppModel::tellTips(const State& state) const {
   if (const auto& shown = *state.statistics.currentTipID) services.tips->didShow(*shown);
 }
 
-QString AppModel::destination() const { return shownDestination; }
-
-GoalSheet AppModel::goalSheet() const {
-  return valueOf(composeGoalWeightSheet(store.state().statistics.goalWeightCardState, *dependency(&Dependencies::texts),
-                                        *dependency(&Dependencies::numberFormatter),
-                                        *dependency(&Dependencies::massFormatter)));
-}
-
 QString AppModel::failure() const { return qString(store.state().failure); }
-
-MessageTexts AppModel::message() const {
-  return valueOf(host::composeMessage(store.state(), *dependency(&Dependencies::texts)));
-}
 
 void AppModel::appear() { sendStatistics(Sent::onAppear{}); }
 
@@ -238,8 +224,6 @@ void AppModel::openGoalWeight() {
 void AppModel::setGoalWeight(const QString& text) {
   sendStatistics(Sent::goalWeightCardAction{GoalWeightCardFeature::Action::didTypeGoal{text.toStdString()}});
 }
-
-FeedbackTexts AppModel::feedback() const { return valueOf(composeFeedback(*dependency(&Dependencies::texts))); }
 
 bool AppModel::canSend(const QString& idea) const { return isIdea(idea.toStdString()); }
 

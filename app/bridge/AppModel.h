@@ -17,12 +17,12 @@
 #include "app/bridge/DonationsModel.h"
 #include "app/bridge/FastingModel.h"
 #include "app/bridge/LineChartModel.h"
-#include "app/bridge/Records.h"
 #include "app/bridge/RepairModel.h"
 #include "app/bridge/RoadmapModel.h"
 #include "app/bridge/ScreenModel.h"
 #include "app/bridge/SettingsModel.h"
 #include "app/bridge/WeightsModel.h"
+#include "app/records/Records.h"
 #include "host/app/AppFeature.h"
 #include "host/tips/Tips.h"
 #include "mivo/store/Store.h"
@@ -67,9 +67,9 @@ class AppModel : public QObject {
   Q_PROPERTY(mivo::app::RoadmapModel* roadmap READ roadmap NOTIFY destinationChanged)
   /// What the statistics present: "badges", "roadmap", "donations", or nothing.
   Q_PROPERTY(QString destination READ destination NOTIFY destinationChanged)
-  Q_PROPERTY(mivo::app::GoalSheet goalSheet READ goalSheet NOTIFY changed)
-  Q_PROPERTY(mivo::app::FeedbackTexts feedback READ feedback CONSTANT)
-  Q_PROPERTY(mivo::app::MessageTexts message READ message NOTIFY messagesChanged)
+  Q_PROPERTY(mivo::app::GoalWeightSheetRecord* goalSheet READ goalSheet CONSTANT)
+  Q_PROPERTY(mivo::app::FeedbackSheetRecord* feedback READ feedback CONSTANT)
+  Q_PROPERTY(mivo::app::MessageRecord* message READ message CONSTANT)
   /// Whether anybody can see the window; while nobody can, only the minute's update is done.
   Q_PROPERTY(bool watched READ isWatched NOTIFY watchedChanged)
 
@@ -94,10 +94,10 @@ class AppModel : public QObject {
   RepairModel* repair() { return &overlapRepair; }
   SettingsModel* settings() { return &chosenSettings; }
   RoadmapModel* roadmap() { return features.get(); }
-  QString destination() const;
-  GoalSheet goalSheet() const;
-  FeedbackTexts feedback() const;
-  MessageTexts message() const;
+  GoalWeightSheetRecord* goalSheet() { return &goalWeight; }
+  FeedbackSheetRecord* feedback() { return &feedbackTexts; }
+  MessageRecord* message() { return &said; }
+  QString destination() const { return shownDestination; }
   /// One sentence about what failed; empty where nothing did.
   QString failure() const;
 
@@ -133,10 +133,7 @@ class AppModel : public QObject {
 
  Q_SIGNALS:
   void destinationChanged();
-  void messagesChanged();
   void watchedChanged();
-  /// Something was written that other screens may show.
-  void changed();
 
  private:
   void load();
@@ -164,6 +161,9 @@ class AppModel : public QObject {
   DonationsModel donationSheet;
   RepairModel overlapRepair;
   SettingsModel chosenSettings;
+  GoalWeightSheetRecord goalWeight;
+  FeedbackSheetRecord feedbackTexts;
+  MessageRecord said;
   std::unique_ptr<RoadmapModel> features;
   QString shownDestination;
   bool watched = true;

@@ -3,9 +3,6 @@
 
 #include <utility>
 
-#include "app/bridge/Records.h"
-#include "app/bridge/Text.h"
-
 namespace mivo::app {
 
 DateTimeChoiceModel::DateTimeChoiceModel(std::function<PageClients()> present) : clients{std::move(present)} {
@@ -28,7 +25,7 @@ bool DateTimeChoiceModel::type(const QString& written) {
 
 void DateTimeChoiceModel::become(const host::DateTimeEntry& next) {
   entry = next;
-  carry(composeDateTimeChoice(entry, clients()), *this);
+  show(composeDateTimeChoice(entry, clients()));
 }
 
 }  // namespace mivo::app

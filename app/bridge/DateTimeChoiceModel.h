@@ -2,36 +2,18 @@
 #pragma once
 
 #include <QtQml/qqmlregistration.h>
-#include <QtCore/QObject>
-#include <QtCore/QString>
 
 #include <functional>
 
-#include "app/bridge/Carry.h"
-#include "host/pages/DateTimeChoice.h"
+#include "app/records/Records.h"
 
 namespace mivo::app {
 
 /// A `host::DateTimeChoice`, and the entry that it is composed of.
-class DateTimeChoiceModel : public QObject {
+class DateTimeChoiceModel : public mivo::app::DateTimeChoiceRecord {
   Q_OBJECT
   QML_ELEMENT
   QML_UNCREATABLE("the app makes them")
-  Q_PROPERTY(double instant MEMBER instant NOTIFY instantChanged)
-  Q_PROPERTY(double today MEMBER today NOTIFY todayChanged)
-  Q_PROPERTY(QString text MEMBER text NOTIFY instantChanged)
-  Q_PROPERTY(int dayCount MEMBER dayCount NOTIFY todayChanged)
-  Q_PROPERTY(int todayPlace MEMBER todayPlace NOTIFY todayChanged)
-  Q_PROPERTY(int day MEMBER day NOTIFY dayChanged)
-  Q_PROPERTY(int hour MEMBER hour NOTIFY hourChanged)
-  Q_PROPERTY(int minute MEMBER minute NOTIFY minuteChanged)
-  Q_PROPERTY(QString daySpoken MEMBER daySpoken NOTIFY dayChanged)
-  Q_PROPERTY(QString hourSpoken MEMBER hourSpoken NOTIFY hourChanged)
-  Q_PROPERTY(QString minuteSpoken MEMBER minuteSpoken NOTIFY minuteChanged)
-  Q_PROPERTY(QString doneLabel MEMBER doneLabel NOTIFY todayChanged)
-  Q_PROPERTY(QString typeLabel MEMBER typeLabel NOTIFY todayChanged)
-  Q_PROPERTY(QString typed MEMBER typed NOTIFY instantChanged)
-  Q_PROPERTY(QString typedProblem MEMBER typedProblem NOTIFY instantChanged)
 
  public:
   explicit DateTimeChoiceModel(std::function<PageClients()> clients);
@@ -48,21 +30,11 @@ class DateTimeChoiceModel : public QObject {
   Q_INVOKABLE QString hourText(int place) const;
   Q_INVOKABLE QString minuteText(int place) const;
 
- Q_SIGNALS:
-  void instantChanged();
-  void todayChanged();
-  void dayChanged();
-  void hourChanged();
-  void minuteChanged();
-
  private:
   void become(const host::DateTimeEntry& next);
 
   std::function<PageClients()> clients;
   host::DateTimeEntry entry;
-  QString text, daySpoken, hourSpoken, minuteSpoken, doneLabel, typeLabel, typed, typedProblem;
-  double instant = 0, today = 0;
-  int dayCount = 0, todayPlace = 0, day = 0, hour = 0, minute = 0;
 };
 
 }  // namespace mivo::app

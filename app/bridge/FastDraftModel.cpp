@@ -4,12 +4,10 @@
 #include <cmath>
 #include <utility>
 
-#include "app/bridge/Records.h"
-
 namespace mivo::app {
 
-FastDraftModel::FastDraftModel(std::function<PageClients()> present, std::function<void(Action)> sends, QObject* parent)
-    : QObject{parent}, clients{std::move(present)}, send{std::move(sends)} {}
+FastDraftModel::FastDraftModel(std::function<PageClients()> present, std::function<void(Action)> sends)
+    : clients{std::move(present)}, send{std::move(sends)} {}
 
 void FastDraftModel::follow(const host::AppFeature::State& state) {
   std::vector<Stamp> read{state.draft.stamp(), state.fasts.stamp(), state.now.stamp()};
@@ -21,10 +19,7 @@ void FastDraftModel::follow(const host::AppFeature::State& state) {
 }
 
 void FastDraftModel::retell() {
-  if (!draft) return;
-  const auto sheet = composeFastSheet(*draft, fasts, clients());
-  carry(sheet, *this);
-  zoneRows.show(sheet.zones);
+  if (draft) show(composeFastSheet(*draft, fasts, clients()));
 }
 
 void FastDraftModel::setGoal(double chosen) {

@@ -2,67 +2,48 @@
 #pragma once
 
 #include <QtQml/qqmlregistration.h>
-#include <QtCore/QString>
 
 #include <functional>
 #include <vector>
 
-#include "app/bridge/RecordRows.h"
 #include "app/bridge/SeenRows.h"
+#include "app/records/Records.h"
 #include "host/app/AppFeature.h"
-#include "host/pages/HistoryPage.h"
 
 namespace mivo::app {
 
 /// A `host::HistoryPage` and its rows.
-class FastHistoryModel : public SeenRows {
+class FastHistoryModel : public mivo::app::HistoryPageRecord {
   Q_OBJECT
   QML_ELEMENT
   QML_UNCREATABLE("the app has one")
-  Q_PROPERTY(QString title MEMBER title NOTIFY textsChanged)
-  Q_PROPERTY(QString addLabel MEMBER addLabel NOTIFY textsChanged)
-  Q_PROPERTY(QString note MEMBER note NOTIFY textsChanged)
-  Q_PROPERTY(int count MEMBER count NOTIFY countChanged)
-  Q_PROPERTY(qreal scaleSeconds MEMBER scaleSeconds NOTIFY scaleSecondsChanged)
-  Q_PROPERTY(QString menuTitle MEMBER menuTitle NOTIFY textsChanged)
-  Q_PROPERTY(QString editLabel MEMBER editLabel NOTIFY textsChanged)
-  Q_PROPERTY(QString removeLabel MEMBER removeLabel NOTIFY textsChanged)
-  Q_PROPERTY(QString monthsLabel MEMBER monthsLabel NOTIFY textsChanged)
-  Q_PROPERTY(bool hasMonths MEMBER hasMonths NOTIFY countChanged)
   /// `host::HistoryMonth`s, as they were when they were looked up.
-  Q_PROPERTY(mivo::app::RecordRows* months READ months CONSTANT)
+  Q_PROPERTY(mivo::app::RecordRows* months MEMBER months CONSTANT)
+  Q_PROPERTY(mivo::app::SeenRows* rows MEMBER rows CONSTANT)
 
  public:
   using Action = host::AppFeature::Action;
-  FastHistoryModel(std::function<PageClients()> clients, std::function<void(Action)> send, QObject* parent = nullptr);
-
-  RecordRows* months() { return &monthRows; }
+  FastHistoryModel(std::function<PageClients()> clients, std::function<void(Action)> send);
 
   void follow(const host::AppFeature::State& state);
+  void retell() { rows->retell(); }
 
   /// Begins the draft with the fast of a row.
   Q_INVOKABLE void edit(int row);
   Q_INVOKABLE void remove(int row);
-  Q_INVOKABLE void lookUpMonths() { monthRows.show(composeHistoryMonths(facts, clients())); }
+  Q_INVOKABLE void lookUpMonths();
   /// What is spoken while the keyboard is at a row.
   Q_INVOKABLE QString spokenText(int row) const;
-
- Q_SIGNALS:
-  void textsChanged();
-  void countChanged();
-  void scaleSecondsChanged();
 
  private:
   void take(host::HistoryFacts next);
 
+  std::function<PageClients()> clients;
   std::function<void(Action)> send;
   host::HistoryFacts facts;
   std::vector<Stamp> seen;
-  QString title, addLabel, note, menuTitle, editLabel, removeLabel, monthsLabel;
-  int count = 0;
-  bool hasMonths = false;
-  RecordRows monthRows{rolesOf<host::HistoryMonth>()};
-  qreal scaleSeconds = 0;
+  SeenRows* const rows;
+  RecordRows* const months = new RecordRows{rolesOf<host::HistoryMonth>(), this};
 };
 
 }  // namespace mivo::app

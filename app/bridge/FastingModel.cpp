@@ -4,17 +4,10 @@
 #include <cmath>
 #include <utility>
 
-#include "app/bridge/Records.h"
-#include "app/bridge/Text.h"
-
 namespace mivo::app {
 
-FastingModel::FastingModel(std::function<PageClients()> present, std::function<void(Action)> sends, QObject* parent)
-    : QObject{parent},
-      clients{std::move(present)},
-      send{std::move(sends)},
-      ended{clients, send},
-      edited{clients, send} {
+FastingModel::FastingModel(std::function<PageClients()> present, std::function<void(Action)> sends)
+    : clients{std::move(present)}, send{std::move(sends)}, ended{clients, send}, edited{clients, send} {
   timer.setSingleShot(true);
   timer.setTimerType(Qt::PreciseTimer);
   connect(&timer, &QTimer::timeout, this, &FastingModel::tick);
@@ -44,26 +37,10 @@ void FastingModel::setWatched(bool isNow) {
 
 void FastingModel::tick() {
   const auto present = clients();
-  const auto page = composeFastingPage(facts, present);
-  carry(page, *this);
-  zoneRows.show(page.zones);
-  showMarks(page.marks);
+  show(composeFastingPage(facts, present));
   timer.stop();
   if (const auto seconds = untilNextTick(facts, watched, present.now))
     timer.start(static_cast<int>(std::ceil(*seconds * 1000)) + 1);
-}
-
-void FastingModel::showMarks(const std::vector<host::RingMark>& marks) {
-  QList<qreal> places;
-  QStringList names;
-  for (const auto& [seconds, text] : marks) {
-    places.append(seconds);
-    names.append(qString(text));
-  }
-  if (places == markPlaces && names == markTexts) return;
-  markPlaces = std::move(places);
-  markTexts = std::move(names);
-  Q_EMIT marksChanged();
 }
 
 void FastingModel::start() { send(Action::didTapStart{clients().now, facts.nextGoalSeconds}); }

@@ -2,10 +2,6 @@
 #pragma once
 
 #include <QtQml/qqmlregistration.h>
-#include <QtCore/QList>
-#include <QtCore/QObject>
-#include <QtCore/QString>
-#include <QtCore/QStringList>
 #include <QtCore/QTimer>
 
 #include <functional>
@@ -15,44 +11,17 @@
 #include "app/bridge/FastDraftModel.h"
 #include "app/bridge/FastHistoryModel.h"
 #include "app/bridge/GoalChoiceModel.h"
-#include "app/bridge/RecordRows.h"
+#include "app/records/Records.h"
 #include "host/app/AppFeature.h"
-#include "host/pages/FastingPage.h"
 
 namespace mivo::app {
 
 /// A `host::FastingPage`, composed anew whenever it says something else; its buttons, the history and the draft of the
 /// fast that is edited.
-class FastingModel : public QObject {
+class FastingModel : public mivo::app::FastingPageRecord {
   Q_OBJECT
   QML_ELEMENT
   QML_UNCREATABLE("the app has one")
-  Q_PROPERTY(QString title MEMBER title NOTIFY changed)
-  Q_PROPERTY(bool isRunning MEMBER isRunning NOTIFY changed)
-  Q_PROPERTY(bool isEating MEMBER isEating NOTIFY changed)
-  Q_PROPERTY(QString elapsed MEMBER elapsed NOTIFY elapsedChanged)
-  Q_PROPERTY(QString duration MEMBER duration NOTIFY durationChanged)
-  Q_PROPERTY(QString zone MEMBER zone NOTIFY zoneChanged)
-  Q_PROPERTY(QString zoneName MEMBER zoneName NOTIFY zoneChanged)
-  Q_PROPERTY(QString goalText MEMBER goalText NOTIFY durationChanged)
-  Q_PROPERTY(QString invitation MEMBER invitation NOTIFY changed)
-  Q_PROPERTY(QString invitationDetail MEMBER invitationDetail NOTIFY changed)
-  Q_PROPERTY(QString warning MEMBER warning NOTIFY warningChanged)
-  Q_PROPERTY(mivo::app::RecordRows* zones READ zones CONSTANT)
-  Q_PROPERTY(QString startLabel MEMBER startLabel NOTIFY changed)
-  Q_PROPERTY(QString startText MEMBER startText NOTIFY startChanged)
-  Q_PROPERTY(QString startSpoken MEMBER startSpoken NOTIFY startChanged)
-  Q_PROPERTY(double started MEMBER started NOTIFY startChanged)
-  Q_PROPERTY(QString goalLabel MEMBER goalLabel NOTIFY changed)
-  Q_PROPERTY(QString goal MEMBER goal NOTIFY goalChanged)
-  Q_PROPERTY(QString goalSpoken MEMBER goalSpoken NOTIFY goalChanged)
-  Q_PROPERTY(qreal goalSeconds MEMBER goalSeconds NOTIFY goalChanged)
-  Q_PROPERTY(QString button MEMBER button NOTIFY changed)
-  Q_PROPERTY(QString spoken MEMBER spoken NOTIFY durationChanged)
-  Q_PROPERTY(qreal ringSeconds MEMBER ringSeconds NOTIFY ringChanged)
-  Q_PROPERTY(qreal ringSpan MEMBER ringSpan NOTIFY ringChanged)
-  Q_PROPERTY(QList<qreal> markPlaces MEMBER markPlaces NOTIFY marksChanged)
-  Q_PROPERTY(QStringList markTexts MEMBER markTexts NOTIFY marksChanged)
   /// Whether anybody sees the seconds; else only the minutes go on.
   Q_PROPERTY(bool watched MEMBER watched WRITE setWatched NOTIFY watchedChanged)
   Q_PROPERTY(mivo::app::FastHistoryModel* history READ history CONSTANT)
@@ -60,14 +29,13 @@ class FastingModel : public QObject {
 
  public:
   using Action = host::AppFeature::Action;
-  FastingModel(std::function<PageClients()> clients, std::function<void(Action)> send, QObject* parent = nullptr);
+  FastingModel(std::function<PageClients()> clients, std::function<void(Action)> send);
 
   void follow(const host::AppFeature::State& state);
   /// Every text may read differently, though no record was changed.
   void retell();
 
   void setWatched(bool isNow);
-  RecordRows* zones() { return &zoneRows; }
   FastHistoryModel* history() { return &ended; }
   FastDraftModel* draft() { return &edited; }
 
@@ -86,20 +54,10 @@ class FastingModel : public QObject {
   Q_INVOKABLE mivo::app::DateTimeChoiceModel* dateTimeChoice() const { return new DateTimeChoiceModel{clients}; }
 
  Q_SIGNALS:
-  void changed();
-  void elapsedChanged();
-  void durationChanged();
-  void zoneChanged();
-  void warningChanged();
-  void startChanged();
-  void goalChanged();
-  void ringChanged();
-  void marksChanged();
   void watchedChanged();
 
  private:
   void tick();
-  void showMarks(const std::vector<host::RingMark>& marks);
 
   std::function<PageClients()> clients;
   std::function<void(Action)> send;
@@ -108,14 +66,7 @@ class FastingModel : public QObject {
   std::vector<Stamp> seen;
   FastHistoryModel ended;
   FastDraftModel edited;
-  RecordRows zoneRows{rolesOf<host::ZoneTimeText>()};
-  QString title, elapsed, duration, zone, zoneName, goalText, invitation, invitationDetail, warning, startLabel,
-      startText, startSpoken, goalLabel, goal, goalSpoken, button, spoken;
-  bool isRunning = false, isEating = false, watched = false;
-  double started = 0;
-  qreal goalSeconds = 0, ringSeconds = 0, ringSpan = 0;
-  QList<qreal> markPlaces;
-  QStringList markTexts;
+  bool watched = false;
   QTimer timer;
 };
 

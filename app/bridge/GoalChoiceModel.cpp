@@ -4,8 +4,6 @@
 #include <cmath>
 #include <utility>
 
-#include "app/bridge/Records.h"
-
 namespace mivo::app {
 
 GoalChoiceModel::GoalChoiceModel(std::function<PageClients()> present) : clients{std::move(present)} { begin(0); }
@@ -33,10 +31,6 @@ void GoalChoiceModel::become(host::GoalEntry next) {
   if (isOther) Q_EMIT chosen(seconds);
 }
 
-void GoalChoiceModel::compose() {
-  const auto choice = composeGoalChoice(entry, otherProblem, clients());
-  carry(choice, *this);
-  offered.show(choice.offers);
-}
+void GoalChoiceModel::compose() { show(composeGoalChoice(entry, otherProblem, clients())); }
 
 }  // namespace mivo::app

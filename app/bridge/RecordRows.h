@@ -4,9 +4,8 @@
 #include <QtQml/qqmlregistration.h>
 #include <QtCore/QAbstractListModel>
 
+#include <utility>
 #include <vector>
-
-#include "app/bridge/Carry.h"
 
 namespace mivo::app {
 
@@ -18,14 +17,11 @@ class RecordRows : public QAbstractListModel {
   Q_PROPERTY(int count READ count NOTIFY countChanged)
 
  public:
-  explicit RecordRows(QHash<int, QByteArray> roles) : names{std::move(roles)} {}
+  explicit RecordRows(QHash<int, QByteArray> roles, QObject* parent = nullptr)
+      : QAbstractListModel{parent}, names{std::move(roles)} {}
 
-  template <class Listed>
-  void show(const std::vector<Listed>& records) {
-    std::vector<QVariantList> next;
-    for (const Listed& record : records) next.push_back(valuesOf(record));
-    become(std::move(next));
-  }
+  /// Takes over the values of all roles, row by row.
+  void become(std::vector<QVariantList> next);
 
   int count() const { return static_cast<int>(rows.size()); }
   int rowCount(const QModelIndex& parent = {}) const override { return parent.isValid() ? 0 : count(); }
@@ -36,8 +32,6 @@ class RecordRows : public QAbstractListModel {
   void countChanged();
 
  private:
-  void become(std::vector<QVariantList> next);
-
   QHash<int, QByteArray> names;
   std::vector<QVariantList> rows;
 };

@@ -3,21 +3,15 @@
 
 #include <utility>
 
-#include "app/bridge/Records.h"
-
 namespace mivo::app {
 
-RepairModel::RepairModel(std::function<PageClients()> present, std::function<void(Action)> sends, QObject* parent)
-    : QObject{parent}, clients{std::move(present)}, send{std::move(sends)} {}
+RepairModel::RepairModel(std::function<PageClients()> present, std::function<void(Action)> sends)
+    : clients{std::move(present)}, send{std::move(sends)} {}
 
 void RepairModel::follow(const std::optional<host::HistoryChange>& proposal) {
   if (proposal == change) return;
   change = proposal;
-  if (change) {
-    const auto sheet = composeRepairSheet(*change, clients());
-    carry(sheet, *this);
-    repairs.show(sheet.rows);
-  }
+  if (change) show(composeRepairSheet(*change, clients()));
   Q_EMIT isProposedChanged();
 }
 

@@ -8,29 +8,29 @@
 #include <memory>
 #include <vector>
 
-#include "app/bridge/CardModels.h"
+#include "app/records/Records.h"
 
 namespace mivo::app {
 
-/// The cards of the statistics screen from top to bottom. A card object lives as long as its kind is shown, so that a
-/// recomputation changes texts in place and never rebuilds what the user is touching.
+/// The cards of the statistics screen from top to bottom. A kind keeps its object, so that a recomputation changes
+/// texts in place and never rebuilds what the user is touching.
 class ScreenModel : public QAbstractListModel {
   Q_OBJECT
   QML_ELEMENT
   QML_UNCREATABLE("the app has one")
   Q_PROPERTY(int count READ count NOTIFY cardsChanged)
   /// The picker of the range, where it is one of the cards.
-  Q_PROPERTY(mivo::app::TimeRangeCardModel* timeRange READ timeRange NOTIFY cardsChanged)
+  Q_PROPERTY(mivo::app::TimeRangeCardRecord* timeRange READ timeRange NOTIFY cardsChanged)
 
  public:
   enum Role { KindRole = Qt::UserRole, CardRole };
 
   int rowCount(const QModelIndex& parent = {}) const override;
   QVariant data(const QModelIndex& index, int role) const override;
-  QHash<int, QByteArray> roleNames() const override;
+  QHash<int, QByteArray> roleNames() const override { return {{KindRole, "kind"}, {CardRole, "card"}}; }
 
   int count() const { return rowCount(); }
-  TimeRangeCardModel* timeRange() const;
+  TimeRangeCardRecord* timeRange() const;
 
   /// Takes a newly composed screen over.
   void show(const std::vector<Card>& composed);
@@ -42,12 +42,12 @@ class ScreenModel : public QAbstractListModel {
   void cardsChanged();
 
  private:
-  CardModel* update(CardKind kind, const CardContent& content);
-  void become(const std::vector<CardModel*>& next);
-  void dropHidden();
+  template <class Content>
+  void update(CardKind kind, const Content& composed);
+  void become(const std::vector<CardKind>& next);
 
-  std::vector<CardModel*> shown;
-  std::map<CardKind, std::unique_ptr<CardModel>> models;
+  std::vector<CardKind> shown;
+  std::map<CardKind, std::unique_ptr<QObject>> cards;
 };
 
 }  // namespace mivo::app

@@ -4,7 +4,6 @@
 #include <cmath>
 #include <utility>
 
-#include "app/bridge/Text.h"
 #include "mivo/platform/Dependencies.h"
 
 namespace mivo::app {
@@ -18,12 +17,7 @@ void CardSettingsModel::follow(const StatisticsFeature::State& state, const Page
   if (std::exchange(isShown, true) && flags == state.dashboardSettings && streaks == *state.streakSettings) return;
   flags = state.dashboardSettings;
   streaks = state.streakSettings;
-  const auto composed = host::composeCardSettings(flags, streaks, clients);
-  carry(composed, *this);
-  cardRows.show(composed.cards);
-  chartRows.show(composed.charts);
-  trendRows.show(composed.trends);
-  Q_EMIT changed();
+  show(host::composeCardSettings(flags, streaks, clients));
 }
 
 void CardSettingsModel::toggle(host::CardGroup group, int row) {
@@ -54,42 +48,30 @@ void CardSettingsModel::changeLongestBreak(int hours) {
   keep(settings);
 }
 
-AboutModel::AboutModel(const host::AboutPage& page)
-    : title{qString(page.title)}, note{qString(page.note)}, librariesTitle{qString(page.librariesTitle)} {
-  factRows.show(page.facts);
-  libraryRows.show(page.libraries);
-}
-
 SettingsModel::SettingsModel(std::function<PageClients()> present, std::shared_ptr<host::WeekCalendar> week,
                              Appearance& looks, const host::AboutFacts& about, std::function<void()> tells)
-    : clients{std::move(present)},
-      calendar{std::move(week)},
-      look{looks},
-      told{std::move(tells)},
-      shownCards{told},
-      app{host::composeAbout(about, {{std::string{"Qt "} + qVersion(), "LGPL-3.0"}},
-                             *dependency(&Dependencies::texts))} {
+    : clients{std::move(present)}, calendar{std::move(week)}, look{looks}, told{std::move(tells)}, shownCards{told} {
+  aboutPage.show(
+      host::composeAbout(about, {{std::string{"Qt "} + qVersion(), "LGPL-3.0"}}, *dependency(&Dependencies::texts)));
   facts.usualWeekday = calendar->usualFirstWeekday();
   facts.version = about.version;
-  connect(&look, &Appearance::changed, this, &SettingsModel::show);
+  connect(&look, &Appearance::changed, this, &SettingsModel::compose);
 }
 
 void SettingsModel::follow(const StatisticsFeature::State& state) {
   shownCards.follow(state, clients());
   facts.weightUnit = state.goalWeightCardState.weightUnit;
-  show();
+  compose();
 }
 
-void SettingsModel::show() {
+void SettingsModel::compose() {
   facts.goalSeconds = host::goalSeconds(defaults());
   facts.chosenWeekday = host::firstWeekday(defaults());
   facts.language = host::language(defaults());
   facts.appearance = look.present();
-  if (shown == facts) return;
-  shown = facts;
-  const auto composed = host::composeSettings(facts, clients());
-  carry(composed, *this);
-  Q_EMIT changed();
+  if (composed == facts) return;
+  composed = facts;
+  show(host::composeSettings(facts, clients()));
 }
 
 void SettingsModel::chooseGoal(double seconds) {
@@ -112,7 +94,7 @@ void SettingsModel::chooseLanguage(int place) {
   const std::string tag = host::languageAt(place);
   if (tag == host::language(defaults())) return;
   host::setLanguage(defaults(), tag);
-  show();
+  compose();
   Q_EMIT languageChosen();
 }
 

@@ -4,21 +4,19 @@
 #include <algorithm>
 #include <utility>
 
-#include "app/bridge/Records.h"
-#include "app/bridge/Text.h"
-
 namespace mivo::app {
 
 using Edit = PresentationAction<AddWeightLogFeature::Action>;
 
-WeightsModel::WeightsModel(std::function<PageClients()> present, std::function<void(Action)> sends, QObject* parent)
-    : SeenRows{rolesOf<host::WeightRow>(), std::move(present),
-               [this](std::size_t row, const PageClients& now) {
-                 return valuesOf(host::composeWeightRow(*host::weightOf(weights, row), unit, now));
-               },
-               parent},
+WeightsModel::WeightsModel(std::function<PageClients()> present, std::function<void(Action)> sends)
+    : clients{std::move(present)},
       send{std::move(sends)},
-      form{[this](AddWeightModel::Action action) { sendEdited(Edit::presented{std::move(action)}); }} {}
+      form{[this](AddWeightModel::Action action) { sendEdited(Edit::presented{std::move(action)}); }},
+      rows{new SeenRows{rolesOf<host::WeightRow>(), clients,
+                        [this](std::size_t row, const PageClients& now) {
+                          return valuesOf(host::composeWeightRow(*host::weightOf(weights, row), unit, now));
+                        },
+                        this}} {}
 
 void WeightsModel::follow(const host::AppFeature::State& state) {
   take(state);
@@ -33,13 +31,14 @@ void WeightsModel::take(const host::AppFeature::State& state) {
   std::vector<Stamp> read{state.weights.stamp(), shown.stamp(), state.now.stamp()};
   if (std::exchange(seen, read) == read) return;
   const host::RowChange change = host::rowChange(weights, *state.weights);
-  become(change, [&] { weights = *state.weights; });
-  for (std::size_t row = change.first; row < change.first + std::min(change.removed, change.added); ++row) tellRow(row);
+  rows->become(change, [&] { weights = *state.weights; });
+  for (std::size_t row = change.first; row < change.first + std::min(change.removed, change.added); ++row)
+    rows->tellRow(row);
   if (std::exchange(unit, *shown) != unit)
     retell();
   else
-    retellOnAnotherDay();
-  carry(host::composeWeightsPage(weights, clients().texts), *this);
+    rows->retellOnAnotherDay();
+  show(host::composeWeightsPage(weights, clients().texts));
 }
 
 void WeightsModel::edit(int row) {

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <QtQml/qqmlregistration.h>
-#include <QtCore/QString>
 
 #include <functional>
 #include <optional>
@@ -10,33 +9,27 @@
 
 #include "app/bridge/AddWeightModel.h"
 #include "app/bridge/SeenRows.h"
+#include "app/records/Records.h"
 #include "host/app/AppFeature.h"
-#include "host/pages/WeightsPage.h"
 
 namespace mivo::app {
 
 /// A `host::WeightsPage`, its rows, and the weight that is edited.
-class WeightsModel : public SeenRows {
+class WeightsModel : public mivo::app::WeightsPageRecord {
   Q_OBJECT
   QML_ELEMENT
   QML_UNCREATABLE("the app has one")
-  Q_PROPERTY(QString openLabel MEMBER openLabel NOTIFY countChanged)
-  Q_PROPERTY(QString title MEMBER title NOTIFY textsChanged)
-  Q_PROPERTY(QString note MEMBER note NOTIFY textsChanged)
-  Q_PROPERTY(int count MEMBER count NOTIFY countChanged)
-  Q_PROPERTY(QString menuTitle MEMBER menuTitle NOTIFY textsChanged)
-  Q_PROPERTY(QString editLabel MEMBER editLabel NOTIFY textsChanged)
-  Q_PROPERTY(QString saveLabel MEMBER saveLabel NOTIFY textsChanged)
-  Q_PROPERTY(QString removeLabel MEMBER removeLabel NOTIFY textsChanged)
+  Q_PROPERTY(mivo::app::SeenRows* rows MEMBER rows CONSTANT)
   Q_PROPERTY(bool isEditing READ isEditing NOTIFY isEditingChanged)
   /// The weight that is edited; once none is any more, as it was last.
   Q_PROPERTY(mivo::app::AddWeightModel* entry READ entry CONSTANT)
 
  public:
   using Action = host::AppFeature::Action;
-  WeightsModel(std::function<PageClients()> clients, std::function<void(Action)> send, QObject* parent = nullptr);
+  WeightsModel(std::function<PageClients()> clients, std::function<void(Action)> send);
 
   void follow(const host::AppFeature::State& state);
+  void retell() { rows->retell(); }
   bool isEditing() const { return edited.has_value(); }
   AddWeightModel* entry() { return &form; }
 
@@ -48,8 +41,6 @@ class WeightsModel : public SeenRows {
   Q_INVOKABLE QString spokenText(int row) const;
 
  Q_SIGNALS:
-  void textsChanged();
-  void countChanged();
   void isEditingChanged();
 
  private:
@@ -57,14 +48,14 @@ class WeightsModel : public SeenRows {
   void take(const host::AppFeature::State& state);
   void sendEdited(PresentationAction<AddWeightLogFeature::Action> action);
 
+  std::function<PageClients()> clients;
   std::function<void(Action)> send;
   List<BodyWeightSample> weights;
   WeightUnit unit = WeightUnit::kilograms;
   std::optional<UUID> edited;
   AddWeightModel form;
   std::vector<Stamp> seen;
-  QString openLabel, title, note, menuTitle, editLabel, saveLabel, removeLabel;
-  int count = 0;
+  SeenRows* const rows;
 };
 
 }  // namespace mivo::app

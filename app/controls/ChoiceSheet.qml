@@ -7,7 +7,7 @@ import Mivo
 Sheet {
     id: root
 
-    required property choice choice
+    required property choiceRecord choice
     /// For words that arrive in lower case.
     property int capitalization: Font.MixedCase
 

@@ -25,7 +25,11 @@ Sheet {
             root.close();
         }
 
-        function onGoalChanged() {
+        function onGoalSecondsChanged() {
+            root.goal.tellProblem(root.draft.goalProblem);
+        }
+
+        function onGoalProblemChanged() {
             root.goal.tellProblem(root.draft.goalProblem);
         }
     }

@@ -6,7 +6,7 @@ import Mivo
 HistoryView {
     id: root
 
-    model: App.fasting.history
+    model: App.fasting.history.rows
     header: HistoryHead {}
     delegate: HistoryRow {}
     footer: Item { height: Theme.pageMargin }

@@ -19,8 +19,7 @@ Item {
         anchors.fill: parent
         seconds: App.fasting.ringSeconds
         spanSeconds: App.fasting.ringSpan
-        marks: App.fasting.markPlaces
-        markTexts: App.fasting.markTexts
+        marks: App.fasting.marks
         running: !App.fasting.isEating
         fills: Theme.zoneFills
         tints: Theme.zoneTints

@@ -3,7 +3,6 @@
 
 #include <QtGui/QPainter>
 
-#include <algorithm>
 #include <cmath>
 
 namespace mivo::app {
@@ -33,10 +32,10 @@ void ZoneRing::paintMarks(QPainter* painter) const {
   painter->setFont(axisFont);
   painter->setPen(markInk);
   const QFontMetricsF metrics{axisFont};
-  for (qsizetype index = 0; index < std::min(marks.size(), markTexts.size()); ++index) {
-    const qreal advance = metrics.horizontalAdvance(markTexts[index]);
-    const Point at = ring().markPlace(marks[index], advance, {width(), height()});
-    painter->drawText(QPointF{at.x, at.y + metrics.capHeight() / 2}, markTexts[index]);
+  for (const RingMarkRecord& mark : marks) {
+    const qreal advance = metrics.horizontalAdvance(mark.text);
+    const Point at = ring().markPlace(mark.seconds, advance, {width(), height()});
+    painter->drawText(QPointF{at.x, at.y + metrics.capHeight() / 2}, mark.text);
   }
 }
 

@@ -2,11 +2,11 @@
 #pragma once
 
 #include <QtQml/qqmlregistration.h>
-#include <QtCore/QStringList>
 #include <QtGui/QColor>
 #include <QtGui/QFont>
 #include <QtQuick/QQuickPaintedItem>
 
+#include "app/records/Records.h"
 #include "drawing/zones/ZoneRing.h"
 
 namespace mivo::app {
@@ -18,9 +18,8 @@ class ZoneRing : public QQuickPaintedItem {
   QML_ELEMENT
   Q_PROPERTY(qreal seconds MEMBER seconds NOTIFY changed)
   Q_PROPERTY(qreal spanSeconds MEMBER spanSeconds NOTIFY changed)
-  /// Where it names hours, in seconds, and what it says there.
-  Q_PROPERTY(QList<qreal> marks MEMBER marks NOTIFY changed)
-  Q_PROPERTY(QStringList markTexts MEMBER markTexts NOTIFY changed)
+  /// The hours that it names.
+  Q_PROPERTY(QList<mivo::app::RingMarkRecord> marks MEMBER marks NOTIFY changed)
   Q_PROPERTY(bool running MEMBER running NOTIFY changed)
   Q_PROPERTY(QList<QColor> fills MEMBER fills NOTIFY changed)
   Q_PROPERTY(QList<QColor> tints MEMBER tints NOTIFY changed)
@@ -45,8 +44,7 @@ class ZoneRing : public QQuickPaintedItem {
 
   qreal seconds = 0, spanSeconds = 57600;
   bool running = false;
-  QList<qreal> marks;
-  QStringList markTexts;
+  QList<RingMarkRecord> marks;
   QList<QColor> fills, tints;
   QColor eatingFill, eatingTint, ink, markInk, card;
   QFont axisFont;

@@ -7,7 +7,7 @@ import Mivo
 TappableCard {
     id: root
 
-    required property badgeFamily family
+    required property badgeFamilyPageRecord family
     required property int kind
 
     text: family.spoken
@@ -120,7 +120,7 @@ TappableCard {
                 model: root.family.around
 
                 delegate: Badge {
-                    required property badgeEntry modelData
+                    required property badgeItemRecord modelData
 
                     width: Math.min(56, row.width / 5)
                     height: width

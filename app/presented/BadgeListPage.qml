@@ -7,7 +7,7 @@ import Mivo
 PushedPage {
     id: root
 
-    required property badgeFamily family
+    required property badgeFamilyPageRecord family
     required property int kind
 
     readonly property int columns: width >= Theme.twoColumnsWidth ? 6 : 3
@@ -48,7 +48,7 @@ PushedPage {
 
                 delegate: Column {
                     id: entry
-                    required property badgeEntry modelData
+                    required property badgeItemRecord modelData
 
                     width: grid.width / root.columns
                     spacing: 8

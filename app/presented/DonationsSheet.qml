@@ -21,7 +21,7 @@ Sheet {
 
         delegate: Column {
             id: kind
-            required property donationKind modelData
+            required property donationGroupRecord modelData
 
             width: parent ? parent.width : 0
             spacing: 8
@@ -43,7 +43,7 @@ Sheet {
                     model: kind.modelData.choices
 
                     delegate: ActionButton {
-                        required property donationButton modelData
+                        required property donationChoiceRecord modelData
 
                         width: (grid.width - (grid.columns - 1) * grid.spacing) / grid.columns
                         implicitHeight: Theme.buttonLargeSize

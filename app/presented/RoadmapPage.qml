@@ -26,7 +26,7 @@ PushedPage {
 
             delegate: Chip {
                 required property int index
-                required property roadmapFilterChip modelData
+                required property roadmapFilterRecord modelData
 
                 text: modelData.name
                 chosen: modelData.isChosen

@@ -46,7 +46,7 @@ Sheet {
         ActionButton {
             width: parent.width
             leastHeight: Theme.sheetButtonSize
-            enabled: !root.entry.saving
+            enabled: !root.entry.isSaving
             text: App.weights.saveLabel
             onClicked: root.entry.save()
         }
@@ -64,7 +64,7 @@ Sheet {
     DateTimeSheet {
         id: date
         title: root.entry.dateTitle
-        instant: root.entry.instant
+        instant: root.entry.date
         onChosen: instant => root.entry.changeDate(instant)
     }
 }

@@ -39,7 +39,7 @@ FocusScope {
         width: parent.width
         rowX: Math.max(Theme.pageMargin, (width - 720) / 2)
         clip: true
-        model: App.weights
+        model: App.weights.rows
         header: Item { height: 8 }
         delegate: WeightRow {}
         footer: Item { height: 24 }

@@ -5,7 +5,7 @@ import Mivo
 Card {
     id: root
 
-    required property NoticeCardModel card
+    required property NoticeCardRecord card
     required property AddWeightModel entry
     /// It stands in a row of three.
     property bool inRow: false
@@ -70,7 +70,7 @@ Card {
             leftPadding: 14
             rightPadding: 14
             text: root.card.button
-            enabled: !root.entry.saving
+            enabled: !root.entry.isSaving
             onClicked: root.entry.save()
         }
     }

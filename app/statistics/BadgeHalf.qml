@@ -7,7 +7,7 @@ Column {
     id: root
 
     property int family: Badge.Milestone
-    required property badgeHalfRecord figure
+    required property badgeFigureRecord figure
 
     Badge {
         anchors.horizontalCenter: parent.horizontalCenter

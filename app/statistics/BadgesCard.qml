@@ -5,7 +5,7 @@ import Mivo
 TappableCard {
     id: root
 
-    required property BadgesCardModel card
+    required property BadgesCardRecord card
 
     text: root.card.title + ": " + root.card.milestone.label + ", " + root.card.streak.label
 

@@ -53,7 +53,7 @@ Item {
         Rectangle {
             id: bar
             anchors.left: parent.left
-            width: root.fraction > 0 ? Math.max(14, root.fraction * track.width) : 0
+            width: root.fraction > 0 ? Math.max(14, Math.min(1, root.fraction) * track.width) : 0
             height: parent.height
             radius: Math.min(Theme.capsuleRadius, width / 2)
             color: root.fill

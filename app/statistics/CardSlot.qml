@@ -8,7 +8,7 @@ Item {
 
     required property int index
     required property string kind
-    required property CardModel card
+    required property QtObject card
     /// How many cards of the page fit beside each other.
     property int columns: 1
     readonly property bool wide: columns === 3
@@ -80,26 +80,26 @@ Item {
 
     // A Loader of Qt 6.4 refuses components that are bound to their file, so qmllint cannot know what root is.
     // qmllint disable unqualified
-    Component { id: tip; TipCard { card: root.card as NoticeCardModel; onDismissed: App.dismissTip() } }
-    Component { id: start; StartCard { card: root.card as NoticeCardModel; onStartTapped: root.startWanted() } }
-    Component { id: configure; ConfigureCard { card: root.card as NoticeCardModel; onSettingsTapped: root.settingsWanted() } }
-    Component { id: summary; SummaryCard { card: root.card as SummaryCardModel; wide: root.wide } }
-    Component { id: overlap; NoticeCard { card: root.card as NoticeCardModel; iconName: "warning"; isCaution: true; onTapped: App.fixOverlaps() } }
-    Component { id: donation; TileCard { card: root.card as NoticeCardModel; iconName: "heart"; onClicked: App.openDonations() } }
-    Component { id: roadmap; TileCard { card: root.card as NoticeCardModel; iconName: "feedback"; onClicked: App.openRoadmap() } }
-    Component { id: health; NoticeCard { card: root.card as NoticeCardModel; iconName: "health"; onTapped: App.requestHealthAccess() } }
-    Component { id: addWeight; AddWeightCard { card: root.card as NoticeCardModel; entry: App.addWeight; inRow: root.span === 2; onDateTapped: root.dateWanted() } }
-    Component { id: goalWeight; GoalWeightCard { card: root.card as GoalWeightCardModel; onClicked: root.goalWanted(); onWeightsWanted: root.weightsWanted() } }
-    Component { id: badges; BadgesCard { card: root.card as BadgesCardModel; onClicked: App.openBadges() } }
+    Component { id: tip; TipCard { card: root.card as NoticeCardRecord; onDismissed: App.dismissTip() } }
+    Component { id: start; StartCard { card: root.card as NoticeCardRecord; onStartTapped: root.startWanted() } }
+    Component { id: configure; ConfigureCard { card: root.card as NoticeCardRecord; onSettingsTapped: root.settingsWanted() } }
+    Component { id: summary; SummaryCard { card: root.card as SummaryCardRecord; wide: root.wide } }
+    Component { id: overlap; NoticeCard { card: root.card as NoticeCardRecord; iconName: "warning"; isCaution: true; onTapped: App.fixOverlaps() } }
+    Component { id: donation; TileCard { card: root.card as NoticeCardRecord; iconName: "heart"; onClicked: App.openDonations() } }
+    Component { id: roadmap; TileCard { card: root.card as NoticeCardRecord; iconName: "feedback"; onClicked: App.openRoadmap() } }
+    Component { id: health; NoticeCard { card: root.card as NoticeCardRecord; iconName: "health"; onTapped: App.requestHealthAccess() } }
+    Component { id: addWeight; AddWeightCard { card: root.card as NoticeCardRecord; entry: App.addWeight; inRow: root.span === 2; onDateTapped: root.dateWanted() } }
+    Component { id: goalWeight; GoalWeightCard { card: root.card as GoalWeightCardRecord; onClicked: root.goalWanted(); onWeightsWanted: root.weightsWanted() } }
+    Component { id: badges; BadgesCard { card: root.card as BadgesCardRecord; onClicked: App.openBadges() } }
     Component { id: timeRange; TimeRangePicker {
-            card: root.card as TimeRangeCardModel
+            card: root.card as TimeRangeCardRecord
             slotTop: root.y + root.pageTop
             onChosen: index => App.chooseTimeRange(index)
             Component.onCompleted: root.pickerMade(this)
         } }
-    Component { id: fastingChart; DayBarsCard { card: root.card as DayBarsCardModel; chart: App.fastingChart; accent: Theme.fasting; chartHeight: 200; onTableWanted: root.tableWanted(App.fastingChart, card.title) } }
-    Component { id: eatingChart; DayBarsCard { card: root.card as DayBarsCardModel; chart: App.eatingChart; accent: Theme.eating; chartHeight: root.beside ? 200 : 160; onTableWanted: root.tableWanted(App.eatingChart, card.title) } }
-    Component { id: weightChart; WeightChartCard { card: root.card as WeightChartCardModel; chart: App.weightChart; wide: root.wide; onTableWanted: root.tableWanted(App.weightChart, card.title); onWeightsWanted: root.weightsWanted() } }
-    Component { id: weightFastingChart; WeightFastingCard { card: root.card as WeightFastingChartCardModel; chart: App.weightFastingChart; wide: root.wide; onTableWanted: root.tableWanted(App.weightFastingChart, card.title) } }
-    Component { id: trends; TrendsCard { card: root.card as TrendsCardModel; wide: root.wide } }
+    Component { id: fastingChart; DayBarsCard { card: root.card as DayBarsCardRecord; chart: App.fastingChart; accent: Theme.fasting; chartHeight: 200; onTableWanted: root.tableWanted(App.fastingChart, card.title) } }
+    Component { id: eatingChart; DayBarsCard { card: root.card as DayBarsCardRecord; chart: App.eatingChart; accent: Theme.eating; chartHeight: root.beside ? 200 : 160; onTableWanted: root.tableWanted(App.eatingChart, card.title) } }
+    Component { id: weightChart; WeightChartCard { card: root.card as WeightChartCardRecord; chart: App.weightChart; wide: root.wide; onTableWanted: root.tableWanted(App.weightChart, card.title); onWeightsWanted: root.weightsWanted() } }
+    Component { id: weightFastingChart; WeightFastingCard { card: root.card as WeightFastingChartCardRecord; chart: App.weightFastingChart; wide: root.wide; onTableWanted: root.tableWanted(App.weightFastingChart, card.title) } }
+    Component { id: trends; TrendsCard { card: root.card as TrendsCardRecord; wide: root.wide } }
 }

@@ -5,7 +5,7 @@ import Mivo
 Card {
     id: root
 
-    required property DayBarsCardModel card
+    required property DayBarsCardRecord card
     required property DayBarsModel chart
     property Accent accent: Theme.fasting
     property int chartHeight: 200

@@ -6,7 +6,7 @@ import Mivo
 TappableCard {
     id: root
 
-    required property GoalWeightCardModel card
+    required property GoalWeightCardRecord card
 
     signal weightsWanted
 

@@ -6,7 +6,7 @@ import Mivo
 Card {
     id: root
 
-    required property NoticeCardModel card
+    required property NoticeCardRecord card
     property string iconName
     property bool isCaution: false
     readonly property bool stacked: Theme.textScale >= 1.3

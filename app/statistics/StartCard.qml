@@ -6,7 +6,7 @@ import Mivo
 Card {
     id: root
 
-    required property NoticeCardModel card
+    required property NoticeCardRecord card
 
     signal startTapped
 

@@ -6,7 +6,7 @@ import Mivo
 Card {
     id: root
 
-    required property SummaryCardModel card
+    required property SummaryCardRecord card
     property bool wide: false
 
     readonly property int columns: wide ? (Theme.textScale >= 1.6 ? 3 : 6) : Theme.textScale >= 1.6 ? 1 : 2

@@ -6,7 +6,7 @@ import Mivo
 TappableCard {
     id: root
 
-    required property NoticeCardModel card
+    required property NoticeCardRecord card
     property string iconName
 
     text: root.card.text !== "" ? root.card.text : root.card.button

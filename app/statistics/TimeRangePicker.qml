@@ -6,7 +6,7 @@ import Mivo
 Column {
     id: root
 
-    required property TimeRangeCardModel card
+    required property TimeRangeCardRecord card
     /// Where the control itself begins in the page.
     readonly property real controlTop: slotTop + control.y
     property real slotTop: 0

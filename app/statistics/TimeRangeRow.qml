@@ -6,7 +6,7 @@ import Mivo
 Row {
     id: root
 
-    required property TimeRangeCardModel card
+    required property TimeRangeCardRecord card
     property real maxWidth: 480
     readonly property real textRoom: maxWidth - spacing - control.width
 

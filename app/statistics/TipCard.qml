@@ -5,7 +5,7 @@ import Mivo
 Card {
     id: root
 
-    required property NoticeCardModel card
+    required property NoticeCardRecord card
     readonly property bool stacked: Theme.textScale >= 1.3
 
     signal dismissed

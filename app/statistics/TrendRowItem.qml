@@ -6,7 +6,7 @@ import Mivo
 Column {
     id: root
 
-    required property trendRow modelData
+    required property trendCardRecord modelData
     readonly property real labelWidth: Math.max(Theme.capsuleLabelSize, thisCapsule.wantedLabelWidth, lastCapsule.wantedLabelWidth)
     readonly property Accent accent: Theme.accentOf(modelData.zone)
 

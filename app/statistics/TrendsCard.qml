@@ -6,7 +6,7 @@ import Mivo
 Card {
     id: root
 
-    required property TrendsCardModel card
+    required property TrendsCardRecord card
     property bool wide: false
 
     spacing: 16
@@ -29,7 +29,7 @@ Card {
             delegate: Column {
                 id: slot
                 required property int index
-                required property trendRow modelData
+                required property trendCardRecord modelData
 
                 width: (grid.width - (grid.columns - 1) * grid.columnSpacing) / grid.columns
                 spacing: 16

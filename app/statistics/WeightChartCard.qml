@@ -5,7 +5,7 @@ import Mivo
 Card {
     id: root
 
-    required property WeightChartCardModel card
+    required property WeightChartCardRecord card
     required property LineChartModel chart
     property bool wide: false
 

@@ -5,7 +5,7 @@ import Mivo
 Card {
     id: root
 
-    required property WeightFastingChartCardModel card
+    required property WeightFastingChartCardRecord card
     required property LineChartModel chart
     property bool wide: false
 

@@ -313,7 +313,7 @@ Window {
         id: weightDate
         sourceComponent: DateTimeSheet {
             title: App.addWeight.dateTitle
-            instant: App.addWeight.instant
+            instant: App.addWeight.date
             onChosen: instant => App.addWeight.changeDate(instant)
         }
     }

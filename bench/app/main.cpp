@@ -99,12 +99,10 @@ void measureColumnScroll(DrivenApp& app) {
 
 // From a fast that is saved to the frame with the new figures; between them it is written to the disk.
 double record(DrivenApp& app, Date start) {
-  const auto fasts = [&app] { return app.model().state().fasts->size(); };
-  const std::size_t before = fasts();
+  const auto* rows = app.model().fasting()->history()->property("rows").value<QAbstractItemModel*>();
   int atChange = -1;
-  const auto changed = QObject::connect(&app.model(), &AppModel::changed, &app.window(), [&] {
-    if (atChange < 0 && fasts() > before) atChange = app.framesShown();
-  });
+  const auto changed =
+      QObject::connect(rows, &QAbstractItemModel::rowsInserted, &app.window(), [&] { atChange = app.framesShown(); });
   app.model().send(AppModel::Action::didTapAddFast{});
   app.model().send(AppModel::Action::didChangeDraftStart{start});
   app.model().send(AppModel::Action::didChangeDraftEnd{start + std::chrono::minutes{1}});

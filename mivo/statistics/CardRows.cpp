@@ -43,4 +43,13 @@ int sixthsOfCard(std::span<const CardKind> kinds, std::size_t place, int columns
   return isLeftOver ? sixthsOfARow : sixthsOfARow / static_cast<int>(inRow);
 }
 
+std::optional<TrendsCard> trendsCard(std::span<const Card> cards) {
+  TrendsCard trends;
+  for (const Card& card : cards)
+    if (const auto* row = std::get_if<TrendCard>(&card.content)) trends.rows.push_back(*row);
+  if (trends.rows.empty()) return std::nullopt;
+  trends.title = trends.rows.front().section;
+  return trends;
+}
+
 }  // namespace mivo

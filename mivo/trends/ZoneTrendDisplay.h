@@ -17,9 +17,10 @@ struct ZoneTrendDisplay {
   std::string thisTimeRangeAvg, lastTimeRangeAvg;  ///< "12h 30m"; "0" where there is no text for it
   /// Bar lengths: the longer one is 1, both are 0 where neither average exceeds a second. Those of a negative or
   /// non-finite average come as the division gives them; drawing holds them within 0 and 1.
-  double thisTimeRangeFraction, lastTimeRangeFraction;
-  bool thisTimeRangeInsideCapsule, lastTimeRangeInsideCapsule;  ///< whether the text fits into the bar
+  double thisTimeRangeFraction = 0, lastTimeRangeFraction = 0;
+  bool thisTimeRangeInsideCapsule = false, lastTimeRangeInsideCapsule = false;  ///< whether the text fits into the bar
 
+  ZoneTrendDisplay() = default;
   /// Averages in seconds a day. Texts and formatter are those of the current dependencies.
   ZoneTrendDisplay(TimeRange timeRange, LegacyFastingZone zone, double thisAverage, double lastAverage);
   ZoneTrendDisplay(TimeRange timeRange, LegacyFastingZone zone, double thisAverage, double lastAverage,

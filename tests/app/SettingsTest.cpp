@@ -163,7 +163,7 @@ TEST_F(Settings, changeTheUnitOfEveryWeight) {
   EXPECT_NE(app->text("lb"), nullptr) << "in the row";
   EXPECT_EQ(*app->statistics().goalWeightCardState.weightUnit, WeightUnit::pounds);
   EXPECT_EQ(*app->statistics().addWeightLogState.weightUnit, WeightUnit::pounds);
-  EXPECT_EQ(app->model().addWeight()->unit(), "lb");
+  EXPECT_EQ(app->model().addWeight()->property("unit").toString(), "lb");
 }
 
 TEST_F(Settings, beginTheWeeksOfChartsOnTheChosenDay) {
