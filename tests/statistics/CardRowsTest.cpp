@@ -44,5 +44,15 @@ TEST(CardRows, areWholeOutsideTheScreen) {
   EXPECT_EQ(sixthsOfCard(kinds, 2, 2), sixthsOfARow);
 }
 
+TEST(TrendsCard, takesTheTrendsTogether) {
+  TrendCard catabolic, anabolic;
+  catabolic.section = "Trends";
+  catabolic.name = "Catabolic";
+  anabolic.name = "Anabolic";
+  EXPECT_EQ(trendsCard(std::vector<Card>{{badges, BadgesCard{}}}), std::nullopt);
+  EXPECT_EQ(trendsCard(std::vector<Card>{{badges, BadgesCard{}}, {trend, catabolic}, {trend, anabolic}}),
+            (TrendsCard{"Trends", {catabolic, anabolic}}));
+}
+
 }  // namespace
 }  // namespace mivo
