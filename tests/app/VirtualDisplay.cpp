@@ -14,12 +14,14 @@ QStringList moveTo(QPoint at) {
 
 }  // namespace
 
-// The server writes the number of the display that it has found free.
+// The server writes the number of the display that it has found free. It must not begin anew when its last client goes:
+// the next one would be turned away meanwhile.
 VirtualDisplay::VirtualDisplay() {
   server.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-  server.start(QStringLiteral("Xvfb"),
-               {QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"), QStringLiteral("0"),
-                QStringLiteral("1280x1024x24"), QStringLiteral("-nolisten"), QStringLiteral("tcp")});
+  server.start(
+      QStringLiteral("Xvfb"),
+      {QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-screen"), QStringLiteral("0"),
+       QStringLiteral("1280x1024x24"), QStringLiteral("-nolisten"), QStringLiteral("tcp"), QStringLiteral("-noreset")});
   if (!server.waitForStarted()) throw std::runtime_error{"Xvfb is not installed"};
   QByteArray number;
   while (!number.endsWith('\n')) {
@@ -55,7 +57,10 @@ void VirtualDisplay::scroll(QPoint at, bool down) const {
   act(moveTo(at) + QStringList{QStringLiteral("click"), down ? QStringLiteral("5") : QStringLiteral("4")});
 }
 
-void VirtualDisplay::key(const QString& name) const { act({QStringLiteral("key"), name}); }
+void VirtualDisplay::key(const QString& names) const {
+  act(QStringList{QStringLiteral("key"), QStringLiteral("--delay"), QStringLiteral("1")} +
+      names.split(QLatin1Char{' '}));
+}
 
 void VirtualDisplay::type(const QString& text) const { act({QStringLiteral("type"), text}); }
 

@@ -22,8 +22,8 @@ class VirtualDisplay {
   void drag(QPoint from, QPoint to) const;
   /// A notch of the wheel.
   void scroll(QPoint at, bool down) const;
-  /// Names as X has them: "Return", "Escape", "ctrl+a".
-  void key(const QString& name) const;
+  /// Names as X has them: "Return", "Escape", "ctrl+a"; several at once, so that nothing happens between them.
+  void key(const QString& names) const;
   void type(const QString& text) const;
 
   /// The window of another process, once it is there. Throws where none comes.
