@@ -31,13 +31,6 @@ drawing::DayBarsClients barClients() {
           *dependency(&Dependencies::hourDurationUnitFormatter)};
 }
 
-QString nameOf(const Presentation<Destination::State>& destination) {
-  if (!destination) return {};
-  if (std::holds_alternative<Destination::State::badges>(*destination)) return QStringLiteral("badges");
-  if (std::holds_alternative<Destination::State::roadmap>(*destination)) return QStringLiteral("roadmap");
-  return QStringLiteral("donations");
-}
-
 }  // namespace
 
 AppModel::AppModel(AppServices given)
@@ -53,10 +46,6 @@ AppModel::AppModel(AppServices given)
           [this](AddWeightModel::Action action) { sendStatistics(Sent::addWeightLogAction{std::move(action)}); }},
       allWeights{clients, [this](Action action) { send(std::move(action)); }},
       runningFast{clients, [this](Action action) { send(std::move(action)); }},
-      badgeSummary{[this](BadgeSummaryFeature::Action action) {
-        using Shown = PresentationAction<Destination::Action>;
-        sendStatistics(Sent::destination{Shown::presented{Destination::Action::badges{std::move(action)}}});
-      }},
       donationSheet{[this](DonationsFeature::Action action) {
         using Shown = PresentationAction<Destination::Action>;
         sendStatistics(Sent::destination{Shown::presented{Destination::Action::donations{std::move(action)}}});
@@ -163,24 +152,28 @@ void AppModel::follow(const State& state) {
                                          *dependency(&Dependencies::massFormatter)));
   said.show(host::composeMessage(state, *dependency(&Dependencies::texts)));
   followDestination(statistics);
+  followScreens(state);
 }
 
 void AppModel::followDestination(const StatisticsFeature::State& state) {
   const auto& destination = state.destination;
+  if (!destination) return;
   const auto& texts = *dependency(&Dependencies::texts);
-  if (destination) {
-    if (const auto* shown = std::get_if<Destination::State::badges>(&*destination))
-      badgeSummary.show(composeBadges(shown->state, state.streakSettings->countingEntity, texts,
-                                      *dependency(&Dependencies::numberFormatter)));
-    if (const auto* shown = std::get_if<Destination::State::donations>(&*destination))
-      donationSheet.show(composeDonations(shown->state, texts));
+  if (const auto* shown = std::get_if<Destination::State::badges>(&*destination))
+    badgeSummary.show(composeBadges(shown->state, state.streakSettings->countingEntity, texts,
+                                    *dependency(&Dependencies::numberFormatter)));
+  if (const auto* shown = std::get_if<Destination::State::donations>(&*destination))
+    donationSheet.show(composeDonations(shown->state, texts));
+}
+
+void AppModel::followScreens(const State& state) {
+  const host::OpenScreens before = std::exchange(open, composeOpenScreens(state));
+  const std::string_view roadmapPage = rawValue(host::Screen::roadmap);
+  if (open.page == roadmapPage && before.page != roadmapPage) {
+    features = std::make_unique<RoadmapModel>();
+    Q_EMIT roadmapChanged();
   }
-  const QString name = nameOf(destination);
-  if (name == shownDestination) return;
-  shownDestination = name;
-  if (name == QLatin1String{"roadmap"}) features = std::make_unique<RoadmapModel>();
-  Q_EMIT destinationChanged();
-  if (name == QLatin1String{"donations"}) donationSheet.appear();
+  openScreens.show(open);
 }
 
 void AppModel::tellTips(const State& state) const {
@@ -190,7 +183,13 @@ void AppModel::tellTips(const State& state) const {
 
 QString AppModel::failure() const { return qString(store.state().failure); }
 
-void AppModel::appear() { sendStatistics(Sent::onAppear{}); }
+void AppModel::present(const QString& name) {
+  send(Action::didOpen{host::screenFrom(name.toStdString()).value_or(tabOf(openScreen(state())))});
+}
+
+void AppModel::close(const QString& name) {
+  if (const auto screen = host::screenFrom(name.toStdString())) send(Action::didClose{*screen});
+}
 
 void AppModel::chooseTimeRange(int index) {
   sendStatistics(Sent::binding{Write<&StatisticsFeature::State::timeRange>{static_cast<TimeRange>(index)}});
@@ -203,19 +202,6 @@ void AppModel::dismissTip() {
 }
 
 void AppModel::requestHealthAccess() { sendStatistics(Sent::requestHealthKitAccess{}); }
-
-void AppModel::fixOverlaps() { sendStatistics(Sent::didTapFixOverlappingFasts{}); }
-
-void AppModel::openBadges() { sendStatistics(Sent::didTapOpenBadges{}); }
-
-void AppModel::openRoadmap() { sendStatistics(Sent::didTapOpenRoadmap{}); }
-
-void AppModel::openDonations() { sendStatistics(Sent::didTapOpenDonations{}); }
-
-void AppModel::dismiss() {
-  if (store.state().statistics.destination)
-    sendStatistics(Sent::destination{PresentationAction<Destination::Action>::dismiss{}});
-}
 
 void AppModel::openGoalWeight() {
   sendStatistics(Sent::goalWeightCardAction{GoalWeightCardFeature::Action::didOpenGoal{}});

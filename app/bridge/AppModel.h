@@ -12,7 +12,6 @@
 #include <vector>
 
 #include "app/bridge/AddWeightModel.h"
-#include "app/bridge/BadgesModel.h"
 #include "app/bridge/DayBarsModel.h"
 #include "app/bridge/DonationsModel.h"
 #include "app/bridge/FastingModel.h"
@@ -59,14 +58,13 @@ class AppModel : public QObject {
   Q_PROPERTY(mivo::app::AddWeightModel* addWeight READ addWeight CONSTANT)
   Q_PROPERTY(mivo::app::WeightsModel* weights READ weights CONSTANT)
   Q_PROPERTY(mivo::app::FastingModel* fasting READ fasting CONSTANT)
-  Q_PROPERTY(mivo::app::BadgesModel* badges READ badges CONSTANT)
+  Q_PROPERTY(mivo::app::BadgesPageRecord* badges READ badges CONSTANT)
   Q_PROPERTY(mivo::app::DonationsModel* donations READ donations CONSTANT)
   Q_PROPERTY(mivo::app::RepairModel* repair READ repair CONSTANT)
   Q_PROPERTY(mivo::app::SettingsModel* settings READ settings CONSTANT)
   /// Only while the roadmap is shown.
-  Q_PROPERTY(mivo::app::RoadmapModel* roadmap READ roadmap NOTIFY destinationChanged)
-  /// What the statistics present: "badges", "roadmap", "donations", or nothing.
-  Q_PROPERTY(QString destination READ destination NOTIFY destinationChanged)
+  Q_PROPERTY(mivo::app::RoadmapModel* roadmap READ roadmap NOTIFY roadmapChanged)
+  Q_PROPERTY(mivo::app::OpenScreensRecord* screens READ screens CONSTANT)
   Q_PROPERTY(mivo::app::GoalWeightSheetRecord* goalSheet READ goalSheet CONSTANT)
   Q_PROPERTY(mivo::app::FeedbackSheetRecord* feedback READ feedback CONSTANT)
   Q_PROPERTY(mivo::app::MessageRecord* message READ message CONSTANT)
@@ -89,7 +87,7 @@ class AppModel : public QObject {
   AddWeightModel* addWeight() { return &weightEntry; }
   WeightsModel* weights() { return &allWeights; }
   FastingModel* fasting() { return &runningFast; }
-  BadgesModel* badges() { return &badgeSummary; }
+  BadgesPageRecord* badges() { return &badgeSummary; }
   DonationsModel* donations() { return &donationSheet; }
   RepairModel* repair() { return &overlapRepair; }
   SettingsModel* settings() { return &chosenSettings; }
@@ -97,7 +95,7 @@ class AppModel : public QObject {
   GoalWeightSheetRecord* goalSheet() { return &goalWeight; }
   FeedbackSheetRecord* feedback() { return &feedbackTexts; }
   MessageRecord* message() { return &said; }
-  QString destination() const { return shownDestination; }
+  OpenScreensRecord* screens() { return &openScreens; }
   /// One sentence about what failed; empty where nothing did.
   QString failure() const;
 
@@ -105,19 +103,18 @@ class AppModel : public QObject {
   void setWatched(bool isNow);
 
   const State& state() const { return store.state(); }
+  void appear() { sendStatistics(StatisticsFeature::Action::onAppear{}); }
   /// A sentence for the user, until dismissed; an empty one says nothing.
   void say(const std::string& sentence);
 
-  Q_INVOKABLE void appear();
+  /// Opens a `host::Screen` by its name; for no name, closes all but the tab.
+  Q_INVOKABLE void present(const QString& name);
+  /// A sheet was closed by who looks at it.
+  Q_INVOKABLE void close(const QString& name);
+  Q_INVOKABLE void back() { send(Action::didGoBack{}); }
   Q_INVOKABLE void chooseTimeRange(int index);
   Q_INVOKABLE void dismissTip();
   Q_INVOKABLE void requestHealthAccess();
-  Q_INVOKABLE void fixOverlaps();
-  Q_INVOKABLE void openBadges();
-  Q_INVOKABLE void openRoadmap();
-  Q_INVOKABLE void openDonations();
-  /// Closes what the statistics present.
-  Q_INVOKABLE void dismiss();
   Q_INVOKABLE void pressMessage() { send(Action::didTapMessage{}); }
   Q_INVOKABLE void dismissMessages() { send(Action::didDismissMessages{}); }
   Q_INVOKABLE void openGoalWeight();
@@ -132,7 +129,7 @@ class AppModel : public QObject {
   void sendStatistics(StatisticsFeature::Action action) { send(Action::statistics{std::move(action)}); }
 
  Q_SIGNALS:
-  void destinationChanged();
+  void roadmapChanged();
   void watchedChanged();
 
  private:
@@ -144,6 +141,7 @@ class AppModel : public QObject {
   void followZone();
   void follow(const State& state);
   void followDestination(const StatisticsFeature::State& state);
+  void followScreens(const State& state);
   void tellTips(const State& state) const;
 
   AppServices services;
@@ -157,7 +155,7 @@ class AppModel : public QObject {
   AddWeightModel weightEntry;
   WeightsModel allWeights;
   FastingModel runningFast;
-  BadgesModel badgeSummary;
+  BadgesPageRecord badgeSummary;
   DonationsModel donationSheet;
   RepairModel overlapRepair;
   SettingsModel chosenSettings;
@@ -165,7 +163,8 @@ class AppModel : public QObject {
   FeedbackSheetRecord feedbackTexts;
   MessageRecord said;
   std::unique_ptr<RoadmapModel> features;
-  QString shownDestination;
+  host::OpenScreens open;
+  OpenScreensRecord openScreens;
   bool watched = true;
   QTimer nextMinute, watch;
   Subscription following;

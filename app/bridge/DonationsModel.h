@@ -20,8 +20,6 @@ class DonationsModel : public mivo::app::DonationsPageRecord {
   using Action = DonationsFeature::Action;
   explicit DonationsModel(std::function<void(Action)> sends) : send{std::move(sends)} {}
 
-  void appear() { send(Action::onAppear{}); }
-
   Q_INVOKABLE void choose(const QString& id) { send(Action::didChooseProduct{id.toStdString()}); }
   Q_INVOKABLE void tapButton() { send(Action::didTapButton{}); }
 

@@ -13,9 +13,8 @@ void FastDraftModel::follow(const host::AppFeature::State& state) {
   std::vector<Stamp> read{state.draft.stamp(), state.fasts.stamp(), state.now.stamp()};
   if (std::exchange(seen, read) == read) return;
   fasts = *state.fasts;
-  const bool wasOpen = std::exchange(draft, *state.draft).has_value();
+  draft = state.draft;
   retell();
-  if (wasOpen && !draft) Q_EMIT ended();
 }
 
 void FastDraftModel::retell() {
@@ -27,7 +26,10 @@ void FastDraftModel::setGoal(double chosen) {
 }
 
 void FastDraftModel::remove() {
-  if (draft && draft->before) send(Action::didDeleteFast{draft->before->fast.id});
+  if (!draft || !draft->before) return;
+  const UUID id = draft->before->fast.id;
+  send(Action::didDismissDraft{});
+  send(Action::didDeleteFast{id});
 }
 
 }  // namespace mivo::app

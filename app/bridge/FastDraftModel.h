@@ -32,11 +32,6 @@ class FastDraftModel : public mivo::app::FastSheetRecord {
   Q_INVOKABLE void setNote(const QString& text) { send(Action::didChangeDraftNote{text.toStdString()}); }
   Q_INVOKABLE void save() { send(Action::didTapSaveDraft{}); }
   Q_INVOKABLE void remove();
-  Q_INVOKABLE void dismiss() { send(Action::didDismissDraft{}); }
-
- Q_SIGNALS:
-  /// It was saved or dismissed.
-  void ended();
 
  private:
   std::function<PageClients()> clients;

@@ -57,6 +57,4 @@ void FastingModel::changeGoal(double seconds) {
   send(Action::didChangeGoal{static_cast<std::int64_t>(std::llround(seconds))});
 }
 
-void FastingModel::add() { send(Action::didTapAddFast{}); }
-
 }  // namespace mivo::app

@@ -47,8 +47,6 @@ class FastingModel : public mivo::app::FastingPageRecord {
   Q_INVOKABLE void changeStart(double instant);
   /// Of the running fast, and of those to come.
   Q_INVOKABLE void changeGoal(double seconds);
-  /// Begins the draft of a new fast.
-  Q_INVOKABLE void add();
   /// For a sheet that has a goal or a date to choose, which owns them.
   Q_INVOKABLE mivo::app::GoalChoiceModel* goalChoice() const { return new GoalChoiceModel{clients}; }
   Q_INVOKABLE mivo::app::DateTimeChoiceModel* dateTimeChoice() const { return new DateTimeChoiceModel{clients}; }

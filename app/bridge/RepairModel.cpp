@@ -12,11 +12,6 @@ void RepairModel::follow(const std::optional<host::HistoryChange>& proposal) {
   if (proposal == change) return;
   change = proposal;
   if (change) show(composeRepairSheet(*change, clients()));
-  Q_EMIT isProposedChanged();
-}
-
-void RepairModel::cancel() {
-  if (change) send(Action::didCancelOverlapRepair{});
 }
 
 }  // namespace mivo::app

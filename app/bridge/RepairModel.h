@@ -16,20 +16,14 @@ class RepairModel : public mivo::app::RepairSheetRecord {
   Q_OBJECT
   QML_ELEMENT
   QML_UNCREATABLE("the app has one")
-  Q_PROPERTY(bool isProposed READ isProposed NOTIFY isProposedChanged)
 
  public:
   using Action = host::AppFeature::Action;
   RepairModel(std::function<PageClients()> clients, std::function<void(Action)> send);
 
   void follow(const std::optional<host::HistoryChange>& proposal);
-  bool isProposed() const { return change.has_value(); }
 
   Q_INVOKABLE void confirm() { send(Action::didConfirmOverlapRepair{}); }
-  Q_INVOKABLE void cancel();
-
- Q_SIGNALS:
-  void isProposedChanged();
 
  private:
   std::function<PageClients()> clients;

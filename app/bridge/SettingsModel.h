@@ -49,8 +49,6 @@ class SettingsModel : public mivo::app::SettingsPageRecord {
   Q_OBJECT
   QML_ELEMENT
   QML_UNCREATABLE("the app has one")
-  /// What is pushed over the settings: "cards", "about", or nothing.
-  Q_PROPERTY(QString page MEMBER page NOTIFY pageChanged)
   Q_PROPERTY(mivo::app::CardSettingsModel* cards READ cards CONSTANT)
   Q_PROPERTY(mivo::app::AboutPageRecord* about READ about CONSTANT)
 
@@ -77,14 +75,12 @@ class SettingsModel : public mivo::app::SettingsPageRecord {
   Q_INVOKABLE QString percentText(int percent) const;
 
  Q_SIGNALS:
-  void pageChanged();
   /// It holds from the next start of the program.
   void languageChosen();
 
  private:
   void compose();
 
-  QString page;
   std::function<PageClients()> clients;
   std::shared_ptr<host::WeekCalendar> calendar;
   Appearance& look;

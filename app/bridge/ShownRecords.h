@@ -14,6 +14,7 @@
 #include "host/pages/GoalChoice.h"
 #include "host/pages/HistoryPage.h"
 #include "host/pages/Message.h"
+#include "host/pages/OpenScreens.h"
 #include "host/pages/RepairSheet.h"
 #include "host/pages/SettingsPage.h"
 #include "host/pages/WeightsPage.h"
@@ -44,7 +45,7 @@ using ObjectRecords =
                WeightFastingChartCard, TrendsCard, AddWeightForm, GoalWeightSheet, BadgesPage, DonationsPage,
                RoadmapPage, FeedbackSheet, host::AboutPage, host::CardSettingsPage, host::ControlWords,
                host::DateTimeChoice, host::FastSheet, host::FastingPage, host::GoalChoice, host::HistoryPage,
-               host::Message, host::RepairSheet, host::SettingsPage, host::WeightsPage>;
+               host::Message, host::OpenScreens, host::RepairSheet, host::SettingsPage, host::WeightsPage>;
 
 template <class Candidate, class List>
 inline constexpr bool isIn = false;

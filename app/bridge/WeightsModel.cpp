@@ -22,8 +22,7 @@ void WeightsModel::follow(const host::AppFeature::State& state) {
   take(state);
   const auto& present = state.editedWeight;
   if (present) form.show(composeAddWeight(present->entry, clients()));
-  const auto id = present ? std::optional{present->before.id} : std::nullopt;
-  if (std::exchange(edited, id) != id) Q_EMIT isEditingChanged();
+  edited = present ? std::optional{present->before.id} : std::nullopt;
 }
 
 void WeightsModel::take(const host::AppFeature::State& state) {
@@ -51,11 +50,10 @@ void WeightsModel::remove(int row) {
 
 void WeightsModel::removeEdited() {
   if (!edited) return;
-  send(Action::didDeleteWeight{*edited});
-  dismissEdited();
+  const UUID id = *edited;
+  sendEdited(Edit::dismiss{});
+  send(Action::didDeleteWeight{id});
 }
-
-void WeightsModel::dismissEdited() { sendEdited(Edit::dismiss{}); }
 
 // A sheet that closes may still be touched.
 void WeightsModel::sendEdited(Edit action) {

@@ -20,7 +20,8 @@ class WeightsModel : public mivo::app::WeightsPageRecord {
   QML_ELEMENT
   QML_UNCREATABLE("the app has one")
   Q_PROPERTY(mivo::app::SeenRows* rows MEMBER rows CONSTANT)
-  Q_PROPERTY(bool isEditing READ isEditing NOTIFY isEditingChanged)
+  /// The row whose menu is open.
+  Q_PROPERTY(int menuRow MEMBER menuRow)
   /// The weight that is edited; once none is any more, as it was last.
   Q_PROPERTY(mivo::app::AddWeightModel* entry READ entry CONSTANT)
 
@@ -30,18 +31,13 @@ class WeightsModel : public mivo::app::WeightsPageRecord {
 
   void follow(const host::AppFeature::State& state);
   void retell() { rows->retell(); }
-  bool isEditing() const { return edited.has_value(); }
   AddWeightModel* entry() { return &form; }
 
   Q_INVOKABLE void edit(int row);
   Q_INVOKABLE void remove(int row);
   Q_INVOKABLE void removeEdited();
-  Q_INVOKABLE void dismissEdited();
   /// What is spoken while the keyboard is at a row.
   Q_INVOKABLE QString spokenText(int row) const;
-
- Q_SIGNALS:
-  void isEditingChanged();
 
  private:
   const BodyWeightSample* sampleOf(int row) const { return host::weightOf(weights, static_cast<std::size_t>(row)); }
@@ -54,6 +50,7 @@ class WeightsModel : public mivo::app::WeightsPageRecord {
   WeightUnit unit = WeightUnit::kilograms;
   std::optional<UUID> edited;
   AddWeightModel form;
+  int menuRow = 0;
   std::vector<Stamp> seen;
   SeenRows* const rows;
 };

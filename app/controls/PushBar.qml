@@ -8,8 +8,6 @@ FocusScope {
 
     property string title
 
-    signal back
-
     height: Math.max(Theme.pushBarSize, titleText.height + 8)
 
     IconButton {
@@ -20,7 +18,7 @@ FocusScope {
         turns: true
         focus: true
         text: Words.back
-        onClicked: root.back()
+        onClicked: App.back()
     }
 
     MeasuredText {

@@ -13,10 +13,8 @@ FocusScope {
     default property alias content: column.data
     property alias spacing: column.spacing
 
-    signal back
-
-    Keys.onEscapePressed: root.back()
-    Keys.onBackPressed: root.back()
+    Keys.onEscapePressed: App.back()
+    Keys.onBackPressed: App.back()
     Keys.onPressed: event => scrollKeys.pressed(event)
 
     ScrollKeys {
@@ -29,7 +27,6 @@ FocusScope {
         width: parent.width
         focus: true
         title: root.title
-        onBack: root.back()
     }
 
     Flickable {

@@ -16,14 +16,9 @@ Sheet {
         goal.begin(draft.goalSeconds);
         note.text = draft.note;
     }
-    onClosed: draft.dismiss()
 
     Connections {
         target: root.draft
-
-        function onEnded() {
-            root.close();
-        }
 
         function onGoalSecondsChanged() {
             root.goal.tellProblem(root.draft.goalProblem);
@@ -179,10 +174,7 @@ Sheet {
             kind: ActionButton.Destructive
             iconName: "trash"
             text: root.draft.removeLabel
-            onClicked: {
-                root.draft.remove();
-                root.close();
-            }
+            onClicked: root.draft.remove()
         }
     }
 

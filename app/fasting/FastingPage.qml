@@ -17,41 +17,6 @@ FocusScope {
     readonly property real contentX: (width - contentWidth) / 2
     readonly property real columnWidth: twoColumns ? (contentWidth - gap) / 2 : contentWidth
 
-    /// Opens one of the sheets by its name, in place of what is open; none for an empty name.
-    function present(name: string) {
-        for (const sheet of [fast, goal, started, menu, months])
-            sheet.close();
-        switch (name) {
-        case "editFast":
-            return App.fasting.history.count > 0 ? edit(0) : undefined;
-        case "addFast":
-            return add();
-        case "fastGoal":
-            return goal.open();
-        case "fastStart":
-            return App.fasting.isRunning ? started.open() : undefined;
-        case "months":
-            return months.open();
-        case "fastMenu":
-            return App.fasting.history.count > 0 ? offer(0) : undefined;
-        }
-    }
-
-    function edit(row: int) {
-        App.fasting.history.edit(row);
-        fast.open();
-    }
-
-    function add() {
-        App.fasting.add();
-        fast.open();
-    }
-
-    function offer(row: int) {
-        menu.row = row;
-        menu.open();
-    }
-
     Keys.onPressed: event => scrollKeys.pressed(event)
 
     ScrollKeys {
@@ -80,8 +45,8 @@ FocusScope {
             id: sideColumn
             width: parent.width
             bottomPadding: root.margin
-            onStartedWanted: started.open()
-            onGoalWanted: goal.open()
+            onStartedWanted: App.present("fastStart")
+            onGoalWanted: App.present("fastGoal")
         }
     }
 
@@ -95,47 +60,60 @@ FocusScope {
         rowX: root.twoColumns ? (root.LayoutMirroring.enabled ? root.contentX : 0) : root.contentX
         rowWidth: root.columnWidth
         whole: !root.twoColumns
-        onAddWanted: root.add()
-        onMonthsWanted: months.open()
-        onEditWanted: row => root.edit(row)
-        onMenuWanted: row => root.offer(row)
-        onStartedWanted: started.open()
-        onGoalWanted: goal.open()
+        onAddWanted: App.present("addFast")
+        onMonthsWanted: App.present("months")
+        onEditWanted: row => App.fasting.history.edit(row)
+        onMenuWanted: row => {
+            App.present("fastMenu");
+            (menu.sheet as RowMenu).row = row;
+        }
+        onStartedWanted: App.present("fastStart")
+        onGoalWanted: App.present("fastGoal")
     }
 
     FocusFollower { view: side }
 
     FocusFollower { view: history }
 
-    FastSheet { id: fast }
-
-    FastGoalSheet {
-        id: goal
-        goal: App.fasting.goalSeconds
-        onChosen: seconds => App.fasting.changeGoal(seconds)
-    }
-
-    DateTimeSheet {
-        id: started
-        title: App.fasting.startLabel
-        instant: App.fasting.started
-        problem: visible ? App.fasting.startProblem(current) : ""
-        onChosen: instant => App.fasting.changeStart(instant)
+    LateSheet {
+        screen: "editFast"
+        sourceComponent: FastSheet {}
     }
 
     LateSheet {
-        id: months
+        screen: "fastGoal"
+        sourceComponent: FastGoalSheet {
+            goal: App.fasting.goalSeconds
+            onChosen: seconds => App.fasting.changeGoal(seconds)
+        }
+    }
+
+    LateSheet {
+        screen: "fastStart"
+        sourceComponent: DateTimeSheet {
+            title: App.fasting.startLabel
+            instant: App.fasting.started
+            problem: visible ? App.fasting.startProblem(current) : ""
+            onChosen: instant => App.fasting.changeStart(instant)
+        }
+    }
+
+    LateSheet {
+        screen: "months"
         sourceComponent: MonthSheet {
             onChosen: row => history.goTo(row)
         }
     }
 
-    RowMenu {
+    LateSheet {
         id: menu
-        title: App.fasting.history.menuTitle
-        editText: App.fasting.history.editLabel
-        removeText: App.fasting.history.removeLabel
-        onEditWanted: root.edit(row)
-        onRemoveWanted: App.fasting.history.remove(row)
+        screen: "fastMenu"
+        sourceComponent: RowMenu {
+            title: App.fasting.history.menuTitle
+            editText: App.fasting.history.editLabel
+            removeText: App.fasting.history.removeLabel
+            onEditWanted: App.fasting.history.edit(row)
+            onRemoveWanted: App.fasting.history.remove(row)
+        }
     }
 }

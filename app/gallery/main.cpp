@@ -160,7 +160,9 @@ bool isMeasured(const Look& look, const Language& language) {
 }
 
 // What these show is answered by another thread or a server.
-bool isAnsweredLater(std::string_view screen) { return screen == "roadmap" || screen == "donations"; }
+bool isAnsweredLater(host::Screen screen) {
+  return screen == host::Screen::roadmap || screen == host::Screen::donations;
+}
 
 /// Each size and look that a window is to be seen in.
 template <class Draw>
@@ -170,8 +172,9 @@ void inEachLook(const Wanted& wanted, const Language& language, Draw draw) {
       if (!wanted.folder.empty() || isMeasured(look, language)) draw(size, look);
 }
 
-QString nameOf(const char* screen, const Size& size, const Look& look, const Language& language, const char* history) {
-  return QStringList{QLatin1String{screen}, QLatin1String{size.name}, QLatin1String{look.name},
+QString nameOf(const std::string& screen, const Size& size, const Look& look, const Language& language,
+               const char* history) {
+  return QStringList{QString::fromStdString(screen), QLatin1String{size.name}, QLatin1String{look.name},
                      QLatin1String{language.name}, QLatin1String{history}}
       .join(QLatin1Char{'-'});
 }
@@ -182,14 +185,15 @@ void drawScreens(AppWindow& app, Gallery& gallery, const Language& language, con
   QQuickWindow& window = *app.window();
   inEachLook(gallery.wanted, language, [&](const Size& size, const Look& shown) {
     app.appearance().setOverride({.mode = shown.mode, .textScale = shown.textScale, .still = true});
-    for (const char* screen : screens) {
+    for (const host::Screen wanted : host::allScreens()) {
+      const std::string screen{rawValue(wanted)};
       const QString name = nameOf(screen, size, shown, language, history.name);
       if (!isWanted(name, gallery.wanted)) continue;
       window.resize(size.size);
-      QMetaObject::invokeMethod(&window, "present", Q_ARG(QString, QString::fromLatin1(screen)));
+      app.model().present(QString::fromStdString(screen));
       awaitRoadmap(app.model());
-      if (isAnsweredLater(screen)) settle(window, 40);
-      drawAndMeasure(window, name, std::string_view{screen} == "statistics", gallery);
+      if (isAnsweredLater(wanted)) settle(window, 40);
+      drawAndMeasure(window, name, wanted == host::Screen::statistics, gallery);
     }
   });
 }

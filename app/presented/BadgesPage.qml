@@ -6,27 +6,24 @@ import Mivo
 FocusScope {
     id: root
 
-    signal back
-
     PushedPage {
         anchors.fill: parent
         visible: !list.covers
         focus: true
         title: App.badges.title
-        onBack: root.back()
 
         BadgeFamilyCard {
             width: parent.width
             family: App.badges.milestones
             kind: Badge.Milestone
-            onClicked: App.badges.openMilestones()
+            onClicked: App.present("milestones")
         }
 
         BadgeFamilyCard {
             width: parent.width
             family: App.badges.streaks
             kind: Badge.Streak
-            onClicked: App.badges.openStreaks()
+            onClicked: App.present("streaks")
         }
     }
 
@@ -35,15 +32,26 @@ FocusScope {
         anchors.fill: parent
         open: App.badges.list !== ""
         page: BadgeListPage {
+            id: shown
+
             // What it shows while it slides out is what it showed before.
-            readonly property bool ofStreaks: App.badges.list === "streaks" || (App.badges.list === "" && lastWasStreaks)
-            property bool lastWasStreaks: false
+            property bool ofStreaks: false
+
+            function follow() {
+                if (App.badges.list !== "")
+                    ofStreaks = App.badges.list === "streaks";
+            }
 
             kind: ofStreaks ? Badge.Streak : Badge.Milestone
             family: ofStreaks ? App.badges.streaks : App.badges.milestones
-            onBack: {
-                lastWasStreaks = App.badges.list === "streaks";
-                App.badges.closeList();
+            Component.onCompleted: follow()
+
+            Connections {
+                target: App.badges
+
+                function onListChanged() {
+                    shown.follow();
+                }
             }
         }
     }

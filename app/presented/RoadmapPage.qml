@@ -9,8 +9,6 @@ PushedPage {
 
     property RoadmapModel roadmap: null
 
-    signal feedbackWanted
-
     title: roadmap ? roadmap.title : ""
 
     // A chip is touched 4 beyond what is seen of it.
@@ -108,7 +106,7 @@ PushedPage {
         width: parent.width
         kind: ActionButton.Secondary
         text: root.roadmap ? root.roadmap.footer : ""
-        onClicked: root.feedbackWanted()
+        onClicked: App.present("feedback")
     }
 
     // What loads at once never shows that it loads.

@@ -7,8 +7,9 @@ import Mivo
 Sheet {
     id: root
 
-    property ChartTable table: null
+    property ChartTable table: App.fastingChart
 
+    title: Words.fasting
     spacing: 0
 
     ListView {

@@ -6,10 +6,8 @@ import Mivo
 FocusScope {
     id: root
 
-    signal back
-
-    Keys.onEscapePressed: root.back()
-    Keys.onBackPressed: root.back()
+    Keys.onEscapePressed: App.back()
+    Keys.onBackPressed: App.back()
     Keys.onPressed: event => scrollKeys.pressed(event)
 
     ScrollKeys {
@@ -22,7 +20,6 @@ FocusScope {
         width: parent.width
         focus: true
         title: App.weights.title
-        onBack: root.back()
     }
 
     RowKeys {
@@ -46,8 +43,8 @@ FocusScope {
         onEditWanted: row => App.weights.edit(row)
         onRemoveWanted: row => App.weights.remove(row)
         onMenuWanted: row => {
-            menu.row = row;
-            menu.open();
+            App.weights.menuRow = row;
+            App.present("weightMenu");
         }
     }
 
@@ -63,14 +60,5 @@ FocusScope {
             text: App.weights.note
             color: Theme.inkSecondary
         }
-    }
-
-    RowMenu {
-        id: menu
-        title: App.weights.menuTitle
-        editText: App.weights.editLabel
-        removeText: App.weights.removeLabel
-        onEditWanted: App.weights.edit(row)
-        onRemoveWanted: App.weights.remove(row)
     }
 }

@@ -4,6 +4,8 @@
 #include <CLI/CLI.hpp>
 #include <set>
 
+#include "host/app/Screens.h"
+
 namespace mivo::app {
 namespace {
 
@@ -34,6 +36,12 @@ void addRecords(CLI::App& program, Options& options) {
       ->capture_default_str();
 }
 
+std::set<std::string> screenNames() {
+  std::set<std::string> names;
+  for (const host::Screen screen : host::allScreens()) names.emplace(rawValue(screen));
+  return names;
+}
+
 void addLook(CLI::App& program, Options& options) {
   auto* picture = program.add_option("--render", options.picture, "Draws the window into a picture and ends");
   picture->type_name("FILE.png");
@@ -47,8 +55,7 @@ void addLook(CLI::App& program, Options& options) {
   program
       .add_option("--tab", options.tab, "What is shown first; default: the running fast, or else what was shown last")
       ->check(CLI::IsMember({"fasting", "statistics", "settings"}));
-  program.add_option("--screen", options.screen, "What is open over it")
-      ->check(CLI::IsMember(std::set<std::string>{screens.begin(), screens.end()}));
+  program.add_option("--screen", options.screen, "What is open over it")->check(CLI::IsMember(screenNames()));
 }
 
 }  // namespace

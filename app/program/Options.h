@@ -2,18 +2,10 @@
 #pragma once
 
 #include <CLI/App.hpp>
-#include <array>
 #include <optional>
 #include <string>
 
 namespace mivo::app {
-
-/// The pages and sheets that the window can present by name.
-inline constexpr std::array<const char*, 28> screens{
-    "statistics", "badges",     "milestones",   "streaks",     "roadmap",    "feedback", "donations",
-    "overlaps",   "goalWeight", "weights",      "editWeight",  "date",       "table",    "fasting",
-    "editFast",   "addFast",    "fastGoal",     "fastStart",   "fastMenu",   "months",   "settings",
-    "cards",      "about",      "firstWeekday", "defaultGoal", "weightUnit", "language", "appearance"};
 
 /// What stands after `mivo-app`, as it was typed.
 struct Options {
@@ -28,7 +20,7 @@ struct Options {
   bool dark = false, light = false, mirrored = false, whole = false;
   std::optional<double> textScale = {};
   std::string tab = {};     ///< the running fast's, or the last one
-  std::string screen = {};  ///< what is open over the tab
+  std::string screen = {};  ///< what is open over the tab: the raw value of a `host::Screen`
 };
 
 /// Lists them for the parser and for --help.

@@ -111,12 +111,12 @@ AppWindow::AppWindow(const Environment& environment, const Options& options, QSi
   look.setOverride({.mode = modeOf(options), .textScale = options.textScale, .still = !options.picture.empty()});
   app.say(environment.notice);
   app.appear();
+  app.present(QString::fromStdString(openingTabOf(app, *defaults, options)));
   giveModel(engine, app);
   giveModel(engine, look);
   engine.addImportPath(QStringLiteral("qrc:/"));
   engine.setInitialProperties({{QStringLiteral("width"), size.width()},
                                {QStringLiteral("height"), size.height()},
-                               {QStringLiteral("tab"), QString::fromStdString(openingTabOf(app, *defaults, options))},
                                {QStringLiteral("screen"), QString::fromStdString(options.screen)}});
   engine.load(QUrl{QStringLiteral("qrc:/Mivo/Main.qml")});
   // What the screen asked for when it appeared was answered by now: nothing moves after the first frame.
@@ -138,7 +138,7 @@ void AppWindow::keepState() const {
   host::WindowState state = host::windowState(*defaults);
   const bool fillsTheScreen = shown->visibility() == QWindow::Maximized || shown->visibility() == QWindow::FullScreen;
   if (!fillsTheScreen) state.size = std::to_string(shown->width()) + "x" + std::to_string(shown->height());
-  state.tab = shown->property("tab").toString().toStdString();
+  state.tab = rawValue(tabOf(openScreen(app.state())));
   host::setWindowState(*defaults, state);
 }
 

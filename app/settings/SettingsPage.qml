@@ -11,24 +11,6 @@ FocusScope {
     readonly property bool wide: Window.width >= Theme.sideBarWidth
     readonly property real margin: wide ? Theme.pageMarginWide : Theme.pageMargin
 
-    /// Opens one of the sheets by its name, in place of what is open; none for an empty name.
-    function present(name: string) {
-        for (const sheet of [goal, weightUnit, firstWeekday, language, appearance])
-            sheet.close();
-        switch (name) {
-        case "defaultGoal":
-            return goal.open();
-        case "weightUnit":
-            return weightUnit.open();
-        case "firstWeekday":
-            return firstWeekday.open();
-        case "language":
-            return language.open();
-        case "appearance":
-            return appearance.open();
-        }
-    }
-
     Keys.onPressed: event => scrollKeys.pressed(event)
 
     ScrollKeys {
@@ -79,7 +61,7 @@ FocusScope {
                         focus: true
                         iconName: "statistics"
                         text: App.settings.cardsLabel
-                        onClicked: App.settings.page = "cards"
+                        onClicked: App.present("cards")
                     }
                 }
 
@@ -91,14 +73,14 @@ FocusScope {
                         iconName: "fasting"
                         text: App.settings.goalLabel
                         value: App.settings.goal
-                        onClicked: goal.open()
+                        onClicked: App.present("defaultGoal")
                     }
 
                     ValueRow {
                         iconName: "scale"
                         text: App.settings.weightUnit.title
                         value: App.settings.weightUnit.value
-                        onClicked: weightUnit.open()
+                        onClicked: App.present("weightUnit")
                     }
 
                     ValueRow {
@@ -106,21 +88,21 @@ FocusScope {
                         text: App.settings.firstWeekday.title
                         value: App.settings.firstWeekday.value
                         valueCapitalization: Font.Capitalize
-                        onClicked: firstWeekday.open()
+                        onClicked: App.present("firstWeekday")
                     }
 
                     ValueRow {
                         iconName: "globe"
                         text: App.settings.language.title
                         value: App.settings.language.value
-                        onClicked: language.open()
+                        onClicked: App.present("language")
                     }
 
                     ValueRow {
                         iconName: "sun"
                         text: App.settings.appearance.title
                         value: App.settings.appearance.value
-                        onClicked: appearance.open()
+                        onClicked: App.present("appearance")
                     }
 
                     TextSizeRow {
@@ -146,7 +128,7 @@ FocusScope {
                         iconName: "info"
                         text: App.settings.aboutLabel
                         value: App.settings.version
-                        onClicked: App.settings.page = "about"
+                        onClicked: App.present("about")
                     }
                 }
             }
@@ -155,34 +137,44 @@ FocusScope {
 
     FocusFollower { view: flick }
 
-    FastGoalSheet {
-        id: goal
-        goal: App.settings.goalSeconds
-        onChosen: seconds => App.settings.chooseGoal(seconds)
+    LateSheet {
+        screen: "defaultGoal"
+        sourceComponent: FastGoalSheet {
+            goal: App.settings.goalSeconds
+            onChosen: seconds => App.settings.chooseGoal(seconds)
+        }
     }
 
-    ChoiceSheet {
-        id: weightUnit
-        choice: App.settings.weightUnit
-        onChosen: index => App.settings.chooseWeightUnit(index)
+    LateSheet {
+        screen: "weightUnit"
+        sourceComponent: ChoiceSheet {
+            choice: App.settings.weightUnit
+            onChosen: index => App.settings.chooseWeightUnit(index)
+        }
     }
 
-    ChoiceSheet {
-        id: firstWeekday
-        choice: App.settings.firstWeekday
-        capitalization: Font.Capitalize
-        onChosen: index => App.settings.chooseFirstWeekday(index)
+    LateSheet {
+        screen: "firstWeekday"
+        sourceComponent: ChoiceSheet {
+            choice: App.settings.firstWeekday
+            capitalization: Font.Capitalize
+            onChosen: index => App.settings.chooseFirstWeekday(index)
+        }
     }
 
-    ChoiceSheet {
-        id: language
-        choice: App.settings.language
-        onChosen: index => App.settings.chooseLanguage(index)
+    LateSheet {
+        screen: "language"
+        sourceComponent: ChoiceSheet {
+            choice: App.settings.language
+            onChosen: index => App.settings.chooseLanguage(index)
+        }
     }
 
-    ChoiceSheet {
-        id: appearance
-        choice: App.settings.appearance
-        onChosen: index => App.settings.chooseAppearance(index)
+    LateSheet {
+        screen: "appearance"
+        sourceComponent: ChoiceSheet {
+            choice: App.settings.appearance
+            onChosen: index => App.settings.chooseAppearance(index)
+        }
     }
 }

@@ -19,11 +19,6 @@ Item {
     /// Below what a window that opens can show: made when there is time, after the first frame.
     property bool late: false
 
-    signal startWanted
-    signal settingsWanted
-    signal goalWanted
-    signal weightsWanted
-    signal dateWanted
     signal tableWanted(chart: ChartTable, title: string)
     signal pickerMade(picker: TimeRangePicker)
 
@@ -81,16 +76,16 @@ Item {
     // A Loader of Qt 6.4 refuses components that are bound to their file, so qmllint cannot know what root is.
     // qmllint disable unqualified
     Component { id: tip; TipCard { card: root.card as NoticeCardRecord; onDismissed: App.dismissTip() } }
-    Component { id: start; StartCard { card: root.card as NoticeCardRecord; onStartTapped: root.startWanted() } }
-    Component { id: configure; ConfigureCard { card: root.card as NoticeCardRecord; onSettingsTapped: root.settingsWanted() } }
+    Component { id: start; StartCard { card: root.card as NoticeCardRecord; onStartTapped: { App.fasting.start(); App.present("fasting"); } } }
+    Component { id: configure; ConfigureCard { card: root.card as NoticeCardRecord; onSettingsTapped: App.present("cards") } }
     Component { id: summary; SummaryCard { card: root.card as SummaryCardRecord; wide: root.wide } }
-    Component { id: overlap; NoticeCard { card: root.card as NoticeCardRecord; iconName: "warning"; isCaution: true; onTapped: App.fixOverlaps() } }
-    Component { id: donation; TileCard { card: root.card as NoticeCardRecord; iconName: "heart"; onClicked: App.openDonations() } }
-    Component { id: roadmap; TileCard { card: root.card as NoticeCardRecord; iconName: "feedback"; onClicked: App.openRoadmap() } }
+    Component { id: overlap; NoticeCard { card: root.card as NoticeCardRecord; iconName: "warning"; isCaution: true; onTapped: App.present("overlaps") } }
+    Component { id: donation; TileCard { card: root.card as NoticeCardRecord; iconName: "heart"; onClicked: App.present("donations") } }
+    Component { id: roadmap; TileCard { card: root.card as NoticeCardRecord; iconName: "feedback"; onClicked: App.present("roadmap") } }
     Component { id: health; NoticeCard { card: root.card as NoticeCardRecord; iconName: "health"; onTapped: App.requestHealthAccess() } }
-    Component { id: addWeight; AddWeightCard { card: root.card as NoticeCardRecord; entry: App.addWeight; inRow: root.span === 2; onDateTapped: root.dateWanted() } }
-    Component { id: goalWeight; GoalWeightCard { card: root.card as GoalWeightCardRecord; onClicked: root.goalWanted(); onWeightsWanted: root.weightsWanted() } }
-    Component { id: badges; BadgesCard { card: root.card as BadgesCardRecord; onClicked: App.openBadges() } }
+    Component { id: addWeight; AddWeightCard { card: root.card as NoticeCardRecord; entry: App.addWeight; inRow: root.span === 2; onDateTapped: App.present("date") } }
+    Component { id: goalWeight; GoalWeightCard { card: root.card as GoalWeightCardRecord; onClicked: App.present("goalWeight"); onWeightsWanted: App.present("weights") } }
+    Component { id: badges; BadgesCard { card: root.card as BadgesCardRecord; onClicked: App.present("badges") } }
     Component { id: timeRange; TimeRangePicker {
             card: root.card as TimeRangeCardRecord
             slotTop: root.y + root.pageTop
@@ -99,7 +94,7 @@ Item {
         } }
     Component { id: fastingChart; DayBarsCard { card: root.card as DayBarsCardRecord; chart: App.fastingChart; accent: Theme.fasting; chartHeight: 200; onTableWanted: root.tableWanted(App.fastingChart, card.title) } }
     Component { id: eatingChart; DayBarsCard { card: root.card as DayBarsCardRecord; chart: App.eatingChart; accent: Theme.eating; chartHeight: root.beside ? 200 : 160; onTableWanted: root.tableWanted(App.eatingChart, card.title) } }
-    Component { id: weightChart; WeightChartCard { card: root.card as WeightChartCardRecord; chart: App.weightChart; wide: root.wide; onTableWanted: root.tableWanted(App.weightChart, card.title); onWeightsWanted: root.weightsWanted() } }
+    Component { id: weightChart; WeightChartCard { card: root.card as WeightChartCardRecord; chart: App.weightChart; wide: root.wide; onTableWanted: root.tableWanted(App.weightChart, card.title); onWeightsWanted: App.present("weights") } }
     Component { id: weightFastingChart; WeightFastingCard { card: root.card as WeightFastingChartCardRecord; chart: App.weightFastingChart; wide: root.wide; onTableWanted: root.tableWanted(App.weightFastingChart, card.title) } }
     Component { id: trends; TrendsCard { card: root.card as TrendsCardRecord; wide: root.wide } }
 }

@@ -20,11 +20,6 @@ FocusScope {
     readonly property real pickerTop: picker ? picker.controlTop : 0
     readonly property bool pickerSticks: !wide && picker !== null && flick.contentY > pickerTop - 8
 
-    signal startWanted
-    signal settingsWanted
-    signal goalWanted
-    signal weightsWanted
-    signal dateWanted
     signal tableWanted(chart: ChartTable, title: string)
 
     Keys.onPressed: event => scrollKeys.pressed(event)
@@ -100,11 +95,6 @@ FocusScope {
                         columns: root.columns
                         pageTop: grid.y
                         late: index >= root.columns * Math.ceil(root.height / Theme.lowestCard)
-                        onStartWanted: root.startWanted()
-                        onSettingsWanted: root.settingsWanted()
-                        onGoalWanted: root.goalWanted()
-                        onWeightsWanted: root.weightsWanted()
-                        onDateWanted: root.dateWanted()
                         onTableWanted: (chart, name) => root.tableWanted(chart, name)
                         onPickerMade: made => root.picker = made
                     }

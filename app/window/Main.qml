@@ -7,11 +7,8 @@ import Mivo
 Window {
     id: root
 
-    property string tab: "statistics"
-    /// What is open over the page when the window appears.
+    /// What is open when the window appears.
     property string screen
-    /// The list of weights is shown.
-    property bool weights: false
     readonly property bool side: width >= Theme.sideBarWidth
     readonly property list<string> tabs: ["fasting", "statistics", "settings"]
     readonly property list<string> names: [Words.fasting, Words.statistics, Words.settings]
@@ -28,84 +25,15 @@ Window {
     LayoutMirroring.enabled: Application.layoutDirection === Qt.RightToLeft
     LayoutMirroring.childrenInherit: true
 
-    Component.onCompleted: present(screen)
-
-    /// Opens one of the screens by its name, in place of what is open; none for an empty name.
-    function present(name: string) {
-        if (fasting.item)
-            (fasting.item as FastingPage).present("");
-        if (settings.item)
-            (settings.item as SettingsPage).present("");
-        App.settings.page = "";
-        App.dismiss();
-        App.repair.cancel();
-        App.weights.dismissEdited();
-        weights = false;
-        for (const sheet of [feedback, goalWeight, table, weightDate])
-            sheet.close();
-        switch (name) {
-        case "statistics":
-            tab = "statistics";
-            return;
-        case "fasting":
-        case "editFast":
-        case "addFast":
-        case "fastGoal":
-        case "fastStart":
-        case "fastMenu":
-        case "months":
-            tab = "fasting";
-            return (fasting.item as FastingPage).present(name);
-        case "settings":
-        case "defaultGoal":
-        case "weightUnit":
-        case "firstWeekday":
-        case "language":
-        case "appearance":
-            tab = "settings";
-            return (settings.item as SettingsPage).present(name);
-        case "cards":
-        case "about":
-            tab = "settings";
-            App.settings.page = name;
-            return;
-        case "badges":
-            return App.openBadges();
-        case "milestones":
-            App.openBadges();
-            return App.badges.openMilestones();
-        case "streaks":
-            App.openBadges();
-            return App.badges.openStreaks();
-        case "roadmap":
-            return App.openRoadmap();
-        case "feedback":
-            App.openRoadmap();
-            return feedback.open();
-        case "donations":
-            return App.openDonations();
-        case "overlaps":
-            return App.fixOverlaps();
-        case "goalWeight":
-            return goalWeight.open();
-        case "weights":
-            weights = true;
-            return;
-        case "editWeight":
-            weights = true;
-            return App.weights.edit(0);
-        case "date":
-            return weightDate.open();
-        case "table":
-            return showTable(App.fastingChart, names[0]);
-        }
+    Component.onCompleted: {
+        if (screen !== "")
+            App.present(screen);
     }
 
     function showTable(chart: ChartTable, title: string) {
-        table.active = true;
+        App.present("table");
         (table.sheet as TableSheet).table = chart;
         table.sheet.title = title;
-        table.open();
     }
 
     Shortcut { sequence: "Ctrl+Q"; onActivated: Qt.quit() }
@@ -115,9 +43,9 @@ Window {
         enabled: App.message.button !== "" && !App.message.isFailure
         onActivated: App.pressMessage()
     }
-    Shortcut { sequence: "Ctrl+1"; onActivated: root.present(root.tabs[0]) }
-    Shortcut { sequence: "Ctrl+2"; onActivated: root.present(root.tabs[1]) }
-    Shortcut { sequence: "Ctrl+3"; onActivated: root.present(root.tabs[2]) }
+    Shortcut { sequence: "Ctrl+1"; onActivated: App.present(root.tabs[0]) }
+    Shortcut { sequence: "Ctrl+2"; onActivated: App.present(root.tabs[1]) }
+    Shortcut { sequence: "Ctrl+3"; onActivated: App.present(root.tabs[2]) }
 
     Item {
         id: pages
@@ -131,13 +59,13 @@ Window {
             anchors.fill: parent
             anchors.bottomMargin: root.side ? 0 : Theme.tabBarSize
             visible: !pages.covered
-            enabled: (App.destination === "" || App.destination === "donations") && App.settings.page === "" && !root.weights
+            enabled: App.screens.page === ""
 
             Loader {
                 id: fasting
                 anchors.fill: parent
-                visible: root.tab === "fasting"
-                active: root.tab === "fasting" || status === Loader.Ready // also below a page that covers it
+                visible: App.screens.tab === "fasting"
+                active: App.screens.tab === "fasting" || status === Loader.Ready // also below a page that covers it
                 focus: visible
                 sourceComponent: FastingPage { focus: true }
             }
@@ -145,30 +73,17 @@ Window {
             StatisticsPage {
                 id: statistics
                 anchors.fill: parent
-                visible: root.tab === "statistics"
+                visible: App.screens.tab === "statistics"
                 wide: root.side
                 focus: visible
-                onStartWanted: {
-                    App.fasting.start();
-                    root.tab = "fasting";
-                }
-                onSettingsWanted: root.present("cards")
-                onGoalWanted: goalWeight.open()
-                onWeightsWanted: root.weights = true
-                onDateWanted: weightDate.open()
                 onTableWanted: (chart, name) => root.showTable(chart, name)
-                // What was changed on other tabs is seen on return.
-                onVisibleChanged: {
-                    if (visible)
-                        App.appear();
-                }
             }
 
             Loader {
                 id: settings
                 anchors.fill: parent
-                visible: root.tab === "settings"
-                active: root.tab === "settings" || status === Loader.Ready // also below a page that covers it
+                visible: App.screens.tab === "settings"
+                active: App.screens.tab === "settings" || status === Loader.Ready // also below a page that covers it
                 focus: visible
                 sourceComponent: SettingsPage { focus: true }
             }
@@ -181,60 +96,43 @@ Window {
             height: Theme.tabBarSize
             tabs: root.tabs
             names: root.names
-            chosen: root.tab
-            onTapped: tab => root.choose(tab)
+            chosen: App.screens.tab
+            onTapped: tab => App.present(tab)
         }
 
         PushLayer {
             id: badgesLayer
             anchors.fill: parent
-            open: App.destination === "badges"
-            page: BadgesPage { onBack: App.dismiss() }
+            open: App.screens.page === "badges"
+            page: BadgesPage {}
         }
 
         PushLayer {
             id: roadmapLayer
             anchors.fill: parent
-            open: App.destination === "roadmap"
-            page: RoadmapPage {
-                roadmap: App.roadmap
-                onBack: App.dismiss()
-            }
-        }
-
-        Connections {
-            target: roadmapLayer.shown as RoadmapPage
-            function onFeedbackWanted() {
-                feedback.open();
-            }
+            open: App.screens.page === "roadmap"
+            page: RoadmapPage { roadmap: App.roadmap }
         }
 
         PushLayer {
             id: weightsLayer
             anchors.fill: parent
-            open: root.weights
+            open: App.screens.page === "weights"
             page: WeightsPage {}
-        }
-
-        Connections {
-            target: weightsLayer.shown as WeightsPage
-            function onBack() {
-                root.weights = false;
-            }
         }
 
         PushLayer {
             id: cardsLayer
             anchors.fill: parent
-            open: App.settings.page === "cards"
-            page: CardSettingsPage { onBack: App.settings.page = "" }
+            open: App.screens.page === "cards"
+            page: CardSettingsPage {}
         }
 
         PushLayer {
             id: aboutLayer
             anchors.fill: parent
-            open: App.settings.page === "about"
-            page: AboutPage { onBack: App.settings.page = "" }
+            open: App.screens.page === "about"
+            page: AboutPage {}
         }
 
         MessageBar {
@@ -253,64 +151,55 @@ Window {
         height: parent.height
         tabs: root.tabs
         names: root.names
-        chosen: root.tab
-        onTapped: tab => root.choose(tab)
-    }
-
-    function choose(wanted: string) {
-        App.dismiss();
-        App.settings.page = "";
-        weights = false;
-        tab = wanted;
+        chosen: App.screens.tab
+        onTapped: tab => App.present(tab)
     }
 
     LateSheet {
-        id: donations
-        readonly property bool wanted: App.destination === "donations"
-        onWantedChanged: wanted ? open() : close()
-        sourceComponent: DonationsSheet {
-            onAboutToHide: {
-                if (App.destination === "donations")
-                    App.dismiss();
-            }
-        }
+        screen: "donations"
+        sourceComponent: DonationsSheet {}
     }
 
     LateSheet {
-        id: repair
-        readonly property bool wanted: App.repair.isProposed
-        onWantedChanged: wanted ? open() : close()
-        sourceComponent: RepairSheet {
-            onAboutToHide: {
-                if (App.repair.isProposed)
-                    App.repair.cancel();
-            }
-        }
+        screen: "overlaps"
+        sourceComponent: RepairSheet {}
     }
 
     LateSheet {
-        id: feedback
+        screen: "feedback"
         sourceComponent: FeedbackSheet {}
     }
 
     LateSheet {
-        id: goalWeight
+        screen: "goalWeight"
         sourceComponent: GoalWeightSheet {}
     }
 
     LateSheet {
-        readonly property bool wanted: App.weights.isEditing
-        onWantedChanged: wanted ? open() : close()
-        sourceComponent: WeightSheet { onAboutToHide: App.weights.dismissEdited() }
+        screen: "editWeight"
+        sourceComponent: WeightSheet {}
+    }
+
+    // Not in the page that it belongs to: a sheet whose page goes before it has closed stays where it is, unseen.
+    LateSheet {
+        screen: "weightMenu"
+        sourceComponent: RowMenu {
+            title: App.weights.menuTitle
+            editText: App.weights.editLabel
+            removeText: App.weights.removeLabel
+            onEditWanted: App.weights.edit(App.weights.menuRow)
+            onRemoveWanted: App.weights.remove(App.weights.menuRow)
+        }
     }
 
     LateSheet {
         id: table
+        screen: "table"
         sourceComponent: TableSheet {}
     }
 
     LateSheet {
-        id: weightDate
+        screen: "date"
         sourceComponent: DateTimeSheet {
             title: App.addWeight.dateTitle
             instant: App.addWeight.date

@@ -6,6 +6,7 @@
 #include <string>
 #include <variant>
 
+#include "host/app/Screens.h"
 #include "host/fasting/FastDraft.h"
 #include "host/fasting/HistoryClient.h"
 #include "host/history/FieldRules.h"
@@ -61,6 +62,8 @@ struct AppFeature {
     Observed<std::optional<HistoryChange>> overlapRepair = std::optional<HistoryChange>{};  ///< proposed, not yet done
     Observed<std::optional<UndoOffer>> undo = std::optional<UndoOffer>{};
     Observed<std::string> failure = std::string{};  ///< one sentence, until dismissed
+    /// The innermost that is open of those that nothing else here tells of; `openScreen` knows them all.
+    Observed<Screen> screen = Screen::statistics;
 
     /// A state before anything was loaded; weights are shown in that unit until the user chooses another.
     static State make(TimeRange timeRange, WeightUnit usualUnit = WeightUnit::kilograms);
@@ -101,6 +104,21 @@ struct AppFeature {
     struct didTapStop {
       Date end;
       bool operator==(const didTapStop&) const = default;
+    };
+    /// Closes what it does not stand over, and opens what it stands over and then itself, where there is something to
+    /// be shown there: no fast is edited where none is recorded.
+    struct didOpen {
+      Screen screen;
+      bool operator==(const didOpen&) const = default;
+    };
+    /// Nothing unless it is the innermost that is open: a sheet that is closed from elsewhere tells of it once more.
+    struct didClose {
+      Screen screen;
+      bool operator==(const didClose&) const = default;
+    };
+    /// Closes the innermost that is open; a tab stays.
+    struct didGoBack {
+      bool operator==(const didGoBack&) const = default;
     };
     /// Of the running fast.
     struct didChangeStart {
@@ -188,13 +206,13 @@ struct AppFeature {
   struct Action
       : Cases,
         std::variant<Cases::statistics, Cases::reload, Cases::didLoad, Cases::didFail, Cases::didChangeSettings,
-                     Cases::recompute, Cases::didTapStart, Cases::didTapStop, Cases::didChangeStart,
-                     Cases::didChangeGoal, Cases::didTapEditFast, Cases::didTapAddFast, Cases::didChangeDraftStart,
-                     Cases::didChangeDraftEnd, Cases::didChangeDraftGoal, Cases::didChangeDraftNote,
-                     Cases::didTapSaveDraft, Cases::didDismissDraft, Cases::didDeleteFast, Cases::didTapEditWeight,
-                     Cases::editedWeight, Cases::didDeleteWeight, Cases::didConfirmOverlapRepair,
-                     Cases::didCancelOverlapRepair, Cases::didTapMessage, Cases::didDismissMessages, Cases::didWrite,
-                     Cases::didFailToWrite> {
+                     Cases::recompute, Cases::didOpen, Cases::didClose, Cases::didGoBack, Cases::didTapStart,
+                     Cases::didTapStop, Cases::didChangeStart, Cases::didChangeGoal, Cases::didTapEditFast,
+                     Cases::didTapAddFast, Cases::didChangeDraftStart, Cases::didChangeDraftEnd,
+                     Cases::didChangeDraftGoal, Cases::didChangeDraftNote, Cases::didTapSaveDraft,
+                     Cases::didDismissDraft, Cases::didDeleteFast, Cases::didTapEditWeight, Cases::editedWeight,
+                     Cases::didDeleteWeight, Cases::didConfirmOverlapRepair, Cases::didCancelOverlapRepair,
+                     Cases::didTapMessage, Cases::didDismissMessages, Cases::didWrite, Cases::didFailToWrite> {
     using variant::variant;
   };
 
@@ -216,6 +234,9 @@ struct AppFeature {
   Effect<Action> on(State& state, const Action::didFail& sent) const;
   Effect<Action> on(State& state, const Action::didChangeSettings& sent) const;
   Effect<Action> on(State& state, const Action::recompute& sent) const;
+  Effect<Action> on(State& state, const Action::didOpen& sent) const;
+  Effect<Action> on(State& state, const Action::didClose& sent) const;
+  Effect<Action> on(State& state, const Action::didGoBack& sent) const;
   Effect<Action> on(State& state, const Action::didTapStart& sent) const;
   Effect<Action> on(State& state, const Action::didTapStop& sent) const;
   Effect<Action> on(State& state, const Action::didChangeStart& sent) const;
@@ -238,6 +259,10 @@ struct AppFeature {
   Effect<Action> on(State& state, const Action::didDismissMessages& sent) const;
   Effect<Action> on(State& state, const Action::didWrite& sent) const;
   Effect<Action> on(State& state, const Action::didFailToWrite& sent) const;
+  Effect<Action> enter(State& state, Screen screen) const;
+  Effect<Action> openDonations(State& state) const;
+  Effect<Action> leave(State& state, Screen screen) const;
+  Effect<Action> backTo(State& state, Screen screen) const;
   void takeSettings(State& state) const;
   void recompute(State& state) const;
   Effect<Action> saveWeight(State& state, const BodyWeightSample& sample) const;
@@ -247,6 +272,9 @@ struct AppFeature {
   Effect<Action> writeOrSay(State& state, Step step, Outcome outcome) const;
   Effect<Action> write(Step step, HistoryChange change) const;
 };
+
+/// The innermost that is open.
+Screen openScreen(const AppFeature::State& state);
 
 /// "Fast deleted": what was done, beside the offer to undo it; empty for a step without one.
 std::string doneText(AppFeature::Step step, const TextLookup& texts);
@@ -260,7 +288,8 @@ void fields(Listed& record, Visit&& visit) {
 
 template <RecordOf<AppFeature::State> Listed, class Visit>
 void fields(Listed& record, Visit&& visit) {
-  auto& [statistics, fasts, weights, now, nextGoalSeconds, draft, editedWeight, overlapRepair, undo, failure] = record;
+  auto& [statistics, fasts, weights, now, nextGoalSeconds, draft, editedWeight, overlapRepair, undo, failure, screen] =
+      record;
   visit("statistics", statistics);
   visit("fasts", fasts);
   visit("weights", weights);
@@ -271,6 +300,7 @@ void fields(Listed& record, Visit&& visit) {
   visit("overlapRepair", overlapRepair);
   visit("undo", undo);
   visit("failure", failure);
+  visit("screen", screen);
 }
 
 }  // namespace mivo::host

@@ -69,9 +69,7 @@ TEST(AppWindow, opensEverySheetAsOftenAsItIsWantedWhileThingsMove) {
   Options options = ShownApp::optionsFor(sample);
   options.picture.clear();
   ShownApp shown{options};
-  const auto present = [&shown](const char* screen) {
-    QMetaObject::invokeMethod(&shown.window(), "present", Q_ARG(QString, QString::fromLatin1(screen)));
-  };
+  const auto present = [&shown](const char* screen) { shown.model().present(QString::fromLatin1(screen)); };
   for (const char* sheet :
        {"editFast", "addFast", "fastGoal", "fastStart", "fastMenu", "defaultGoal", "weightUnit", "firstWeekday",
         "language", "appearance", "feedback", "donations", "overlaps", "goalWeight", "editWeight", "date", "table"})
@@ -215,21 +213,21 @@ TEST(AppWindow, opensTheBadgesAndGoesBackStepByStep) {
   QQuickItem* card = shown.ofType("BadgesCard");
   ASSERT_NE(card, nullptr);
   shown.click(card);
-  EXPECT_EQ(shown.app.model().destination(), "badges");
+  EXPECT_EQ(openScreen(shown.state()), host::Screen::badges);
   QQuickItem* family = shown.ofType("BadgeFamilyCard");
   ASSERT_NE(family, nullptr);
   shown.click(family);
-  EXPECT_EQ(shown.app.model().badges()->property("list").toString(), "milestones");
+  EXPECT_EQ(openScreen(shown.state()), host::Screen::milestones);
   QTest::keyClick(&shown.window(), Qt::Key_Escape);
-  EXPECT_EQ(shown.app.model().badges()->property("list").toString(), "");
+  EXPECT_EQ(openScreen(shown.state()), host::Screen::badges);
   settle(shown.window());
   QTest::keyClick(&shown.window(), Qt::Key_Escape);
-  EXPECT_EQ(shown.app.model().destination(), "");
+  EXPECT_EQ(openScreen(shown.state()), host::Screen::statistics);
 }
 
 TEST(AppWindow, saysThatTheRoadmapCannotBeLoadedAndTriesAgain) {
   Shown shown{threeWeeks};
-  shown.app.model().openRoadmap();
+  shown.app.model().present("roadmap");
   ASSERT_TRUE(eventually([&] { return shown.app.model().roadmap()->page().notice.hasFailed; }));
   settle(shown.window());
   QQuickItem* again = shown.button("Try again");
@@ -301,7 +299,7 @@ TEST(AppWindow, fixesOverlapsOnConfirmationAndUndoesIt) {
   std::ofstream{sample} << overlappingFasts;
   Shown shown{sample};
   EXPECT_TRUE(*shown.statistics().stats.hasOverlappingFasts);
-  shown.app.model().fixOverlaps();
+  shown.app.model().present("overlaps");
   settle(shown.window());
   QQuickItem* fix = shown.button(shown.app.model().repair()->property("button").toString());
   ASSERT_NE(fix, nullptr);

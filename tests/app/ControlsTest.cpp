@@ -224,16 +224,17 @@ TEST(Screens, openAgainAndAfterEachOther) {
   options.picture = "";
   options.tab = "statistics";
   ShownApp app{options};
-  const auto present = [&](const char* screen) {
-    QMetaObject::invokeMethod(&app.window(), "present", Q_ARG(QString, QString::fromLatin1(screen)));
+  const auto present = [&](const std::string& screen) {
+    app.model().present(QString::fromStdString(screen));
     settle(app.window());
   };
   std::map<std::string, QStringList> first;
+  const auto screens = host::allScreens();
   constexpr std::array<std::size_t, 2> steps{1, 5};
   for (const std::size_t step : steps) {
     ASSERT_EQ(std::gcd(step, screens.size()), 1U) << "each comes once a round";
     for (std::size_t count = 0; count < screens.size(); ++count) {
-      const char* screen = screens[count * step % screens.size()];
+      const std::string screen{rawValue(screens[count * step % screens.size()])};
       SCOPED_TRACE(screen);
       if (step == 5) app.window().resize(900, 700);
       present(screen);
@@ -253,9 +254,10 @@ TEST(Screens, growWithTheTextSizeWhileTheyAreOpen) {
     app.app.appearance().setOverride({.mode = host::AppearanceMode::light, .textScale = scale, .still = true});
     settle(app.window());
   };
-  for (const char* screen : screens) {
+  for (const host::Screen one : host::allScreens()) {
+    const std::string screen{rawValue(one)};
     SCOPED_TRACE(screen);
-    QMetaObject::invokeMethod(&app.window(), "present", Q_ARG(QString, QString::fromLatin1(screen)));
+    app.model().present(QString::fromStdString(screen));
     settle(app.window());
     for (const double scale : {2.0, 1.0}) {
       scaleTo(scale);

@@ -225,24 +225,24 @@ void Drive::readTheStatistics() {
 
 void Drive::openAndCloseWhatIsPresented() {
   clickType("BadgesCard");
-  EXPECT_EQ(app->model().destination(), "badges");
+  EXPECT_EQ(openScreen(app->state()), host::Screen::badges);
   clickType("BadgeFamilyCard");
-  EXPECT_EQ(app->model().badges()->property("list").toString(), "milestones");
+  EXPECT_EQ(openScreen(app->state()), host::Screen::milestones);
   key("Escape");
-  EXPECT_EQ(app->model().badges()->property("list").toString(), "");
+  EXPECT_EQ(openScreen(app->state()), host::Screen::badges);
   key("Escape");
-  EXPECT_EQ(app->model().destination(), "");
+  EXPECT_EQ(openScreen(app->state()), host::Screen::statistics);
 
   click("Mivo is free, privacy-friendly and without ads. Donate to support my work. Thank you!");
-  EXPECT_EQ(app->model().destination(), "donations");
+  EXPECT_EQ(openScreen(app->state()), host::Screen::donations);
   EXPECT_TRUE(eventually([&] { return app->button("€3") != nullptr; }));
   click("Not now");
-  EXPECT_EQ(app->model().destination(), "");
+  EXPECT_EQ(openScreen(app->state()), host::Screen::statistics);
 }
 
 void Drive::vote() {
   click("Give feedback, suggest ideas and vote on upcoming features");
-  EXPECT_EQ(app->model().destination(), "roadmap");
+  EXPECT_EQ(openScreen(app->state()), host::Screen::roadmap);
   const auto ofWeeklyPlan = [&] {
     return app->find([](const QQuickItem* one) {
       return QByteArray{one->metaObject()->className()}.startsWith("VoteButton") &&
@@ -263,9 +263,9 @@ void Drive::vote() {
   EXPECT_NE(app->button("Send"), nullptr);
   key("Escape");
   EXPECT_EQ(app->button("Send"), nullptr);
-  EXPECT_EQ(app->model().destination(), "roadmap") << "one step at a time";
+  EXPECT_EQ(openScreen(app->state()), host::Screen::roadmap) << "one step at a time";
   key("Escape");
-  EXPECT_EQ(app->model().destination(), "");
+  EXPECT_EQ(openScreen(app->state()), host::Screen::statistics);
 }
 
 void Drive::logAWeight() {
