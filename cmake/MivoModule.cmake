@@ -10,16 +10,16 @@ function(mivo_module room)
   install(FILES ${arg_HEADERS} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/mivo/${room})
 endfunction()
 
-# mivo_room(<house> <room> [HEADERS ...] [SOURCES ...] [LINKS <target>...] [PRIVATE_LINKS <target>...]): target
+# mivo_room(<house> <room> [TYPE OBJECT] [HEADERS ...] [SOURCES ...] [LINKS <target>...] [PRIVATE_LINKS <target>...]): target
 # <house>::<room>, whose headers are included as "<house>/<room>/Name.h".
 function(mivo_room house room)
-  cmake_parse_arguments(PARSE_ARGV 2 arg "" "" "HEADERS;SOURCES;LINKS;PRIVATE_LINKS")
+  cmake_parse_arguments(PARSE_ARGV 2 arg "" "TYPE" "HEADERS;SOURCES;LINKS;PRIVATE_LINKS")
   set(target ${house}_${room})
   set(root ${PROJECT_BINARY_DIR}/rooms/${house}-${room})
   file(MAKE_DIRECTORY ${root}/${house})
   file(CREATE_LINK ${CMAKE_CURRENT_SOURCE_DIR} ${root}/${house}/${room} SYMBOLIC)
   if(arg_SOURCES)
-    add_library(${target} ${arg_SOURCES} ${arg_HEADERS})
+    add_library(${target} ${arg_TYPE} ${arg_SOURCES} ${arg_HEADERS})
     target_include_directories(
       ${target} PUBLIC $<BUILD_INTERFACE:${root}> $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>)
     target_compile_features(${target} PUBLIC cxx_std_20)
