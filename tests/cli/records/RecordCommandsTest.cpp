@@ -54,6 +54,21 @@ TEST(RecordCommands, takeTimesAsPeopleSayThem) {
               MatchesRegex("Added .*02:30 .02:00 to .*02:30 .01:00, 1h 0m.*"));
 }
 
+TEST(RecordCommands, takeALengthAgoForATimeWhereverOneIsTyped) {
+  const Workplace place;
+  said(place, "add -90m -30m");
+  said(place, "add --note -5 -5h '-4h 30m' --goal-hours=18");
+  const auto fasts = own(place).fasts;
+  ASSERT_EQ(fasts.size(), 2u);
+  EXPECT_NEAR(fasts[0].fast.finished.value().duration(), 0.5 * secondsPerHour, 1);
+  EXPECT_EQ(fasts[0].note, "-5") << "what stands behind an option is its value, to the letter";
+  EXPECT_NEAR(fasts[1].fast.finished.value().duration(), secondsPerHour, 1);
+  EXPECT_NEAR(secondsBetween(fasts[0].fast.start, fasts[1].fast.start), 3.5 * secondsPerHour, 60);
+
+  said(place, "edit " + text(fasts[1].fast.id) + " --start -2h --end -1h");
+  EXPECT_NEAR(secondsBetween(fasts[0].fast.start, own(place).fasts[1].fast.start), 3 * secondsPerHour, 60);
+}
+
 TEST(RecordCommands, keepAFastFromItsStartToItsRemoval) {
   const Workplace place;
   const std::string started = said(place, "start --at '2026-02-28 20:04' --goal-hours 18 --note tea");
