@@ -56,6 +56,9 @@ TEST(Network, holdsWhatBeginsWithItsBits) {
   EXPECT_TRUE(holds("10.0.0.0/8", "10.255.0.1"));
   EXPECT_TRUE(holds("10.0.0.0/8", "::ffff:10.1.2.3"));
   EXPECT_FALSE(holds("10.0.0.0/8", "11.0.0.0"));
+  EXPECT_TRUE(holds("10.0.0.7/32", "10.0.0.7"));
+  EXPECT_FALSE(holds("10.0.0.7/32", "10.0.0.6"));
+  EXPECT_TRUE(holds("2001:db8::7/128", "2001:db8::7"));
   EXPECT_TRUE(holds("172.16.0.0/12", "172.31.255.255"));
   EXPECT_FALSE(holds("172.16.0.0/12", "172.32.0.0"));
   EXPECT_TRUE(holds("192.0.2.7", "192.0.2.7"));
