@@ -26,22 +26,25 @@ using Destination = StatisticsFeature::Destination;
 
 constexpr std::chrono::seconds untilLookedAround{2};
 
-drawing::DayBarsClients barClients() {
-  return {*dependency(&Dependencies::dateIntervalFormatter), *dependency(&Dependencies::hourMinDurationUnitFormatter),
-          *dependency(&Dependencies::hourDurationUnitFormatter)};
+drawing::DayBarsClients barClients(const Dependencies& all) {
+  return {*all.dateIntervalFormatter, *all.hourMinDurationUnitFormatter, *all.hourDurationUnitFormatter};
 }
 
 }  // namespace
 
 AppModel::AppModel(AppServices given)
     : services{std::move(given)},
-      clients{[all = currentDependencies()] { return pageClients(all, all.date->now()); }},
+      all{*services.dependencies},
+      texts{*all.texts},
+      clients{[present = services.dependencies] { return pageClients(*present, present->date->now()); }},
       store{State::make(TimeRange::week, services.usualWeightUnit), host::AppFeature{.history = services.history},
-            dependency(&Dependencies::mainQueue), dependency(&Dependencies::taskRunner)},
-      fastingBars{store.state().statistics.stats.fastingChartState, barClients(),
+            all.mainQueue, all.taskRunner},
+      fastingBars{store.state().statistics.stats.fastingChartState, barClients(all),
                   [this](DayBarsModel::Action action) { sendStatistics(Sent::fastingChartAction{std::move(action)}); }},
-      eatingBars{store.state().statistics.stats.eatingChartState, barClients(),
+      eatingBars{store.state().statistics.stats.eatingChartState, barClients(all),
                  [this](DayBarsModel::Action action) { sendStatistics(Sent::eatingChartAction{std::move(action)}); }},
+      weightLine{drawing::WeightChart{}, lineChartsHaveHeaders(all.platformVersion), clients},
+      pairLine{WeightFastingChart{}, lineChartsHaveHeaders(all.platformVersion), clients},
       weightEntry{
           [this](AddWeightModel::Action action) { sendStatistics(Sent::addWeightLogAction{std::move(action)}); }},
       allWeights{clients, [this](Action action) { send(std::move(action)); }},
@@ -51,9 +54,10 @@ AppModel::AppModel(AppServices given)
         sendStatistics(Sent::destination{Shown::presented{Destination::Action::donations{std::move(action)}}});
       }},
       overlapRepair{clients, [this](Action action) { send(std::move(action)); }},
-      chosenSettings{clients, services.calendar, *services.appearance, services.about,
-                     [this] { send(Action::didChangeSettings{}); }} {
-  feedbackTexts.show(composeFeedback(*dependency(&Dependencies::texts)));
+      chosenSettings{clients,           all,
+                     services.calendar, *services.appearance,
+                     services.about,    [this] { send(Action::didChangeSettings{}); }} {
+  feedbackTexts.show(composeFeedback(texts));
   following = store.observe([this](const State& state) { follow(state); });
   load();
   watchTime();
@@ -66,7 +70,7 @@ void AppModel::load() {
     seenVersion = services.history->version();
     send(Action::didLoad{services.history->load()});
   } catch (const std::exception& error) {
-    send(Action::didFail{host::faultText(error, *dependency(&Dependencies::texts))});
+    send(Action::didFail{host::faultText(error, texts)});
   }
 }
 
@@ -108,7 +112,7 @@ void AppModel::lookForOtherPrograms() {
   try {
     if (std::exchange(seenVersion, services.history->version()) != seenVersion) send(Action::reload{});
   } catch (const std::exception& error) {
-    send(Action::didFail{host::faultText(error, *dependency(&Dependencies::texts))});
+    send(Action::didFail{host::faultText(error, texts)});
   }
 }
 
@@ -119,7 +123,6 @@ void AppModel::followZone() {
   send(Action::recompute{});
   runningFast.retell();
   allWeights.retell();
-  const auto& texts = *dependency(&Dependencies::texts);
   say(filledIn(texts.text("Your time zone is now {1}. All times are shown in it; nothing was changed."),
                {qString(*zone).replace(QLatin1Char{'_'}, QLatin1Char{' '}).toStdString()}));
 }
@@ -147,10 +150,9 @@ void AppModel::follow(const State& state) {
   runningFast.follow(state);
   overlapRepair.follow(state.overlapRepair);
   chosenSettings.follow(statistics);
-  goalWeight.show(composeGoalWeightSheet(statistics.goalWeightCardState, *dependency(&Dependencies::texts),
-                                         *dependency(&Dependencies::numberFormatter),
-                                         *dependency(&Dependencies::massFormatter)));
-  said.show(host::composeMessage(state, *dependency(&Dependencies::texts)));
+  goalWeight.show(
+      composeGoalWeightSheet(statistics.goalWeightCardState, texts, *all.numberFormatter, *all.massFormatter));
+  said.show(host::composeMessage(state, texts));
   followDestination(statistics);
   followScreens(state);
 }
@@ -158,10 +160,8 @@ void AppModel::follow(const State& state) {
 void AppModel::followDestination(const StatisticsFeature::State& state) {
   const auto& destination = state.destination;
   if (!destination) return;
-  const auto& texts = *dependency(&Dependencies::texts);
   if (const auto* shown = std::get_if<Destination::State::badges>(&*destination))
-    badgeSummary.show(composeBadges(shown->state, state.streakSettings->countingEntity, texts,
-                                    *dependency(&Dependencies::numberFormatter)));
+    badgeSummary.show(composeBadges(shown->state, state.streakSettings->countingEntity, texts, *all.numberFormatter));
   if (const auto* shown = std::get_if<Destination::State::donations>(&*destination))
     donationSheet.show(composeDonations(shown->state, texts));
 }
@@ -170,14 +170,14 @@ void AppModel::followScreens(const State& state) {
   const host::OpenScreens before = std::exchange(open, composeOpenScreens(state));
   const std::string_view roadmapPage = rawValue(host::Screen::roadmap);
   if (open.page == roadmapPage && before.page != roadmapPage) {
-    features = std::make_unique<RoadmapModel>();
+    features = std::make_unique<RoadmapModel>(all);
     Q_EMIT roadmapChanged();
   }
   openScreens.show(open);
 }
 
 void AppModel::tellTips(const State& state) const {
-  services.tips->setFacts(host::currentTipFacts(state, RoadmapVotes{dependency(&Dependencies::userDefaults)}));
+  services.tips->setFacts(host::currentTipFacts(state, RoadmapVotes{all.userDefaults}));
   if (const auto& shown = *state.statistics.currentTipID) services.tips->didShow(*shown);
 }
 
@@ -222,7 +222,7 @@ bool AppModel::sendFeedback(const QString& idea, const QString& replyTo) {
   mail.setQuery(fields);
   if (!services.feedbackAddress.empty() && QDesktopServices::openUrl(mail)) return true;
   copy(body);
-  say(dependency(&Dependencies::texts)->text("No mail program took your idea. It is on the clipboard now."));
+  say(texts.text("No mail program took your idea. It is on the clipboard now."));
   return false;
 }
 

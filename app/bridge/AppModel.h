@@ -31,8 +31,9 @@ class QJSEngine;
 
 namespace mivo::app {
 
-/// What the app's model stands on, besides the dependencies in force.
+/// What the app's model stands on.
 struct AppServices {
+  std::shared_ptr<const Dependencies> dependencies;  ///< also in force where the model is made
   Client<host::HistoryClient> history;
   std::shared_ptr<const host::Tips> tips;
   WeightUnit usualWeightUnit = WeightUnit::kilograms;  ///< in the user's locale
@@ -145,13 +146,15 @@ class AppModel : public QObject {
   void tellTips(const State& state) const;
 
   AppServices services;
+  const Dependencies& all;
+  const TextLookup& texts;
   std::function<PageClients()> clients;  // of the present
   std::int64_t seenVersion = 0;
   Store<host::AppFeature> store;
   std::vector<Stamp> seen;
   ScreenModel cards;
   DayBarsModel fastingBars, eatingBars;
-  LineChartModel weightLine{drawing::WeightChart{}}, pairLine{WeightFastingChart{}};
+  LineChartModel weightLine, pairLine;
   AddWeightModel weightEntry;
   WeightsModel allWeights;
   FastingModel runningFast;

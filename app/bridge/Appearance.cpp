@@ -5,22 +5,18 @@
 #include <QtGui/QGuiApplication>
 #include <QtGui/QPalette>
 
+#include <utility>
+
 #include "app/bridge/EngineModels.h"
-#include "mivo/platform/Dependencies.h"
 
 namespace mivo::app {
-namespace {
 
-const UserDefaults& defaults() { return *dependency(&Dependencies::userDefaults); }
-
-}  // namespace
-
-Appearance::Appearance(QObject* parent) : QObject{parent} { qGuiApp->installEventFilter(this); }
+Appearance::Appearance(Client<UserDefaults> kept) : defaults{std::move(kept)} { qGuiApp->installEventFilter(this); }
 
 Appearance* Appearance::create(QQmlEngine* engine, QJSEngine*) { return modelOf<Appearance>(*engine); }
 
 host::Appearance Appearance::present() const {
-  host::Appearance look = host::appearance(defaults());
+  host::Appearance look = host::appearance(*defaults);
   look.mode = given.mode.value_or(look.mode);
   look.textScale = host::withinTextScales(given.textScale.value_or(look.textScale));
   look.reducesMotion = look.reducesMotion || given.still;
@@ -35,18 +31,18 @@ bool Appearance::isDark() const {
 
 void Appearance::choose(host::AppearanceMode mode) {
   given.mode.reset();
-  host::setAppearanceMode(defaults(), mode);
+  host::setAppearanceMode(*defaults, mode);
   Q_EMIT changed();
 }
 
 void Appearance::changeTextScale(double scale) {
   given.textScale.reset();
-  host::setTextScale(defaults(), scale);
+  host::setTextScale(*defaults, scale);
   Q_EMIT changed();
 }
 
 void Appearance::reduceMotion(bool reduced) {
-  host::setReducedMotion(defaults(), reduced);
+  host::setReducedMotion(*defaults, reduced);
   Q_EMIT changed();
 }
 

@@ -7,6 +7,8 @@
 #include <optional>
 
 #include "host/app/Settings.h"
+#include "mivo/platform/Client.h"
+#include "mivo/platform/UserDefaults.h"
 
 class QQmlEngine;
 class QJSEngine;
@@ -31,8 +33,8 @@ class Appearance : public QObject {
     bool still = false;  ///< nothing moves
   };
 
-  /// QML gets the one that the program made; a constructor without arguments would be taken before `create`.
-  explicit Appearance(QObject* parent);
+  /// QML gets the one that the program made.
+  explicit Appearance(Client<UserDefaults> defaults);
   static Appearance* create(QQmlEngine*, QJSEngine*);
 
   host::Appearance present() const;
@@ -51,6 +53,7 @@ class Appearance : public QObject {
   void changed();
 
  private:
+  Client<UserDefaults> defaults;
   Override given;
 };
 

@@ -1,14 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "LineChartModel.h"
 
+#include <utility>
+
 #include "app/bridge/Text.h"
 #include "mivo/charts/VisibleSpan.h"
 
 namespace mivo::app {
 
-LineChartModel::LineChartModel(drawing::LineChart::Source empty)
-    : hasHeader{lineChartsHaveHeaders(currentDependencies().platformVersion)},
-      now{dependency(&Dependencies::date)->now()} {
+LineChartModel::LineChartModel(drawing::LineChart::Source empty, bool withHeader, std::function<PageClients()> clients)
+    : hasHeader{withHeader}, present{std::move(clients)}, now{present().now} {
   become(empty, WeightUnit::kilograms);
 }
 
@@ -18,9 +19,9 @@ void LineChartModel::become(const drawing::LineChart::Source& source, WeightUnit
   selectionChanges = chart->observeSelection([this] { Q_EMIT selectionChanged(); });
 }
 
-void LineChartModel::show(const drawing::LineChart::Source& source, WeightUnit unit, Date present) {
+void LineChartModel::show(const drawing::LineChart::Source& source, WeightUnit unit, Date date) {
   const DateInterval before = domain();
-  now = present;
+  now = date;
   if (!chart->shows(source, unit))
     become(source, unit);
   else if (domain() == before)
@@ -30,7 +31,11 @@ void LineChartModel::show(const drawing::LineChart::Source& source, WeightUnit u
   Q_EMIT headerChanged();
 }
 
-PageClients LineChartModel::clients() const { return pageClients(currentDependencies(), now); }
+PageClients LineChartModel::clients() const {
+  PageClients shown = present();
+  shown.now = now;
+  return shown;
+}
 
 double LineChartModel::span() const { return visibleSpan(chart->timeRange()); }
 

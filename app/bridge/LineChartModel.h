@@ -5,6 +5,7 @@
 #include <QtCore/QObject>
 #include <QtCore/QString>
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -30,7 +31,7 @@ class LineChartModel final : public mivo::app::ChartTable {
 
  public:
   /// Without points, it says which chart it is.
-  explicit LineChartModel(drawing::LineChart::Source empty);
+  LineChartModel(drawing::LineChart::Source empty, bool hasHeader, std::function<PageClients()> clients);
 
   /// Takes over what is other than before.
   void show(const drawing::LineChart::Source& source, WeightUnit unit, Date now);
@@ -69,7 +70,8 @@ class LineChartModel final : public mivo::app::ChartTable {
   void become(const drawing::LineChart::Source& source, WeightUnit unit);
 
   bool hasHeader;
-  Date now;
+  std::function<PageClients()> present;
+  Date now;  ///< of what is shown
   std::unique_ptr<drawing::LineChart> chart;
   Subscription headerChanges, selectionChanges;
 };

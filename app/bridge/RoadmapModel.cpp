@@ -1,15 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "RoadmapModel.h"
 
-#include "mivo/platform/Dependencies.h"
-
 namespace mivo::app {
 
-RoadmapModel::RoadmapModel()
-    : store{Feature::State{}, Feature{}, dependency(&Dependencies::mainQueue), dependency(&Dependencies::taskRunner)} {
-  following = store.observe([this, allowsVotes = RoadmapFeedbackView::configuration().allowVotes,
-                             texts = dependency(&Dependencies::texts),
-                             numbers = dependency(&Dependencies::numberFormatter)](const Feature::State& state) {
+RoadmapModel::RoadmapModel(const Dependencies& all)
+    : store{Feature::State{}, Feature{}, all.mainQueue, all.taskRunner} {
+  following = store.observe([this, allowsVotes = RoadmapFeedbackView::configuration().allowVotes, texts = all.texts,
+                             numbers = all.numberFormatter](const Feature::State& state) {
     composed = composeRoadmap(state, allowsVotes, *texts, *numbers);
     show(composed);
   });

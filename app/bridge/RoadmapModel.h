@@ -4,6 +4,7 @@
 #include <QtQml/qqmlregistration.h>
 
 #include "app/records/Records.h"
+#include "mivo/platform/Dependencies.h"
 #include "mivo/store/Store.h"
 
 namespace mivo::app {
@@ -15,7 +16,7 @@ class RoadmapModel : public mivo::app::RoadmapPageRecord {
   QML_UNCREATABLE("made while the roadmap is shown")
 
  public:
-  RoadmapModel();
+  explicit RoadmapModel(const Dependencies& all);
 
   const RoadmapPage& page() const { return composed; }
 

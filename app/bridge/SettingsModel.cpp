@@ -4,14 +4,7 @@
 #include <cmath>
 #include <utility>
 
-#include "mivo/platform/Dependencies.h"
-
 namespace mivo::app {
-namespace {
-
-const UserDefaults& defaults() { return *dependency(&Dependencies::userDefaults); }
-
-}  // namespace
 
 void CardSettingsModel::follow(const StatisticsFeature::State& state, const PageClients& clients) {
   if (std::exchange(isShown, true) && flags == state.dashboardSettings && streaks == *state.streakSettings) return;
@@ -26,7 +19,7 @@ void CardSettingsModel::toggle(host::CardGroup group, int row) {
 }
 
 void CardSettingsModel::keep(const StreakSettings& settings) {
-  dependency(&Dependencies::appGroupUserDefaults)->setStreakSettings(settings);
+  shared->setStreakSettings(settings);
   told();
 }
 
@@ -48,11 +41,16 @@ void CardSettingsModel::changeLongestBreak(int hours) {
   keep(settings);
 }
 
-SettingsModel::SettingsModel(std::function<PageClients()> present, std::shared_ptr<host::WeekCalendar> week,
-                             Appearance& looks, const host::AboutFacts& about, std::function<void()> tells)
-    : clients{std::move(present)}, calendar{std::move(week)}, look{looks}, told{std::move(tells)}, shownCards{told} {
-  aboutPage.show(
-      host::composeAbout(about, {{std::string{"Qt "} + qVersion(), "LGPL-3.0"}}, *dependency(&Dependencies::texts)));
+SettingsModel::SettingsModel(std::function<PageClients()> present, const Dependencies& all,
+                             std::shared_ptr<host::WeekCalendar> week, Appearance& looks, const host::AboutFacts& about,
+                             std::function<void()> tells)
+    : clients{std::move(present)},
+      defaults{all.userDefaults},
+      calendar{std::move(week)},
+      look{looks},
+      told{std::move(tells)},
+      shownCards{all.appGroupUserDefaults, told} {
+  aboutPage.show(host::composeAbout(about, {{std::string{"Qt "} + qVersion(), "LGPL-3.0"}}, clients().texts));
   facts.usualWeekday = calendar->usualFirstWeekday();
   facts.version = about.version;
   connect(&look, &Appearance::changed, this, &SettingsModel::compose);
@@ -65,9 +63,9 @@ void SettingsModel::follow(const StatisticsFeature::State& state) {
 }
 
 void SettingsModel::compose() {
-  facts.goalSeconds = host::goalSeconds(defaults());
-  facts.chosenWeekday = host::firstWeekday(defaults());
-  facts.language = host::language(defaults());
+  facts.goalSeconds = host::goalSeconds(*defaults);
+  facts.chosenWeekday = host::firstWeekday(*defaults);
+  facts.language = host::language(*defaults);
   facts.appearance = look.present();
   if (composed == facts) return;
   composed = facts;
@@ -75,25 +73,25 @@ void SettingsModel::compose() {
 }
 
 void SettingsModel::chooseGoal(double seconds) {
-  host::setGoalSeconds(defaults(), std::llround(seconds));
+  host::setGoalSeconds(*defaults, std::llround(seconds));
   told();
 }
 
 void SettingsModel::chooseWeightUnit(int place) {
-  host::setWeightUnit(defaults(), host::weightUnitAt(place));
+  host::setWeightUnit(*defaults, host::weightUnitAt(place));
   told();
 }
 
 void SettingsModel::chooseFirstWeekday(int place) {
-  host::setFirstWeekday(defaults(), host::weekdayAt(place));
+  host::setFirstWeekday(*defaults, host::weekdayAt(place));
   calendar->choose(host::weekdayAt(place));
   told();
 }
 
 void SettingsModel::chooseLanguage(int place) {
   const std::string tag = host::languageAt(place);
-  if (tag == host::language(defaults())) return;
-  host::setLanguage(defaults(), tag);
+  if (tag == host::language(*defaults)) return;
+  host::setLanguage(*defaults, tag);
   compose();
   Q_EMIT languageChosen();
 }

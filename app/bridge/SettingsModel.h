@@ -22,8 +22,9 @@ class CardSettingsModel : public mivo::app::CardSettingsPageRecord {
   QML_UNCREATABLE("the settings have it")
 
  public:
-  /// `changed` is called once something was written to the user's defaults.
-  explicit CardSettingsModel(std::function<void()> changed) : told{std::move(changed)} {}
+  /// `changed` is called once something was written to the user's defaults, of which the app's extensions see `shared`.
+  CardSettingsModel(Client<UserDefaults> sharedDefaults, std::function<void()> changed)
+      : shared{std::move(sharedDefaults)}, told{std::move(changed)} {}
 
   void follow(const StatisticsFeature::State& state, const PageClients& clients);
 
@@ -38,6 +39,7 @@ class CardSettingsModel : public mivo::app::CardSettingsPageRecord {
   void toggle(host::CardGroup group, int row);
   void keep(const StreakSettings& settings);
 
+  Client<UserDefaults> shared;
   std::function<void()> told;
   DashboardSettingsFeature::State flags;
   StreakSettings streaks;
@@ -54,8 +56,9 @@ class SettingsModel : public mivo::app::SettingsPageRecord {
 
  public:
   /// `changed` is called once something was written that the statistics read.
-  SettingsModel(std::function<PageClients()> clients, std::shared_ptr<host::WeekCalendar> calendar, Appearance& look,
-                const host::AboutFacts& about, std::function<void()> changed);
+  SettingsModel(std::function<PageClients()> clients, const Dependencies& all,
+                std::shared_ptr<host::WeekCalendar> calendar, Appearance& look, const host::AboutFacts& about,
+                std::function<void()> changed);
 
   void follow(const StatisticsFeature::State& state);
 
@@ -82,6 +85,7 @@ class SettingsModel : public mivo::app::SettingsPageRecord {
   void compose();
 
   std::function<PageClients()> clients;
+  Client<UserDefaults> defaults;
   std::shared_ptr<host::WeekCalendar> calendar;
   Appearance& look;
   std::function<void()> told;

@@ -3,8 +3,9 @@
 
 #include <QtQml/qqmlregistration.h>
 
+#include "app/bridge/EngineModels.h"
 #include "app/records/Records.h"
-#include "mivo/platform/Dependencies.h"
+#include "mivo/platform/TextLookup.h"
 
 namespace mivo::app {
 
@@ -15,9 +16,8 @@ class Words : public mivo::app::ControlWordsRecord {
   QML_SINGLETON
 
  public:
-  explicit Words(QObject* parent = nullptr) : ControlWordsRecord{parent} {
-    show(host::controlWords(*dependency(&Dependencies::texts)));
-  }
+  explicit Words(const TextLookup& texts) { show(host::controlWords(texts)); }
+  static Words* create(QQmlEngine* engine, QJSEngine*) { return modelOf<Words>(*engine); }
 };
 
 }  // namespace mivo::app

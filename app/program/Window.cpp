@@ -98,8 +98,10 @@ std::optional<QSize> openingSize(const Options& options, const UserDefaults& def
 AppWindow::AppWindow(const Environment& environment, const Options& options, QSize size)
     : isPicture{!options.picture.empty()},
       defaults{environment.dependencies->userDefaults},
-      look{nullptr},
-      app{{.history = environment.history,
+      look{defaults},
+      words{*environment.dependencies->texts},
+      app{{.dependencies = environment.dependencies,
+           .history = environment.history,
            .tips = environment.tips,
            .usualWeightUnit = environment.usualWeightUnit,
            .feedbackAddress = options.feedback,
@@ -114,6 +116,7 @@ AppWindow::AppWindow(const Environment& environment, const Options& options, QSi
   app.present(QString::fromStdString(openingTabOf(app, *defaults, options)));
   giveModel(engine, app);
   giveModel(engine, look);
+  giveModel(engine, words);
   engine.addImportPath(QStringLiteral("qrc:/"));
   engine.setInitialProperties({{QStringLiteral("width"), size.width()},
                                {QStringLiteral("height"), size.height()},
@@ -147,8 +150,11 @@ QQuickWindow* AppWindow::window() const {
 }
 
 FaultWindow::FaultWindow(const std::string& sentence, std::function<std::string()> tryAgain)
-    : look{nullptr}, attempt{std::move(tryAgain)} {
+    : look{dependency(&Dependencies::userDefaults)},
+      words{*dependency(&Dependencies::texts)},
+      attempt{std::move(tryAgain)} {
   giveModel(engine, look);
+  giveModel(engine, words);
   engine.addImportPath(QStringLiteral("qrc:/"));
   engine.setInitialProperties({{QStringLiteral("sentence"), QString::fromStdString(sentence)}});
   engine.load(QUrl{QStringLiteral("qrc:/Mivo/FaultWindow.qml")});

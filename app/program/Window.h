@@ -11,6 +11,7 @@
 
 #include "app/bridge/AppModel.h"
 #include "app/bridge/Appearance.h"
+#include "app/bridge/Words.h"
 #include "app/program/EndsWithWindow.h"
 #include "app/program/Environment.h"
 
@@ -49,13 +50,15 @@ class AppWindow {
   bool isPicture;
   std::shared_ptr<const UserDefaults> defaults;
   Appearance look;
+  Words words;
   AppModel app;
   Subscription settingsFaults;
   QQmlApplicationEngine engine;
   std::optional<EndsWithWindow> end;
 };
 
-/// Says why the app cannot start, and lets the user try again until it can or they close the window.
+/// Says why the app cannot start, and lets the user try again until it can or they close the window. Made where
+/// dependencies are in force.
 class FaultWindow : public QObject {
   Q_OBJECT
 
@@ -70,6 +73,7 @@ class FaultWindow : public QObject {
   Q_SLOT void tryAgain();
 
   Appearance look;
+  Words words;
   std::function<std::string()> attempt;
   QQmlApplicationEngine engine;
 };
