@@ -63,7 +63,7 @@ class Question {
 }  // namespace
 
 bool isHealthy(const HealthOptions& options) {
-  asio::io_context loop{1};
+  asio::io_context loop;
   Question question{loop, options.isSecure};
   question.put(options.endpoint);
   loop.run_for(patience);
