@@ -156,8 +156,8 @@ bool Log::writeOut(const std::stop_token& stop, std::string_view text) {
       continue;
     }
     const auto written = writePiece(text.substr(0, pieceSize));
-    if (written < 0 && (errno == EINTR || errno == EAGAIN || errno == EWOULDBLOCK)) continue;
-    if (written < 0) break;  // there is nobody left to tell
+    if (written == -1 && (errno == EINTR || errno == EAGAIN || errno == EWOULDBLOCK)) continue;
+    if (written == -1) break;  // there is nobody left to tell
     text.remove_prefix(static_cast<std::size_t>(written));
     patienceLeft = lastPatience;
   }

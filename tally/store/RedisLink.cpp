@@ -7,7 +7,7 @@ namespace mivo::tally {
 template <class Next>
 auto RedisLink::step(Next next) {
   return [self = shared_from_this(), next = std::move(next)](error_code error, const auto&... results) {
-    if (self->isClosed) return;
+    if (!self->lost) return;
     if (error == asio::error::eof) return self->lose("it closed the connection");
     if (error) return self->lose(error.message());
     next(results...);
@@ -94,7 +94,7 @@ void RedisLink::take(std::size_t size) {
     deadline.expires_at(asio::steady_timer::time_point::max());
     std::exchange(replied, {})(std::exchange(replies, {}));
   }
-  if (!isClosed) read();
+  if (lost) read();
 }
 
 void RedisLink::startDeadline() {
@@ -102,7 +102,7 @@ void RedisLink::startDeadline() {
   deadline.async_wait([self = shared_from_this()](error_code error) {
     // The answer may have come after the time ran out, and before this was called.
     const bool isOver = !error && self->deadline.expiry() <= std::chrono::steady_clock::now();
-    if (isOver && !self->isClosed) self->lose("no answer within " + std::to_string(self->longestWait.count()) + " s");
+    if (isOver) self->lose("no answer within " + std::to_string(self->longestWait.count()) + " s");
   });
 }
 
@@ -113,7 +113,6 @@ void RedisLink::lose(const std::string& reason) {
 }
 
 void RedisLink::close() {
-  isClosed = true;
   lost = {};
   ready = {};
   replied = {};

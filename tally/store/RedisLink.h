@@ -59,8 +59,7 @@ class RedisLink : public std::enable_shared_from_this<RedisLink> {
   std::size_t expected = 0;
   Replied replied;
   std::function<void()> ready;
-  Lost lost;
-  bool isClosed = false;
+  Lost lost;  ///< until it is closed
 };
 
 }  // namespace mivo::tally

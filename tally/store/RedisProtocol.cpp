@@ -76,7 +76,7 @@ void appendCommand(std::string& out, std::span<const std::string_view> words) {
   }
   char* command = nullptr;
   const auto length = redisFormatCommandArgv(&command, static_cast<int>(words.size()), texts.data(), lengths.data());
-  if (length < 0) throw std::bad_alloc{};
+  if (length == -1) throw std::bad_alloc{};
   out.append(command, static_cast<std::size_t>(length));
   redisFreeCommand(command);
 }

@@ -84,8 +84,8 @@ struct SqliteCounters::Database {
   }
 
   bool hasRoomFor(std::int64_t further) {
-    if (counters < 0) counters = connection.execAndGet("SELECT count(*) FROM counter").getInt64();
-    return counters + further <= mostCounters;
+    if (!counters) counters = connection.execAndGet("SELECT count(*) FROM counter").getInt64();
+    return *counters + further <= mostCounters;
   }
 
   void set(const std::string& counter, std::int64_t value) {
@@ -122,7 +122,7 @@ struct SqliteCounters::Database {
   SQLite::Statement select, upsert, begin, commit, version;
   std::string damage;
   std::int64_t mostCounters = std::numeric_limits<std::int64_t>::max();
-  std::int64_t counters = -1;  // not counted yet
+  std::optional<std::int64_t> counters;  // once they were counted
   std::int64_t lastVersion = dataVersion();
 };
 
@@ -211,7 +211,7 @@ Results SqliteCounters::applyTogether(const Operations& operations) {
     batch.write();
     return found;
   });
-  if (database->counters >= 0) database->counters += batch.newCounters();
+  if (database->counters) *database->counters += batch.newCounters();
   return results;
 }
 
@@ -252,7 +252,7 @@ bool SqliteCounters::wasChangedByOthers() {
   return naming(file, [&] {
     const auto version = database->dataVersion();
     const auto last = std::exchange(database->lastVersion, version);
-    if (last != version) database->counters = -1;
+    if (last != version) database->counters.reset();
     return last != version;
   });
 }
@@ -272,7 +272,7 @@ std::optional<std::int64_t> SqliteCounters::replace(const std::string& counter, 
   return naming(file, [&] {
     return database->inTransaction([&] {
       const auto former = database->find(counter);
-      if (!former) database->counters = -1;
+      if (!former) database->counters.reset();
       database->set(counter, count);
       return former;
     });
@@ -282,7 +282,7 @@ std::optional<std::int64_t> SqliteCounters::replace(const std::string& counter, 
 void SqliteCounters::set(const std::vector<Change>& changes) {
   naming(file, [&] {
     database->inTransaction([&] {
-      database->counters = -1;
+      database->counters.reset();
       for (const auto& change : changes) database->set(change.counter, change.to);
       return changes.size();
     });

@@ -122,8 +122,11 @@ TEST_F(Operator, correctsACounterInRedisAndKeepsItsPasswordOffTheCommandLine) {
   EXPECT_EQ(fromVariable.output(), "a/feature1: 7 -> 8\n");
   EXPECT_THAT(said({"correct", "--store", bare, "a/feature1", "8"}).second, HasSubstr("NOAUTH"));
   EXPECT_THAT(said({"--store", address, "--redis-password-file", passwordFile}).second, HasSubstr("in one"));
-  EXPECT_THAT(said({"--store", bare, "--redis-password-file", "/no/password"}).second,
-              HasSubstr("/no/password: expected a line with the password"));
+  const auto blank = folder.file("blank");
+  std::ofstream{blank} << "\nsecret\n";
+  for (const std::string& wrong : {std::string{"/no/password"}, blank})
+    EXPECT_THAT(said({"--store", bare, "--redis-password-file", wrong}).second,
+                HasSubstr(wrong + ": expected a line with the password"));
   TallyServer told{address};
   EXPECT_THAT(told.process().waitForLine("can read a password"), Not(HasSubstr("secret")));
 }
