@@ -61,6 +61,13 @@ TEST(Doctor, tellsWhatIsIllAndLeavesItAsItIs) {
   }
 }
 
+TEST(Doctor, tellsThatTheTimeZoneIsUnknown) {
+  const Workplace place;
+  const Ran ran = place.run("doctor", ">output", "TZ=Mars/Olympus");
+  EXPECT_EQ(ran.status, 1);
+  EXPECT_THAT(ran.output, HasSubstr("! time zone        TZ: unknown time zone \"Mars/Olympus\""));
+}
+
 TEST(Doctor, namesWhatWasSetAside) {
   const Workplace place;
   std::filesystem::create_directories(place.file("mivo"));
