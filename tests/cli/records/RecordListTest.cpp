@@ -87,6 +87,16 @@ TEST(RecordList, hasABlockAFastOnANarrowTerminal) {
             "  Note    ! no breakfast, a long walk,…\n");
 }
 
+TEST(RecordList, isATableAsLongAsItsHeadingsFit) {
+  const auto headings = [](int width) {
+    const std::string shown = listOnTerminal("list --locale en-DE", width).output;
+    return shown.substr(0, shown.find('\n'));
+  };
+  const std::string wide = headings(200);
+  EXPECT_EQ(headings(columns(wide)), wide);
+  EXPECT_EQ(headings(columns(wide) - 1), "1a00");
+}
+
 TEST(RecordList, isASnapshotOfItsOwnListInJson) {
   EXPECT_EQ(list("list --format json").output,
             R"({
