@@ -74,15 +74,17 @@ std::string_view firstLine(std::string_view text) {
 }  // namespace
 
 char csvSeparator(std::string_view text) {
-  constexpr std::array candidates{',', ';', '\t'};
-  std::array<std::size_t, candidates.size()> counts{};
+  struct Candidate {
+    char separator;
+    std::size_t count = 0;
+  };
+  std::array<Candidate, 3> candidates{{{','}, {';'}, {'\t'}}};
   bool isQuoted = false;
   for (const char c : firstLine(text).substr(0, longestCsvRecordInBytes)) {
     if (c == '"') isQuoted = !isQuoted;
-    for (std::size_t index = 0; index < candidates.size(); ++index)
-      counts[index] += !isQuoted && c == candidates[index];
+    for (Candidate& candidate : candidates) candidate.count += !isQuoted && c == candidate.separator;
   }
-  return candidates[static_cast<std::size_t>(std::ranges::max_element(counts) - counts.begin())];
+  return std::ranges::max_element(candidates, {}, &Candidate::count)->separator;
 }
 
 struct CsvReader::Parser {
