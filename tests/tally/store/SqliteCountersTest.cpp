@@ -101,6 +101,14 @@ TEST_F(SqliteCountersTest, hasRoomForOneLessOnceACorrectionAddedOne) {
   EXPECT_THAT(bounded.apply({{"a/feature3", 1}, {"a/feature2", 1}}), ElementsAre(Result{Outcome::full, 0}, counted(9)));
 }
 
+TEST_F(SqliteCountersTest, hasRoomForOneLessOnceAnotherAddedOne) {
+  SqliteCounters bounded{file, SqliteCounters::Access::readWrite, std::chrono::seconds{5}, 2};
+  EXPECT_THAT(bounded.apply({{"a/feature1", 1}}), ElementsAre(counted(1)));
+  counters.apply({{"a/feature2", 1}});
+  EXPECT_TRUE(bounded.wasChangedByOthers());
+  EXPECT_THAT(bounded.apply({{"a/feature3", 1}}), ElementsAre(Result{Outcome::full, 0}));
+}
+
 TEST_F(SqliteCountersTest, isLockedThroughALinkAndWithoutItsLockFile) {
   const FileLock lock{file};
   const auto link = folder.file("link.sqlite");
