@@ -334,7 +334,7 @@ TEST(ReadFile, readsUtf16ThatAMarkAnnounces) {
   const std::u16string_view text = u"\uFEFFstart,end,note\n2026-03-01T20:00Z,,Tee \u00FC\U0001F375\n";
   const std::string expected = "2026-03-01T20:00:00Z running 16h Tee \u00FC\U0001F375\n";
   for (const bool isLittleEndian : {false, true})
-    for (const std::size_t piece : {1, 2, 3, 1000})
+    for (const std::size_t piece : {1U, 2U, 3U, 1000U})
       EXPECT_EQ(imported(utf16(text, isLittleEndian), berlin(), piece), expected) << piece;
   EXPECT_EQ(imported(utf16(text.substr(0, text.size() - 2), true), berlin()),
             "a.csv: expected UTF-16 text, as its first two bytes announce\n");
