@@ -112,13 +112,12 @@ std::string_view expectedBy(rapidjson::ParseErrorCode code) {
 }
 
 /// What is wrong inside quotes; nothing for any other error.
-std::string_view badText(rapidjson::ParseErrorCode code, bool isControlCharacter) {
+std::string_view badText(rapidjson::ParseErrorCode code, bool isEscape) {
   switch (code) {
     case rapidjson::kParseErrorStringInvalidEncoding:
       return "ill-formed UTF-8 byte";
     case rapidjson::kParseErrorStringEscapeInvalid:
-      return isControlCharacter ? "line breaks and other control characters must be escaped"
-                                : "a backslash that escapes nothing";
+      return isEscape ? "a backslash that escapes nothing" : "line breaks and other control characters must be escaped";
     case rapidjson::kParseErrorStringUnicodeEscapeInvalidHex:
       return "\\u must be followed by four hexadecimal digits";
     case rapidjson::kParseErrorStringUnicodeSurrogateInvalid:
@@ -203,8 +202,7 @@ class SnapshotReader {
       return;
     }
     reach(at + 1);
-    const bool isControlCharacter = static_cast<unsigned char>(text[at]) < 0x20;
-    if (const auto cause = badText(code, isControlCharacter); !cause.empty()) {
+    if (const auto cause = badText(code, text[at] == '\\'); !cause.empty()) {
       fail(std::nullopt, "expected a text as JSON has it: " + std::string{cause});
       return;
     }

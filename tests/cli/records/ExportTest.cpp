@@ -73,6 +73,7 @@ TEST_F(Export, writesTablesThatImportAsEqual) {
             "2026-02-28T20:00:00.125Z,,16.5,\n");
   EXPECT_EQ(place.run("export --to - --what weights --database d").output, contents("w.CSV"));
   EXPECT_THAT(place.run("export --to w.json --what weights --database d").output, HasSubstr("1 weight"));
+  EXPECT_EQ(contents("w.json"), place.run("weight list --format json --database d").output);
   EXPECT_EQ(place.run("import f.csv w.CSV w.json --database d").output,
             "f.csv: 0 fasts and 0 weights added, 2 there already, 0 refused\n"
             "w.CSV: 0 fasts and 0 weights added, 1 there already, 0 refused\n"

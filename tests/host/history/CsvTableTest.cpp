@@ -61,6 +61,9 @@ TEST(CsvTable, refusesEndlessRecordsEarly) {
   const std::string endless(3'000'000, 'x');
   EXPECT_EQ(table(endless), " a.csv:1: expected a record of at most 1 MiB");
   EXPECT_EQ(table("a,b\n\"" + endless), "1:a|b a.csv:2: expected a record of at most 1 MiB");
+  CsvReader reader{',', "a.csv", [](const CsvRow&) { return std::nullopt; }};
+  EXPECT_FALSE(reader.feed(endless.substr(0, longestCsvRecordInBytes)));
+  EXPECT_TRUE(reader.feed("x"));
 }
 
 TEST(CsvTable, readsLongRecordsAndManyAcrossItsPieces) {

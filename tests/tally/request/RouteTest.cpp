@@ -5,6 +5,8 @@
 
 #include <string>
 
+#include "tally/request/CounterName.h"
+
 namespace mivo::tally {
 namespace {
 
@@ -66,6 +68,8 @@ INSTANTIATE_TEST_SUITE_P(
         RouteRow{"beforeSmallA", "/get/a/feature`", wrongId}, RouteRow{"afterSmallZ", "/get/a/feature{", wrongId},
         RouteRow{"otherLetter", "/get/a/feature\xc3\xa4", wrongId}),
     [](const auto& row) { return std::string{row.param.name}; });
+
+TEST(CounterName, tellsTheIDOfTheFeature) { EXPECT_EQ(featureIdOf("a.b/featuredark-mode"), "dark-mode"); }
 
 }  // namespace
 }  // namespace mivo::tally
