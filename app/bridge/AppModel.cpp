@@ -26,25 +26,26 @@ using Destination = StatisticsFeature::Destination;
 
 constexpr std::chrono::seconds untilLookedAround{2};
 
-drawing::DayBarsClients barClients(const Dependencies& all) {
-  return {*all.dateIntervalFormatter, *all.hourMinDurationUnitFormatter, *all.hourDurationUnitFormatter};
+drawing::DayBarsClients barClients(const Dependencies& dependencies) {
+  return {*dependencies.dateIntervalFormatter, *dependencies.hourMinDurationUnitFormatter,
+          *dependencies.hourDurationUnitFormatter};
 }
 
 }  // namespace
 
 AppModel::AppModel(AppServices given)
     : services{std::move(given)},
-      all{*services.dependencies},
-      texts{*all.texts},
+      dependencies{*services.dependencies},
+      texts{*dependencies.texts},
       clients{[present = services.dependencies] { return pageClients(*present, present->date->now()); }},
       store{State::make(TimeRange::week, services.usualWeightUnit), host::AppFeature{.history = services.history},
-            all.mainQueue, all.taskRunner},
-      fastingBars{store.state().statistics.stats.fastingChartState, barClients(all),
+            dependencies.mainQueue, dependencies.taskRunner},
+      fastingBars{store.state().statistics.stats.fastingChartState, barClients(dependencies),
                   [this](DayBarsModel::Action action) { sendStatistics(Sent::fastingChartAction{std::move(action)}); }},
-      eatingBars{store.state().statistics.stats.eatingChartState, barClients(all),
+      eatingBars{store.state().statistics.stats.eatingChartState, barClients(dependencies),
                  [this](DayBarsModel::Action action) { sendStatistics(Sent::eatingChartAction{std::move(action)}); }},
-      weightLine{drawing::WeightChart{}, lineChartsHaveHeaders(all.platformVersion), clients},
-      pairLine{WeightFastingChart{}, lineChartsHaveHeaders(all.platformVersion), clients},
+      weightLine{drawing::WeightChart{}, lineChartsHaveHeaders(dependencies.platformVersion), clients},
+      pairLine{WeightFastingChart{}, lineChartsHaveHeaders(dependencies.platformVersion), clients},
       weightEntry{
           [this](AddWeightModel::Action action) { sendStatistics(Sent::addWeightLogAction{std::move(action)}); }},
       allWeights{clients, [this](Action action) { send(std::move(action)); }},
@@ -54,7 +55,7 @@ AppModel::AppModel(AppServices given)
         sendStatistics(Sent::destination{Shown::presented{Destination::Action::donations{std::move(action)}}});
       }},
       overlapRepair{clients, [this](Action action) { send(std::move(action)); }},
-      chosenSettings{clients,           all,
+      chosenSettings{clients,           dependencies,
                      services.calendar, *services.appearance,
                      services.about,    [this] { send(Action::didChangeSettings{}); }} {
   feedbackTexts.show(composeFeedback(texts));
@@ -135,10 +136,15 @@ void AppModel::follow(const State& state) {
   const auto& statistics = state.statistics;
   fastingBars.follow(statistics.stats.fastingChartState);
   eatingBars.follow(statistics.stats.eatingChartState);
-  if (auto stamps = stampsOf(state); stamps == seen)
-    return;
-  else
+  if (auto stamps = stampsOf(state); stamps != seen) {
     seen = std::move(stamps);
+    followPages(state);
+  }
+  followScreens(state);
+}
+
+void AppModel::followPages(const State& state) {
+  const auto& statistics = state.statistics;
   tellTips(state);
   cards.show(composeScreen(screenInput(statistics), screenFormatters()));
   const WeightUnit unit = statistics.goalWeightCardState.weightUnit;
@@ -150,34 +156,36 @@ void AppModel::follow(const State& state) {
   runningFast.follow(state);
   overlapRepair.follow(state.overlapRepair);
   chosenSettings.follow(statistics);
-  goalWeight.show(
-      composeGoalWeightSheet(statistics.goalWeightCardState, texts, *all.numberFormatter, *all.massFormatter));
+  goalWeight.show(composeGoalWeightSheet(statistics.goalWeightCardState, texts, *dependencies.numberFormatter,
+                                         *dependencies.massFormatter));
   said.show(host::composeMessage(state, texts));
   followDestination(statistics);
-  followScreens(state);
 }
 
 void AppModel::followDestination(const StatisticsFeature::State& state) {
   const auto& destination = state.destination;
   if (!destination) return;
   if (const auto* shown = std::get_if<Destination::State::badges>(&*destination))
-    badgeSummary.show(composeBadges(shown->state, state.streakSettings->countingEntity, texts, *all.numberFormatter));
+    badgeSummary.show(
+        composeBadges(shown->state, state.streakSettings->countingEntity, texts, *dependencies.numberFormatter));
   if (const auto* shown = std::get_if<Destination::State::donations>(&*destination))
     donationSheet.show(composeDonations(shown->state, texts));
 }
 
 void AppModel::followScreens(const State& state) {
-  const host::OpenScreens before = std::exchange(open, composeOpenScreens(state));
-  const std::string_view roadmapPage = rawValue(host::Screen::roadmap);
-  if (open.page == roadmapPage && before.page != roadmapPage) {
-    features = std::make_unique<RoadmapModel>(all);
+  const host::Screen now = openScreen(state);
+  if (now == opened) return;
+  const bool wasRoadmap = opened && standsOn(*opened, host::Screen::roadmap);
+  opened = now;
+  if (!wasRoadmap && standsOn(now, host::Screen::roadmap)) {
+    features = std::make_unique<RoadmapModel>(dependencies);
     Q_EMIT roadmapChanged();
   }
-  openScreens.show(open);
+  openScreens.show(composeOpenScreens(state));
 }
 
 void AppModel::tellTips(const State& state) const {
-  services.tips->setFacts(host::currentTipFacts(state, RoadmapVotes{all.userDefaults}));
+  services.tips->setFacts(host::currentTipFacts(state, RoadmapVotes{dependencies.userDefaults}));
   if (const auto& shown = *state.statistics.currentTipID) services.tips->didShow(*shown);
 }
 

@@ -141,12 +141,13 @@ class AppModel : public QObject {
   void lookForOtherPrograms();
   void followZone();
   void follow(const State& state);
+  void followPages(const State& state);
   void followDestination(const StatisticsFeature::State& state);
   void followScreens(const State& state);
   void tellTips(const State& state) const;
 
   AppServices services;
-  const Dependencies& all;
+  const Dependencies& dependencies;
   const TextLookup& texts;
   std::function<PageClients()> clients;  // of the present
   std::int64_t seenVersion = 0;
@@ -166,7 +167,7 @@ class AppModel : public QObject {
   FeedbackSheetRecord feedbackTexts;
   MessageRecord said;
   std::unique_ptr<RoadmapModel> features;
-  host::OpenScreens open;
+  std::optional<host::Screen> opened;  // as the window was told last
   OpenScreensRecord openScreens;
   bool watched = true;
   QTimer nextMinute, watch;

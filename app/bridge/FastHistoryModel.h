@@ -20,6 +20,8 @@ class FastHistoryModel : public mivo::app::HistoryPageRecord {
   /// `host::HistoryMonth`s, as they were when they were looked up.
   Q_PROPERTY(mivo::app::RecordRows* months MEMBER months CONSTANT)
   Q_PROPERTY(mivo::app::SeenRows* rows MEMBER rows CONSTANT)
+  /// The row whose menu is open.
+  Q_PROPERTY(int menuRow MEMBER menuRow)
 
  public:
   using Action = host::AppFeature::Action;
@@ -41,6 +43,7 @@ class FastHistoryModel : public mivo::app::HistoryPageRecord {
   std::function<PageClients()> clients;
   std::function<void(Action)> send;
   host::HistoryFacts facts;
+  int menuRow = 0;
   std::vector<Stamp> seen;
   SeenRows* const rows;
   RecordRows* const months = new RecordRows{rolesOf<host::HistoryMonth>(), this};

@@ -6,7 +6,6 @@ import Mivo
 Sheet {
     id: root
 
-    property int row: 0
     property alias editText: edit.text
     property alias removeText: remove.text
     property bool edits: false

@@ -64,8 +64,8 @@ FocusScope {
         onMonthsWanted: App.present("months")
         onEditWanted: row => App.fasting.history.edit(row)
         onMenuWanted: row => {
+            App.fasting.history.menuRow = row;
             App.present("fastMenu");
-            (menu.sheet as RowMenu).row = row;
         }
         onStartedWanted: App.present("fastStart")
         onGoalWanted: App.present("fastGoal")
@@ -106,14 +106,13 @@ FocusScope {
     }
 
     LateSheet {
-        id: menu
         screen: "fastMenu"
         sourceComponent: RowMenu {
             title: App.fasting.history.menuTitle
             editText: App.fasting.history.editLabel
             removeText: App.fasting.history.removeLabel
-            onEditWanted: App.fasting.history.edit(row)
-            onRemoveWanted: App.fasting.history.remove(row)
+            onEditWanted: App.fasting.history.edit(App.fasting.history.menuRow)
+            onRemoveWanted: App.fasting.history.remove(App.fasting.history.menuRow)
         }
     }
 }

@@ -118,10 +118,9 @@ AppWindow::AppWindow(const Environment& environment, const Options& options, QSi
   giveModel(engine, look);
   giveModel(engine, words);
   engine.addImportPath(QStringLiteral("qrc:/"));
-  engine.setInitialProperties({{QStringLiteral("width"), size.width()},
-                               {QStringLiteral("height"), size.height()},
-                               {QStringLiteral("screen"), QString::fromStdString(options.screen)}});
+  engine.setInitialProperties({{QStringLiteral("width"), size.width()}, {QStringLiteral("height"), size.height()}});
   engine.load(QUrl{QStringLiteral("qrc:/Mivo/Main.qml")});
+  if (!options.screen.empty()) app.present(QString::fromStdString(options.screen));
   // What the screen asked for when it appeared was answered by now: nothing moves after the first frame.
   QCoreApplication::sendPostedEvents(QCoreApplication::instance(), QEvent::MetaCall);
   if (!window()) return;

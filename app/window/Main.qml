@@ -7,8 +7,6 @@ import Mivo
 Window {
     id: root
 
-    /// What is open when the window appears.
-    property string screen
     readonly property bool side: width >= Theme.sideBarWidth
     readonly property list<string> tabs: ["fasting", "statistics", "settings"]
     readonly property list<string> names: [Words.fasting, Words.statistics, Words.settings]
@@ -24,11 +22,6 @@ Window {
     color: Theme.background
     LayoutMirroring.enabled: Application.layoutDirection === Qt.RightToLeft
     LayoutMirroring.childrenInherit: true
-
-    Component.onCompleted: {
-        if (screen !== "")
-            App.present(screen);
-    }
 
     function showTable(chart: ChartTable, title: string) {
         App.present("table");

@@ -35,6 +35,22 @@ const FastRecord* lastEndedFast(std::span<const FastRecord> fasts) {
   return nullptr;
 }
 
+// Some screens show a record that need not be there.
+bool hasWhatIsShown(const State& state, Screen screen) {
+  switch (screen) {
+    case Screen::editFast:
+    case Screen::fastMenu:
+      return lastEndedFast(*state.fasts) != nullptr;
+    case Screen::fastStart:
+      return state.runningFast() != nullptr;
+    case Screen::editWeight:
+    case Screen::weightMenu:
+      return !state.weights->empty();
+    default:
+      return true;
+  }
+}
+
 Screen pageOf(Screen screen) { return kindOf(screen) == ScreenKind::sheet ? *screenBelow(screen) : screen; }
 
 }  // namespace
@@ -80,6 +96,7 @@ auto AppFeature::backTo(State& state, Screen screen) const -> Effect<Action> {
 }
 
 auto AppFeature::enter(State& state, Screen screen) const -> Effect<Action> {
+  if (!hasWhatIsShown(state, screen)) return {};
   switch (screen) {
     case Screen::statistics:
       state.screen = screen;
@@ -99,24 +116,13 @@ auto AppFeature::enter(State& state, Screen screen) const -> Effect<Action> {
     case Screen::addFast:
       return on(state, Action::didTapAddFast{});
     case Screen::editFast:
-      if (const FastRecord* last = lastEndedFast(*state.fasts)) return on(state, Action::didTapEditFast{last->fast.id});
-      return {};
+      return on(state, Action::didTapEditFast{lastEndedFast(*state.fasts)->fast.id});
     case Screen::editWeight:
-      return state.weights->empty() ? Effect<Action>{} : on(state, Action::didTapEditWeight{state.weights->back().id});
-    case Screen::fastMenu:
-      if (!lastEndedFast(*state.fasts)) return {};
-      break;
-    case Screen::fastStart:
-      if (!state.runningFast()) return {};
-      break;
-    case Screen::weightMenu:
-      if (state.weights->empty()) return {};
-      break;
+      return on(state, Action::didTapEditWeight{state.weights->back().id});
     default:
-      break;
+      state.screen = screen;
+      return {};
   }
-  state.screen = screen;
-  return {};
 }
 
 auto AppFeature::openDonations(State& state) const -> Effect<Action> {
