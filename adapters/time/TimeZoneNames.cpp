@@ -6,11 +6,11 @@
 #include <cctype>
 #include <cstdlib>
 #include <fstream>
-#include <iterator>
 #include <optional>
 #include <system_error>
 
 #include "adapters/spelling/ClosestSpelling.h"
+#include "mivo/model/LowerCase.h"
 
 namespace mivo::adapters {
 
@@ -35,13 +35,6 @@ bool isSpelledLikeOne(std::string_view name) {
     return std::isalnum(static_cast<unsigned char>(c)) || c == '/' || c == '_' || c == '-' || c == '+';
   };
   return !name.empty() && name.front() != '/' && std::ranges::all_of(name, allowed);
-}
-
-std::string lowerCase(std::string_view text) {
-  std::string lower;
-  std::ranges::transform(text, std::back_inserter(lower),
-                         [](char c) { return static_cast<char>(std::tolower(static_cast<unsigned char>(c))); });
-  return lower;
 }
 
 // The zone whose name, or whose city, is spelled most like this; none where nothing comes close.

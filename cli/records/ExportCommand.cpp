@@ -1,7 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include <algorithm>
 #include <array>
-#include <cctype>
 #include <filesystem>
 #include <optional>
 #include <system_error>
@@ -17,6 +15,7 @@
 #include "host/app/CarriedSettings.h"
 #include "host/history/HistoryCsv.h"
 #include "host/history/Snapshot.h"
+#include "mivo/model/LowerCase.h"
 
 namespace mivo::cli {
 namespace {
@@ -28,8 +27,7 @@ enum class What { everything, fasts, weights };
 
 /// The form is read off the name, so that another one can come without changing what this one means.
 std::optional<Form> formOf(const fs::path& file) {
-  std::string ending = file.extension().string();
-  std::ranges::transform(ending, ending.begin(), [](unsigned char letter) { return std::tolower(letter); });
+  const std::string ending = lowerCase(file.extension().string());
   if (ending == ".json") return Form::snapshot;
   return ending == ".csv" ? std::optional{Form::table} : std::nullopt;
 }

@@ -3,13 +3,15 @@
 
 #include <algorithm>
 
+#include "mivo/model/LowerCase.h"
+
 namespace mivo::cli {
 namespace {
 
 std::string digitsOf(std::string_view text) {
   std::string digits;
   for (const char c : text)
-    if (c != '-') digits += c >= 'A' && c <= 'F' ? static_cast<char>(c - 'A' + 'a') : c;
+    if (c != '-') digits += lowerCase(c);
   return digits;
 }
 

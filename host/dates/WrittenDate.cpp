@@ -7,6 +7,7 @@
 #include <cstdint>
 
 #include "host/dates/Scanner.h"
+#include "mivo/model/LowerCase.h"
 
 namespace mivo::host {
 namespace {
@@ -36,7 +37,7 @@ std::optional<local_days> day(unsigned yearNumber, unsigned monthNumber, unsigne
 std::string folded(std::string_view word) {
   std::string result;
   for (const char c : word)
-    if (c != '.') result += c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+    if (c != '.') result += lowerCase(c);
   return result;
 }
 

@@ -5,13 +5,15 @@
 #include <charconv>
 #include <cmath>
 
+#include "mivo/model/LowerCase.h"
+
 namespace mivo::host {
 
 std::string plainHeader(std::string_view name) {
   std::string result;
   for (const char c : name) {
     if (c == ' ' || c == '_' || c == '-' || c == '\t') continue;
-    result += c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+    result += lowerCase(c);
   }
   return result;
 }

@@ -10,6 +10,7 @@
 #include "host/history/FieldRules.h"
 #include "host/history/Header.h"
 #include "mivo/model/Date.h"
+#include "mivo/model/LowerCase.h"
 
 namespace mivo::host {
 namespace {
@@ -48,13 +49,6 @@ std::optional<double> clockLength(std::string_view text) {
 bool mayPartThousands(std::string_view text) {
   const std::size_t comma = text.rfind(',');
   return comma != std::string_view::npos && text.size() - comma - 1 == 3;
-}
-
-std::string lowerCase(std::string_view text) {
-  std::string result{text};
-  for (char& c : result)
-    if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
-  return result;
 }
 
 }  // namespace

@@ -6,6 +6,7 @@
 #include <variant>
 
 #include "host/history/FieldRules.h"
+#include "mivo/model/LowerCase.h"
 #include "mivo/weights/WeightText.h"
 
 namespace mivo::host {
@@ -34,13 +35,6 @@ bool isNotWeighed(std::string_view cell) {
   const auto read = readWeight(cell, WeightUnit::kilograms);
   const double* const weight = std::get_if<double>(&read);
   return weight && *weight == 0;
-}
-
-std::string lowerCase(std::string_view text) {
-  std::string result{text};
-  for (char& c : result)
-    if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
-  return result;
 }
 
 }  // namespace

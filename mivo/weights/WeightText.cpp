@@ -9,6 +9,8 @@
 #include <cstdint>
 #include <string>
 
+#include "mivo/model/LowerCase.h"
+
 namespace mivo {
 namespace {
 
@@ -31,10 +33,9 @@ std::string plain(std::string_view text) {
   std::string result;
   while (!text.empty()) {
     const std::uint32_t point = nextCodePoint(text);
-    char c = point < 0x80 ? static_cast<char>(point) : '?';
+    char c = point < 0x80 ? lowerCase(static_cast<char>(point)) : '?';
     if (point == ',' || point == arabicDecimalSign) c = '.';
     if (point == 0xA0 || point == 0x202F) c = ' ';
-    if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
     for (const std::uint32_t zero : zeros)
       if (point >= zero && point < zero + 10) c = static_cast<char>('0' + (point - zero));
     result += c;
