@@ -7,12 +7,19 @@ Item {
     id: root
 
     readonly property real buttons: add.implicitWidth + (months.visible ? months.width : 0)
-    readonly property bool stacked: headline.implicitWidth + buttons > width
+    readonly property bool stacked: whole.advanceWidth + buttons > width
 
     signal addWanted
     signal monthsWanted
 
     implicitHeight: stacked ? headline.height + add.height : Math.max(add.height, headline.height)
+
+    // The headline itself is laid out anew for the width that this decides.
+    TextMetrics {
+        id: whole
+        text: headline.text
+        font: headline.font
+    }
 
     StyledText {
         id: headline
