@@ -14,7 +14,7 @@ inline constexpr std::size_t largestRequest = 8192;
 struct RequestReading {
   enum class State { needsMore, complete, refused };
   State state = State::needsMore;
-  std::size_t consumed = 0;  // bytes that will not be looked at again
+  std::size_t consumed = 0;  // bytes that will not be looked at again; none where refused
   Request request;
   Refusal refusal;  // the connection cannot be read further after one
 };

@@ -141,7 +141,6 @@ void Connection::ask(Operation operation) {
 // After a request that was not understood nobody knows where the next one begins.
 void Connection::refuse(const Refusal& refusal) {
   request.keepAlive = false;
-  wasRefused = true;
   finish(refusalAnswer(refusal));
 }
 
@@ -197,10 +196,10 @@ void Connection::didWrite() {
   answerWhatCame();
 }
 
-// Closing while bytes come in would reset the connection, and the client might lose the last answer.
+// Closing while bytes come in would reset the connection, and the client might lose the last answer. What was refused
+// is still in the inbox.
 void Connection::part() {
-  const bool mayHaveMore = wasRefused || !inbox.isEmpty();
-  if (!mayHaveMore && !stream.isSecure()) return close();
+  if (inbox.isEmpty() && !stream.isSecure()) return close();
   enter(Phase::parting, now() + partingTime);
   if (!isReading) inbox.clear();
   stream.finishSending([self = shared_from_this()] { self->stream.isSecure() ? self->close() : self->read(); });

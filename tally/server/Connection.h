@@ -88,7 +88,6 @@ class Connection : public std::enable_shared_from_this<Connection> {
   Request request;  // being answered; its views are into inbox
   Instant received;
   bool isReading = false;
-  bool wasRefused = false;
   bool keepAlive = true;
   bool isDraining = false;
 };

@@ -247,6 +247,15 @@ TEST_F(ServerTest, cutsOffWhoTakesTooLong) {
   EXPECT_EQ(idle.receiveAll(), "");
 }
 
+// A reset could take the answer with it.
+TEST_F(ServerTest, readsAwayWhatComesAfterARefusal) {
+  TallyServer server{store()};
+  HttpClient client{server.port()};
+  client.send("GET /get/a/feature1 HTTP/1.1\r\nHost: h\r\nContent-Length: 200000\r\n\r\n");
+  EXPECT_EQ(client.receive().status, 413U);
+  for (int piece = 0; piece < 20; ++piece) client.send(std::string(10'000, 'x'));
+}
+
 // The beginning of the next request came with the one before; that others time out says that a second has passed.
 TEST_F(ServerTest, givesEachRequestOfAConnectionItsTime) {
   TallyServer server{store(), {"--request-seconds", "60", "--idle-seconds", "1"}};
