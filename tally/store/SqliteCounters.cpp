@@ -54,13 +54,15 @@ bool isDamage(const SQLite::Exception& error) { return (error.getErrorCode() & 0
 }  // namespace
 
 struct SqliteCounters::Database {
-  Database(const std::filesystem::path& file, Access access, std::chrono::milliseconds busyTime)
+  Database(const std::filesystem::path& file, Access access, std::chrono::milliseconds busyTime,
+           std::int64_t counterLimit)
       : connection(openDatabase(file, access, busyTime)),
         select(connection, "SELECT value FROM counter WHERE name = ?"),
         upsert(connection, "INSERT INTO counter VALUES (?1, ?2) ON CONFLICT (name) DO UPDATE SET value = ?2"),
         begin(connection, "BEGIN IMMEDIATE"),
         commit(connection, "COMMIT"),
-        version(connection, "PRAGMA data_version") {}
+        version(connection, "PRAGMA data_version"),
+        mostCounters(counterLimit) {}
 
   std::int64_t dataVersion() {
     version.executeStep();
@@ -120,8 +122,8 @@ struct SqliteCounters::Database {
 
   SQLite::Database connection;
   SQLite::Statement select, upsert, begin, commit, version;
+  std::int64_t mostCounters;
   std::string damage;
-  std::int64_t mostCounters = std::numeric_limits<std::int64_t>::max();
   std::optional<std::int64_t> counters;  // once they were counted
   std::int64_t lastVersion = dataVersion();
 };
@@ -186,8 +188,7 @@ class SqliteCounters::Batch {
 SqliteCounters::SqliteCounters(const std::filesystem::path& path, Access access, std::chrono::milliseconds busyTime,
                                std::int64_t mostCounters)
     : file(path) {
-  database = naming(file, [&] { return std::make_unique<Database>(file, access, busyTime); });
-  database->mostCounters = mostCounters;
+  database = naming(file, [&] { return std::make_unique<Database>(file, access, busyTime, mostCounters); });
 }
 
 SqliteCounters::~SqliteCounters() = default;
