@@ -7,14 +7,14 @@ Item {
     id: root
 
     readonly property real buttons: add.implicitWidth + (months.visible ? months.width : 0)
-    readonly property bool stacked: whole.advanceWidth + buttons > width
+    readonly property bool stacked: Math.ceil(whole.advanceWidth) + buttons > width
 
     signal addWanted
     signal monthsWanted
 
     implicitHeight: stacked ? headline.height + add.height : Math.max(add.height, headline.height)
 
-    // The headline itself is laid out anew for the width that this decides.
+    // The headline's own implicit width is worked out anew whenever its width changes.
     TextMetrics {
         id: whole
         text: headline.text
@@ -25,7 +25,7 @@ Item {
         id: headline
         anchors.left: parent.left
         y: root.stacked ? 0 : (add.height - height) / 2
-        width: root.stacked ? root.width : Math.ceil(implicitWidth)
+        width: root.stacked ? root.width : root.width - root.buttons
         text: App.fasting.history.title
         style: Theme.sectionText
         Accessible.role: Accessible.Heading
