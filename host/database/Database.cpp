@@ -5,6 +5,7 @@
 #include <SQLiteCpp/Exception.h>
 #include <SQLiteCpp/Statement.h>
 #include <SQLiteCpp/Transaction.h>
+#include <fcntl.h>
 #include <sqlite3.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -16,6 +17,7 @@
 #include <system_error>
 #include <utility>
 
+#include "adapters/system/FileDescriptor.h"
 #include "adapters/system/UserDirectories.h"
 #include "host/database/Schema.h"
 #include "host/dates/DateText.h"
@@ -201,6 +203,15 @@ void addAll(SQLite::Database& database, const char* sql, const std::vector<Recor
   }
 }
 
+History readAll(SQLite::Database& database) {
+  History history;
+  SQLite::Statement fasts{database, std::string{selectFasts} + "ORDER BY startedAt, place"};
+  while (fasts.executeStep()) history.fasts.push_back(fastRecord(fasts));
+  SQLite::Statement weights{database, std::string{selectWeights} + "ORDER BY weighedAt, place"};
+  while (weights.executeStep()) history.weights.push_back(weightSample(weights));
+  return history;
+}
+
 template <class Record>
 std::vector<Record> lastOnes(SQLite::Database& database, const char* sql, bool isAdded,
                              Record (*record)(SQLite::Statement&)) {
@@ -256,6 +267,30 @@ void keepPrivate(const fs::path& file) {
     fs::permissions(file.string() + part, fs::perms::group_all | fs::perms::others_all, fs::perm_options::remove,
                     notOurs);
   }
+}
+
+fs::path pathAside(const fs::path& file) {
+  const auto now = std::chrono::floor<std::chrono::seconds>(std::chrono::system_clock::now());
+  return file.string() + ".damaged-" + rfc3339(now);
+}
+
+void removeDatabase(const fs::path& file) {
+  for (const char* part : {"", "-wal", "-shm"}) {
+    std::error_code isNotThere;
+    fs::remove(file.string() + part, isNotThere);
+  }
+}
+
+// The old file keeps its name until the new one takes it. Its log goes first: the new one would be read with it.
+void takePlaceOf(const fs::path& file, const fs::path& made, const fs::path& aside) {
+  std::error_code hasNoLinks, isNotThere;
+  fs::create_hard_link(file, aside, hasNoLinks);
+  if (hasNoLinks) fs::rename(file, aside);
+  for (const char* part : {"-wal", "-shm"}) fs::rename(file.string() + part, aside.string() + part, isNotThere);
+  fs::rename(made, file);
+  const adapters::FileDescriptor folder{
+      ::open(fs::absolute(file).parent_path().c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)};
+  ::fsync(folder.get());
 }
 
 // A database that nobody has open can be read without a file beside it only where it is called immutable.
@@ -317,12 +352,7 @@ Database& Database::operator=(Database&&) noexcept = default;
 History Database::history() const {
   return translating(file(), [&] {
     SQLite::Transaction snapshot{connection->database};
-    History history;
-    SQLite::Statement fasts{connection->database, std::string{selectFasts} + "ORDER BY startedAt, place"};
-    while (fasts.executeStep()) history.fasts.push_back(fastRecord(fasts));
-    SQLite::Statement weights{connection->database, std::string{selectWeights} + "ORDER BY weighedAt, place"};
-    while (weights.executeStep()) history.weights.push_back(weightSample(weights));
-    return history;
+    return readAll(connection->database);
   });
 }
 
@@ -346,6 +376,22 @@ HistoryChange Database::undo() {
   });
 }
 
+HistoryChange Database::replace(const History& records, const std::function<void(const History& present)>& before) {
+  const auto transaction = connection->begin();
+  return translating(file(), [&]() -> HistoryChange {
+    History present = readAll(connection->database);
+    before(present);
+    if (present.fasts == records.fasts && present.weights == records.weights) return {};
+    HistoryChange change{.removedFasts = std::move(present.fasts),
+                         .addedFasts = records.fasts,
+                         .removedWeights = std::move(present.weights),
+                         .addedWeights = records.weights};
+    write(connection->database, file(), change);
+    transaction->commit();
+    return change;
+  });
+}
+
 std::int64_t Database::version() const {
   return translating(
       file(), [&]() -> std::int64_t { return connection->database.execAndGet("PRAGMA data_version").getInt64(); });
@@ -359,9 +405,7 @@ OpenedDatabase openOrSetAside(const fs::path& file) {
   } catch (const DatabaseError& error) {
     if (error.kind != Kind::damaged) throw;
   }
-  const auto now = std::chrono::floor<std::chrono::seconds>(std::chrono::system_clock::now());
-  const std::string suffix = ".damaged-" + rfc3339(now);
-  const fs::path aside = file.string() + suffix;
+  const fs::path aside = pathAside(file);
   for (const char* part : {"", "-wal", "-shm"}) {
     std::error_code error;
     fs::rename(file.string() + part, aside.string() + part, error);
@@ -369,6 +413,23 @@ OpenedDatabase openOrSetAside(const fs::path& file) {
       throw DatabaseError{Kind::unavailable, file, "it is damaged and cannot be moved aside: " + error.message()};
   }
   return {Database{file}, aside};
+}
+
+fs::path replaceDamaged(const fs::path& file, const History& records) {
+  const fs::path made = file.string() + ".restored-" + std::to_string(::getpid());
+  removeDatabase(made);  // of a program that was killed and had the same number
+  try {
+    Database{made}.replace(records, [](const History&) {});
+    const fs::path aside = pathAside(file);
+    takePlaceOf(file, made, aside);
+    return aside;
+  } catch (const fs::filesystem_error& error) {
+    removeDatabase(made);
+    throw DatabaseError{Kind::unavailable, file, "it is damaged and cannot be replaced: " + error.code().message()};
+  } catch (...) {
+    removeDatabase(made);
+    throw;
+  }
 }
 
 std::string exportCommand(const fs::path& database) {

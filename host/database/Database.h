@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <stdexcept>
@@ -66,6 +67,11 @@ class Database {
   /// kept for this until the next one.
   HistoryChange undo();
 
+  /// Puts these records in the place of all there are, as one change, and returns it; empty where they are there
+  /// already. `before` is handed what is there, while nobody else can change it; what it throws leaves all as it was.
+  /// Throws DatabaseError.
+  HistoryChange replace(const History& records, const std::function<void(const History& present)>& before);
+
   /// Another number than last time: another program has changed something since.
   std::int64_t version() const;
 
@@ -83,6 +89,11 @@ struct OpenedDatabase {
   std::optional<std::filesystem::path> setAside = {};
 };
 OpenedDatabase openOrSetAside(const std::filesystem::path& file);
+
+/// Puts a new database with these records in the place of a damaged one, in one step, so that at no time there is none,
+/// and returns the path under which the damaged one is kept. Throws DatabaseError; the damaged one then stands as it
+/// was.
+std::filesystem::path replaceDamaged(const std::filesystem::path& file, const History& records);
 
 /// What writes all of a database into a file, typed into a terminal: "mivo export --to copy.json".
 std::string exportCommand(const std::filesystem::path& database);

@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <span>
+#include <tl/expected.hpp>
+#include <utility>
+#include <vector>
+
+#include "host/history/History.h"
+#include "host/history/Setting.h"
+#include "host/text/BadRecord.h"
+#include "mivo/model/Date.h"
+
+namespace mivo::host {
+
+/// A backup, by its file; `date` is what the name says.
+struct Backup {
+  std::filesystem::path file;
+  Date date;
+  bool operator==(const Backup&) const = default;
+};
+
+/// The backup that holds a state of the history, and whether it was made for that.
+struct KeptBackup {
+  Backup backup;
+  bool isNew = false;
+  bool operator==(const KeptBackup&) const = default;
+};
+
+/// A folder of backups: snapshots that carry the settings too, which only their owner may read. Other files in it are
+/// left alone. It is made with the first backup.
+///
+/// Members throw std::system_error, whose text names the file or the folder. Thread: any; several programs may use one
+/// folder at a time.
+class BackupFolder {
+ public:
+  explicit BackupFolder(std::filesystem::path place) : folder{std::move(place)} {}
+
+  const std::filesystem::path& path() const { return folder; }
+
+  /// The newest first; none where there is no folder yet.
+  std::vector<Backup> backups() const;
+
+  /// Whether the day of `now`, in UTC, has no backup yet. Costs the listing of the folder.
+  bool isDue(Date now) const;
+
+  /// Sees to it that a history is kept: in the newest backup where that holds the same records, else in a new one,
+  /// which is written whole or not at all and on disk when the call returns. Nothing for an empty history, which is not
+  /// worth the place of another one. Costs reading and writing one backup.
+  std::optional<KeptBackup> keep(const History& history, std::span<const Setting> settings, Date now) const;
+
+  /// Removes the backups that `keptBackups` does not keep, but never `newest`, which a clock that was set back may have
+  /// given an old date; and what a killed program left half written on days before that.
+  void rotate(const Backup& newest) const;
+
+ private:
+  std::filesystem::path folder;
+};
+
+/// The records of a backup, or of any other snapshot; or the first fault.
+tl::expected<History, BadRecord> readBackup(const std::filesystem::path& file);
+
+/// Whether both have the same records in the same order.
+bool hasEqualRecords(const History& one, const History& other);
+
+/// Where the backups of a database are, unless another folder is named: beside it, "mivo.sqlite.backups".
+std::filesystem::path backupFolder(const std::filesystem::path& database);
+
+}  // namespace mivo::host

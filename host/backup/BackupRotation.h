@@ -1,0 +1,15 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <vector>
+
+#include "mivo/model/Date.h"
+
+namespace mivo::host {
+
+/// Of backups of these dates those that stay, the newest first: the newest one of each of the last 7 days, of the last
+/// 4 weeks (from Monday) and of the last 12 months of which there are any, in UTC. Days without a backup are not
+/// counted and the clock is not asked, so that neither a long pause nor a clock that was set wrong costs one.
+std::vector<Date> keptBackups(std::vector<Date> dates);
+
+}  // namespace mivo::host

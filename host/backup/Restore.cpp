@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: MIT
+#include "host/backup/Restore.h"
+
+#include "host/database/Database.h"
+
+namespace mivo::host {
+
+Restored restore(const std::filesystem::path& database, const History& records, const BackupFolder& folder,
+                 std::span<const Setting> settings, Date now) {
+  Restored restored;
+  try {
+    const auto keep = [&](const History& present) { restored.before = folder.keep(present, settings, now); };
+    restored.isChanged = !Database{database}.replace(records, keep).isEmpty();
+  } catch (const DatabaseError& error) {
+    if (error.kind != DatabaseError::Kind::damaged) throw;
+    restored.setAside = replaceDamaged(database, records);
+  }
+  return restored;
+}
+
+}  // namespace mivo::host

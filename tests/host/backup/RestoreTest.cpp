@@ -1,0 +1,97 @@
+// SPDX-License-Identifier: MIT
+#include "host/backup/Restore.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <system_error>
+
+#include "host/database/Database.h"
+#include "tests/support/TemporaryFolder.h"
+
+namespace mivo::host {
+namespace {
+
+constexpr Date noon = dateSince1970(1772366400);
+
+HistoryChange adding(History records) {
+  HistoryChange change;
+  change.addedFasts = std::move(records.fasts);
+  change.addedWeights = std::move(records.weights);
+  return change;
+}
+
+class RestoreTest : public testing::Test {
+ protected:
+  RestoreTest() {
+    const Date start = noon - Duration{57600};
+    for (std::uint64_t id = 9; id > 6; --id)  // repeats, in an order that is not their ids'
+      backup.fasts.push_back({finishedFast({7, id}, start, noon, 57600), std::to_string(id)});
+    backup.weights = {{{3, 2}, noon, 81.4}, {{3, 1}, noon, 81.4}};
+    present.fasts = {backup.fasts[1], {ongoingFast({7, 1}, noon, 57600), "tea"}};
+    present.fasts[0].note = "edited";
+  }
+
+  Restored restored() const { return restore(file, backup, folder, {}, noon); }
+  History history() const { return Database{file}.history(); }
+
+  tests::TemporaryFolder place;
+  const std::filesystem::path file = place.path / "d";
+  const BackupFolder folder{backupFolder(file)};
+  History backup, present;
+};
+
+TEST_F(RestoreTest, isExactSeenByOthersAndUndone) {
+  Database{file}.apply(adding(present));
+  Database open{file};  // as the app has it
+  const auto before = open.version();
+  const Restored done = restored();
+  EXPECT_TRUE(done.isChanged);
+  EXPECT_EQ(open.history(), backup);
+  EXPECT_NE(open.version(), before);
+  ASSERT_TRUE(done.before && done.before->isNew);
+  EXPECT_EQ(readBackup(done.before->backup.file), present);
+  open.undo();
+  EXPECT_EQ(history(), present);
+}
+
+TEST_F(RestoreTest, leavesAloneWhatIsThereAlready) {
+  EXPECT_EQ(restored().before, std::nullopt) << "there was nothing to keep";
+  Database{file}.undo();
+  Database{file}.undo();  // again: a change to take back
+  EXPECT_FALSE(restored().isChanged);
+  Database{file}.undo();
+  EXPECT_EQ(history(), History{});
+}
+
+TEST_F(RestoreTest, changesNothingWhereThePresentStateCannotBeKept) {
+  Database{file}.apply(adding(present));
+  std::ofstream{folder.path()} << "no folder";
+  EXPECT_THROW(restored(), std::system_error);
+  EXPECT_EQ(history(), present);
+}
+
+TEST_F(RestoreTest, changesNothingWhereTheRecordsCannotStandTogether) {
+  Database{file}.apply(adding(present));
+  backup.fasts[1].fast.id = backup.fasts[0].fast.id;
+  EXPECT_THROW(restored(), DatabaseError);
+  EXPECT_EQ(history(), present);
+}
+
+TEST_F(RestoreTest, putsADamagedDatabaseAside) {
+  const std::string damaged(5000, 'x');
+  std::ofstream{file} << damaged;
+  std::ofstream{file.string() + "-wal"} << "of the damaged one";
+  const Restored done = restored();
+  ASSERT_TRUE(done.setAside);
+  EXPECT_EQ(std::filesystem::file_size(*done.setAside), damaged.size());
+  EXPECT_EQ(history(), backup);
+  for (const auto& entry : std::filesystem::directory_iterator{place.path}) {
+    const std::string name = entry.path().filename().string();
+    EXPECT_TRUE(name == "d" || name.starts_with("d.damaged-")) << name;
+  }
+}
+
+}  // namespace
+}  // namespace mivo::host
