@@ -7,6 +7,7 @@
 #include <cerrno>
 #include <exception>
 #include <filesystem>
+#include <ranges>
 #include <string>
 #include <system_error>
 #include <vector>
@@ -106,7 +107,7 @@ int run(const std::vector<std::string>& arguments) {
   }
   if (std::ranges::any_of(foreign, [](const CLI::App* command) { return command->parsed(); }))
     return becomeNetworkProgram(arguments);
-  for (const auto& [command, runCommand] : recordCommands)
+  for (const auto& [command, runCommand] : recordCommands | std::views::reverse)  // those in a group come first
     if (command->parsed()) return runCommand(recordOptions);
   return report.parsed() ? runReport(reportOptions) : wrongUsage;
 }

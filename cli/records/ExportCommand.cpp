@@ -6,13 +6,11 @@
 #include <vector>
 
 #include "adapters/system/AtomicFile.h"
-#include "adapters/system/FileUserDefaults.h"
-#include "adapters/system/UserDirectories.h"
 #include "cli/options/OptionValues.h"
 #include "cli/records/RecordCommands.h"
 #include "cli/records/RecordRun.h"
+#include "cli/records/RecordTables.h"
 #include "cli/usage/Usage.h"
-#include "host/app/CarriedSettings.h"
 #include "host/history/HistoryCsv.h"
 #include "host/history/Snapshot.h"
 #include "mivo/model/LowerCase.h"
@@ -49,13 +47,8 @@ void write(const RecordOptions& options, std::string_view content) {
 /// "Exported to backup.json: 2 fasts, 1 weight", of a table one of the two.
 std::string summary(const host::History& history, What what, const RecordRun& run) {
   const TextLookup& texts = *run.texts;
-  const auto filled = [&run](const std::string& pattern, std::int64_t count) {
-    return filledIn(pattern, {run.formatters.numberFormatter->string(count)});
-  };
-  const auto fastCount = static_cast<std::int64_t>(history.fasts.size());
-  const auto weightCount = static_cast<std::int64_t>(history.weights.size());
-  const std::string fasts = filled(texts.plural("{1} fast", "{1} fasts", fastCount), fastCount),
-                    weights = filled(texts.plural("{1} weight", "{1} weights", weightCount), weightCount);
+  const std::string fasts = fastCountText(history.fasts.size(), run),
+                    weights = weightCountText(history.weights.size(), run);
   if (what == What::everything)
     return filledIn(texts.text("Exported to {1}: {2}, {3}"), {run.options.to, fasts, weights}) + '\n';
   return filledIn(texts.text("Exported to {1}: {2}"), {run.options.to, what == What::fasts ? fasts : weights}) + '\n';
@@ -81,13 +74,6 @@ Form formOf(const RecordOptions& options, What what) {
   return *form;
 }
 
-/// The app's settings go with its own history only.
-std::vector<host::Setting> settingsBeside(const RecordOptions& options) {
-  if (!options.database.empty()) return {};
-  const adapters::FileUserDefaults app{adapters::appDefaultsFile()}, group{adapters::groupDefaultsFile()};
-  return host::carriedSettings({app, group});
-}
-
 std::string written(const host::History& history, const std::vector<host::Setting>& settings, Form form, What what) {
   if (what == What::fasts)
     return form == Form::table ? host::writeFastsCsv(history.fasts) : host::writeFasts(history.fasts);
@@ -100,7 +86,7 @@ std::string exportAll(const RecordRun& run) {
   const What what = whatOf(run.options);
   const Form form = formOf(run.options, what);
   const host::History history = run.history();
-  std::string content = written(history, settingsBeside(run.options), form, what);
+  std::string content = written(history, run.settings(), form, what);
   if (run.options.to == "-") return content;
   write(run.options, content);
   return summary(history, what, run);

@@ -36,6 +36,18 @@ constexpr const char* weightExamples = R"(Examples:
   mivo weight list
   mivo weight remove 77c0)";
 
+constexpr const char* backupExamples = R"(Examples:
+  mivo backup
+  mivo backup --folder /media/stick
+  mivo backup list
+  mivo backup restore
+  mivo backup restore 2026-02-28
+  mivo backup restore other-machine.json
+
+Before the first change of a day the app's own history is backed up into the folder beside it. The newest of each of 7
+days, 4 weeks and 12 months stay. To restore is a change as any other: what was there is backed up, and mivo undo takes
+it back. The settings of a backup come with mivo import --with-settings FILE.)";
+
 class Commands {
  public:
   Commands(CLI::App& program, RecordOptions& typed) : options{typed}, parent{&program} {}
@@ -63,6 +75,7 @@ class Commands {
     parent = &group;
     examples = footer;
   }
+  void showing(const char* footer) { examples = footer; }
 
   void date(CLI::App& command, const char* name, std::optional<std::string>& text, const char* description) const {
     command.add_option(name, text, description)->type_name("DATE");
@@ -150,11 +163,28 @@ void addWeightCommands(CLI::App& program, Commands& to) {
   to.id(to.add("remove", "Remove a weight", runWeightRemove));
 }
 
+void addBackupCommands(Commands& to) {
+  RecordOptions& options = to.options;
+  to.showing(backupExamples);
+  CLI::App& backup = to.add("backup", "Back fasts and weights up, list the backups and go back to one", runBackup);
+  backup.require_subcommand(0, 1);
+  to.inside(backup, backupExamples);
+  CLI::App& list = to.add("list", "List the backups, the newest first", runBackupList);
+  to.format(list);
+  CLI::App& restore = to.add("restore", "Put what a backup holds in the place of all there is", runBackupRestore);
+  restore.add_option("BACKUP", options.which,
+                     "The beginning of one that mivo backup list shows, or a file; default: the newest");
+  for (CLI::App* command : {&backup, &list, &restore})
+    command->add_option("--folder", options.folder, "Where backups are; default: beside the history")
+        ->type_name("FOLDER");
+}
+
 }  // namespace
 
 std::vector<RecordCommand> addRecordCommands(CLI::App& program, RecordOptions& options) {
   Commands commands{program, options};
   addFastCommands(commands);
+  addBackupCommands(commands);
   addWeightCommands(program, commands);
   return commands.commands;
 }

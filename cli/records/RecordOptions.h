@@ -10,7 +10,7 @@ namespace mivo::cli {
 
 /// What stands after a command that keeps the history, as it was typed; empty or missing where it was not.
 struct RecordOptions {
-  std::string id, weight, to, what;
+  std::string id, weight, to, what, which, folder;
   std::vector<std::string> files;  ///< to import
   std::optional<std::string> at, start, end, goalHours, note;
   struct {
@@ -26,7 +26,7 @@ struct RecordCommand {
   int (*run)(const RecordOptions& options);
 };
 
-/// Adds the commands. `options` must outlive the parsing.
+/// Adds the commands; one that is a group too stands before those in it. `options` must outlive the parsing.
 std::vector<RecordCommand> addRecordCommands(CLI::App& program, RecordOptions& options);
 
 }  // namespace mivo::cli

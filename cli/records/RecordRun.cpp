@@ -1,16 +1,20 @@
 // SPDX-License-Identifier: MIT
 #include "cli/records/RecordRun.h"
 
+#include <system_error>
 #include <utility>
 
 #include "adapters/locale/MessageCatalogue.h"
 #include "adapters/system/FileUserDefaults.h"
 #include "adapters/system/SystemClock.h"
 #include "adapters/system/UserDirectories.h"
+#include "cli/backup/DamagedSentence.h"
 #include "cli/options/OptionValues.h"
 #include "cli/terminal/StandardOutput.h"
 #include "cli/usage/Usage.h"
+#include "host/app/CarriedSettings.h"
 #include "host/app/Settings.h"
+#include "host/backup/BackupFolder.h"
 #include "host/dates/SpokenDate.h"
 #include "host/history/FieldRules.h"
 #include "host/text/BadRecord.h"
@@ -65,6 +69,13 @@ struct Help {
   }
 };
 
+/// What is said otherwise than the database says it: another program was quicker, or the file is damaged.
+std::optional<std::string> sentenceFor(const host::DatabaseError& error, const RecordRun& run) {
+  if (error.kind == host::DatabaseError::Kind::fastRunning) return refusalText(host::FastIsRunning{}, *run.texts);
+  if (error.kind != host::DatabaseError::Kind::damaged) return std::nullopt;
+  return damagedSentence(error, *run.texts, *run.formatters.dateFormatter);
+}
+
 }  // namespace
 
 RecordRun::RecordRun(const RecordOptions& typedIn)
@@ -79,7 +90,29 @@ std::filesystem::path RecordRun::file() const {
   return options.database.empty() ? host::ownDatabaseFile() : std::filesystem::path{options.database};
 }
 
-HistoryFile RecordRun::open() const { return HistoryFile{file()}; }
+bool RecordRun::isOwn() const { return file() == host::ownDatabaseFile(); }
+
+HistoryFile RecordRun::open() const {
+  if (!isOwn()) return HistoryFile{file()};
+  return HistoryFile{file(), [this](const host::Database& database) { backUp(database); }};
+}
+
+void RecordRun::backUp(const host::Database& database) const {
+  try {
+    const host::BackupFolder folder{host::backupFolder(database.file())};
+    if (!folder.isDue(now)) return;
+    const auto kept = folder.keep(database.history(), settings(), now);
+    if (kept && kept->isNew) folder.rotate(kept->backup);
+  } catch (const std::system_error& error) {
+    complain(filledIn(texts->text("Today's backup could not be made: {1}"), {error.what()}));
+  }
+}
+
+std::vector<host::Setting> RecordRun::settings() const {
+  if (!isOwn()) return {};
+  const adapters::FileUserDefaults app{adapters::appDefaultsFile()}, group{adapters::groupDefaultsFile()};
+  return host::carriedSettings({app, group});
+}
 
 host::History RecordRun::history() const {
   if (std::filesystem::is_regular_file(file())) return host::Database{file()}.history();
@@ -130,9 +163,9 @@ int runRecordCommand(const RecordOptions& options, const std::function<std::stri
     complain(refused.what());
     return refused.status;
   } catch (const host::DatabaseError& error) {
-    // Another program was quicker: said as everywhere.
-    if (error.kind != host::DatabaseError::Kind::fastRunning) throw;
-    complain(refusalText(host::FastIsRunning{}, *RecordRun{options}.texts));
+    const auto sentence = sentenceFor(error, RecordRun{options});
+    if (!sentence) throw;
+    complain(*sentence);
     return atFault;
   }
 }

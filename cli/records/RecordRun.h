@@ -2,12 +2,14 @@
 #pragma once
 
 #include <cstdint>
+#include <filesystem>
 #include <functional>
 #include <memory>
 #include <optional>
 #include <stdexcept>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "adapters/icu/LocaleFormatters.h"
 #include "adapters/icu/UserLocale.h"
@@ -16,6 +18,7 @@
 #include "cli/records/RecordOptions.h"
 #include "cli/records/ShortIDs.h"
 #include "host/fasting/Fasting.h"
+#include "host/history/Setting.h"
 #include "mivo/platform/TextLookup.h"
 
 namespace mivo::cli {
@@ -39,10 +42,15 @@ class RecordRun {
   const std::shared_ptr<const TextLookup> texts;
   const Date now;
 
-  /// The database, for a change.
+  std::filesystem::path file() const;
+
+  /// The database, for a change. Of the app's own the day's backup is made first where it is due; what stands against
+  /// that is said and stops nothing.
   HistoryFile open() const;
   /// The records. Nothing is made where there is no file: no records where that is the app's own, refused otherwise.
   host::History history() const;
+  /// The app's settings, which go with its own history only.
+  std::vector<host::Setting> settings() const;
 
   /// What an option says, or now without it.
   Date dateOrNow(std::string_view name, const std::optional<std::string>& text) const;
@@ -62,7 +70,8 @@ class RecordRun {
   std::string typed(Date date) const;
 
  private:
-  std::filesystem::path file() const;
+  bool isOwn() const;
+  void backUp(const host::Database& database) const;
 };
 
 /// Runs a command and turns what it throws into a line on standard error. What it returns is printed.

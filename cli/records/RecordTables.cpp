@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <cstdint>
 #include <numeric>
 #include <optional>
 #include <span>
@@ -12,6 +13,7 @@
 #include "cli/terminal/Paint.h"
 #include "cli/terminal/StandardOutput.h"
 #include "cli/terminal/TextWidth.h"
+#include "host/backup/BackupName.h"
 #include "host/dates/SpokenDate.h"
 #include "host/fasting/OverlappingFasts.h"
 #include "mivo/fasting/GoalTime.h"
@@ -25,10 +27,6 @@ constexpr std::string_view gap = "  ";
 std::string withOffset(const std::optional<std::string>& text, Date date, const RecordRun& run) {
   const std::string offset = host::offsetIfDoubled(date, *run.zone);
   return text.value_or("") + (offset.empty() ? "" : ' ' + offset);
-}
-
-std::string dateText(Date date, const RecordRun& run) {
-  return withOffset(run.formatters.dateFormatter->string(date, "yMMMdjm"), date, run);
 }
 
 /// In digits: whole histories are read in columns.
@@ -206,6 +204,37 @@ std::string weightTable(const std::vector<BodyWeightSample>& weights, const Reco
   for (const BodyWeightSample& sample : weights)
     table.add({ids.text(sample.id), shortDateText(sample.date, run), weightText(sample.weightInKg, unit, run), ""});
   return table.text(Paint::forStandardOutput(), outputWidth());
+}
+
+std::string backupTable(const std::vector<ListedBackup>& backups, const RecordRun& run) {
+  using enum Table::Side;
+  const TextLookup& texts = *run.texts;
+  if (backups.empty()) return texts.text("No backups yet.") + '\n';
+  const auto number = [&run](std::size_t count) {
+    return run.formatters.numberFormatter->string(static_cast<std::int64_t>(count));
+  };
+  Table table{{texts.text("Backup"), texts.text("Date"), texts.text("Fasts"), texts.text("Weights"), ""},
+              {left, right, right, right, left}};
+  for (const auto& [backup, records] : backups)
+    table.add({host::backupKey(backup.date), shortDateText(backup.date, run),
+               records ? number(records->fasts.size()) : "", records ? number(records->weights.size()) : "",
+               records ? "" : texts.text("cannot be read")});
+  return table.text(Paint::forStandardOutput(), outputWidth());
+}
+
+std::string dateText(Date date, const RecordRun& run) {
+  return withOffset(run.formatters.dateFormatter->string(date, "yMMMdjm"), date, run);
+}
+
+std::string fastCountText(std::size_t count, const RecordRun& run) {
+  const auto number = static_cast<std::int64_t>(count);
+  return filledIn(run.texts->plural("{1} fast", "{1} fasts", number), {run.formatters.numberFormatter->string(number)});
+}
+
+std::string weightCountText(std::size_t count, const RecordRun& run) {
+  const auto number = static_cast<std::int64_t>(count);
+  return filledIn(run.texts->plural("{1} weight", "{1} weights", number),
+                  {run.formatters.numberFormatter->string(number)});
 }
 
 ShortIDs idsOf(const std::vector<host::FastRecord>& fasts) {

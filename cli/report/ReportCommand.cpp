@@ -7,6 +7,7 @@
 #include <tl/expected.hpp>
 #include <utility>
 
+#include "cli/backup/DamagedSentence.h"
 #include "cli/options/OptionValues.h"
 #include "cli/report/Report.h"
 #include "cli/report/ReportJson.h"
@@ -116,6 +117,19 @@ std::string drawn(const Report& report, const RunSettings& settings) {
                     screenFormatters(), Paint::forStandardOutput());
 }
 
+int report(const ReportOptions& options, const RunSettings& settings, const UUIDGenerator& ids) {
+  const auto history = readHistory(options, settings, ids);
+  if (!history) {
+    const auto& [bad, asks, isUnknown] = history.error();
+    return refused(asks == ImportFault::Asks::nothing ? badData : wrongUsage,
+                   withHelp(describe(bad), answeringOption(asks)));
+  }
+  const std::string page = drawn(makeReport(*history, settings), settings);
+  if (history->endsBeforeStart) complain(describe(*history->endsBeforeStart));
+  if (const auto fault = writeOutput(page)) return refused(badData, *fault);
+  return done;
+}
+
 }  // namespace
 
 int runReport(const ReportOptions& options) {
@@ -124,16 +138,12 @@ int runReport(const ReportOptions& options) {
   if (!settings) return refused(wrongUsage, settings.error());
   const auto clients = runDependencies(*settings);
   const DependencyScope scope{clients};
-  const auto history = readHistory(options, *settings, *clients->uuid);
-  if (!history) {
-    const auto& [bad, asks, isUnknown] = history.error();
-    return refused(asks == ImportFault::Asks::nothing ? badData : wrongUsage,
-                   withHelp(describe(bad), answeringOption(asks)));
+  try {
+    return report(options, *settings, *clients->uuid);
+  } catch (const host::DatabaseError& error) {
+    if (error.kind != host::DatabaseError::Kind::damaged) throw;
+    return refused(badData, damagedSentence(error, *clients->texts, *clients->dateFormatter));
   }
-  const std::string page = drawn(makeReport(*history, *settings), *settings);
-  if (history->endsBeforeStart) complain(describe(*history->endsBeforeStart));
-  if (const auto fault = writeOutput(page)) return refused(badData, *fault);
-  return done;
 }
 
 }  // namespace mivo::cli

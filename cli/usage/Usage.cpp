@@ -31,6 +31,9 @@ bool isOption(const CLI::App& group, const std::string& argument) {
   return group.get_option_no_throw(argument.substr(0, argument.find('='))) != nullptr;
 }
 
+/// Whether a group does something itself, without a command behind it.
+bool isCommand(const CLI::App& group) { return group.get_require_subcommand_min() == 0; }
+
 /// A group of commands, and the words that led to it.
 struct Place {
   const CLI::App* group;
@@ -67,6 +70,7 @@ std::optional<std::string> wrongCommand(const CLI::App& program, std::span<const
     if (argument.starts_with('-')) {
       if (!isOption(*place.group, argument))
         return withHelp(argument.substr(0, argument.find('=')) + ": no such option", place.hint());
+      if (isCommand(*place.group)) return std::nullopt;  // which knows its options' values
       isAnswered = true;
       continue;
     }
@@ -76,7 +80,7 @@ std::optional<std::string> wrongCommand(const CLI::App& program, std::span<const
     place = {*found, place.words + argument + ' '};
     if (commandsOf(**found).empty()) return std::nullopt;
   }
-  if (isAnswered || place.words.empty()) return std::nullopt;
+  if (isAnswered || place.words.empty() || isCommand(*place.group)) return std::nullopt;
   const std::string group = place.words.substr(0, place.words.size() - 1);
   return withHelp(group + ": expected one of " + listed(namesOf(commandsOf(*place.group))), place.hint());
 }

@@ -308,6 +308,10 @@ SQLite::Database open(const fs::path& file, Database::Access access) {
   return {immutableAddress(file), SQLite::OPEN_READONLY | SQLite::OPEN_URI, millisecondsToWaitForALock};
 }
 
+std::string commandFor(const fs::path& database, std::string command) {
+  return database == ownDatabaseFile() ? command : command + " --database '" + database.string() + '\'';
+}
+
 }  // namespace
 
 struct Database::Connection {
@@ -432,10 +436,9 @@ fs::path replaceDamaged(const fs::path& file, const History& records) {
   }
 }
 
-std::string exportCommand(const fs::path& database) {
-  const std::string command = "mivo export --to copy.json";
-  return database == ownDatabaseFile() ? command : command + " --database '" + database.string() + '\'';
-}
+std::string exportCommand(const fs::path& database) { return commandFor(database, "mivo export --to copy.json"); }
+
+std::string restoreCommand(const fs::path& database) { return commandFor(database, "mivo backup restore"); }
 
 fs::path ownDatabaseFile() { return adapters::dataDirectory() / "mivo.sqlite"; }
 

@@ -97,6 +97,8 @@ std::filesystem::path replaceDamaged(const std::filesystem::path& file, const Hi
 
 /// What writes all of a database into a file, typed into a terminal: "mivo export --to copy.json".
 std::string exportCommand(const std::filesystem::path& database);
+/// What puts the newest backup into a database: "mivo backup restore".
+std::string restoreCommand(const std::filesystem::path& database);
 
 /// Where the app and the command line keep a user's database: "mivo/mivo.sqlite" in the user's data folder.
 std::filesystem::path ownDatabaseFile();

@@ -199,18 +199,5 @@ TEST(RecordCommands, answerInTheLanguageOfTheUser) {
   EXPECT_THAT(answer, MatchesRegex("Begonnen: [0-9a-f]{4}  seit 28. Feb. 2026, 20:04, Ziel 16.*\n"));
 }
 
-TEST(RecordCommands, keepADamagedDatabaseAside) {
-  const Workplace place;
-  std::filesystem::create_directory(place.file("mivo"));
-  place.write("mivo/mivo.sqlite", std::string(4096, 'x'));
-  const Ran listed = place.run("list" + berlin);
-  EXPECT_EQ(listed.status, 1);
-  EXPECT_THAT(listed.errors, HasSubstr("mivo.sqlite: the database is damaged"));
-  const Ran started = place.run("start" + berlin);
-  EXPECT_EQ(started.status, 0);
-  EXPECT_THAT(started.errors, HasSubstr("the database is damaged; it is kept as "));
-  EXPECT_EQ(own(place).fasts.size(), 1u);
-}
-
 }  // namespace
 }  // namespace mivo::cli

@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: MIT
+#include "cli/backup/DamagedSentence.h"
+
+#include "cli/usage/Usage.h"
+#include "host/backup/BackupFolder.h"
+#include "host/backup/DamagedText.h"
+
+namespace mivo::cli {
+
+std::string damagedSentence(const host::DatabaseError& damaged, const TextLookup& texts, const DateFormatter& dates) {
+  const host::BackupFolder folder{host::backupFolder(damaged.file)};
+  const std::string command = host::restoreCommand(damaged.file);
+  return withHelp(damagedText(damaged.file, folder, texts, dates), folder.backups().empty()
+                                                                       ? command + " FILE puts a snapshot in its place"
+                                                                       : command + " brings it back");
+}
+
+}  // namespace mivo::cli
