@@ -11,7 +11,9 @@
 #include "adapters/system/UserDirectories.h"
 #include "adapters/time/TimeZone.h"
 #include "adapters/time/TimeZoneNames.h"
+#include "host/backup/BackupFolder.h"
 #include "host/database/Database.h"
+#include "host/dates/DateText.h"
 #include "host/json/JsonWriter.h"
 #include "host/text/TextFile.h"
 
@@ -37,12 +39,15 @@ Finding settings(const char* name, const fs::path& file) {
   }
 }
 
+std::string counts(const host::History& history) {
+  return "fasts: " + std::to_string(history.fasts.size()) + ", weights: " + std::to_string(history.weights.size());
+}
+
 Finding database(const fs::path& file, bool isNamed) {
   if (!isThere(file)) return {"database", file.string() + (isNamed ? ": no such file" : ": none yet"), isNamed};
   try {
     const host::History history = host::Database{file, host::Database::Access::readOnly}.history();
-    return {"database", file.string() + ": sound, fasts: " + std::to_string(history.fasts.size()) +
-                            ", weights: " + std::to_string(history.weights.size())};
+    return {"database", file.string() + ": sound, " + counts(history)};
   } catch (const host::DatabaseError& error) {
     return {"database", error.what(), true};
   }
@@ -60,6 +65,21 @@ void addSetAside(std::vector<Finding>& findings, const fs::path& file) {
   }
   std::ranges::sort(kept);
   for (std::string& path : kept) findings.push_back({"set aside", std::move(path)});
+}
+
+/// Only the newest one is read: it is the one that is offered.
+Finding backups(const fs::path& database) {
+  try {
+    const host::BackupFolder folder{host::backupFolder(database)};
+    const auto all = folder.backups();
+    if (all.empty()) return {"backups", folder.path().string() + ": none yet"};
+    const auto newest = host::readBackup(all.front().file);
+    if (!newest) return {"backups", describe(newest.error()), true};
+    return {"backups", folder.path().string() + ": " + std::to_string(all.size()) + ", the newest of " +
+                           host::rfc3339(all.front().date) + " sound, " + counts(*newest)};
+  } catch (const std::system_error& error) {
+    return {"backups", error.what(), true};
+  }
 }
 
 Finding timeZone() {
@@ -93,6 +113,7 @@ std::vector<Finding> examine(const DoctorOptions& options, const URLSession& net
                                 settings("shared settings", adapters::groupDefaultsFile()),
                                 database(file, !options.database.empty())};
   addSetAside(findings, file);
+  findings.push_back(backups(file));
   findings.push_back(timeZone());
   findings.push_back(zoneData());
   findings.push_back({"language", adapters::UserLocale::system().tag()});

@@ -11,6 +11,7 @@ namespace mivo::cli {
 namespace {
 
 using testing::HasSubstr;
+using testing::MatchesRegex;
 using testing::Not;
 
 constexpr const char* nowhere = "http://127.0.0.1:1";
@@ -59,6 +60,22 @@ TEST(Doctor, tellsWhatIsIllAndLeavesItAsItIs) {
     EXPECT_THAT(ran.output, HasSubstr(row.finding)) << row.name;
     EXPECT_EQ(std::filesystem::file_size(place.file(row.file)), row.content.size()) << row.name;
   }
+}
+
+TEST(Doctor, readsTheNewestBackup) {
+  const Workplace place;
+  EXPECT_THAT(place.run("doctor").output,
+              HasSubstr("  backups          " + place.file("mivo/mivo.sqlite.backups").string() + ": none yet\n"));
+  place.run("weight add 81kg");
+  place.run("backup");
+  EXPECT_THAT(place.run("doctor").output, MatchesRegex("(.|\n)*  backups          .*/mivo.sqlite.backups: 1, the "
+                                                       "newest of 2.*Z sound, fasts: 0, weights: 1\n(.|\n)*"));
+  place.write("mivo/mivo.sqlite.backups/mivo-2526-03-01T120000Z.json", "{\"version\": 1");
+  const Ran ran = place.run("doctor");
+  EXPECT_EQ(ran.status, 1);
+  EXPECT_THAT(ran.output,
+              HasSubstr("! backups          " +
+                        place.file("mivo/mivo.sqlite.backups/mivo-2526-03-01T120000Z.json").string() + ":1: "));
 }
 
 TEST(Doctor, tellsThatTheTimeZoneIsUnknown) {
