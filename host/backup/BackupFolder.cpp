@@ -21,8 +21,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-auto dayOf(Date date) { return std::chrono::floor<std::chrono::days>(date); }
-
 /// The names in a folder; none where it is not there.
 std::vector<std::string> names(const fs::path& folder) {
   std::error_code failure;
@@ -71,7 +69,8 @@ std::vector<Backup> BackupFolder::backups() const {
 }
 
 bool BackupFolder::isDue(Date now) const {
-  return std::ranges::none_of(backups(), [&](const Backup& backup) { return dayOf(backup.date) == dayOf(now); });
+  return std::ranges::none_of(backups(),
+                              [&](const Backup& backup) { return backupDay(backup.date) == backupDay(now); });
 }
 
 std::optional<KeptBackup> BackupFolder::keep(const History& history, std::span<const Setting> settings,
@@ -83,17 +82,18 @@ std::optional<KeptBackup> BackupFolder::keep(const History& history, std::span<c
   return KeptBackup{written(folder, writeSnapshot(history, settings), now), true};
 }
 
-void BackupFolder::rotate(const Backup& newest) const {
-  std::vector<Date> dates;
+void BackupFolder::rotate(const Backup& made) const {
   const auto all = backups();
+  std::vector<Date> dates;
+  dates.reserve(all.size());
   for (const Backup& backup : all) dates.push_back(backup.date);
   const auto kept = keptBackups(std::move(dates));
   std::error_code staysForTheNextTime;
   for (const Backup& backup : all)
-    if (backup != newest && std::ranges::find(kept, backup.date) == kept.end())
+    if (backup != made && std::ranges::find(kept, backup.date) == kept.end())
       fs::remove(backup.file, staysForTheNextTime);
   for (const std::string& name : names(folder))
-    if (const auto date = dateOfPart(name); date && dayOf(*date) < dayOf(newest.date))
+    if (const auto date = dateOfPart(name); date && backupDay(*date) < backupDay(made.date))
       fs::remove(folder / name, staysForTheNextTime);
 }
 

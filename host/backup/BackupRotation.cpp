@@ -10,20 +10,17 @@
 namespace mivo::host {
 namespace {
 
-using std::chrono::days;
 using Day = std::chrono::sys_days;
-
-Day dayOf(Date date) { return std::chrono::floor<days>(date); }
 
 /// By its Monday.
 Day weekOf(Date date) {
-  const Day day = dayOf(date);
+  const Day day = backupDay(date);
   return day - (std::chrono::weekday{day} - std::chrono::Monday);
 }
 
 /// By its first day.
 Day monthOf(Date date) {
-  const std::chrono::year_month_day day{dayOf(date)};
+  const std::chrono::year_month_day day{backupDay(date)};
   return Day{day.year() / day.month() / 1};
 }
 
@@ -49,7 +46,7 @@ class NewestOfEach {
 
 std::vector<Date> keptBackups(std::vector<Date> dates) {
   std::ranges::sort(dates, std::greater{});
-  NewestOfEach daily{dayOf, 7}, weekly{weekOf, 4}, monthly{monthOf, 12};
+  NewestOfEach daily{backupDay, 7}, weekly{weekOf, 4}, monthly{monthOf, 12};
   std::erase_if(dates, [&](Date date) {
     const bool isOfDay = daily.takes(date), isOfWeek = weekly.takes(date), isOfMonth = monthly.takes(date);
     return !isOfDay && !isOfWeek && !isOfMonth;

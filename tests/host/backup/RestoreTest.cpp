@@ -56,26 +56,10 @@ TEST_F(RestoreTest, isExactSeenByOthersAndUndone) {
   EXPECT_EQ(history(), present);
 }
 
-TEST_F(RestoreTest, leavesAloneWhatIsThereAlready) {
-  EXPECT_EQ(restored().before, std::nullopt) << "there was nothing to keep";
-  Database{file}.undo();
-  Database{file}.undo();  // again: a change to take back
-  EXPECT_FALSE(restored().isChanged);
-  Database{file}.undo();
-  EXPECT_EQ(history(), History{});
-}
-
 TEST_F(RestoreTest, changesNothingWhereThePresentStateCannotBeKept) {
   Database{file}.apply(adding(present));
   std::ofstream{folder.path()} << "no folder";
   EXPECT_THROW(restored(), std::system_error);
-  EXPECT_EQ(history(), present);
-}
-
-TEST_F(RestoreTest, changesNothingWhereTheRecordsCannotStandTogether) {
-  Database{file}.apply(adding(present));
-  backup.fasts[1].fast.id = backup.fasts[0].fast.id;
-  EXPECT_THROW(restored(), DatabaseError);
   EXPECT_EQ(history(), present);
 }
 
