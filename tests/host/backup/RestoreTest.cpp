@@ -63,13 +63,21 @@ TEST_F(RestoreTest, changesNothingWhereThePresentStateCannotBeKept) {
   EXPECT_EQ(history(), present);
 }
 
+// With the log of its latest change beside it, as long as a program has it open: the new one must not be read with
+// that.
 TEST_F(RestoreTest, putsADamagedDatabaseAside) {
   const std::string damaged(5000, 'x');
-  std::ofstream{file} << damaged;
-  std::ofstream{file.string() + "-wal"} << "of the damaged one";
-  const Restored done = restored();
-  ASSERT_TRUE(done.setAside);
-  EXPECT_EQ(std::filesystem::file_size(*done.setAside), damaged.size());
+  Database{file}.apply(adding({{}, std::vector<BodyWeightSample>{{{4, 1}, noon, 80}}, {}}));
+  {
+    Database open{file};
+    present.fasts[1].note.assign(100'000, 'x');
+    open.apply(adding(present));
+    std::ofstream{file} << damaged;
+    const Restored done = restored();
+    ASSERT_TRUE(done.setAside);
+    EXPECT_EQ(std::filesystem::file_size(*done.setAside), damaged.size());
+    EXPECT_EQ(history(), backup);
+  }
   EXPECT_EQ(history(), backup);
   for (const auto& entry : std::filesystem::directory_iterator{place.path}) {
     const std::string name = entry.path().filename().string();
