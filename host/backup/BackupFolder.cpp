@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <chrono>
+#include <string>
 #include <system_error>
 #include <utility>
 
@@ -34,9 +35,10 @@ std::vector<std::string> names(const fs::path& folder) {
 
 void makeFolder(const fs::path& folder) {
   std::error_code failure;
-  const fs::path above = fs::absolute(folder, failure).parent_path();
-  if (!failure) fs::create_directories(above, failure);
-  if (!failure && ::mkdir(folder.c_str(), S_IRWXU) != 0 && errno != EEXIST) failure = {errno, std::generic_category()};
+  fs::path whole = fs::absolute(folder, failure);
+  if (!whole.has_filename()) whole = whole.parent_path();  // "folder/"
+  if (!failure) fs::create_directories(whole.parent_path(), failure);
+  if (!failure && ::mkdir(whole.c_str(), S_IRWXU) != 0 && errno != EEXIST) failure = {errno, std::generic_category()};
   if (failure) throw std::system_error{failure, folder.string() + ": the folder cannot be made"};
 }
 
@@ -77,7 +79,8 @@ std::optional<KeptBackup> BackupFolder::keep(const History& history, std::span<c
                                              Date now) const {
   if (history.fasts.empty() && history.weights.empty()) return std::nullopt;
   if (const auto all = backups(); !all.empty())
-    if (const auto newest = readBackup(all.front().file); newest && hasEqualRecords(*newest, history))
+    if (const auto newest = readBackup(all.front().file);
+        newest && newest->fasts == history.fasts && newest->weights == history.weights)
       return KeptBackup{all.front()};
   return KeptBackup{written(folder, writeSnapshot(history, settings), now), true};
 }
@@ -101,10 +104,6 @@ tl::expected<History, BadRecord> readBackup(const fs::path& file) {
   const auto text = readTextFile(file.string());
   if (!text) return tl::unexpected{text.error()};
   return readSnapshot(*text, file.string(), adapters::LocalUUIDGenerator{});
-}
-
-bool hasEqualRecords(const History& one, const History& other) {
-  return one.fasts == other.fasts && one.weights == other.weights;
 }
 
 fs::path backupFolder(const fs::path& database) { return database.string() + ".backups"; }

@@ -62,9 +62,6 @@ class BackupFolder {
 /// The records of a backup, or of any other snapshot; or the first fault.
 tl::expected<History, BadRecord> readBackup(const std::filesystem::path& file);
 
-/// Whether both have the same records in the same order.
-bool hasEqualRecords(const History& one, const History& other);
-
 /// Where the backups of a database are, unless another folder is named: beside it, "mivo.sqlite.backups".
 std::filesystem::path backupFolder(const std::filesystem::path& database);
 

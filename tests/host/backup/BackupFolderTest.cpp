@@ -34,7 +34,7 @@ class BackupFolderTest : public testing::Test {
   void write(const char* name, const char* content) const { std::ofstream{folder.path() / name} << content; }
 
   tests::TemporaryFolder place;
-  const BackupFolder folder{place.path / "some" / "backups"};
+  const BackupFolder folder{place.path / "some" / "backups" / ""};
 };
 
 TEST_F(BackupFolderTest, keepsAStateOnceAndNeverAnEmptyOne) {
