@@ -2,8 +2,6 @@
 #include <unistd.h>
 
 #include <CLI/CLI.hpp>
-#include <algorithm>
-#include <array>
 #include <cerrno>
 #include <exception>
 #include <filesystem>
@@ -13,6 +11,7 @@
 #include <vector>
 
 #include "adapters/system/FreedMemory.h"
+#include "cli/network/NetworkOptions.h"
 #include "cli/records/RecordCommands.h"
 #include "cli/records/RecordOptions.h"
 #include "cli/report/ReportCommand.h"
@@ -23,12 +22,9 @@
 namespace mivo::cli {
 namespace {
 
-/// Lists a command whose arguments are another program's business.
-const CLI::App* addForeign(CLI::App& program, const char* name, const char* description) {
-  CLI::App* const command = program.add_subcommand(name, description)->prefix_command();
-  command->set_help_flag();  // --help is for that program too
-  return command;
-}
+constexpr const char* footer =
+    "mivo start begins a fast, mivo stop ends it. mivo help COMMAND tells more of each, with examples.\n\n"
+    "Exit status: 0 done, 1 a file or the records stood against it, 2 the command line did.";
 
 /// What needs the network is a program of its own beside this one: to load the network's libraries alone takes as long
 /// as a whole report.
@@ -57,18 +53,51 @@ std::string hint(const CLI::App& program) {
   return name + " --help tells what can";
 }
 
+int print(const std::string& text) {
+  const auto fault = writeOutput(text);
+  if (fault) complain(*fault);
+  return fault ? atFault : 0;
+}
+
 /// Where nothing was asked for: how far the fast has come, and what can be asked.
 int greet(const CLI::App& program, const RecordOptions& options) {
   const int status = runStatus(options);
-  if (const auto fault = writeOutput('\n' + program.help())) {
-    complain(*fault);
-    return atFault;
-  }
-  return status;
+  return print('\n' + program.help()) == 0 ? status : atFault;
 }
 
-void parse(CLI::App& program, const std::vector<std::string>& arguments) {
-  program.parse(std::vector<std::string>{arguments.rbegin(), arguments.rend()});  // takes them from the end
+/// All that can be typed, and what it is read into.
+struct CommandLine {
+  CommandLine() {
+    program.require_subcommand(1);
+    program.footer(footer);
+    CLI::Option* const verbose =
+        program.add_flag("--verbose", isVerbose, "With --version: the libraries and the zones");
+    verbose->needs(program.set_version_flag("--version", [this] { return version(); }));
+    program.add_subcommand("help", "Tell what a command can do: mivo help add");  // for the list; it never comes here
+  }
+
+  std::string version() const {
+    auto details = isVerbose ? host::versionsInUse() : std::vector<host::Version>{};
+    if (isVerbose) details.push_back({"CLI11", CLI11_VERSION});
+    return host::versionText("mivo " MIVO_VERSION, details);
+  }
+
+  CLI::App program{"Statistics of intermittent fasting: every figure of a history of fasts and weights.", "mivo"};
+  bool isVerbose = false;  // looked at before --version is answered
+  ReportOptions reportOptions;
+  RecordOptions recordOptions;
+  NetworkOptions networkOptions;
+  const CLI::App& report = addReport(program, reportOptions);
+  const std::vector<RecordCommand> recordCommands = addRecordCommands(program, recordOptions);
+  const NetworkCommands networkCommands = addNetworkCommands(program, networkOptions);
+};
+
+/// Runs the command that was parsed.
+int runCommand(const CommandLine& line, const std::vector<std::string>& arguments) {
+  if (line.networkCommands.areParsed()) return becomeNetworkProgram(arguments);
+  for (const auto& [command, runRecordCommand] : line.recordCommands | std::views::reverse)  // a group's own come first
+    if (command->parsed()) return runRecordCommand(line.recordOptions);
+  return line.report.parsed() ? runReport(line.reportOptions) : wrongUsage;
 }
 
 int run(const std::vector<std::string>& arguments) {
@@ -76,40 +105,18 @@ int run(const std::vector<std::string>& arguments) {
     complain(*fault);
     return atFault;
   }
-  CLI::App program{"Statistics of intermittent fasting: every figure of a history of fasts and weights.", "mivo"};
-  bool isVerbose = false;  // looked at before --version is answered
-  CLI::Option* const verbose = program.add_flag("--verbose", isVerbose, "With --version: the libraries and the zones");
-  verbose->needs(program.set_version_flag("--version", [&isVerbose] {
-    auto details = isVerbose ? host::versionsInUse() : std::vector<host::Version>{};
-    if (isVerbose) details.push_back({"CLI11", CLI11_VERSION});
-    return host::versionText("mivo " MIVO_VERSION, details);
-  }));
-  program.require_subcommand(1);
-  program.footer("mivo start begins a fast, mivo stop ends it. mivo help COMMAND tells more of each, with examples.");
-  ReportOptions reportOptions;
-  const CLI::App& report = addReport(program, reportOptions);
-  RecordOptions recordOptions;
-  const auto recordCommands = addRecordCommands(program, recordOptions);
-  const std::array foreign{addForeign(program, "doctor", "Tell what is where, and whether it is sound"),
-                           addForeign(program, "roadmap", "List the features that may come, and their votes"),
-                           addForeign(program, "vote", "Vote for a feature of the roadmap"),
-                           addForeign(program, "unvote", "Take a vote back")};
-  program.add_subcommand("help", "Tell what a command can do: mivo help add");  // for the list; it never comes here
-  if (arguments.empty()) return greet(program, recordOptions);
-  if (const auto wrong = wrongCommand(program, arguments)) {
+  CommandLine line;
+  if (arguments.empty()) return greet(line.program, line.recordOptions);
+  if (const auto wrong = wrongCommand(line.program, arguments)) {
     complain(*wrong);
     return wrongUsage;
   }
   try {
-    parse(program, arguments);
+    line.program.parse(std::vector<std::string>{arguments.rbegin(), arguments.rend()});  // takes them from the end
   } catch (const CLI::ParseError& parsed) {
-    return answer(program, parsed, hint(program).c_str());
+    return answer(line.program, parsed, hint(line.program).c_str());
   }
-  if (std::ranges::any_of(foreign, [](const CLI::App* command) { return command->parsed(); }))
-    return becomeNetworkProgram(arguments);
-  for (const auto& [command, runCommand] : recordCommands | std::views::reverse)  // those in a group come first
-    if (command->parsed()) return runCommand(recordOptions);
-  return report.parsed() ? runReport(reportOptions) : wrongUsage;
+  return runCommand(line, arguments);
 }
 
 }  // namespace

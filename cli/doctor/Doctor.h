@@ -4,14 +4,10 @@
 #include <string>
 #include <vector>
 
+#include "cli/network/NetworkOptions.h"
 #include "mivo/platform/URLSession.h"
 
 namespace mivo::cli {
-
-/// What stands after `mivo doctor`, as it was typed; empty where it was not.
-struct DoctorOptions {
-  std::string database, tally, format = "text";
-};
 
 /// Something that was looked at.
 struct Finding {

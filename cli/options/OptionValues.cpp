@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "cli/options/OptionValues.h"
 
-#include <array>
 #include <charconv>
+#include <vector>
 
 #include "host/dates/SpokenDate.h"
 #include "host/place/TypedDates.h"
@@ -10,32 +10,49 @@
 
 namespace mivo::cli {
 
-Read<bool> readFormat(std::string_view text) {
-  constexpr std::array<Choice<bool>, 2> formats{{{"text", false}, {"json", true}}};
-  return readChoice<bool>("--format", "expected text or json", formats, text);
+namespace {
+
+using Order = std::optional<host::DateOrder>;
+
+constexpr std::array<Choice<Order>, 3> dateOrders{
+    {{"", std::nullopt}, {"day-first", host::DateOrder::dayFirst}, {"month-first", host::DateOrder::monthFirst}}};
+
+/// The shortest name of each.
+std::vector<std::string> weightUnitNames() {
+  std::vector<std::string> names;
+  for (const WeightUnit unit : {WeightUnit::kilograms, WeightUnit::pounds, WeightUnit::stones})
+    names.emplace_back(weightUnitSign(unit));
+  return names;
 }
 
-Read<std::optional<host::DateOrder>> readDateOrder(std::string_view text) {
-  using Order = std::optional<host::DateOrder>;
-  constexpr std::array<Choice<Order>, 3> orders{
-      {{"", std::nullopt}, {"day-first", host::DateOrder::dayFirst}, {"month-first", host::DateOrder::monthFirst}}};
-  return readChoice<Order>("--date-order", "expected day-first or month-first", orders, text);
+}  // namespace
+
+CLI::Option* addDateOrder(CLI::App& command, std::string& order, const std::string& description) {
+  return command.add_option("--date-order", order, description)->type_name(typeName(namesOf(dateOrders)));
 }
+
+CLI::Option* addWeightUnit(CLI::App& command, std::string& unit, const std::string& description) {
+  return command.add_option("--weight-unit", unit, description)->type_name(typeName(weightUnitNames()));
+}
+
+Read<bool> readFormat(std::string_view text) { return readChoice("--format", formats, text); }
+
+Read<Order> readDateOrder(std::string_view text) { return readChoice("--date-order", dateOrders, text); }
 
 Read<std::optional<WeightUnit>> readWeightUnit(std::string_view text) {
   const auto unit = weightUnitNamed(text);
-  if (!unit && !text.empty()) return wrong("--weight-unit", "expected kg, lb or st", text);
+  if (!unit && !text.empty()) return wrong("--weight-unit", "expected " + alternatives(weightUnitNames()), text);
   return unit;
 }
 
-std::string_view answeringOption(host::ImportFault::Asks asks) {
+std::string answeringOption(host::ImportFault::Asks asks) {
   switch (asks) {
     case host::ImportFault::Asks::nothing:
       return "";
     case host::ImportFault::Asks::dateOrder:
-      return "--date-order day-first or month-first says it";
+      return "--date-order " + alternatives(namesOf(dateOrders)) + " says it";
     case host::ImportFault::Asks::weightUnit:
-      return "--weight-unit kg, lb or st says it";
+      return "--weight-unit " + alternatives(weightUnitNames()) + " says it";
   }
   return "";
 }

@@ -1,11 +1,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <CLI/App.hpp>
+#include <array>
+#include <cstddef>
 #include <cstdint>
 #include <optional>
-#include <span>
+#include <string>
 #include <string_view>
 
+#include "cli/usage/Choices.h"
 #include "host/dates/WrittenDate.h"
 #include "host/import/ImportedFile.h"
 #include "host/place/PlaceOptions.h"
@@ -15,31 +19,27 @@ namespace mivo::cli {
 
 using host::Read, host::readDate, host::readLocale, host::readTimeZone, host::wrong;
 
-template <class Value>
-struct Choice {
-  std::string_view name;
-  Value value;
-};
-
-template <class Value>
-Read<Value> readChoice(std::string_view option, std::string_view expected, std::span<const Choice<Value>> choices,
+template <class Value, std::size_t count>
+Read<Value> readChoice(std::string_view option, const std::array<Choice<Value>, count>& choices,
                        std::string_view text) {
   for (const auto& [name, value] : choices)
     if (name == text) return value;
-  return wrong(option, expected, text);
+  return wrong(option, "expected " + alternatives(namesOf(choices)), text);
 }
 
 /// `--format`: whether it is json.
 Read<bool> readFormat(std::string_view text);
 
-/// `--date-order` and `--weight-unit`: what files leave open that people bring along. Nothing where they were not
-/// given.
+/// Adds `--date-order` and `--weight-unit`: what files leave open that people bring along.
+CLI::Option* addDateOrder(CLI::App& command, std::string& order, const std::string& description);
+CLI::Option* addWeightUnit(CLI::App& command, std::string& unit, const std::string& description);
+/// What they say; nothing where they were not given.
 Read<std::optional<host::DateOrder>> readDateOrder(std::string_view text);
 Read<std::optional<WeightUnit>> readWeightUnit(std::string_view text);
 
 /// The option that answers what a file leaves open: "--weight-unit kg, lb or st says it". Nothing where it asks
 /// nothing.
-std::string_view answeringOption(host::ImportFault::Asks asks);
+std::string answeringOption(host::ImportFault::Asks asks);
 
 /// A date as it was typed, or a sentence; see `host::readTypedDate`.
 Read<Date> readTypedDate(std::string_view option, std::string_view text, const adapters::UserLocale& locale,

@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include <array>
 #include <filesystem>
 #include <optional>
 #include <system_error>
@@ -21,7 +20,6 @@ namespace {
 namespace fs = std::filesystem;
 
 enum class Form { snapshot, table };
-enum class What { everything, fasts, weights };
 
 /// The form is read off the name, so that another one can come without changing what this one means.
 std::optional<Form> formOf(const fs::path& file) {
@@ -55,9 +53,7 @@ std::string summary(const host::History& history, What what, const RecordRun& ru
 }
 
 What whatOf(const RecordOptions& options) {
-  constexpr std::array<Choice<What>, 3> choices{
-      {{"", What::everything}, {"fasts", What::fasts}, {"weights", What::weights}}};
-  const auto what = readChoice<What>("--what", "expected fasts or weights", choices, options.what);
+  const auto what = readChoice("--what", exportedLists, options.what);
   if (!what) throw Refused{wrongUsage, what.error()};
   return *what;
 }

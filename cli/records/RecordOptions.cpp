@@ -3,6 +3,7 @@
 
 #include <CLI/CLI.hpp>
 
+#include "cli/options/OptionValues.h"
 #include "cli/records/RecordCommands.h"
 
 namespace mivo::cli {
@@ -90,9 +91,7 @@ class Commands {
     command.add_option("ID", options.id, "Its id, or as much of it as no other has")->required();
   }
 
-  void format(CLI::App& command) const {
-    command.add_option("--format", options.format, "text or json")->type_name("FORMAT")->capture_default_str();
-  }
+  void format(CLI::App& command) const { addFormat(command, options.format); }
 
   RecordOptions& options;
   std::vector<RecordCommand> commands;
@@ -132,7 +131,8 @@ void addFastCommands(Commands& to) {
                  "A snapshot (.json) or a table (.csv), as mivo import reads; - for standard output")
       ->type_name("FILE")
       ->required();
-  all.add_option("--what", options.what, "Only the fasts or the weights; a table holds one of them")->type_name("LIST");
+  all.add_option("--what", options.what, "Only these; a table holds one of them")
+      ->type_name(typeName(namesOf(exportedLists)));
   all.add_flag("--force", options.isForced, "Replace a file that is there already");
   CLI::App& import =
       to.add("import", "Add what files hold to the fasts and weights, whichever app wrote them", runImport);
@@ -141,12 +141,8 @@ void addFastCommands(Commands& to) {
       ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
   import.add_flag("--dry-run", options.isDryRun, "Only tell what would be added");
   import.add_flag("--with-settings", options.takesSettings, "Choose the settings too that a snapshot carries");
-  import.add_option("--weight-unit", options.ambiguities.weightUnit, "Of weights without one: kg, lb or st")
-      ->type_name("UNIT");
-  import
-      .add_option("--date-order", options.ambiguities.dateOrder,
-                  "Of dates such as 1/2/2026: day-first or month-first; default: what the file shows")
-      ->type_name("ORDER");
+  addWeightUnit(import, options.ambiguities.weightUnit, "Of weights without one");
+  addDateOrder(import, options.ambiguities.dateOrder, "Of dates such as 1/2/2026; default: what the file shows");
 }
 
 void addWeightCommands(CLI::App& program, Commands& to) {

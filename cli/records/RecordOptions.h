@@ -2,11 +2,19 @@
 #pragma once
 
 #include <CLI/App.hpp>
+#include <array>
 #include <optional>
 #include <string>
 #include <vector>
 
+#include "cli/usage/Choices.h"
+
 namespace mivo::cli {
+
+/// What `export --what` can choose.
+enum class What { everything, fasts, weights };
+inline constexpr std::array<Choice<What>, 3> exportedLists{
+    {{"", What::everything}, {"fasts", What::fasts}, {"weights", What::weights}}};
 
 /// What stands after a command that keeps the history, as it was typed; empty or missing where it was not.
 struct RecordOptions {

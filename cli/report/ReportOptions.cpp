@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "cli/report/ReportOptions.h"
 
+#include "cli/options/OptionValues.h"
+
 namespace mivo::cli {
 namespace {
 
@@ -33,8 +35,8 @@ CLI::App& addReport(CLI::App& program, ReportOptions& options) {
   report.add_option("--fasts", options.fasts, "The fasts: a table; - for standard input")->type_name("FILE.csv");
   report.add_option("--weights", options.weights, "The weights: a table; - for standard input")->type_name("FILE.csv");
   report.option_defaults()->multi_option_policy(CLI::MultiOptionPolicy::TakeLast);  // over those of a shell's alias
-  report.add_option("--range", options.range, "What to compare with the one before: week, month, year")
-      ->type_name("RANGE")
+  report.add_option("--range", options.range, "What to compare with the one before")
+      ->type_name(typeName(namesOf(ranges)))
       ->capture_default_str();
   report.add_option("--now", options.now, "The instant to report for; default: the present")->type_name("DATE");
   report.add_option("--time-zone", options.timeZone, "Whose days to count: Europe/Berlin; default: the system's")
@@ -46,21 +48,15 @@ CLI::App& addReport(CLI::App& program, ReportOptions& options) {
       ->type_name("DAY");
   report.add_option("--locale", options.locale, "The language and its forms: de-DE; default: the system's")
       ->type_name("TAG");
-  report.add_option("--count", options.count, "What a streak counts: days, fasts")
-      ->type_name("UNIT")
+  report.add_option("--count", options.count, "What a streak counts")
+      ->type_name(typeName(namesOf(countingEntities)))
       ->capture_default_str();
   report.add_flag("--ignore-goal", options.ignoreGoal, "Let fasts that missed their goal count for streaks");
   report.add_option("--max-break-hours", options.maxBreakHours, "How long a break ends a streak; default: 24")
       ->type_name("N");
-  report
-      .add_option("--weight-unit", options.weightUnit,
-                  "kg, lb or st: for texts, and for tables that do not name theirs; default: the locale's")
-      ->type_name("UNIT");
-  report
-      .add_option("--date-order", options.dateOrder,
-                  "Of dates such as 1/2/2026 in --input: day-first or month-first; default: what the file shows")
-      ->type_name("ORDER");
-  report.add_option("--format", options.format, "text or json")->type_name("FORMAT")->capture_default_str();
+  addWeightUnit(report, options.weightUnit, "For texts, and for tables that do not name theirs; default: the locale's");
+  addDateOrder(report, options.dateOrder, "Of dates such as 1/2/2026 in --input; default: what the file shows");
+  addFormat(report, options.format);
   return report;
 }
 

@@ -2,7 +2,12 @@
 #pragma once
 
 #include <CLI/App.hpp>
+#include <array>
 #include <string>
+
+#include "cli/usage/Choices.h"
+#include "mivo/model/StreakSettings.h"
+#include "mivo/model/TimeRange.h"
 
 namespace mivo::cli {
 
@@ -13,6 +18,12 @@ struct ReportOptions {
   std::string count = "days", maxBreakHours = {}, weightUnit = {}, dateOrder = {}, format = "text";
   bool ignoreGoal = false;
 };
+
+// What `--range` and `--count` mean.
+inline constexpr std::array<Choice<TimeRange>, 3> ranges{
+    {{"week", TimeRange::week}, {"month", TimeRange::month}, {"year", TimeRange::year}}};
+inline constexpr std::array<Choice<StreakSettings::CountingEntity>, 2> countingEntities{
+    {{"days", StreakSettings::CountingEntity::days}, {"fasts", StreakSettings::CountingEntity::fasts}}};
 
 /// Adds `report` to the commands. `options` must outlive the parsing.
 CLI::App& addReport(CLI::App& program, ReportOptions& options);

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "cli/report/RunSettings.h"
 
-#include <array>
 #include <cstdint>
 
 #include "adapters/icu/Calendars.h"
@@ -10,11 +9,6 @@
 
 namespace mivo::cli {
 namespace {
-
-constexpr std::array<Choice<TimeRange>, 3> ranges{
-    {{"week", TimeRange::week}, {"month", TimeRange::month}, {"year", TimeRange::year}}};
-constexpr std::array<Choice<StreakSettings::CountingEntity>, 2> countingEntities{
-    {{"days", StreakSettings::CountingEntity::days}, {"fasts", StreakSettings::CountingEntity::fasts}}};
 
 Read<int> firstWeekday(const std::string& text, const adapters::UserLocale& locale) {
   if (text.empty()) return locale.firstWeekday();
@@ -29,8 +23,7 @@ Read<Date> now(const std::string& text, const adapters::TimeZone& zone) {
 
 Read<StreakSettings> streakSettings(const ReportOptions& options) {
   StreakSettings settings{.ignoreFastGoal = options.ignoreGoal};
-  const auto entity =
-      readChoice<StreakSettings::CountingEntity>("--count", "expected days or fasts", countingEntities, options.count);
+  const auto entity = readChoice("--count", countingEntities, options.count);
   if (!entity) return tl::unexpected{entity.error()};
   settings.countingEntity = *entity;
   if (options.maxBreakHours.empty()) return settings;
@@ -44,7 +37,7 @@ Read<StreakSettings> streakSettings(const ReportOptions& options) {
 }  // namespace
 
 tl::expected<RunSettings, std::string> runSettings(const ReportOptions& options) {
-  const auto range = readChoice<TimeRange>("--range", "expected week, month or year", ranges, options.range);
+  const auto range = readChoice("--range", ranges, options.range);
   if (!range) return tl::unexpected{range.error()};
   const auto asJson = readFormat(options.format);
   if (!asJson) return tl::unexpected{asJson.error()};

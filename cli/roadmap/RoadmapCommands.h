@@ -6,16 +6,10 @@
 #include <string>
 #include <tl/expected.hpp>
 
+#include "cli/network/NetworkOptions.h"
 #include "mivo/platform/Dependencies.h"
 
 namespace mivo::cli {
-
-/// What stands after `mivo roadmap`, `mivo vote` and `mivo unvote`, as it was typed.
-struct RoadmapOptions {
-  std::string feature = {};  ///< an id; for voting only
-  std::string tally = "http://127.0.0.1:8787", namespaceName = "mivo";
-  std::string locale = {}, format = "text";
-};
 
 /// What a command prints, and its exit status.
 struct Outcome {
