@@ -6,17 +6,23 @@
 #include <exception>
 #include <filesystem>
 #include <ranges>
+#include <span>
 #include <string>
 #include <system_error>
 #include <vector>
 
+#include "adapters/manual/ManualPage.h"
 #include "adapters/system/FreedMemory.h"
+#include "adapters/system/UserDirectories.h"
+#include "cli/completion/Completions.h"
+#include "cli/completion/ShellScripts.h"
 #include "cli/network/NetworkOptions.h"
 #include "cli/records/RecordCommands.h"
 #include "cli/records/RecordOptions.h"
 #include "cli/report/ReportCommand.h"
 #include "cli/terminal/StandardOutput.h"
 #include "cli/usage/Usage.h"
+#include "host/database/Database.h"
 #include "host/versions/Versions.h"
 
 namespace mivo::cli {
@@ -65,6 +71,12 @@ int greet(const CLI::App& program, const RecordOptions& options) {
   return print('\n' + program.help()) == 0 ? status : atFault;
 }
 
+adapters::ManualFacts manualFacts() {
+  return {MIVO_VERSION,
+          {{host::ownDatabaseFile(), "The fasts and weights, the app's and the command line's"},
+           {adapters::appDefaultsFile(), "The settings of the app"}}};
+}
+
 /// All that can be typed, and what it is read into.
 struct CommandLine {
   CommandLine() {
@@ -73,7 +85,8 @@ struct CommandLine {
     CLI::Option* const verbose =
         program.add_flag("--verbose", isVerbose, "With --version: the libraries and the zones");
     verbose->needs(program.set_version_flag("--version", [this] { return version(); }));
-    program.add_subcommand("help", "Tell what a command can do: mivo help add");  // for the list; it never comes here
+    program.add_subcommand("help", "Tell what a command can do: mivo help add")->footer("");  // never comes here
+    adapters::addManualPage(program, manualFacts());
   }
 
   std::string version() const {
@@ -87,9 +100,11 @@ struct CommandLine {
   ReportOptions reportOptions;
   RecordOptions recordOptions;
   NetworkOptions networkOptions;
+  std::string shell;
   const CLI::App& report = addReport(program, reportOptions);
   const std::vector<RecordCommand> recordCommands = addRecordCommands(program, recordOptions);
   const NetworkCommands networkCommands = addNetworkCommands(program, networkOptions);
+  const CLI::App& completion = addCompletion(program, shell);
 };
 
 /// Runs the command that was parsed.
@@ -97,6 +112,7 @@ int runCommand(const CommandLine& line, const std::vector<std::string>& argument
   if (line.networkCommands.areParsed()) return becomeNetworkProgram(arguments);
   for (const auto& [command, runRecordCommand] : line.recordCommands | std::views::reverse)  // a group's own come first
     if (command->parsed()) return runRecordCommand(line.recordOptions);
+  if (line.completion.parsed()) return print(shellScript(line.shell));
   return line.report.parsed() ? runReport(line.reportOptions) : wrongUsage;
 }
 
@@ -107,6 +123,8 @@ int run(const std::vector<std::string>& arguments) {
   }
   CommandLine line;
   if (arguments.empty()) return greet(line.program, line.recordOptions);
+  if (arguments.front() == completeOption)
+    return print(completionLines(completionsOf(line.program, std::span{arguments}.subspan(1))));
   if (const auto wrong = wrongCommand(line.program, arguments)) {
     complain(*wrong);
     return wrongUsage;

@@ -9,6 +9,7 @@
 #include <map>
 #include <stdexcept>
 
+#include "adapters/manual/ManualPage.h"
 #include "tally/net/Asio.h"
 #include "tally/request/CounterName.h"
 #include "tally/server/Listener.h"
@@ -299,11 +300,13 @@ class Words {
     app.add_flag("--version", tellsVersion, "Name the version and end");
     app.add_flag("--verbose", tellsLibraries, "With --version: the libraries' versions too");
     addCommands(app);
+    adapters::addManualPage(app, {MIVO_VERSION, {{defaultDatabase(), "The counters, where no other store is named"}}});
     app.footer(
         "Examples:\n  mivo-tally\n  mivo-tally --store redis://localhost/0 --roadmap roadmap.json\n"
         "  mivo-tally export --store sqlite:tally.sqlite > counters.jsonl\n"
         "  mivo-tally import --store redis://localhost/0 counters.jsonl\n"
-        "  mivo-tally correct --store sqlite:tally.sqlite app.example/feature12 40");
+        "  mivo-tally correct --store sqlite:tally.sqlite app.example/feature12 40\n\n"
+        "Exit status: 0 done, or well; 1 something stood against it, or the server is ill; 2 the command line did.");
   }
 
   Command command() {
@@ -348,7 +351,8 @@ class Words {
 Command parseCommandLine(int argc, const char* const* argv) {
   CLI::App app{
       "mivo-tally: counts votes for the features of a roadmap.\n"
-      "Without a command it serves; without flags, on this machine alone, into a SQLite file."};
+      "Without a command it serves; without flags, on this machine alone, into a SQLite file.",
+      "mivo-tally"};
   Words words{app};
   try {
     app.parse(argc, argv);
