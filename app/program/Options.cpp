@@ -13,7 +13,8 @@ constexpr const char* examples =
     "Examples:\n"
     "  mivo-app\n"
     "  mivo-app --sample data/one-year.json --now 2026-03-01T12:00:00Z\n"
-    "  mivo-app --render statistics.png --size 1280x800 --scale 2 --dark\n";
+    "  mivo-app --render statistics.png --size 1280x800 --scale 2 --dark\n\n"
+    "Exit status: 0 done, 1 the history or a file stood against it, 2 the command line did.";
 
 void addRecords(CLI::App& program, Options& options) {
   auto* database = program.add_option("--database", options.database, "The history; default: your own");

@@ -10,11 +10,14 @@
 #include <string>
 #include <vector>
 
+#include "adapters/manual/ManualPage.h"
 #include "adapters/system/FreedMemory.h"
+#include "adapters/system/UserDirectories.h"
 #include "app/program/Environment.h"
 #include "app/program/Options.h"
 #include "app/program/Restart.h"
 #include "app/program/Window.h"
+#include "host/database/Database.h"
 #include "host/versions/Versions.h"
 
 namespace mivo::app {
@@ -67,6 +70,10 @@ int run(int count, char** arguments) {
   }));
   Options options;
   addOptions(program, options);
+  adapters::addManualPage(program,
+                          {MIVO_VERSION,
+                           {{host::ownDatabaseFile(), "The fasts and weights, the app's and the command line's"},
+                            {adapters::appDefaultsFile(), "The settings"}}});
   try {
     program.parse(count, arguments);
   } catch (const CLI::Success& asked) {
