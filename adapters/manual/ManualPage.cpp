@@ -120,13 +120,20 @@ std::string synopsis(const Named& named) {
   return line + ' ' + (named.command->get_require_subcommand_min() > 0 ? command : '[' + command + ']');
 }
 
+/// A list of values may be broken behind each of its commas.
+std::string breakable(const std::string& type) {
+  std::string text;
+  for (const std::string& value : parts(type, ",")) text = separated(text, ",\\:", plain(value));
+  return "\\fI" + text + "\\fR";
+}
+
 std::string nameAndType(const Option& option) {
   std::string names = option.get_positional() ? italic(option.get_name(true)) : "";
   for (const std::string& name : option.get_snames()) names = separated(names, ", ", bold('-' + name));
   for (const std::string& name : option.get_lnames()) names = separated(names, ", ", bold("--" + name));
   const std::string type = option.get_items_expected_max() > 0 ? option.get_type_name() : "";
   const bool tells = option.get_positional() ? type.find('{') != std::string::npos : !type.empty();
-  return tells ? names + ' ' + italic(type) : names;
+  return tells ? names + ' ' + breakable(type) : names;
 }
 
 std::string entry(const std::string& head, const std::string& text) { return ".TP\n" + head + '\n' + text + '\n'; }
@@ -238,7 +245,8 @@ std::string manualPage(const App& program, const ManualFacts& facts) {
     commands += describedOptions(*named.command);
   }
   const FooterSections footers = sectionsOf(footersOf(all), name);
-  return ".TH " + plain(capitals(name)) + " 1 \"\" \"" + plain(name + ' ' + facts.version) + "\" \"User Commands\"\n" +
+  return ".TH " + plain(capitals(name)) + " 1 \"\" \"" + plain(name + ' ' + facts.version) +
+         "\" \"User Commands\"\n.nh\n.ad l\n" +
          section("NAME", plain(name) + " \\- " + plain(summary(program)) + '\n') +
          section("SYNOPSIS", synopsis(all.front()) + '\n') +
          section("DESCRIPTION", plain(program.get_description()) + '\n' + footers.description) +

@@ -49,8 +49,8 @@ void addLook(CLI::App& program, Options& options) {
   program.add_option("--size", options.size, "Of the window, in points; default: as it was last")->type_name("WxH");
   program.add_option("--scale", options.scale, "Pixels of the picture to a point")->check(CLI::Range(0.5, 4.0));
   program.add_flag("--whole", options.whole, "Draws the whole column, however high")->needs(picture);
-  auto* dark = program.add_flag("--dark", options.dark);
-  program.add_flag("--light", options.light)->excludes(dark);
+  auto* dark = program.add_flag("--dark", options.dark, "In dark colours, whatever is chosen");
+  program.add_flag("--light", options.light, "In light colours, whatever is chosen")->excludes(dark);
   program.add_flag("--mirrored", options.mirrored, "Lays out from right to left");
   program.add_option("--text-scale", options.textScale, "0.85 to 2")->check(CLI::Range(0.85, 2.0));
   program

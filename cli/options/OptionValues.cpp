@@ -9,7 +9,6 @@
 #include "mivo/weights/WeightUnits.h"
 
 namespace mivo::cli {
-
 namespace {
 
 using Order = std::optional<host::DateOrder>;

@@ -10,6 +10,8 @@ namespace mivo::adapters {
 namespace {
 
 constexpr const char* expectedPage = R"(.TH CLOCK\-APP 1 "" "clock\-app 1.2" "User Commands"
+.nh
+.ad l
 .SH NAME
 clock\-app \- tells the time
 .SH SYNOPSIS
@@ -33,10 +35,10 @@ Set it.
 \fITIME\fR
 What it is
 .TP
-\fIFILE\fR \fI{a,b}\fR
+\fIFILE\fR \fI{a,\:b}\fR
 \&
 .TP
-\fB\-\-zone\fR \fI{utc,local}\fR
+\fB\-\-zone\fR \fI{utc,\:local}\fR
 Where
 .SS \fBclock\-app stop\fR [\fIOPTIONS\fR]
 Stop it.
