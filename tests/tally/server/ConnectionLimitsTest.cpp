@@ -55,6 +55,12 @@ TEST_F(ConnectionLimits, anAddressHasSoManyUnlessItIsAProxy) {
   for (int i = 0; i < 3; ++i) EXPECT_EQ(proxies.emplace_back(trusting.port()).get("/health").status, 200U);
 }
 
+TEST_F(ConnectionLimits, thereAreDescriptorsForAllThatMayCome) {
+  TallyServer server{store, {"--max-connections", "100"}, {"sh", "-c", "ulimit -Sn 64; exec \"$@\"", "sh"}};
+  std::deque<HttpClient> clients;
+  for (int i = 0; i < 100; ++i) ASSERT_EQ(clients.emplace_back(server.port()).get("/health").status, 200U) << i;
+}
+
 TEST_F(ConnectionLimits, theOldestUnfinishedHandshakeGivesWayAndTheSilentAreNone) {
   TallyServer server{store, underTls({"--max-handshakes", "2"})};
   HttpClient watching{server.port(), tls};
