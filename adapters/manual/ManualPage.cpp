@@ -72,8 +72,9 @@ std::vector<const Option*> optionsOf(const App& command, bool arePositional) {
   });
 }
 
-std::string separated(const std::string& text, std::string_view separator, const std::string& next) {
-  return text.empty() ? next : text + std::string{separator} + next;
+void append(std::string& text, std::string_view separator, std::string_view next) {
+  if (!text.empty()) text += separator;
+  text += next;
 }
 
 /// Cuts at each separator.
@@ -123,14 +124,14 @@ std::string synopsis(const Named& named) {
 /// A list of values may be broken behind each of its commas.
 std::string breakable(const std::string& type) {
   std::string text;
-  for (const std::string& value : parts(type, ",")) text = separated(text, ",\\:", plain(value));
+  for (const std::string& value : parts(type, ",")) append(text, ",\\:", plain(value));
   return "\\fI" + text + "\\fR";
 }
 
 std::string nameAndType(const Option& option) {
   std::string names = option.get_positional() ? italic(option.get_name(true)) : "";
-  for (const std::string& name : option.get_snames()) names = separated(names, ", ", bold('-' + name));
-  for (const std::string& name : option.get_lnames()) names = separated(names, ", ", bold("--" + name));
+  for (const std::string& name : option.get_snames()) append(names, ", ", bold('-' + name));
+  for (const std::string& name : option.get_lnames()) append(names, ", ", bold("--" + name));
   const std::string type = option.get_items_expected_max() > 0 ? option.get_type_name() : "";
   const bool tells = option.get_positional() ? type.find('{') != std::string::npos : !type.empty();
   return tells ? names + ' ' + breakable(type) : names;
@@ -187,7 +188,7 @@ FooterSections sectionsOf(const std::vector<Footer>& footers, const std::string&
   FooterSections sections;
   for (const auto& [text, commands] : footers) {
     std::string names;
-    for (const std::string& command : commands) names = separated(names, ", ", bold(command));
+    for (const std::string& command : commands) append(names, ", ", bold(command));
     for (const std::string& part : parts(text, "\n\n")) {
       if (part.starts_with(examplesHead))
         sections.examples += paragraph(part.substr(examplesHead.size()));

@@ -134,7 +134,8 @@ std::string completionLines(const Completions& completions) {
   if (completions.names == Completions::Names::files) return ":files\n";
   if (completions.names == Completions::Names::folders) return ":folders\n";
   std::string lines;
-  for (const auto& [word, description] : completions.words) lines += word + '\t' + description + '\n';
+  for (const auto& [word, description] : completions.words)
+    lines.append(word).append("\t").append(description).append("\n");
   return lines;
 }
 

@@ -269,9 +269,13 @@ void keepPrivate(const fs::path& file) {
   }
 }
 
+/// A name that nothing has: what was moved aside in the same second stays.
 fs::path pathAside(const fs::path& file) {
   const auto now = std::chrono::floor<std::chrono::seconds>(std::chrono::system_clock::now());
-  return file.string() + ".damaged-" + rfc3339(now);
+  const std::string first = file.string() + ".damaged-" + rfc3339(now);
+  fs::path path = first;
+  for (int copy = 2; fs::exists(path); ++copy) path = first + '-' + std::to_string(copy);
+  return path;
 }
 
 void removeDatabase(const fs::path& file) {
