@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <array>
 #include <boost/version.hpp>
+#include <chrono>
+#include <cstdlib>
 #include <fstream>
 
 #include "tally/server/Options.h"
@@ -133,14 +135,28 @@ TEST(MivoTally, takesTheLeastOfEachLimit) {
   EXPECT_EQ((HttpClient{server.port()}.get("/health").status), 503U);
 }
 
+ServeOptions optionsOf(std::vector<const char*> words) {
+  words.insert(words.begin(), "mivo-tally");
+  return std::get<ServeOptions>(parseCommandLine(static_cast<int>(words.size()), words.data()));
+}
+
 TEST(MivoTally, holdsFewerConnectionsUnderTls) {
-  const auto connections = [](std::vector<const char*> words) {
-    words.insert(words.begin(), "mivo-tally");
-    return std::get<ServeOptions>(parseCommandLine(static_cast<int>(words.size()), words.data())).mostConnections;
-  };
-  EXPECT_EQ(connections({}), 20'000U);
-  EXPECT_EQ(connections({"--certificate", "c.pem", "--key", "k.pem"}), 5'000U);
-  EXPECT_EQ(connections({"--certificate", "c.pem", "--key", "k.pem", "--max-connections", "7000"}), 7'000U);
+  EXPECT_EQ(optionsOf({}).mostConnections, 20'000U);
+  EXPECT_EQ(optionsOf({"--certificate", "c.pem", "--key", "k.pem"}).mostConnections, 5'000U);
+  EXPECT_EQ(optionsOf({"--certificate", "c.pem", "--key", "k.pem", "--max-connections", "7000"}).mostConnections,
+            7'000U);
+}
+
+TEST(MivoTally, takesAFlagBeforeAVariable) {
+  ::setenv("MIVO_TALLY_REQUEST_SECONDS", "7", 1);
+  EXPECT_EQ(optionsOf({}).requestTime, std::chrono::seconds{7});
+  EXPECT_EQ(optionsOf({"--request-seconds", "9"}).requestTime, std::chrono::seconds{9});
+  ::unsetenv("MIVO_TALLY_REQUEST_SECONDS");
+}
+
+TEST(MivoTally, looksAtAStoreThatFailsNoLessOftenThanAtAny) {
+  EXPECT_EQ(optionsOf({"--probe-seconds", "1"}).storeTimes.probeAgain, std::chrono::seconds{1});
+  EXPECT_EQ(optionsOf({"--probe-seconds", "60"}).storeTimes.probeAgain, std::chrono::seconds{2});
 }
 
 TEST(MivoTally, takesThePasswordOfRedisFromOnePlace) {
