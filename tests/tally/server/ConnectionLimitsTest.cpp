@@ -59,6 +59,7 @@ TEST_F(ConnectionLimits, thereAreDescriptorsForAllThatMayCome) {
   TallyServer server{store, {"--max-connections", "100"}, {"sh", "-c", "ulimit -Sn 64; exec \"$@\"", "sh"}};
   std::deque<HttpClient> clients;
   for (int i = 0; i < 100; ++i) ASSERT_EQ(clients.emplace_back(server.port()).get("/health").status, 200U) << i;
+  for (HttpClient& client : clients) EXPECT_EQ(client.get("/health").status, 200U) << "gave way";
 }
 
 TEST_F(ConnectionLimits, theOldestUnfinishedHandshakeGivesWayAndTheSilentAreNone) {
