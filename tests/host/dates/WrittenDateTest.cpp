@@ -67,19 +67,21 @@ INSTANTIATE_TEST_SUITE_P(Read, WrittenDates,
                                          Row{"compactSecond", "20150603050200+0100", "2015-06-03T04:02:00Z"},
                                          Row{"compactWithT", "20150603T050200Z", "2015-06-03T05:02:00Z"},
                                          Row{"unixSeconds", "1764057600", "2025-11-25T08:00:00Z"},
+                                         Row{"firstUnixSecond", "0978307200", "2001-01-01T00:00:00Z"},
                                          Row{"unixMilliseconds", "1764057600125", "2025-11-25T08:00:00.125Z"}),
                          nameOf);
 
 INSTANTIATE_TEST_SUITE_P(
     Refused, WrittenDates,
     testing::Values(Row{"empty", "", "none"}, Row{"word", "yesterday", "none"}, Row{"since2001", "785750400", "none"},
-                    Row{"before2001", "0978307199", "none"}, Row{"tooMuch", "2026-03-01 12:00 and more", "none"},
-                    Row{"noSuchDay", "31.02.2026", "none"}, Row{"noSuchMonth", "26-Foo-2015", "none"},
-                    Row{"monthOfNoOrder", "13/13/2026", "none"}, Row{"mixedSeparators", "13/10-2026", "none"},
-                    Row{"hourOfNoHalf", "2026-03-01 13:00 PM", "none"}, Row{"noHour", "25.11.2026 24:00", "none"},
-                    Row{"threeDigitYear", "25.11.202", "none"}, Row{"compactNonsense", "20261399", "none"},
-                    Row{"compactHour", "202611252500", "none"}, Row{"spreadsheetDay", "45986", "none"},
-                    Row{"noTime", "25.11.2026 x", "none"}, Row{"noOffset", "7 Mar 2026 20:00 Berlin", "none"}),
+                    Row{"before2001", "0978307199", "none"}, Row{"after2100", "4133980800", "none"},
+                    Row{"tooMuch", "2026-03-01 12:00 and more", "none"}, Row{"noSuchDay", "31.02.2026", "none"},
+                    Row{"noSuchMonth", "26-Foo-2015", "none"}, Row{"monthOfNoOrder", "13/13/2026", "none"},
+                    Row{"mixedSeparators", "13/10-2026", "none"}, Row{"hourOfNoHalf", "2026-03-01 13:00 PM", "none"},
+                    Row{"noHour", "25.11.2026 24:00", "none"}, Row{"threeDigitYear", "25.11.202", "none"},
+                    Row{"compactNonsense", "20261399", "none"}, Row{"compactHour", "202611252500", "none"},
+                    Row{"spreadsheetDay", "45986", "none"}, Row{"noTime", "25.11.2026 x", "none"},
+                    Row{"noOffset", "7 Mar 2026 20:00 Berlin", "none"}),
     nameOf);
 
 TEST(WrittenTimes, areReadAlone) {

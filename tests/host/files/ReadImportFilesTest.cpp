@@ -77,7 +77,7 @@ TEST_F(ReadFiles, ofAnArchiveWhatIsKnown) {
                    {"apple/exportar.xml", masses}},
                   "a.zip/apple/exportar.xml: 0 fasts, 1 weights, 0 refused; "},
            ZipRow{"several",
-                  {{"fasts.csv", fasts}, {"readme", "hello"}, {"m.xml", masses}},
+                  {{"fasts.csv", fasts}, {"readme", "hello"}, {"settings.json", "{\"dark\": true}"}, {"m.xml", masses}},
                   "a.zip/fasts.csv: 1 fasts, 0 weights, 0 refused; a.zip/m.xml: 0 fasts, 1 weights, 0 refused; "},
            ZipRow{"none",
                   {{"readme", "hello"}, {"zeros", bomb}},

@@ -50,6 +50,7 @@ INSTANTIATE_TEST_SUITE_P(
         Row{"decimalCommaWhereNoSeparator", "start;end;goal hours\n2026-03-01T20:00Z;2026-03-02T12:00Z;16,5\n",
             "2026-03-01T20:00:00Z/2026-03-02T12:00:00Z/59400/"},
         Row{"running", "start,end,goal\n2026-03-01T20:00Z,,\n", "2026-03-01T20:00:00Z/runs/57600/"},
+        Row{"noGoal", "start,end,goal\n2026-03-01T20:00Z,,0\n", "2026-03-01T20:00:00Z/runs/0/"},
         Row{"emptyTooMany", "start,end\n2026-03-01T20:00Z,2026-03-02T12:00Z,,\n",
             "2026-03-01T20:00:00Z/2026-03-02T12:00:00Z/57600/"},
         Row{"headerAlone", "start,end\n", ""},
