@@ -70,6 +70,7 @@ TEST(ZoneRing, movesWideMarksOutwardsWhereThereIsRoom) {
   EXPECT_NEAR(ring.markPlace(4 * hour, 20, {400, 300}).x, 280, 1e-9) << "a usual one is centred on its place";
   EXPECT_NEAR(ring.markPlace(4 * hour, 40, {400, 300}).x, 280, 1e-9) << "a wide one keeps its inner edge";
   EXPECT_NEAR(ring.markPlace(4 * hour, 40, {300, 300}).x, 260, 1e-9) << "but for the edge of the item";
+  EXPECT_NEAR(ring.markPlace(4 * hour, 40, {320, 300}).x, 270, 1e-9) << "which may be wider than the ring";
   EXPECT_NEAR(ring.markPlace(12 * hour, 40, {300, 300}).x, 0, 1e-9);
 }
 

@@ -92,6 +92,10 @@ INSTANTIATE_TEST_SUITE_P(
             "a.csv:3: duration: expected a length, as in 16:30 or 16h 30m, or a number and its unit in the header, "
             "found "
             "\"57,600\"\n"},
+        Row{"lengthThatMayPartThousands", "start,duration_seconds\n2026-03-01T20:00Z,\"57,600\"\n",
+            "a.csv:2: duration_seconds: expected a length, as in 16:30 or 16h 30m, or a number and its unit in the "
+            "header, found "
+            "\"57,600\"\n"},
         Row{"splitLength", "start,hours\n2026-03-01T20:00Z,16,5\n",
             "a.csv:2: hours: expected a length, as in 16:30 or 16h 30m, or a number and its unit in the header, found "
             "\"16\"\n"},
