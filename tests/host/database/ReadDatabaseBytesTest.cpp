@@ -94,6 +94,11 @@ INSTANTIATE_TEST_SUITE_P(
             "d: fasts[1].goalSeconds: expected whole seconds, 0 or more, found \"9223372036854775807\"\n"},
         Row{"binaryNote", "UPDATE fasts SET note = CAST(x'FF' AS TEXT) WHERE note = 'tea'", "",
             "d: fasts[1].note: expected UTF-8 text of at most 65536 bytes, found \"\\xFF\"\n"},
+        Row{"noteWithNull", "UPDATE fasts SET note = 'a' || char(0) || 'b'", ""},
+        Row{"shortIdentifier",
+            "CREATE TABLE unchecked AS SELECT * FROM weights; UPDATE unchecked SET id = x'01'; DROP TABLE weights; "
+            "ALTER TABLE unchecked RENAME TO weights",
+            "", "d: weights[1].id: expected 16 bytes, found \"\\x01\"\n"},
         Row{"heavy", "UPDATE weights SET weightInKg = 1e6", "",
             "d: weights[1].weightInKg: expected kilograms above 0 and at most 1000, found \"1000000.0\"\n"}),
     [](const auto& row) { return std::string{row.param.name}; });
