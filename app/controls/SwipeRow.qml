@@ -15,8 +15,8 @@ Item {
     readonly property real inner: width - 2 * padding
     default property alias body: content.data
 
-    x: list ? list.rowX : 0
     width: list ? list.rowWidth : 0
+    transform: Translate { x: root.list ? root.list.rowX : 0 } // later releases of Qt set x themselves
     clip: content.x !== 0
     Accessible.role: Accessible.ListItem
     Accessible.name: spoken
