@@ -65,6 +65,7 @@ TEST_F(Weights, areOpenedFromTheirChartAndFromTheGoal) {
   for (const char* card : {"WeightChartCard", "GoalWeightCard"}) {
     openFrom(card);
     EXPECT_EQ(row(1)->property("weight").toString(), "712.0 kg") << "the latest first";
+    EXPECT_EQ(row(1)->mapToScene({0, 0}).x(), app->ofType("RowList")->property("rowX").toDouble()) << "at the margin";
     app->key(Qt::Key_Escape);
     EXPECT_EQ(row(0), nullptr) << "Escape goes back";
   }
