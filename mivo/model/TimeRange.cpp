@@ -24,12 +24,6 @@ constexpr const Row& row(TimeRange range) { return rows[static_cast<std::size_t>
 
 std::string_view rawValue(TimeRange range) { return row(range).rawValue; }
 
-std::optional<TimeRange> timeRangeFrom(std::string_view rawValue) {
-  for (const TimeRange range : allTimeRanges)
-    if (row(range).rawValue == rawValue) return range;
-  return std::nullopt;
-}
-
 std::string_view displayString(TimeRange range) { return row(range).displayString; }
 
 double totalDaysOnXAxis(TimeRange range) { return row(range).totalDaysOnXAxis; }

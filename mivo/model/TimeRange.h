@@ -2,7 +2,6 @@
 #pragma once
 
 #include <array>
-#include <optional>
 #include <string_view>
 
 namespace mivo {
@@ -14,7 +13,6 @@ inline constexpr std::array allTimeRanges{TimeRange::week, TimeRange::month, Tim
 
 /// "week", "month", "year": the raw value, as files and flags spell it.
 std::string_view rawValue(TimeRange range);
-std::optional<TimeRange> timeRangeFrom(std::string_view rawValue);
 
 /// The word put into sentences, in English; also its key in the message catalogues.
 std::string_view displayString(TimeRange range);

@@ -23,7 +23,8 @@ TEST_P(ParsedGoal, isHoursOrHoursAndMinutes) { EXPECT_EQ(parseGoal(GetParam().ty
 
 INSTANTIATE_TEST_SUITE_P(
     Rows, ParsedGoal,
-    testing::Values(GoalRow{"hours", "17", 61200}, GoalRow{"unit", " 17 h ", 61200}, GoalRow{"point", "16.5", 59400},
+    testing::Values(GoalRow{"hours", "17", 61200}, GoalRow{"unit", " 17 h ", 61200},
+                    GoalRow{"unitAtOnce", "17h", 61200}, GoalRow{"point", "16.5", 59400},
                     GoalRow{"comma", "16,5", 59400}, GoalRow{"minutes", "16:30", 59400},
                     GoalRow{"toTheMinute", "0.333333333333", 1200}, GoalRow{"none", "0", 0},
                     GoalRow{"week", "168", 604800}, GoalRow{"aMinuteMore", "168:01", std::nullopt},
@@ -41,7 +42,7 @@ TEST(GoalText, namesMinutesWhereThereAreAny) {
   const tests::EnglishHoursAndMinutes both;
   EXPECT_EQ(goalText(57600, hours, both), "16h");
   EXPECT_EQ(goalText(57659, hours, both), "16h") << "seconds are not shown";
-  EXPECT_EQ(goalText(59400, hours, both), "16h 30m");
+  EXPECT_EQ(goalText(57660, hours, both), "16h 1m");
 }
 
 TEST(TypedGoal, readsBackAsItself) {

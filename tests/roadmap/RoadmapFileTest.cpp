@@ -78,6 +78,8 @@ INSTANTIATE_TEST_SUITE_P(
                    "the roadmap: feature 1: title: expected a text without control characters"},
         RefusedRow{"descriptionWithAUnicodeCommand", R"([{"id": 1, "title": "a", "description": "\u009b2J"}])",
                    "the roadmap: feature 1: description: expected a text without control characters"},
+        RefusedRow{"lastUnicodeCommand", R"([{"id": 1, "title": "\u009f"}])",
+                   "the roadmap: feature 1: title: expected a text without control characters"},
         RefusedRow{"statusWithACommand", R"([{"id": 1, "title": "a", "status": "\u007f"}])",
                    "the roadmap: feature 1: status: expected a text without control characters"},
         RefusedRow{"noTitle", R"([{"id": 1}])",

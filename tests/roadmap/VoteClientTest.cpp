@@ -168,6 +168,19 @@ INSTANTIATE_TEST_SUITE_P(Rows, VoteFailure,
                                          FailureRow{"nonsense", {"\x16\x03\x01\n", tests::HttpReply::Then::closes}}),
                          [](const auto& row) { return std::string{row.param.name}; });
 
+struct HostileAnswer final : URLSession {
+  std::string data(std::string_view, std::stop_token) const override {
+    throw URLError{"\x1B[2J\x7F\xC2\x80\xC2\x9F\xC2\xA0\xC3\x9F\nfound"};
+  }
+};
+
+TEST_F(VoteClient, whatOthersSayDoesNotCommandTheTerminal) {
+  dependencies->servers.tally = "https://tally.example";
+  dependencies->urlSession = std::make_shared<HostileAnswer>();
+  EXPECT_EQ(voter.vote(feature), std::nullopt);
+  EXPECT_EQ(log->taken(), "Voting failed: \\x1b[2J\\x7f\\x80\\x9f\xC2\xA0\xC3\x9F\nfound\n");
+}
+
 TEST_F(VoteClient, anExpiredCertificateIsRefused) {
   constexpr long day = 86400;
   const auto identity = tests::TlsIdentity::make(-2 * day, -day);

