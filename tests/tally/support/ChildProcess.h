@@ -44,4 +44,8 @@ class ChildProcess {
   std::jthread reader;
 };
 
+/// When to kill, of twenty rounds each at another place: from no time at all to more than what a run took at first. The
+/// last one may end, however slow the machine has become.
+std::chrono::milliseconds killTime(int round, std::chrono::milliseconds usual);
+
 }  // namespace mivo::tally::test
