@@ -55,9 +55,13 @@ AppModel::AppModel(AppServices given)
         sendStatistics(Sent::destination{Shown::presented{Destination::Action::donations{std::move(action)}}});
       }},
       overlapRepair{clients, [this](Action action) { send(std::move(action)); }},
-      chosenSettings{clients,           dependencies,
-                     services.calendar, *services.appearance,
-                     services.about,    [this] { send(Action::didChangeSettings{}); }} {
+      chosenSettings{clients,
+                     dependencies,
+                     services.calendar,
+                     *services.appearance,
+                     services.about,
+                     [this] { send(Action::didChangeSettings{}); },
+                     [] {}} {
   feedbackTexts.show(composeFeedback(texts));
   following = store.observe([this](const State& state) { follow(state); });
   load();

@@ -43,13 +43,14 @@ void CardSettingsModel::changeLongestBreak(int hours) {
 
 SettingsModel::SettingsModel(std::function<PageClients()> present, const Dependencies& all,
                              std::shared_ptr<host::WeekCalendar> week, Appearance& looks, const host::AboutFacts& about,
-                             std::function<void()> tells)
+                             std::function<void()> tells, std::function<void()> tellsReminders)
     : clients{std::move(present)},
       defaults{all.userDefaults},
       calendar{std::move(week)},
       look{looks},
       told{std::move(tells)},
-      shownCards{all.appGroupUserDefaults, told} {
+      shownCards{all.appGroupUserDefaults, told},
+      shownReminders{clients, all.userDefaults, std::move(tellsReminders)} {
   aboutPage.show(host::composeAbout(about, {{std::string{"Qt "} + qVersion(), "LGPL-3.0"}}, clients().texts));
   facts.usualWeekday = calendar->usualFirstWeekday();
   facts.version = about.version;
@@ -58,6 +59,7 @@ SettingsModel::SettingsModel(std::function<PageClients()> present, const Depende
 
 void SettingsModel::follow(const StatisticsFeature::State& state) {
   shownCards.follow(state, clients());
+  shownReminders.follow();
   facts.weightUnit = state.goalWeightCardState.weightUnit;
   compose();
 }

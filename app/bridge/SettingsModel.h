@@ -9,6 +9,7 @@
 #include <string>
 
 #include "app/bridge/Appearance.h"
+#include "app/bridge/RemindersModel.h"
 #include "app/records/Records.h"
 #include "host/app/AppFeature.h"
 #include "host/place/WeekCalendar.h"
@@ -52,17 +53,20 @@ class SettingsModel : public mivo::app::SettingsPageRecord {
   QML_ELEMENT
   QML_UNCREATABLE("the app has one")
   Q_PROPERTY(mivo::app::CardSettingsModel* cards READ cards CONSTANT)
+  Q_PROPERTY(mivo::app::RemindersModel* reminders READ reminders CONSTANT)
   Q_PROPERTY(mivo::app::AboutPageRecord* about READ about CONSTANT)
 
  public:
-  /// `changed` is called once something was written that the statistics read.
+  /// `changed` is called once something was written that the statistics read, `remindersChanged` once something was of
+  /// what the user wants to be told of.
   SettingsModel(std::function<PageClients()> clients, const Dependencies& all,
                 std::shared_ptr<host::WeekCalendar> calendar, Appearance& look, const host::AboutFacts& about,
-                std::function<void()> changed);
+                std::function<void()> changed, std::function<void()> remindersChanged);
 
   void follow(const StatisticsFeature::State& state);
 
   CardSettingsModel* cards() { return &shownCards; }
+  RemindersModel* reminders() { return &shownReminders; }
   AboutPageRecord* about() { return &aboutPage; }
 
   Q_INVOKABLE void chooseGoal(double seconds);
@@ -90,6 +94,7 @@ class SettingsModel : public mivo::app::SettingsPageRecord {
   Appearance& look;
   std::function<void()> told;
   CardSettingsModel shownCards;
+  RemindersModel shownReminders;
   AboutPageRecord aboutPage;
   host::SettingsFacts facts;
   std::optional<host::SettingsFacts> composed;

@@ -15,6 +15,7 @@
 #include "host/pages/HistoryPage.h"
 #include "host/pages/Message.h"
 #include "host/pages/OpenScreens.h"
+#include "host/pages/RemindersPage.h"
 #include "host/pages/RepairSheet.h"
 #include "host/pages/SettingsPage.h"
 #include "host/pages/WeightsPage.h"
@@ -45,7 +46,8 @@ using ObjectRecords =
                WeightFastingChartCard, TrendsCard, AddWeightForm, GoalWeightSheet, BadgesPage, DonationsPage,
                RoadmapPage, FeedbackSheet, host::AboutPage, host::CardSettingsPage, host::ControlWords,
                host::DateTimeChoice, host::FastSheet, host::FastingPage, host::GoalChoice, host::HistoryPage,
-               host::Message, host::OpenScreens, host::RepairSheet, host::SettingsPage, host::WeightsPage>;
+               host::Message, host::OpenScreens, host::RemindersPage, host::RepairSheet, host::SettingsPage,
+               host::WeightsPage>;
 
 template <class Candidate, class List>
 inline constexpr bool isIn = false;

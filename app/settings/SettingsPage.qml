@@ -63,6 +63,12 @@ FocusScope {
                         text: App.settings.cardsLabel
                         onClicked: App.present("cards")
                     }
+
+                    ValueRow {
+                        iconName: "bell"
+                        text: App.settings.reminders.title
+                        onClicked: App.present("reminders")
+                    }
                 }
 
                 ListGroup {
@@ -142,6 +148,14 @@ FocusScope {
         sourceComponent: FastGoalSheet {
             goal: App.settings.goalSeconds
             onChosen: seconds => App.settings.chooseGoal(seconds)
+        }
+    }
+
+    LateSheet {
+        screen: "eatingWindow"
+        sourceComponent: ChoiceSheet {
+            choice: App.settings.reminders.eatingWindow
+            onChosen: index => App.settings.reminders.chooseEatingWindow(index)
         }
     }
 

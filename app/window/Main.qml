@@ -43,7 +43,7 @@ Window {
     Item {
         id: pages
 
-        readonly property bool covered: badgesLayer.covers || roadmapLayer.covers || weightsLayer.covers || cardsLayer.covers || aboutLayer.covers
+        readonly property bool covered: badgesLayer.covers || roadmapLayer.covers || weightsLayer.covers || cardsLayer.covers || remindersLayer.covers || aboutLayer.covers
 
         anchors.fill: parent
         anchors.leftMargin: root.side ? Theme.sideBarSize : 0
@@ -119,6 +119,13 @@ Window {
             anchors.fill: parent
             open: App.screens.page === "cards"
             page: CardSettingsPage {}
+        }
+
+        PushLayer {
+            id: remindersLayer
+            anchors.fill: parent
+            open: App.screens.page === "reminders"
+            page: RemindersPage {}
         }
 
         PushLayer {

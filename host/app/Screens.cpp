@@ -40,6 +40,8 @@ constexpr std::array<Row, screenCount> rows{{{statistics, "statistics", tab, sta
                                              {months, "months", sheet, fasting},
                                              {settings, "settings", tab, settings},
                                              {cards, "cards", page, settings},
+                                             {reminders, "reminders", page, settings},
+                                             {eatingWindow, "eatingWindow", sheet, reminders},
                                              {about, "about", page, settings},
                                              {firstWeekday, "firstWeekday", sheet, settings},
                                              {defaultGoal, "defaultGoal", sheet, settings},

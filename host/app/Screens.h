@@ -34,6 +34,8 @@ enum class Screen {
   months,
   settings,
   cards,
+  reminders,
+  eatingWindow,
   about,
   firstWeekday,
   defaultGoal,

@@ -70,9 +70,9 @@ TEST(AppWindow, opensEverySheetAsOftenAsItIsWantedWhileThingsMove) {
   options.picture.clear();
   ShownApp shown{options};
   const auto present = [&shown](const char* screen) { shown.model().present(QString::fromLatin1(screen)); };
-  for (const char* sheet :
-       {"editFast", "addFast", "fastGoal", "fastStart", "fastMenu", "defaultGoal", "weightUnit", "firstWeekday",
-        "language", "appearance", "feedback", "donations", "overlaps", "goalWeight", "editWeight", "date", "table"})
+  for (const char* sheet : {"editFast", "addFast", "fastGoal", "fastStart", "fastMenu", "defaultGoal", "weightUnit",
+                            "firstWeekday", "language", "appearance", "eatingWindow", "feedback", "donations",
+                            "overlaps", "goalWeight", "editWeight", "date", "table"})
     for (const char* time : {" first", " again"}) {
       present(sheet);
       EXPECT_TRUE(eventually([&] { return wholeSheet(shown) != nullptr; })) << sheet << time;

@@ -7,6 +7,7 @@
 #include <algorithm>
 
 #include "app/program/Restart.h"
+#include "host/reminders/ReminderSettings.h"
 #include "mivo/statistics/ComposeScreen.h"
 #include "tests/app/ShownApp.h"
 #include "tests/support/Instants.h"
@@ -259,12 +260,32 @@ TEST_F(Settings, areReachedByTheKeyboardAlone) {
   press(Qt::Key_Escape);
   EXPECT_EQ(app->window().activeFocusItem(), way) << "the keys come back to the row";
 
-  press(Qt::Key_Tab, 3);
+  press(Qt::Key_Tab, 4);
   press(Qt::Key_Return);
   press(Qt::Key_Down, 7);
   press(Qt::Key_Return);
   EXPECT_NE(app->text("Sunday"), nullptr);
   EXPECT_EQ(app->window().activeFocusItem(), row("First weekday"));
+}
+
+TEST_F(Settings, chooseWhatToBeToldOf) {
+  show("settings", {390, 1000});
+  const auto chosen = [&] { return host::reminderSettings(*app->environment.dependencies->userDefaults); };
+  EXPECT_EQ(chosen(), host::ReminderSettings{}) << "nothing before it is chosen";
+  click("Reminders");
+  click("Goal reached");
+  EXPECT_EQ(chosen(), host::ReminderSettings{.tellsGoal = true});
+  EXPECT_TRUE(row("Goal reached")->property("on").toBool());
+  click("Eating window");
+  click("Goal reached");
+  EXPECT_EQ(chosen(), host::ReminderSettings{.tellsEatingWindow = true});
+  EXPECT_NE(app->text("Same as last time"), nullptr);
+  click("Length of the eating window");
+  click("8h");
+  EXPECT_EQ(chosen(), (host::ReminderSettings{.tellsEatingWindow = true, .eatingWindowHours = 8}));
+  EXPECT_NE(app->text("8h"), nullptr);
+  click("Back");
+  EXPECT_NE(row("Reminders"), nullptr) << "back on the settings tab";
 }
 
 TEST_F(Settings, startTheAppAnewForAnotherLanguage) {

@@ -46,7 +46,8 @@ struct Row {
 
 TEST_F(OpenScreensTest, openOverWhatTheyStandOnFromWhereverOneIs) {
   const OpenScreens statistics{"statistics", "", ""}, fasting{"fasting", "", ""}, settings{"settings", "", ""},
-      badges{"statistics", "badges", ""}, roadmap{"statistics", "roadmap", ""}, weights{"statistics", "weights", ""};
+      badges{"statistics", "badges", ""}, roadmap{"statistics", "roadmap", ""}, weights{"statistics", "weights", ""},
+      reminders{"settings", "reminders", ""};
   const std::vector<Row> rows{{Screen::statistics, statistics, statistics},
                               {Screen::badges, badges, statistics},
                               {Screen::milestones, badges, badges},
@@ -70,6 +71,8 @@ TEST_F(OpenScreensTest, openOverWhatTheyStandOnFromWhereverOneIs) {
                               {Screen::months, {"fasting", "", "months"}, fasting},
                               {Screen::settings, settings, settings},
                               {Screen::cards, {"settings", "cards", ""}, settings},
+                              {Screen::reminders, reminders, settings},
+                              {Screen::eatingWindow, {"settings", "reminders", "eatingWindow"}, reminders},
                               {Screen::about, {"settings", "about", ""}, settings},
                               {Screen::firstWeekday, {"settings", "", "firstWeekday"}, settings},
                               {Screen::defaultGoal, {"settings", "", "defaultGoal"}, settings},
