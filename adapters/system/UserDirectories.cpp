@@ -8,11 +8,11 @@ namespace {
 
 namespace fs = std::filesystem;
 
-fs::path directory(const char* variable, const char* belowHome) {
+fs::path directory(const char* variable, const char* belowHome, const char* name = "mivo") {
   const char* named = std::getenv(variable);
-  if (named && fs::path{named}.is_absolute()) return fs::path{named} / "mivo";
+  if (named && fs::path{named}.is_absolute()) return fs::path{named} / name;
   const char* home = std::getenv("HOME");
-  if (home && fs::path{home}.is_absolute()) return fs::path{home} / belowHome / "mivo";
+  if (home && fs::path{home}.is_absolute()) return fs::path{home} / belowHome / name;
   return ".mivo";
 }
 
@@ -21,6 +21,8 @@ fs::path directory(const char* variable, const char* belowHome) {
 fs::path configurationDirectory() { return directory("XDG_CONFIG_HOME", ".config"); }
 
 fs::path dataDirectory() { return directory("XDG_DATA_HOME", ".local/share"); }
+
+fs::path autostartDirectory() { return directory("XDG_CONFIG_HOME", ".config", "autostart"); }
 
 fs::path appDefaultsFile() { return configurationDirectory() / "app.json"; }
 

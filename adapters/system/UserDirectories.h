@@ -13,6 +13,9 @@ std::filesystem::path configurationDirectory();
 /// $XDG_DATA_HOME/mivo, else ~/.local/share/mivo: the history.
 std::filesystem::path dataDirectory();
 
+/// $XDG_CONFIG_HOME/autostart, else ~/.config/autostart: what the desktop starts when the user logs in.
+std::filesystem::path autostartDirectory();
+
 /// The settings of the app, for `FileUserDefaults`.
 std::filesystem::path appDefaultsFile();
 /// Those that the app shares with its widgets.

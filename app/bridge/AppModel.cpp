@@ -61,7 +61,7 @@ AppModel::AppModel(AppServices given)
                      *services.appearance,
                      services.about,
                      [this] { send(Action::didChangeSettings{}); },
-                     [] {}} {
+                     [this] { keepReminding(); }} {
   feedbackTexts.show(composeFeedback(texts));
   following = store.observe([this](const State& state) { follow(state); });
   load();
@@ -130,6 +130,10 @@ void AppModel::followZone() {
   allWeights.retell();
   say(filledIn(texts.text("Your time zone is now {1}. All times are shown in it; nothing was changed."),
                {qString(*zone).replace(QLatin1Char{'_'}, QLatin1Char{' '}).toStdString()}));
+}
+
+void AppModel::keepReminding() {
+  if (const auto fault = services.keepReminding ? services.keepReminding() : std::nullopt) say(*fault);
 }
 
 void AppModel::say(const std::string& sentence) {

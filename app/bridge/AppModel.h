@@ -43,6 +43,8 @@ struct AppServices {
   host::AboutFacts about = {};
   /// Takes over the system's time zone; its name where it is another one than before.
   std::function<std::optional<std::string>()> followZone = {};
+  /// Has what the user wants to be told of told while the window is closed; a sentence where that fails.
+  std::function<std::optional<std::string>()> keepReminding = {};
 };
 
 /// The app's store as QML reads and drives it. It looks at the state once after each action and tells each model what
@@ -107,6 +109,9 @@ class AppModel : public QObject {
   void appear() { sendStatistics(StatisticsFeature::Action::onAppear{}); }
   /// A sentence for the user, until dismissed; an empty one says nothing.
   void say(const std::string& sentence);
+
+  /// As the settings say: after they changed, and once for each start of the app.
+  void keepReminding();
 
   /// Opens a `host::Screen` by its name; for no name, closes all but the tab.
   Q_INVOKABLE void present(const QString& name);

@@ -15,9 +15,11 @@
 #include <QtSvg/QSvgRenderer>
 
 #include "app/bridge/EngineModels.h"
+#include "app/program/KeepReminding.h"
 #include "app/program/SystemZone.h"
 #include "host/app/Settings.h"
 #include "host/database/Database.h"
+#include "host/reminders/ReminderSettings.h"
 
 Q_IMPORT_QML_PLUGIN(MivoPlugin)
 
@@ -55,6 +57,14 @@ QIcon windowIcon() {
 std::function<std::optional<std::string>()> following(std::shared_ptr<SystemZone> zone) {
   if (!zone) return {};
   return [zone = std::move(zone)] { return zone->follow(); };
+}
+
+// A sample is told of nowhere.
+std::function<std::optional<std::string>()> keepingReminders(const Environment& environment, const Options& options) {
+  if (environment.sampleFolder) return {};
+  return [clients = environment.dependencies, database = options.database] {
+    return keepReminding(host::reminderSettings(*clients->userDefaults), database, *clients->texts);
+  };
 }
 
 }  // namespace
@@ -108,7 +118,8 @@ AppWindow::AppWindow(const Environment& environment, const Options& options, QSi
            .calendar = environment.calendar,
            .appearance = &look,
            .about = {MIVO_VERSION, environment.databaseFile.string(), host::exportCommand(environment.databaseFile)},
-           .followZone = following(environment.systemZone)}},
+           .followZone = following(environment.systemZone),
+           .keepReminding = keepingReminders(environment, options)}},
       settingsFaults{environment.settingsFaults.subscribe([this](const std::string& fault) { app.say(fault); })} {
   look.setOverride({.mode = modeOf(options), .textScale = options.textScale, .still = !options.picture.empty()});
   app.say(environment.notice);
@@ -127,8 +138,11 @@ AppWindow::AppWindow(const Environment& environment, const Options& options, QSi
   QObject::connect(window(), &QWindow::visibilityChanged, &app, [this](QWindow::Visibility now) {
     app.setWatched(now != QWindow::Hidden && now != QWindow::Minimized);
   });
-  // The first frame need not wait for it.
-  QTimer::singleShot(0, &app, [this] { window()->setIcon(windowIcon()); });
+  // The first frame need not wait for these.
+  QTimer::singleShot(0, &app, [this] {
+    window()->setIcon(windowIcon());
+    if (!isPicture && host::reminderSettings(*defaults).isAny()) app.keepReminding();
+  });
   end.emplace(*window());
 }
 
