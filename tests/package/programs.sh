@@ -36,6 +36,8 @@ server=$(sed -n 's/^ExecStart=//p' lib/systemd/system/mivo-tally.service)
 [ "$server" -ef bin/mivo-tally ] || wrong "the unit starts \"$server\""
 
 if [ -e bin/mivo-app ]; then
+    [ -x bin/mivo-reminder ] || wrong "mivo-reminder does not lie beside the app, which starts it"
+    timeout 60 bin/mivo-reminder > said 2>&1 || wrong "mivo-reminder has nothing to tell and does not end: $(cat said)"
     desktop=share/applications/mivo.desktop
     [ -x "bin/$(sed -n 's/^Exec=//p' "$desktop")" ] || wrong "$desktop starts what is not there"
     [ -e "share/icons/hicolor/scalable/apps/$(sed -n 's/^Icon=//p' "$desktop").svg" ] || wrong "$desktop has no icon"
