@@ -44,6 +44,7 @@ T.AbstractButton {
 
         Icon {
             id: icon
+            visible: root.iconName !== ""
             anchors.left: parent.left
             y: words.y + (Theme.bodyText.line * Theme.textScale - height) / 2
             width: Theme.iconInTileSize
@@ -54,8 +55,8 @@ T.AbstractButton {
 
         CardHeadLine {
             id: words
-            anchors.left: icon.right
-            anchors.leftMargin: 12
+            anchors.left: parent.left
+            anchors.leftMargin: root.iconName !== "" ? icon.width + 12 : 0
             anchors.right: chevron.left
             anchors.rightMargin: 12
             anchors.verticalCenter: parent.verticalCenter
