@@ -55,11 +55,12 @@ T.AbstractButton {
 
         CardHeadLine {
             id: words
+            readonly property real fromLeading: root.iconName !== "" ? icon.width + 12 : 0
+
             anchors.left: parent.left
-            anchors.leftMargin: root.iconName !== "" ? icon.width + 12 : 0
-            anchors.right: chevron.left
-            anchors.rightMargin: 12
+            anchors.leftMargin: fromLeading
             anchors.verticalCenter: parent.verticalCenter
+            width: root.availableWidth - fromLeading - 12 - chevron.width
             title: root.text
             titleStyle: Theme.bodyText
             detail: root.value
