@@ -11,7 +11,7 @@
 #include "app/bridge/EngineModels.h"
 #include "app/bridge/Stamps.h"
 #include "host/app/CurrentTipFacts.h"
-#include "host/app/FaultText.h"
+#include "host/database/FaultText.h"
 #include "host/fasting/Fasting.h"
 #include "mivo/platform/Dependencies.h"
 #include "mivo/statistics/ComposeScreen.h"
@@ -166,7 +166,7 @@ void AppModel::followPages(const State& state) {
   chosenSettings.follow(statistics);
   goalWeight.show(composeGoalWeightSheet(statistics.goalWeightCardState, texts, *dependencies.numberFormatter,
                                          *dependencies.massFormatter));
-  said.show(host::composeMessage(state, texts));
+  said.show(host::composeMessage(state, texts, *dependencies.numberFormatter));
   followDestination(statistics);
 }
 

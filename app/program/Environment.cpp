@@ -25,7 +25,7 @@
 #include "app/bridge/QtMainQueue.h"
 #include "app/program/OwnClock.h"
 #include "app/program/SystemZone.h"
-#include "host/app/FaultText.h"
+#include "host/database/FaultText.h"
 #include "host/app/Settings.h"
 #include "host/database/DatabaseHistory.h"
 #include "host/donations/DonationList.h"

@@ -58,7 +58,10 @@ std::string stop(const RecordRun& run) {
   const auto change = run.change(host::stopping(file.history().fasts, end, run.now));
   if (change.addedFasts.empty()) {
     file.apply(change);
-    return withHelp(doneText(host::AppFeature::Step::stopAtOnce, *run.texts), "mivo undo lets it run on") + '\n';
+    return withHelp(
+               host::doneText({host::AppFeature::Step::stopAtOnce, {}}, *run.texts, *run.formatters.numberFormatter),
+               "mivo undo lets it run on") +
+           '\n';
   }
   return done(run, file, change, translatable("Stopped {1}"), change.addedFasts.front());
 }

@@ -15,6 +15,7 @@
 #include "host/app/CarriedSettings.h"
 #include "host/app/Settings.h"
 #include "host/backup/BackupFolder.h"
+#include "host/data/DailyBackup.h"
 #include "host/dates/SpokenDate.h"
 #include "host/history/FieldRules.h"
 #include "host/text/BadRecord.h"
@@ -99,10 +100,9 @@ HistoryFile RecordRun::open() const {
 
 void RecordRun::backUp(const host::Database& database) const {
   try {
-    const host::BackupFolder folder{host::backupFolder(database.file())};
-    if (!folder.isDue(now)) return;
-    const auto kept = folder.keep(database.history(), settings(), now);
-    if (kept && kept->isNew) folder.rotate(kept->backup);
+    backUpWhereDue(
+        host::BackupFolder{host::backupFolder(database.file())}, [&] { return database.history(); },
+        [this] { return settings(); }, now);
   } catch (const std::system_error& error) {
     complain(filledIn(texts->text("Today's backup could not be made: {1}"), {error.what()}));
   }

@@ -14,6 +14,7 @@
 #include "cli/terminal/StandardOutput.h"
 #include "cli/terminal/TextWidth.h"
 #include "host/backup/BackupName.h"
+#include "host/data/CountText.h"
 #include "host/dates/SpokenDate.h"
 #include "host/fasting/OverlappingFasts.h"
 #include "mivo/fasting/GoalTime.h"
@@ -227,14 +228,11 @@ std::string dateText(Date date, const RecordRun& run) {
 }
 
 std::string fastCountText(std::size_t count, const RecordRun& run) {
-  const auto number = static_cast<std::int64_t>(count);
-  return filledIn(run.texts->plural("{1} fast", "{1} fasts", number), {run.formatters.numberFormatter->string(number)});
+  return host::fastCountText(static_cast<std::int64_t>(count), *run.texts, *run.formatters.numberFormatter);
 }
 
 std::string weightCountText(std::size_t count, const RecordRun& run) {
-  const auto number = static_cast<std::int64_t>(count);
-  return filledIn(run.texts->plural("{1} weight", "{1} weights", number),
-                  {run.formatters.numberFormatter->string(number)});
+  return host::weightCountText(static_cast<std::int64_t>(count), *run.texts, *run.formatters.numberFormatter);
 }
 
 ShortIDs idsOf(const std::vector<host::FastRecord>& fasts) {

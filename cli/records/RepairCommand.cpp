@@ -28,7 +28,10 @@ std::string repair(const RecordRun& run) {
   std::string changes = lines(change, idsOf(fasts), run);
   if (run.options.isDryRun) return changes;
   file.apply(change);
-  return changes + withHelp(doneText(host::AppFeature::Step::repairOverlaps, *run.texts), "mivo undo takes it back") +
+  return changes +
+         withHelp(
+             host::doneText({host::AppFeature::Step::repairOverlaps, {}}, *run.texts, *run.formatters.numberFormatter),
+             "mivo undo takes it back") +
          '\n';
 }
 

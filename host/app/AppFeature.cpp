@@ -4,8 +4,8 @@
 #include <algorithm>
 #include <utility>
 
-#include "host/app/FaultText.h"
 #include "host/app/Settings.h"
+#include "host/database/FaultText.h"
 #include "host/fasting/OverlapRepair.h"
 #include "mivo/calculations/Recomputed.h"
 #include "mivo/store/Reducers.h"
@@ -51,7 +51,9 @@ auto AppFeature::reduce(State& state, const Action& action) const -> Effect<Acti
     return weightEntry.reduce(edited.entry, sent);
   };
   return combine(scope<Action::statistics>(&State::statistics, statistics),
-                 presenting<Action::editedWeight>(&State::editedWeight, entry), [this](State& s, const Action& a) {
+                 presenting<Action::editedWeight>(&State::editedWeight, entry),
+                 presenting<Action::importing>(&State::importing, importFeature),
+                 scope<Action::backups>(&State::backups, backupsFeature), [this](State& s, const Action& a) {
                    return std::visit([&](const auto& sent) { return on(s, sent); }, a);
                  })(state, action);
 }
@@ -250,10 +252,11 @@ auto AppFeature::on(State& state, const Action::didWrite& written) const -> Effe
   if (isOf(*state.draft, written.change)) state.draft = std::nullopt;
   if (isOf(state.editedWeight, written.change)) state.editedWeight = std::nullopt;
   if (written.step == Step::undo) state.undo = std::nullopt;
-  if (offersUndo(written.step)) state.undo = UndoOffer{written.step, inverse(written.change)};
+  if (offersUndo(written.step) && !written.change.isEmpty())
+    state.undo = UndoOffer{written.step, inverse(written.change)};
   recompute(state);
   if (written.step == Step::addWeight) return tellWeightCard(state, AddWeightLogFeature::Action::didSave{});
-  return {};
+  return didWriteData(state, written);
 }
 
 // Said where it was tried.
@@ -269,6 +272,7 @@ auto AppFeature::on(State& state, const Action::didFailToWrite& failed) const ->
   }
   if (isOf(state.editedWeight, failed.change))
     return tellEditedWeight(state, AddWeightLogFeature::Action::didFailToSave{failed.sentence});
+  if (isSaidWhereItWasTried(state, failed)) return {};
   if (failed.step == Step::undo && *state.undo) {
     UndoOffer offer = **state.undo;  // still to be had
     offer.isTaken = false;
@@ -352,8 +356,8 @@ void AppFeature::recompute(State& state) const {
   state.now = present;
 }
 
-std::string doneText(Step step, const TextLookup& texts) {
-  switch (step) {
+std::string doneText(const AppFeature::UndoOffer& offer, const TextLookup& texts, const NumberFormatter& numbers) {
+  switch (offer.step) {
     case Step::stop:
       return texts.text("Fast ended");
     case Step::stopAtOnce:
@@ -372,6 +376,13 @@ std::string doneText(Step step, const TextLookup& texts) {
       return texts.text("Weight deleted");
     case Step::repairOverlaps:
       return texts.text("Overlapping fasts fixed");
+    case Step::importing: {
+      const RecordCounts counts{static_cast<std::int64_t>(offer.change.removedFasts.size()),
+                                static_cast<std::int64_t>(offer.change.removedWeights.size())};
+      return filledIn(texts.text("Imported: {1}"), {shortCountText(counts, texts, numbers)});
+    }
+    case Step::restore:
+      return texts.text("Backup restored");
     default:
       return {};
   }

@@ -7,6 +7,8 @@
 #include <variant>
 
 #include "host/app/Screens.h"
+#include "host/data/BackupsFeature.h"
+#include "host/data/ImportFeature.h"
 #include "host/fasting/FastDraft.h"
 #include "host/fasting/HistoryClient.h"
 #include "host/history/FieldRules.h"
@@ -34,6 +36,8 @@ struct AppFeature {
     editWeight,
     removeWeight,
     repairOverlaps,
+    importing,
+    restore,
     undo
   };
 
@@ -60,6 +64,8 @@ struct AppFeature {
     Observed<std::optional<FastDraft>> draft = std::optional<FastDraft>{};
     Presentation<EditedWeight> editedWeight = {};
     Observed<std::optional<HistoryChange>> overlapRepair = std::optional<HistoryChange>{};  ///< proposed, not yet done
+    Presentation<ImportFeature::State> importing = {};
+    BackupsFeature::State backups = {};
     Observed<std::optional<UndoOffer>> undo = std::optional<UndoOffer>{};
     Observed<std::string> failure = std::string{};  ///< one sentence, until dismissed
     /// The innermost that is open of those that nothing else here tells of; `openScreen` knows them all.
@@ -183,6 +189,26 @@ struct AppFeature {
     struct didCancelOverlapRepair {
       bool operator==(const didCancelOverlapRepair&) const = default;
     };
+    /// Files were chosen, or dropped on the window: shows what they hold, where nothing else is open that would be
+    /// lost.
+    struct didChooseFiles {
+      std::vector<std::string> paths;
+      bool operator==(const didChooseFiles&) const = default;
+    };
+    /// The preview is gone once what it shows is on disk.
+    struct importing {
+      PresentationAction<ImportFeature::Action> action;
+      bool operator==(const importing&) const = default;
+    };
+    struct didExport {
+      ExportedPart part;
+      std::string path;
+      bool operator==(const didExport&) const = default;
+    };
+    struct backups {
+      BackupsFeature::Action action;
+      bool operator==(const backups&) const = default;
+    };
     /// Has read what failed; without a failure, takes the offer to undo.
     struct didTapMessage {
       bool operator==(const didTapMessage&) const = default;
@@ -212,18 +238,23 @@ struct AppFeature {
                      Cases::didChangeDraftGoal, Cases::didChangeDraftNote, Cases::didTapSaveDraft,
                      Cases::didDismissDraft, Cases::didDeleteFast, Cases::didTapEditWeight, Cases::editedWeight,
                      Cases::didDeleteWeight, Cases::didConfirmOverlapRepair, Cases::didCancelOverlapRepair,
-                     Cases::didTapMessage, Cases::didDismissMessages, Cases::didWrite, Cases::didFailToWrite> {
+                     Cases::didChooseFiles, Cases::importing, Cases::didExport, Cases::backups, Cases::didTapMessage,
+                     Cases::didDismissMessages, Cases::didWrite, Cases::didFailToWrite> {
     using variant::variant;
   };
 
   Client<HistoryClient> history;
+  Client<DataFiles> files = {};
   Client<DateGenerator> date = dependency(&Dependencies::date);
   Client<UUIDGenerator> uuid = dependency(&Dependencies::uuid);
   Client<UserDefaults> userDefaults = dependency(&Dependencies::userDefaults);
   Client<TextLookup> texts = dependency(&Dependencies::texts);
   Client<MassFormatter> masses = dependency(&Dependencies::massFormatter);
+  Client<NumberFormatter> numbers = dependency(&Dependencies::numberFormatter);
   StatisticsFeature statistics = {};
   AddWeightLogFeature weightEntry = {};
+  ImportFeature importFeature = {files, history, texts};
+  BackupsFeature backupsFeature = {files, history, texts, date};
 
   Effect<Action> reduce(State& state, const Action& action) const;
 
@@ -255,6 +286,10 @@ struct AppFeature {
   Effect<Action> on(State& state, const Action::didDeleteWeight& sent) const;
   Effect<Action> on(State& state, const Action::didConfirmOverlapRepair& sent) const;
   Effect<Action> on(State& state, const Action::didCancelOverlapRepair& sent) const;
+  Effect<Action> on(State& state, const Action::didChooseFiles& sent) const;
+  Effect<Action> on(State& state, const Action::importing& sent) const;
+  Effect<Action> on(State& state, const Action::didExport& sent) const;
+  Effect<Action> on(State& state, const Action::backups& sent) const;
   Effect<Action> on(State& state, const Action::didTapMessage& sent) const;
   Effect<Action> on(State& state, const Action::didDismissMessages& sent) const;
   Effect<Action> on(State& state, const Action::didWrite& sent) const;
@@ -271,13 +306,20 @@ struct AppFeature {
   Effect<Action> tellWeightCard(State& state, AddWeightLogFeature::Action action) const;
   Effect<Action> writeOrSay(State& state, Step step, Outcome outcome) const;
   Effect<Action> write(Step step, HistoryChange change) const;
+  Effect<Action> writeImport(State& state) const;
+  Effect<Action> restore(State& state) const;
+  Effect<Action> didWriteData(State& state, const Action::didWrite& written) const;
+  bool isSaidWhereItWasTried(State& state, const Action::didFailToWrite& failed) const;
 };
 
 /// The innermost that is open.
 Screen openScreen(const AppFeature::State& state);
 
+/// Whether files can be brought along now: not while a sheet is open, which they would close, or an import is written.
+bool takesFiles(const AppFeature::State& state);
+
 /// "Fast deleted": what was done, beside the offer to undo it; empty for a step without one.
-std::string doneText(AppFeature::Step step, const TextLookup& texts);
+std::string doneText(const AppFeature::UndoOffer& offer, const TextLookup& texts, const NumberFormatter& numbers);
 
 template <RecordOf<AppFeature::EditedWeight> Listed, class Visit>
 void fields(Listed& record, Visit&& visit) {
@@ -288,8 +330,8 @@ void fields(Listed& record, Visit&& visit) {
 
 template <RecordOf<AppFeature::State> Listed, class Visit>
 void fields(Listed& record, Visit&& visit) {
-  auto& [statistics, fasts, weights, now, nextGoalSeconds, draft, editedWeight, overlapRepair, undo, failure, screen] =
-      record;
+  auto& [statistics, fasts, weights, now, nextGoalSeconds, draft, editedWeight, overlapRepair, importing, backups, undo,
+         failure, screen] = record;
   visit("statistics", statistics);
   visit("fasts", fasts);
   visit("weights", weights);
@@ -298,6 +340,8 @@ void fields(Listed& record, Visit&& visit) {
   visit("draft", draft);
   visit("editedWeight", editedWeight);
   visit("overlapRepair", overlapRepair);
+  visit("importing", importing);
+  visit("backups", backups);
   visit("undo", undo);
   visit("failure", failure);
   visit("screen", screen);

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Which screen is open. Some are open as long as the state has what they show; the others are named by it.
+#include <algorithm>
 #include <ranges>
 #include <span>
 #include <utility>
@@ -35,6 +36,11 @@ const FastRecord* lastEndedFast(std::span<const FastRecord> fasts) {
   return nullptr;
 }
 
+std::optional<std::size_t> newestReadable(std::span<const ListedBackup> backups) {
+  const auto found = std::ranges::find_if(backups, [](const ListedBackup& one) { return one.counts.has_value(); });
+  return found == backups.end() ? std::nullopt : std::optional{static_cast<std::size_t>(found - backups.begin())};
+}
+
 // Some screens show a record that need not be there.
 bool hasWhatIsShown(const State& state, Screen screen) {
   switch (screen) {
@@ -46,6 +52,8 @@ bool hasWhatIsShown(const State& state, Screen screen) {
     case Screen::editWeight:
     case Screen::weightMenu:
       return !state.weights->empty();
+    case Screen::restoring:
+      return newestReadable(*state.backups.backups).has_value();
     default:
       return true;
   }
@@ -59,6 +67,8 @@ Screen openScreen(const State& state) {
   if (*state.draft) return Screen::editFast;
   if (state.editedWeight) return Screen::editWeight;
   if (*state.overlapRepair) return Screen::overlaps;
+  if (state.importing) return Screen::importing;
+  if (*state.backups.chosen) return Screen::restoring;
   const auto& destination = state.statistics.destination;
   if (!destination) return state.screen;
   if (const auto* shown = std::get_if<Destination::State::badges>(&*destination)) return openList(shown->state);
@@ -119,6 +129,15 @@ auto AppFeature::enter(State& state, Screen screen) const -> Effect<Action> {
       return on(state, Action::didTapEditFast{lastEndedFast(*state.fasts)->fast.id});
     case Screen::editWeight:
       return on(state, Action::didTapEditWeight{state.weights->back().id});
+    case Screen::importing:
+      state.importing = ImportFeature::State{};
+      return {};
+    case Screen::settings:
+    case Screen::backups:
+      state.screen = screen;
+      return reduce(state, Action::backups{BackupsFeature::Action::list{screen == Screen::backups}});
+    case Screen::restoring:
+      return reduce(state, Action::backups{BackupsFeature::Action::didChoose{*newestReadable(*state.backups.backups)}});
     default:
       state.screen = screen;
       return {};
@@ -139,6 +158,10 @@ auto AppFeature::leave(State& state, Screen screen) const -> Effect<Action> {
       return reduce(state, Action::editedWeight{PresentationAction<AddWeightLogFeature::Action>::dismiss{}});
     case Screen::overlaps:
       return on(state, Action::didCancelOverlapRepair{});
+    case Screen::importing:
+      return reduce(state, Action::importing{PresentationAction<ImportFeature::Action>::dismiss{}});
+    case Screen::restoring:
+      return reduce(state, Action::backups{BackupsFeature::Action::didDismiss{}});
     case Screen::badges:
     case Screen::roadmap:
     case Screen::donations:

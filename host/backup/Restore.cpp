@@ -10,7 +10,8 @@ Restored restore(const std::filesystem::path& database, const History& records, 
   Restored restored;
   try {
     const auto keep = [&](const History& present) { restored.before = folder.keep(present, settings, now); };
-    restored.isChanged = !Database{database}.replace(records, keep).isEmpty();
+    restored.change = Database{database}.replace(records, keep);
+    restored.isChanged = !restored.change.isEmpty();
   } catch (const DatabaseError& error) {
     if (error.kind != DatabaseError::Kind::damaged) throw;
     restored.setAside = replaceDamaged(database, records);

@@ -6,6 +6,7 @@
 #include <span>
 
 #include "host/backup/BackupFolder.h"
+#include "host/fasting/HistoryChange.h"
 #include "host/history/History.h"
 #include "host/history/Setting.h"
 #include "mivo/model/Date.h"
@@ -16,6 +17,7 @@ namespace mivo::host {
 struct Restored {
   std::optional<KeptBackup> before = {};               ///< the backup that holds it; nothing where it had no records
   std::optional<std::filesystem::path> setAside = {};  ///< where the database is kept that was damaged
+  HistoryChange change = {};                           ///< what was done; nothing of a database that was damaged
   bool isChanged = true;                               ///< false where the database had these records already
 };
 

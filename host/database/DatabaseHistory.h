@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <atomic>
 #include <cstdint>
 #include <mutex>
 #include <utility>
@@ -16,7 +17,12 @@ class DatabaseHistory final : public HistoryClient {
   explicit DatabaseHistory(Database opened) : database{std::move(opened)} {}
   History load() const override { return locked()->history(); }
   void apply(const HistoryChange& change) const override { locked()->apply(change); }
-  std::int64_t version() const override { return locked()->version(); }
+  /// While a long change is written, the number of before: the main thread asks, and must not wait.
+  std::int64_t version() const override {
+    const std::unique_lock lock{mutex, std::try_to_lock};
+    if (lock) seen = database.version();
+    return seen;
+  }
 
  private:
   struct Locked {
@@ -28,6 +34,7 @@ class DatabaseHistory final : public HistoryClient {
 
   mutable std::mutex mutex;
   mutable Database database;
+  mutable std::atomic<std::int64_t> seen = database.version();
 };
 
 }  // namespace mivo::host

@@ -15,7 +15,10 @@ ControlWords controlWords(const TextLookup& texts) {
           .copyValue = texts.text("Copy value"),
           .showAsTable = texts.text("Show as table"),
           .cannotOpen = texts.text("Your history cannot be opened"),
-          .tryAgain = texts.text("Try again")};
+          .tryAgain = texts.text("Try again"),
+          .restoreNewest = texts.text("Restore the newest backup"),
+          .beginAnew = texts.text("Begin a new history"),
+          .damagedIsKept = texts.text("The damaged file is kept, whatever you choose.")};
 }
 
 }  // namespace mivo::host

@@ -15,14 +15,15 @@ struct ControlWords {
   std::string less, more;  ///< beside a number
   std::string chart;       ///< over what a chart offers, where nothing in it is selected
   std::string copyValue, showAsTable;
-  std::string cannotOpen, tryAgain;  ///< where the app cannot start
+  std::string cannotOpen, tryAgain;                     ///< where the app cannot start
+  std::string restoreNewest, beginAnew, damagedIsKept;  ///< where that is because the history is damaged
   bool operator==(const ControlWords&) const = default;
 };
 
 template <RecordOf<ControlWords> Listed, class Visit>
 void fields(Listed& record, Visit&& visit) {
-  auto& [fasting, statistics, settings, close, back, less, more, chart, copyValue, showAsTable, cannotOpen, tryAgain] =
-      record;
+  auto& [fasting, statistics, settings, close, back, less, more, chart, copyValue, showAsTable, cannotOpen, tryAgain,
+         restoreNewest, beginAnew, damagedIsKept] = record;
   visit("fasting", fasting);
   visit("statistics", statistics);
   visit("settings", settings);
@@ -35,6 +36,9 @@ void fields(Listed& record, Visit&& visit) {
   visit("showAsTable", showAsTable);
   visit("cannotOpen", cannotOpen);
   visit("tryAgain", tryAgain);
+  visit("restoreNewest", restoreNewest);
+  visit("beginAnew", beginAnew);
+  visit("damagedIsKept", damagedIsKept);
 }
 
 ControlWords controlWords(const TextLookup& texts);

@@ -8,11 +8,11 @@ constexpr double secondsOfAnOffer = 6;
 
 }  // namespace
 
-Message composeMessage(const AppFeature::State& state, const TextLookup& texts) {
+Message composeMessage(const AppFeature::State& state, const TextLookup& texts, const NumberFormatter& numbers) {
   if (!state.failure->empty())
     return {.text = state.failure, .button = texts.text("OK"), .isFailure = true, .seconds = 0};
   const auto& offer = *state.undo;
-  return {.text = offer && !offer->isTaken ? doneText(offer->step, texts) : "",
+  return {.text = offer && !offer->isTaken ? doneText(*offer, texts, numbers) : "",
           .button = texts.text("Undo"),
           .isFailure = false,
           .seconds = secondsOfAnOffer};

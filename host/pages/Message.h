@@ -27,6 +27,6 @@ void fields(Listed& record, Visit&& visit) {
   visit("seconds", seconds);
 }
 
-Message composeMessage(const AppFeature::State& state, const TextLookup& texts);
+Message composeMessage(const AppFeature::State& state, const TextLookup& texts, const NumberFormatter& numbers);
 
 }  // namespace mivo::host

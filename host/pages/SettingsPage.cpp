@@ -104,6 +104,12 @@ SettingsPage composeSettings(const SettingsFacts& facts, const PageClients& clie
                        .step = textSizeStep},
           .reducedMotionLabel = texts.text("Reduced motion"),
           .reducesMotion = facts.appearance.reducesMotion,
+          .data = texts.text("Data"),
+          .importLabel = texts.text("Import"),
+          .exportLabel = texts.text("Export"),
+          .backupsLabel = texts.text("Backups"),
+          .newestBackup = facts.newestBackup,
+          .dataNote = texts.text("Everything stays on this device."),
           .aboutLabel = texts.text("About Mivo"),
           .version = facts.version};
 }

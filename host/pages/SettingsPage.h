@@ -20,6 +20,7 @@ struct SettingsFacts {
   int usualWeekday = 2;                           ///< the locale's
   std::string language = {};                      ///< as chosen; empty for the system's
   Appearance appearance = {};
+  std::string newestBackup = {};  ///< when that was made, as `newestBackupText` says it
   std::string version = {};
   bool operator==(const SettingsFacts&) const = default;
 };
@@ -71,6 +72,10 @@ struct SettingsPage {
   Steps textSize;  ///< in percent
   std::string reducedMotionLabel;
   bool reducesMotion = false;
+  std::string data;  ///< over what is done with the records as a whole
+  std::string importLabel, exportLabel, backupsLabel;
+  std::string newestBackup;  ///< "Today, 03:00"
+  std::string dataNote;
   std::string aboutLabel;  ///< leads to what the app is
   std::string version;
   bool operator==(const SettingsPage&) const = default;
@@ -79,7 +84,8 @@ struct SettingsPage {
 template <RecordOf<SettingsPage> Listed, class Visit>
 void fields(Listed& record, Visit&& visit) {
   auto& [title, cardsLabel, general, goalLabel, goal, goalSeconds, weightUnit, firstWeekday, language, appearance,
-         textSize, reducedMotionLabel, reducesMotion, aboutLabel, version] = record;
+         textSize, reducedMotionLabel, reducesMotion, data, importLabel, exportLabel, backupsLabel, newestBackup,
+         dataNote, aboutLabel, version] = record;
   visit("title", title);
   visit("cardsLabel", cardsLabel);
   visit("general", general);
@@ -93,6 +99,12 @@ void fields(Listed& record, Visit&& visit) {
   visit("textSize", textSize);
   visit("reducedMotionLabel", reducedMotionLabel);
   visit("reducesMotion", reducesMotion);
+  visit("data", data);
+  visit("importLabel", importLabel);
+  visit("exportLabel", exportLabel);
+  visit("backupsLabel", backupsLabel);
+  visit("newestBackup", newestBackup);
+  visit("dataNote", dataNote);
   visit("aboutLabel", aboutLabel);
   visit("version", version);
 }

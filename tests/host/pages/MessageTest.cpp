@@ -25,7 +25,7 @@ TEST_P(Messages, sayWhatFailedOrCanBeTakenBack) {
   AppFeature::State state = AppFeature::State::make(TimeRange::week, WeightUnit::kilograms);
   state.failure = GetParam().failure;
   state.undo = GetParam().undo;
-  EXPECT_EQ(composeMessage(state, tests::EnglishTexts{}), GetParam().expected);
+  EXPECT_EQ(composeMessage(state, tests::EnglishTexts{}, tests::PlainNumbers{}), GetParam().expected);
 }
 
 AppFeature::UndoOffer offer(Step step, bool isTaken = false) {

@@ -30,6 +30,8 @@ class OpenScreensTest : public tests::StatisticsTest {
                      {ongoingFast({7, 3}, at(-2), 57600), ""}};
     history.weights = {{{8, 1}, at(-30), 80}, {{8, 2}, at(-6), 79}};
     app.send(Action::didLoad{history});
+    app.send(
+        Action::backups{BackupsFeature::Action::didList{{{.backup = {"mivo.json", now}, .counts = RecordCounts{}}}}});
   }
 
   OpenScreens shown() const { return composeOpenScreens(app.state()); }
@@ -74,6 +76,10 @@ TEST_F(OpenScreensTest, openOverWhatTheyStandOnFromWhereverOneIs) {
                               {Screen::reminders, reminders, settings},
                               {Screen::eatingWindow, {"settings", "reminders", "eatingWindow"}, reminders},
                               {Screen::about, {"settings", "about", ""}, settings},
+                              {Screen::importing, {"settings", "", "import"}, settings},
+                              {Screen::exporting, {"settings", "", "export"}, settings},
+                              {Screen::backups, {"settings", "backups", ""}, settings},
+                              {Screen::restoring, {"settings", "backups", "restore"}, {"settings", "backups", ""}},
                               {Screen::firstWeekday, {"settings", "", "firstWeekday"}, settings},
                               {Screen::defaultGoal, {"settings", "", "defaultGoal"}, settings},
                               {Screen::weightUnit, {"settings", "", "weightUnit"}, settings},
@@ -105,8 +111,9 @@ TEST_F(OpenScreensTest, areNamedOnceEach) {
 
 TEST_F(OpenScreensTest, stayWithoutWhatTheyWouldShow) {
   app.send(Action::didLoad{{}});
-  for (const Screen screen :
-       {Screen::editFast, Screen::fastStart, Screen::fastMenu, Screen::editWeight, Screen::weightMenu}) {
+  app.send(Action::backups{BackupsFeature::Action::didList{}});
+  for (const Screen screen : {Screen::editFast, Screen::fastStart, Screen::fastMenu, Screen::editWeight,
+                              Screen::weightMenu, Screen::restoring}) {
     app.send(Action::didOpen{screen});
     EXPECT_EQ(openScreen(app.state()), screenBelow(screen)) << rawValue(screen);
   }
@@ -145,8 +152,12 @@ TEST_F(OpenScreensTest, keepNothingOfWhatTheyClose) {
   EXPECT_EQ(*app.state().draft, std::nullopt);
   app.send(Action::didOpen{Screen::overlaps});
   EXPECT_FALSE(app.state().editedWeight);
-  app.send(Action::didOpen{Screen::badges});
+  app.send(Action::didOpen{Screen::restoring});
   EXPECT_EQ(*app.state().overlapRepair, std::nullopt);
+  app.send(Action::didOpen{Screen::importing});
+  EXPECT_EQ(*app.state().backups.chosen, std::nullopt);
+  app.send(Action::didOpen{Screen::badges});
+  EXPECT_FALSE(app.state().importing);
   app.send(Action::didOpen{Screen::about});
   EXPECT_FALSE(app.state().statistics.destination);
 }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "host/app/FaultText.h"
+#include "host/database/FaultText.h"
 
 #include "host/database/Database.h"
 #include "host/fasting/Refusal.h"
@@ -11,7 +11,7 @@ std::string databaseText(const DatabaseError& error, const TextLookup& texts) {
   const std::string file = error.file.string();
   switch (error.kind) {
     case DatabaseError::Kind::damaged:
-      return filledIn(texts.text("Your history in {1} is damaged. Start Mivo again: it keeps the file aside."), {file});
+      return filledIn(texts.text("Your history in {1} is damaged. Start Mivo again to go on from a backup."), {file});
     case DatabaseError::Kind::tooNew:
       return filledIn(texts.text("A later version of Mivo has written {1}. Update Mivo to open it."), {file});
     case DatabaseError::Kind::conflict:

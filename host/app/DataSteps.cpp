@@ -1,0 +1,160 @@
+// SPDX-License-Identifier: MIT
+// What becomes of the data as a whole: files that are brought along, files that take it out, and backups.
+#include <exception>
+#include <utility>
+
+#include "host/app/AppFeature.h"
+#include "host/database/FaultText.h"
+
+namespace mivo::host {
+namespace {
+
+using Action = AppFeature::Action;
+using State = AppFeature::State;
+using Step = AppFeature::Step;
+using Import = ImportFeature::Action;
+using Phase = ImportFeature::Phase;
+using Backups = BackupsFeature::Action;
+
+RecordCounts countsOf(const History& history) {
+  return {static_cast<std::int64_t>(history.fasts.size()), static_cast<std::int64_t>(history.weights.size())};
+}
+
+std::string exportedText(ExportedPart part, const std::string& path, const RecordCounts& counts,
+                         const TextLookup& texts, const NumberFormatter& numbers) {
+  const std::string fasts = fastCountText(counts.fasts, texts, numbers),
+                    weights = weightCountText(counts.weights, texts, numbers);
+  if (part == ExportedPart::everything)
+    return filledIn(texts.text("Exported to {1}: {2}, {3}"), {path, fasts, weights});
+  return filledIn(texts.text("Exported to {1}: {2}"), {path, part == ExportedPart::fasts ? fasts : weights});
+}
+
+std::string outcomeText(BackupsFeature::Outcome outcome, const TextLookup& texts) {
+  switch (outcome) {
+    case BackupsFeature::Outcome::made:
+      return texts.text("The backup is made.");
+    case BackupsFeature::Outcome::unchanged:
+      return texts.text("Nothing has changed since the newest backup.");
+    case BackupsFeature::Outcome::nothingThere:
+      return texts.text("There is nothing to back up yet.");
+  }
+  return {};
+}
+
+}  // namespace
+
+bool takesFiles(const State& state) {
+  if (state.importing) return *state.importing->phase != Phase::writing;
+  return kindOf(openScreen(state)) != ScreenKind::sheet;
+}
+
+// Files that are still being read give way to the new ones.
+auto AppFeature::on(State& state, const Action::didChooseFiles& chosen) const -> Effect<Action> {
+  if (chosen.paths.empty() || !takesFiles(state)) return {};
+  Effect<Action> effect = on(state, Action::didOpen{Screen::importing});
+  state.importing = ImportFeature::State{};
+  effect.add(
+      reduce(state, Action::importing{PresentationAction<Import>::presented{Import::didChooseFiles{chosen.paths}}}));
+  return effect;
+}
+
+auto AppFeature::on(State& state, const Action::importing& sent) const -> Effect<Action> {
+  const auto* shown = std::get_if<PresentationAction<Import>::presented>(&sent.action);
+  const bool isConfirmed = shown && std::holds_alternative<Import::didTapImport>(shown->action);
+  return isConfirmed && state.importing && *state.importing->phase == Phase::ready ? writeImport(state)
+                                                                                   : Effect<Action>{};
+}
+
+// Held against the history once more: another program may have written since the preview. It goes on when the preview
+// is closed.
+auto AppFeature::writeImport(State& state) const -> Effect<Action> {
+  state.importing->phase = Phase::writing;
+  state.importing->failure = std::string{};
+  return Effect<Action>::run(
+      [](const Send<Action>& send, const std::stop_token&, const Client<HistoryClient>& client,
+         const Client<DataFiles>& data, const Client<TextLookup>& lookup,
+         const std::shared_ptr<const ImportPreview>& preview) {
+        HistoryChange change;
+        try {
+          change = data->plan(client->load(), preview->files).change;
+          if (!change.isEmpty()) client->apply(change);
+        } catch (const std::exception& error) {
+          return send(Action::didFailToWrite{Step::importing, {}, faultText(error, *lookup)});
+        }
+        send(Action::didWrite{Step::importing, std::move(change)});
+      },
+      history, files, texts, *state.importing->preview);
+}
+
+auto AppFeature::on(State& state, const Action::didExport& asked) const -> Effect<Action> {
+  Effect<Action> effect = on(state, Action::didClose{Screen::exporting});
+  effect.add(Effect<Action>::run(
+      [](const Send<Action>& send, const std::stop_token&, const Client<HistoryClient>& client,
+         const Client<DataFiles>& data, const Client<TextLookup>& lookup, const Client<NumberFormatter>& counts,
+         ExportedPart part, const std::string& path) {
+        try {
+          const History records = client->load();
+          data->write(part, records, path);
+          send(Action::didFail{exportedText(part, path, countsOf(records), *lookup, *counts)});
+        } catch (const std::exception& error) {
+          send(Action::didFail{faultText(error, *lookup)});
+        }
+      },
+      history, files, texts, numbers, asked.part, asked.path));
+  return effect;
+}
+
+auto AppFeature::on(State& state, const Action::backups& sent) const -> Effect<Action> {
+  if (const auto* made = std::get_if<Backups::didBackUp>(&sent.action))
+    state.failure = outcomeText(made->outcome, *texts);
+  else if (const auto* failed = std::get_if<Backups::didFail>(&sent.action))
+    state.failure = failed->sentence;
+  else if (std::holds_alternative<Backups::didTapRestore>(sent.action) && *state.backups.chosen &&
+           !*state.backups.isRestoring)
+    return restore(state);
+  return {};
+}
+
+auto AppFeature::restore(State& state) const -> Effect<Action> {
+  state.backups.isRestoring = true;
+  state.backups.failure = std::string{};
+  return Effect<Action>::run(
+      [](const Send<Action>& send, const std::stop_token&, const Client<DataFiles>& data,
+         const Client<TextLookup>& lookup, const std::filesystem::path& file, Date now) {
+        try {
+          auto restored = data->restore(file, now);
+          if (!restored) return send(Action::didFailToWrite{Step::restore, {}, describe(restored.error())});
+          send(Action::didWrite{Step::restore, std::move(restored->change)});
+        } catch (const std::exception& error) {
+          send(Action::didFailToWrite{Step::restore, {}, faultText(error, *lookup)});
+        }
+      },
+      files, texts, (*state.backups.chosen)->backup.file, date->now());
+}
+
+auto AppFeature::didWriteData(State& state, const Action::didWrite& written) const -> Effect<Action> {
+  const bool isNothing = written.change.isEmpty();
+  if (written.step == Step::importing) {
+    if (state.importing && *state.importing->phase == Phase::writing) state.importing = {};
+    if (isNothing) state.failure = texts->text("All of it is there already.");
+  }
+  if (written.step != Step::restore) return {};
+  state.backups.isRestoring = false;
+  state.backups.chosen = std::nullopt;
+  if (isNothing) state.failure = texts->text("Your records are those of this backup already.");
+  return reduce(state, Action::backups{Backups::list{true}});
+}
+
+bool AppFeature::isSaidWhereItWasTried(State& state, const Action::didFailToWrite& failed) const {
+  if (failed.step == Step::importing && state.importing && *state.importing->phase == Phase::writing) {
+    state.importing->phase = Phase::ready;
+    state.importing->failure = failed.sentence;
+    return true;
+  }
+  if (failed.step != Step::restore) return false;
+  state.backups.isRestoring = false;
+  if (*state.backups.chosen) state.backups.failure = failed.sentence;
+  return state.backups.chosen->has_value();
+}
+
+}  // namespace mivo::host

@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <functional>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "host/backup/BackupFolder.h"
+#include "host/fasting/HistoryClient.h"
+#include "host/history/Setting.h"
+#include "mivo/model/Date.h"
+
+namespace mivo::host {
+
+/// Makes the backup of a day, in UTC, where that has none yet, and lets those go that need not stay. `history` and
+/// `settings` are asked only then. Throws std::system_error, and what they throw.
+void backUpWhereDue(const BackupFolder& folder, const std::function<History()>& history,
+                    const std::function<std::vector<Setting>()>& settings, Date now);
+
+/// What a daily backup is made of and from.
+struct BackupSource {
+  BackupFolder folder;
+  std::function<History()> history;  ///< as it is on disk, read beside whoever writes
+  std::function<std::vector<Setting>()> settings;
+  std::function<Date()> now;
+  std::function<void(const std::exception& why)> failed;  ///< on the thread of the change; it stops nothing
+};
+
+/// A history that is backed up before the first change of a day. Thread: as the history's.
+class BackedUpHistory final : public HistoryClient {
+ public:
+  BackedUpHistory(std::shared_ptr<const HistoryClient> kept, BackupSource from)
+      : history{std::move(kept)}, source{std::move(from)} {}
+  History load() const override { return history->load(); }
+  void apply(const HistoryChange& change) const override;
+  std::int64_t version() const override { return history->version(); }
+
+ private:
+  std::shared_ptr<const HistoryClient> history;
+  BackupSource source;
+};
+
+}  // namespace mivo::host

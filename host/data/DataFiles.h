@@ -1,0 +1,80 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <stop_token>
+#include <string>
+#include <tl/expected.hpp>
+#include <vector>
+
+#include "adapters/time/TimeZone.h"
+#include "host/backup/BackupFolder.h"
+#include "host/backup/Restore.h"
+#include "host/data/CountText.h"
+#include "host/history/History.h"
+#include "host/history/Setting.h"
+#include "host/import/ImportSettings.h"
+#include "host/import/ImportedFile.h"
+#include "host/import/PlanImport.h"
+#include "mivo/platform/UUIDGenerator.h"
+
+namespace mivo::host {
+
+/// What a person answers where files do not say it themselves.
+struct ImportAnswers {
+  std::optional<WeightUnit> weightUnit = {};
+  std::optional<DateOrder> dateOrder = {};
+  bool operator==(const ImportAnswers&) const = default;
+};
+
+/// What is taken out into a file of its own: all of it as a snapshot, or a table.
+enum class ExportedPart { everything, fasts, weights };
+
+/// A backup as it is listed.
+struct ListedBackup {
+  Backup backup;
+  std::optional<RecordCounts> counts = {};  ///< nothing while it is not read
+  std::optional<BadRecord> fault = {};      ///< why it cannot be read
+  bool operator==(const ListedBackup&) const = default;
+};
+
+/// The files around a history: those that are brought along, those that take it out, and its backups. Members read and
+/// write disks and are called from tasks; they throw std::system_error and DatabaseError, whose texts name the file.
+/// Thread: any.
+class DataFiles {
+ public:
+  struct Place {
+    std::filesystem::path database;
+    std::function<std::shared_ptr<const adapters::TimeZone>()> zone;  ///< of dates without an offset
+    std::function<std::vector<Setting>()> settings;                   ///< that snapshots carry
+    std::shared_ptr<const UUIDGenerator> ids;
+  };
+  using Read = tl::expected<std::vector<ImportedFile>, ImportFault>;
+
+  explicit DataFiles(Place where);
+
+  /// See `readImportFiles`; `progress` gets from 0 to 1 over all files.
+  Read read(const std::vector<std::string>& paths, const ImportAnswers& answers,
+            const std::function<void(double)>& progress, const std::stop_token& stop) const;
+  ImportPlan plan(const History& present, const std::vector<ImportedFile>& files) const;
+
+  /// The file is written whole or not at all; one that is there is replaced.
+  void write(ExportedPart part, const History& history, const std::filesystem::path& file) const;
+
+  const std::filesystem::path& backupFolder() const { return folder.path(); }
+  /// The newest first; their records are read and counted where that is asked for.
+  std::vector<ListedBackup> backups(bool areCounted) const;
+  std::optional<KeptBackup> backUp(const History& history, Date now) const;
+  /// The file's records take the place of all there are, or the fault of the file.
+  tl::expected<Restored, BadRecord> restore(const std::filesystem::path& file, Date now) const;
+
+ private:
+  Place place;
+  BackupFolder folder;
+};
+
+}  // namespace mivo::host

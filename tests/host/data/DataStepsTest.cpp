@@ -1,0 +1,356 @@
+// SPDX-License-Identifier: MIT
+// The data as a whole: what is brought along, taken out, backed up and brought back, with real files and a real
+// database.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <fstream>
+
+#include "adapters/system/LocalUUIDGenerator.h"
+#include "host/database/DatabaseHistory.h"
+#include "host/pages/BackupsPage.h"
+#include "host/pages/ExportSheet.h"
+#include "host/pages/ImportSheet.h"
+#include "host/pages/Message.h"
+#include "tests/pages/Pages.h"
+#include "tests/statistics/StatisticsWorld.h"
+#include "tests/support/FullDisk.h"
+#include "tests/support/TemporaryFolder.h"
+
+namespace mivo::host {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::SizeIs;
+using tests::utc;
+using Action = AppFeature::Action;
+using Import = ImportFeature::Action;
+using Backups = BackupsFeature::Action;
+
+class DataSteps : public tests::StatisticsTest {
+ protected:
+  void settle() {
+    do {
+      world.tasks->runAll();
+      world.queue->runAll();
+    } while (world.tasks->count() > 0);
+  }
+
+  void send(Action action) {
+    app.send(std::move(action));
+    settle();
+  }
+  void sendImport(Import action) { send(Action::importing{PresentationAction<Import>::presented{std::move(action)}}); }
+  void sendBackups(Backups action) { send(Action::backups{std::move(action)}); }
+
+  std::string made(const std::string& name, const std::string& content) const {
+    std::ofstream{folder.file(name), std::ios::binary} << content;
+    return folder.file(name);
+  }
+  void choose(const std::vector<std::string>& paths) { send(Action::didChooseFiles{paths}); }
+
+  ImportSheet sheet() const { return composeImportSheet(state(), pages.at(world.clock->now())); }
+  BackupsPage backupsPage() const {
+    return composeBackupsPage(state().backups, data->backupFolder(), pages.at(world.clock->now()));
+  }
+  Message message() const { return composeMessage(state(), pages.texts, pages.numbers); }
+  History onDisk() const { return Database{file}.history(); }
+  const AppFeature::State& state() const { return app.state(); }
+
+  tests::TemporaryFolder folder;
+  std::filesystem::path file = folder.path / "mivo.sqlite";
+  std::shared_ptr<const DatabaseHistory> history = std::make_shared<DatabaseHistory>(Database{file});
+  std::shared_ptr<const DataFiles> data = std::make_shared<DataFiles>(
+      DataFiles::Place{.database = file,
+                       .zone = [] { return adapters::TimeZone::load("UTC").value(); },
+                       .settings = [] { return std::vector<Setting>{{"weightUnit", std::string{"kg"}}}; },
+                       .ids = std::make_shared<adapters::LocalUUIDGenerator>()});
+  tests::Pages pages;
+  Store<AppFeature> app{AppFeature::State::make(TimeRange::week), AppFeature{.history = history, .files = data},
+                        world.queue, world.tasks};
+};
+
+const std::string twoFasts = "start,end\n2026-02-25T20:00Z,2026-02-26T12:00Z\n2026-02-26T20:00Z,2026-02-27T12:00Z\n";
+
+struct PreviewRow {
+  const char* name;
+  std::vector<std::pair<std::string, std::string>> files;  // names and contents
+  std::string text, fault = {};
+  std::vector<std::string> answers = {};
+  std::vector<std::string> rows = {}, refused = {};
+  std::string button = {};
+};
+void PrintTo(const PreviewRow& row, std::ostream* out) { *out << row.name; }
+class Previews : public DataSteps, public testing::WithParamInterface<PreviewRow> {};
+
+TEST_P(Previews, sayWhatTheFilesHoldBeforeAnythingIsWritten) {
+  std::vector<std::string> paths;
+  for (const auto& [name, content] : GetParam().files) paths.push_back(made(name, content));
+  choose(paths);
+  const ImportSheet shown = sheet();
+  EXPECT_EQ(openScreen(state()), Screen::importing);
+  EXPECT_EQ(shown.text, GetParam().text);
+  EXPECT_EQ(shown.fault, GetParam().fault);
+  EXPECT_EQ(shown.answers, GetParam().answers);
+  std::vector<std::string> rows, refused;
+  for (const ImportFileRow& row : shown.files) rows.push_back(row.spoken);
+  for (const RefusedRow& row : shown.refused) refused.push_back(row.spoken);
+  EXPECT_EQ(rows, GetParam().rows);
+  EXPECT_EQ(refused, GetParam().refused);
+  EXPECT_EQ(shown.button, GetParam().button);
+  EXPECT_EQ(onDisk(), History{});
+}
+
+const std::string undoable = "What is there already stays as it is. You can undo this.";
+
+INSTANTIATE_TEST_SUITE_P(
+    Rows, Previews,
+    testing::Values(
+        PreviewRow{.name = "twoFilesOfWhichOneIsThere",
+                   .files = {{"a.csv", twoFasts}, {"b.csv", twoFasts}},
+                   .text = undoable,
+                   .rows = {"a.csv, 2 new fasts", "b.csv, 2 there already"},
+                   .button = "Import 2 fasts"},
+        PreviewRow{
+            .name = "refusedRows",
+            .files = {{"a.csv", twoFasts + "2026-02-27T20:00Z,soon\n"}, {"w.csv", "date,weight\n2026-02-25,80 kg\n"}},
+            .text = undoable,
+            .rows = {"a.csv, 2 new fasts, 1 refused", "w.csv, 1 new weight"},
+            .refused = {"a.csv, line 4, end: expected a date and time of the years 1 to 9999, as in "
+                        "2026-03-01T12:00:00Z, found \"soon\""},
+            .button = "Import 2 fasts, 1 weight"},
+        PreviewRow{
+            .name = "nothingInIt",
+            .files = {{"a.csv", "start,end\n"}},
+            .text = "There is nothing new in it.",
+            .rows = {"a.csv, Nothing to import, It was read as a table of fasts, and no row below its header has "
+                     "one."}},
+        PreviewRow{.name = "dayOrMonthFirst",
+                   .files = {{"a.csv", "start,end\n02/03/2026 20:00,03/03/2026 12:00\n"}},
+                   .text = "a.csv has dates that can be read in two ways. Which comes first in them?",
+                   .answers = {"The day, as in 31.12.", "The month, as in 12/31"}},
+        PreviewRow{.name = "whichUnit",
+                   .files = {{"w.csv", "date,weight\n2026-02-25,80\n"}},
+                   .text = "w.csv does not say in which unit its weights are.",
+                   .answers = {"Kilograms", "Pounds", "Stones"}},
+        PreviewRow{.name = "noFileOfThese",
+                   .files = {{"a.csv", twoFasts}, {"p.png", "\x89PNG\r\n"}},
+                   .text = "",
+                   .fault = "p.png: expected a backup or database of the app, a table or list of fasts with a start "
+                            "and an end, one of "
+                            "weights with a date and a weight, or a health export, found \"\\x89PNG\""}),
+    [](const auto& row) { return std::string{row.param.name}; });
+
+TEST_F(DataSteps, importAllFilesAsOneChangeThatIsUndoneAsOne) {
+  const std::vector<std::string> paths{made("a.csv", twoFasts),
+                                       made("w.csv", "date,weight_kg\n2026-02-25T07:00Z,80\n")};
+  choose(paths);
+  sendImport(Import::didTapImport{});
+  EXPECT_FALSE(state().importing);
+  EXPECT_EQ(openScreen(state()), Screen::settings);
+  EXPECT_THAT(onDisk().fasts, SizeIs(2));
+  EXPECT_EQ(onDisk().fasts, state().fasts->elements());
+  EXPECT_EQ(onDisk().weights, state().weights->elements());
+  EXPECT_EQ(state().statistics.stats.totalFasts, 2);
+  EXPECT_EQ(message(), (Message{"Imported: 2 fasts, 1 weight", "Undo", false, 6}));
+
+  choose(paths);
+  EXPECT_EQ(sheet().text, "There is nothing new in it.");
+  EXPECT_EQ(sheet().button, "");
+  send(Action::didGoBack{});
+  send(Action::didTapMessage{});
+  EXPECT_EQ(onDisk(), History{});
+  EXPECT_THAT(*state().fasts, IsEmpty());
+}
+
+TEST_F(DataSteps, readAnewWithTheAnswerToWhatTheFileDoesNotSay) {
+  choose({made("a.csv", "start,end\n02/03/2026 20:00,03/03/2026 12:00\n"),
+          made("w.csv", "date,weight\n2026-02-25,180\n")});
+  sendImport(Import::didAnswer{9});
+  EXPECT_THAT(sheet().answers, SizeIs(2)) << "it is no answer";
+  sendImport(Import::didAnswer{0});
+  EXPECT_THAT(sheet().answers, SizeIs(3)) << "the other file asks too";
+  sendImport(Import::didAnswer{1});
+  sendImport(Import::didTapImport{});
+  ASSERT_THAT(onDisk().fasts, SizeIs(1));
+  EXPECT_EQ(tests::text(onDisk().fasts[0].fast.start), "2026-03-02 20:00:00");
+  EXPECT_NEAR(onDisk().weights.at(0).weightInKg, 81.6, 0.1);
+}
+
+TEST_F(DataSteps, writeWhatIsStillNewWhereAnotherProgramWasQuicker) {
+  const std::string path = made("a.csv", twoFasts);
+  choose({path});
+  const auto quicker = data->plan({}, data->read({path}, {}, [](double) {}, {}).value());
+  Database{file}.apply(quicker.change);
+  sendImport(Import::didTapImport{});
+  EXPECT_THAT(onDisk().fasts, SizeIs(2));
+  EXPECT_EQ(message().text, "All of it is there already.");
+  EXPECT_EQ(*state().undo, std::nullopt);
+}
+
+TEST_F(DataSteps, dropWhatWasReadOnceTheSheetIsClosedOrOtherFilesAreChosen) {
+  app.send(Action::didChooseFiles{{made("a.csv", twoFasts)}});
+  app.send(Action::didGoBack{});
+  settle();
+  EXPECT_FALSE(state().importing);
+  app.send(Action::didChooseFiles{{made("a.csv", twoFasts)}});
+  app.send(Action::didChooseFiles{{made("w.csv", "date,weight_kg\n2026-02-25T07:00Z,80\n")}});
+  settle();
+  EXPECT_EQ(sheet().button, "Import 1 weight");
+}
+
+TEST_F(DataSteps, tellHowFarALargeFileIsRead) {
+  std::string large = "start,end\n";
+  send(Action::didOpen{Screen::settings});
+  for (int row = 0; row < 5000; ++row) large += "2026-02-25T20:00Z,2026-02-26T12:00Z\n";
+  app.send(Action::didChooseFiles{{made("a.csv", large)}});
+  EXPECT_EQ(sheet().progress, 0);
+  world.tasks->runAll();
+  world.queue->runOne();
+  EXPECT_GT(sheet().progress, 0);
+  EXPECT_LT(sheet().progress, 1);
+  settle();
+  EXPECT_LT(sheet().progress, 0) << "nothing is read any more";
+  EXPECT_THAT(sheet().files, SizeIs(1));
+}
+
+TEST_F(DataSteps, listFewRefusedRowsOfMany) {
+  std::string bad = "start,end\n";
+  for (int row = 0; row < 150; ++row) bad += "2026-02-25T20:00Z,soon\n";
+  choose({made("a.csv", bad)});
+  EXPECT_EQ(sheet().refusedTitle, "150 rows are refused");
+  EXPECT_THAT(sheet().refused, SizeIs(20));
+  EXPECT_EQ(sheet().moreRefused, "130 more were refused.");
+  EXPECT_EQ(sheet().button, "");
+}
+
+TEST_F(DataSteps, takeNoFilesWhileASheetIsOpenThatTheyWouldClose) {
+  const std::string path = made("a.csv", twoFasts);
+  send(Action::didOpen{Screen::addFast});
+  EXPECT_FALSE(sheet().takesFiles);
+  choose({path});
+  EXPECT_EQ(openScreen(state()), Screen::editFast);
+  send(Action::didOpen{Screen::about});
+  EXPECT_TRUE(sheet().takesFiles);
+  choose({});
+  EXPECT_EQ(openScreen(state()), Screen::about);
+  choose({path});
+  EXPECT_TRUE(sheet().takesFiles) << "others may be dropped on it";
+  app.send(Action::importing{PresentationAction<Import>::presented{Import::didTapImport{}}});
+  EXPECT_FALSE(sheet().takesFiles) << "it is being written";
+  EXPECT_TRUE(sheet().isBusy);
+}
+
+TEST_F(DataSteps, sayInThePreviewWhyNothingWasWritten) {
+  choose({made("a.csv", twoFasts)});
+  {
+    const tests::FullDisk full;
+    sendImport(Import::didTapImport{});
+  }
+  EXPECT_EQ(sheet().fault, "Nothing was saved: the disk is full. Make room and try again.");
+  EXPECT_EQ(sheet().button, "Import 2 fasts") << "to be tried again";
+}
+
+TEST_F(DataSteps, takeOutWhatComesBackAsEqual) {
+  choose({made("a.csv", twoFasts), made("w.csv", "date,weight_kg\n2026-02-25T07:00Z,80.1\n")});
+  sendImport(Import::didTapImport{});
+  const ExportSheet exported = composeExportSheet(pages.at(utc("2026-03-01 12:00")));
+  const std::string sentences[] = {": 2 fasts, 1 weight", ": 2 fasts", ": 1 weight"};
+  ASSERT_THAT(exported.rows, SizeIs(3));
+  std::vector<std::string> names;
+  for (std::size_t row = 0; row < 3; ++row) {
+    const std::string path = folder.file(exported.rows[row].fileName);
+    send(Action::didOpen{Screen::exporting});
+    send(Action::didExport{exportedPartAt(row), path});
+    EXPECT_EQ(openScreen(state()), Screen::settings);
+    EXPECT_EQ(message().text, "Exported to " + path + sentences[row]);
+    send(Action::didTapMessage{});
+    names.push_back(exported.rows[row].fileName);
+    choose({path});
+    EXPECT_EQ(sheet().text, "There is nothing new in it.");
+    EXPECT_NE(sheet().files.at(0).summary, "Nothing to import");
+  }
+  EXPECT_THAT(names, ElementsAre("mivo-2026-03-01.json", "mivo-fasts-2026-03-01.csv", "mivo-weights-2026-03-01.csv"));
+  send(Action::didExport{ExportedPart::fasts, folder.file("no/such/folder.csv")});
+  EXPECT_THAT(message().text, testing::HasSubstr("no/such/folder.csv"));
+}
+
+class BackupSteps : public DataSteps {
+ protected:
+  BackupSteps() {
+    for (std::uint64_t id = 1; id < 3; ++id) add(id);
+    send(Action::reload{});
+    send(Action::didOpen{Screen::backups});
+  }
+  void add(std::uint64_t id) const {
+    Database{file}.apply(
+        adding(BodyWeightSample{{1, id}, world.clock->now() - Duration{3600.0 * static_cast<double>(id)}, 80}));
+  }
+  std::vector<std::string> rows() const {
+    std::vector<std::string> all;
+    for (const BackupRow& row : backupsPage().rows) all.push_back(row.spoken);
+    return all;
+  }
+};
+
+TEST_F(BackupSteps, areMadeAtOnceAndListed) {
+  EXPECT_EQ(backupsPage().listTitle, "");
+  EXPECT_EQ(newestBackupText(state().backups, pages.at(world.clock->now())), "None");
+  sendBackups(Backups::didTapBackUp{});
+  EXPECT_EQ(message().text, "The backup is made.");
+  sendBackups(Backups::didTapBackUp{});
+  EXPECT_EQ(message().text, "Nothing has changed since the newest backup.");
+  std::ofstream{data->backupFolder() / "mivo-2026-06-01T030000Z.json"} << "{";
+  send(Action::didOpen{Screen::statistics});
+  send(Action::didOpen{Screen::settings});
+  EXPECT_THAT(rows(), ElementsAre("Today, 12:00, 0 fasts, 2 weights", "06-01 03:00")) << "of a new one only the date";
+  send(Action::didOpen{Screen::backups});
+  EXPECT_THAT(rows(), ElementsAre("Today, 12:00, 0 fasts, 2 weights", "06-01 03:00, Cannot be read"));
+  EXPECT_EQ(newestBackupText(state().backups, pages.at(world.clock->now())), "Today, 12:00");
+  sendBackups(Backups::didChoose{1});
+  EXPECT_EQ(openScreen(state()), Screen::backups) << "one that cannot be read cannot be gone back to";
+}
+
+TEST_F(BackupSteps, areGoneBackToAndUndone) {
+  const History before = onDisk();
+  sendBackups(Backups::didTapBackUp{});
+  add(7);
+  send(Action::reload{});
+  const History after = onDisk();
+  world.clock->date = world.clock->now() + Duration{60};
+  sendBackups(Backups::didChoose{0});
+  const RestoreSheet shown = composeRestoreSheet(state(), pages.at(world.clock->now()));
+  EXPECT_EQ(openScreen(state()), Screen::restoring);
+  EXPECT_EQ(shown.present, "0 fasts, 3 weights");
+  EXPECT_EQ(shown.backup, "0 fasts, 2 weights");
+  EXPECT_EQ(onDisk(), after) << "asked, not done";
+
+  sendBackups(Backups::didTapRestore{});
+  EXPECT_EQ(openScreen(state()), Screen::backups);
+  EXPECT_EQ(onDisk(), before);
+  EXPECT_EQ(state().weights->elements(), before.weights);
+  EXPECT_THAT(rows(), ElementsAre("Today, 12:01, 0 fasts, 3 weights", "Today, 12:00, 0 fasts, 2 weights"));
+  EXPECT_EQ(message(), (Message{"Backup restored", "Undo", false, 6}));
+  send(Action::didTapMessage{});
+  EXPECT_EQ(onDisk(), after);
+  EXPECT_EQ(state().weights->elements(), after.weights);
+}
+
+TEST_F(BackupSteps, changeNothingWhereTheyHoldTheSameOrCannotBeRead) {
+  sendBackups(Backups::didTapBackUp{});
+  sendBackups(Backups::didChoose{0});
+  sendBackups(Backups::didTapRestore{});
+  EXPECT_EQ(message().text, "Your records are those of this backup already.");
+  EXPECT_EQ(*state().undo, std::nullopt);
+  sendBackups(Backups::didChoose{0});
+  const History before = onDisk();
+  std::ofstream{(*state().backups.chosen)->backup.file} << "{";
+  sendBackups(Backups::didTapRestore{});
+  EXPECT_NE(composeRestoreSheet(state(), pages.at(world.clock->now())).fault, "");
+  EXPECT_EQ(openScreen(state()), Screen::restoring);
+  EXPECT_EQ(onDisk(), before);
+}
+
+}  // namespace
+}  // namespace mivo::host
