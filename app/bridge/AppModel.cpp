@@ -38,8 +38,9 @@ AppModel::AppModel(AppServices given)
       dependencies{*services.dependencies},
       texts{*dependencies.texts},
       clients{[present = services.dependencies] { return pageClients(*present, present->date->now()); }},
-      store{State::make(TimeRange::week, services.usualWeightUnit), host::AppFeature{.history = services.history},
-            dependencies.mainQueue, dependencies.taskRunner},
+      store{State::make(TimeRange::week, services.usualWeightUnit),
+            host::AppFeature{.history = services.history, .files = services.files}, dependencies.mainQueue,
+            dependencies.taskRunner},
       fastingBars{store.state().statistics.stats.fastingChartState, barClients(dependencies),
                   [this](DayBarsModel::Action action) { sendStatistics(Sent::fastingChartAction{std::move(action)}); }},
       eatingBars{store.state().statistics.stats.eatingChartState, barClients(dependencies),
@@ -61,7 +62,10 @@ AppModel::AppModel(AppServices given)
                      *services.appearance,
                      services.about,
                      [this] { send(Action::didChangeSettings{}); },
-                     [this] { keepReminding(); }} {
+                     [this] { keepReminding(); }},
+      importSheet{clients, [this](Action action) { send(std::move(action)); }},
+      exportSheet{clients, [this](Action action) { send(std::move(action)); }},
+      allBackups{clients, services.files->backupFolder(), [this](Action action) { send(std::move(action)); }} {
   feedbackTexts.show(composeFeedback(texts));
   following = store.observe([this](const State& state) { follow(state); });
   load();
@@ -163,7 +167,9 @@ void AppModel::followPages(const State& state) {
   allWeights.follow(state);
   runningFast.follow(state);
   overlapRepair.follow(state.overlapRepair);
-  chosenSettings.follow(statistics);
+  chosenSettings.follow(state);
+  importSheet.follow(state);
+  allBackups.follow(state);
   goalWeight.show(composeGoalWeightSheet(statistics.goalWeightCardState, texts, *dependencies.numberFormatter,
                                          *dependencies.massFormatter));
   said.show(host::composeMessage(state, texts, *dependencies.numberFormatter));
@@ -189,6 +195,8 @@ void AppModel::followScreens(const State& state) {
     features = std::make_unique<RoadmapModel>(dependencies);
     Q_EMIT roadmapChanged();
   }
+  importSheet.follow(state);
+  exportSheet.follow(state);
   openScreens.show(composeOpenScreens(state));
 }
 

@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "app/bridge/AddWeightModel.h"
+#include "app/bridge/DataModels.h"
 #include "app/bridge/DayBarsModel.h"
 #include "app/bridge/DonationsModel.h"
 #include "app/bridge/FastingModel.h"
@@ -35,6 +36,7 @@ namespace mivo::app {
 struct AppServices {
   std::shared_ptr<const Dependencies> dependencies;  ///< also in force where the model is made
   Client<host::HistoryClient> history;
+  Client<host::DataFiles> files;
   std::shared_ptr<const host::Tips> tips;
   WeightUnit usualWeightUnit = WeightUnit::kilograms;  ///< in the user's locale
   std::string feedbackAddress = {};                    ///< of mail; none where nobody reads any
@@ -65,6 +67,9 @@ class AppModel : public QObject {
   Q_PROPERTY(mivo::app::DonationsModel* donations READ donations CONSTANT)
   Q_PROPERTY(mivo::app::RepairModel* repair READ repair CONSTANT)
   Q_PROPERTY(mivo::app::SettingsModel* settings READ settings CONSTANT)
+  Q_PROPERTY(mivo::app::ImportModel* importing READ importing CONSTANT)
+  Q_PROPERTY(mivo::app::ExportModel* exporting READ exporting CONSTANT)
+  Q_PROPERTY(mivo::app::BackupsModel* backups READ backups CONSTANT)
   /// Only while the roadmap is shown.
   Q_PROPERTY(mivo::app::RoadmapModel* roadmap READ roadmap NOTIFY roadmapChanged)
   Q_PROPERTY(mivo::app::OpenScreensRecord* screens READ screens CONSTANT)
@@ -94,6 +99,9 @@ class AppModel : public QObject {
   DonationsModel* donations() { return &donationSheet; }
   RepairModel* repair() { return &overlapRepair; }
   SettingsModel* settings() { return &chosenSettings; }
+  ImportModel* importing() { return &importSheet; }
+  ExportModel* exporting() { return &exportSheet; }
+  BackupsModel* backups() { return &allBackups; }
   RoadmapModel* roadmap() { return features.get(); }
   GoalWeightSheetRecord* goalSheet() { return &goalWeight; }
   FeedbackSheetRecord* feedback() { return &feedbackTexts; }
@@ -168,6 +176,9 @@ class AppModel : public QObject {
   DonationsModel donationSheet;
   RepairModel overlapRepair;
   SettingsModel chosenSettings;
+  ImportModel importSheet;
+  ExportModel exportSheet;
+  BackupsModel allBackups;
   GoalWeightSheetRecord goalWeight;
   FeedbackSheetRecord feedbackTexts;
   MessageRecord said;

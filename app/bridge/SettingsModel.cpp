@@ -57,10 +57,11 @@ SettingsModel::SettingsModel(std::function<PageClients()> present, const Depende
   connect(&look, &Appearance::changed, this, &SettingsModel::compose);
 }
 
-void SettingsModel::follow(const StatisticsFeature::State& state) {
-  shownCards.follow(state, clients());
+void SettingsModel::follow(const host::AppFeature::State& state) {
+  shownCards.follow(state.statistics, clients());
   shownReminders.follow();
-  facts.weightUnit = state.goalWeightCardState.weightUnit;
+  facts.weightUnit = state.statistics.goalWeightCardState.weightUnit;
+  facts.newestBackup = newestBackupText(state.backups, clients());
   compose();
 }
 

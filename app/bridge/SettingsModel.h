@@ -63,7 +63,7 @@ class SettingsModel : public mivo::app::SettingsPageRecord {
                 std::shared_ptr<host::WeekCalendar> calendar, Appearance& look, const host::AboutFacts& about,
                 std::function<void()> changed, std::function<void()> remindersChanged);
 
-  void follow(const StatisticsFeature::State& state);
+  void follow(const host::AppFeature::State& state);
 
   CardSettingsModel* cards() { return &shownCards; }
   RemindersModel* reminders() { return &shownReminders; }

@@ -6,13 +6,16 @@
 #include <string>
 
 #include "host/pages/AboutPage.h"
+#include "host/pages/BackupsPage.h"
 #include "host/pages/CardSettingsPage.h"
 #include "host/pages/ControlWords.h"
 #include "host/pages/DateTimeChoice.h"
+#include "host/pages/ExportSheet.h"
 #include "host/pages/FastSheet.h"
 #include "host/pages/FastingPage.h"
 #include "host/pages/GoalChoice.h"
 #include "host/pages/HistoryPage.h"
+#include "host/pages/ImportSheet.h"
 #include "host/pages/Message.h"
 #include "host/pages/OpenScreens.h"
 #include "host/pages/RemindersPage.h"
@@ -44,10 +47,10 @@ using ValueRecords = RecordList<SummaryFigure, BadgeFigure, TrendCard, BadgeItem
 using ObjectRecords =
     RecordList<NoticeCard, SummaryCard, GoalWeightCard, BadgesCard, TimeRangeCard, DayBarsCard, WeightChartCard,
                WeightFastingChartCard, TrendsCard, AddWeightForm, GoalWeightSheet, BadgesPage, DonationsPage,
-               RoadmapPage, FeedbackSheet, host::AboutPage, host::CardSettingsPage, host::ControlWords,
-               host::DateTimeChoice, host::FastSheet, host::FastingPage, host::GoalChoice, host::HistoryPage,
-               host::Message, host::OpenScreens, host::RemindersPage, host::RepairSheet, host::SettingsPage,
-               host::WeightsPage>;
+               RoadmapPage, FeedbackSheet, host::AboutPage, host::BackupsPage, host::CardSettingsPage,
+               host::ControlWords, host::DateTimeChoice, host::ExportSheet, host::FastSheet, host::FastingPage,
+               host::GoalChoice, host::HistoryPage, host::ImportSheet, host::Message, host::OpenScreens,
+               host::RemindersPage, host::RepairSheet, host::RestoreSheet, host::SettingsPage, host::WeightsPage>;
 
 template <class Candidate, class List>
 inline constexpr bool isIn = false;

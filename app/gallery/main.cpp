@@ -4,6 +4,7 @@
 #include <QtCore/QAnimationDriver>
 #include <QtCore/QDeadlineTimer>
 #include <QtCore/QDir>
+#include <QtCore/QUrl>
 #include <QtGui/QGuiApplication>
 #include <QtQml/QQmlEngine>
 #include <QtQml/QQmlIncubationController>
@@ -161,7 +162,7 @@ bool isMeasured(const Look& look, const Language& language) {
 
 // What these show is answered by another thread or a server.
 bool isAnsweredLater(host::Screen screen) {
-  return screen == host::Screen::roadmap || screen == host::Screen::donations;
+  return screen == host::Screen::roadmap || screen == host::Screen::donations || screen == host::Screen::backups;
 }
 
 /// Each size and look that a window is to be seen in.
@@ -190,6 +191,10 @@ void drawScreens(AppWindow& app, Gallery& gallery, const Language& language, con
       const QString name = nameOf(screen, size, shown, language, history.name);
       if (!isWanted(name, gallery.wanted)) continue;
       window.resize(size.size);
+      if (wanted == host::Screen::restoring) {  // of one that is listed
+        app.model().present(QStringLiteral("backups"));
+        settle(window, 40);
+      }
       app.model().present(QString::fromStdString(screen));
       awaitRoadmap(app.model());
       if (isAnsweredLater(wanted)) settle(window, 40);
@@ -203,14 +208,50 @@ void drawFault(Gallery& gallery, const Language& language) {
   const std::string sentence =
       filledIn(dependency(&Dependencies::texts)->text("{1} cannot be used: {2}"),
                {"/home/alexandra/.local/share/mivo/mivo.sqlite", "unable to open database file"});
-  FaultWindow fault{sentence, [&] { return sentence; }};
+  FaultWindow fault{{sentence}, {}};
   if (!fault.window()) throw std::runtime_error{"the window could not be made"};
   inEachLook(gallery.wanted, language, [&](const Size& size, const Look& shown) {
-    const QString name = nameOf("fault", size, shown, language, "none");
-    if (!isWanted(name, gallery.wanted)) return;
-    fault.appearance().setOverride({.mode = shown.mode, .textScale = shown.textScale, .still = true});
-    fault.window()->resize(size.size);
-    drawAndMeasure(*fault.window(), name, false, gallery);
+    for (const bool isDamaged : {false, true}) {
+      const QString name = nameOf(isDamaged ? "fault-damaged" : "fault", size, shown, language, "none");
+      if (!isWanted(name, gallery.wanted)) continue;
+      fault.appearance().setOverride({.mode = shown.mode, .textScale = shown.textScale, .still = true});
+      fault.window()->setProperty("isDamaged", isDamaged);
+      fault.window()->resize(size.size);
+      drawAndMeasure(*fault.window(), name, false, gallery);
+    }
+  });
+}
+
+struct BroughtFile {
+  const char *name, *fileName, *content;
+};
+constexpr std::array<BroughtFile, 3> broughtFiles{
+    {{"import-preview", "fasts of the last two years, from another app.csv",
+      "start,end,mood\n2025-02-25T20:00Z,2025-02-26T12:00Z,fine\n2025-02-26T20:00Z,soon,\n"
+      "2025-02-27T20:00Z,2025-02-27T12:00Z,\n2025-02-28T20:00Z,2025-03-01T12:00Z,tired\n"},
+     {"import-question", "fasts.csv", "start,end\n02/03/2025 20:00,03/03/2025 12:00\n"},
+     {"import-fault", "photo.png", "\x89PNG\r\n"}}};
+
+/// What files would bring, in each state of that sheet.
+void drawImports(AppWindow& app, Gallery& gallery, const Language& language, const History& history,
+                 const QDir& scratch) {
+  QQuickWindow& window = *app.window();
+  ImportModel& sheet = *app.model().importing();
+  inEachLook(gallery.wanted, language, [&](const Size& size, const Look& shown) {
+    app.appearance().setOverride({.mode = shown.mode, .textScale = shown.textScale, .still = true});
+    for (const auto& [kind, fileName, content] : broughtFiles) {
+      const QString name = nameOf(kind, size, shown, language, history.name);
+      if (!isWanted(name, gallery.wanted)) continue;
+      const QString path = scratch.filePath(QString::fromLatin1(fileName));
+      std::ofstream{path.toStdString(), std::ios::binary} << content;
+      window.resize(size.size);
+      app.model().present({});
+      sheet.choose({QUrl::fromLocalFile(path)});
+      const QDeadlineTimer deadline{5000};
+      while (sheet.property("progress").toDouble() >= 0 && !deadline.hasExpired())
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
+      drawAndMeasure(window, name, false, gallery);
+    }
   });
 }
 
@@ -233,10 +274,13 @@ int drawAll(Gallery gallery) {
       const DependencyScope scope{environment->dependencies};
       QGuiApplication::setLayoutDirection(language.mirrored ? Qt::RightToLeft : Qt::LeftToRight);
       if (&history == &histories[0]) drawFault(gallery, language);
+      if (&history != &histories[0])
+        environment->files->backUp(environment->history->load(), environment->dependencies->date->now());
       AppWindow app{*environment, options, sizes[0].size};
       if (!app.window()) throw std::runtime_error{"the window could not be made"};
       settle(*app.window(), 40);
       drawScreens(app, gallery, language, history);
+      if (&history == &histories[1]) drawImports(app, gallery, language, history, scratch);
     }
   }
   scratch.removeRecursively();

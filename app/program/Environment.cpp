@@ -25,9 +25,12 @@
 #include "app/bridge/QtMainQueue.h"
 #include "app/program/OwnClock.h"
 #include "app/program/SystemZone.h"
-#include "host/database/FaultText.h"
+#include "host/app/CarriedSettings.h"
 #include "host/app/Settings.h"
+#include "host/backup/DamagedText.h"
+#include "host/data/DailyBackup.h"
 #include "host/database/DatabaseHistory.h"
+#include "host/database/FaultText.h"
 #include "host/donations/DonationList.h"
 #include "host/health/StoredHealthClient.h"
 #include "host/history/Snapshot.h"
@@ -65,12 +68,16 @@ bool isWrittenFromTheRight(const std::string& tag) {
 }
 
 // Settings are written on any thread, and before there is a window that could say what failed.
+void tell(const EventStream<std::string>& faults, const Dependencies& clients, std::string sentence) {
+  clients.mainQueue->post([faults, sentence = std::move(sentence)] { faults.send(sentence); });
+}
+
 auto tellingOf(EventStream<std::string> faults, std::weak_ptr<const Dependencies> clients) {
   return [faults = std::move(faults), clients = std::move(clients)](const fs::path& file, const std::error_code& why) {
     const auto alive = clients.lock();
     if (!alive || !alive->texts) return;
-    alive->mainQueue->post([faults, sentence = filledIn(alive->texts->text("Settings cannot be saved in {1}: {2}"),
-                                                        {file.string(), why.message()})] { faults.send(sentence); });
+    tell(faults, *alive,
+         filledIn(alive->texts->text("Settings cannot be saved in {1}: {2}"), {file.string(), why.message()}));
   };
 }
 
@@ -158,19 +165,97 @@ host::Database openToRead(const fs::path& file, const host::DatabaseError& fault
   }
 }
 
-host::Database open(const fs::path& file, const TextLookup& texts, std::string& notice) {
+bool hasBackups(const host::DataFiles& files) {
   try {
-    auto [database, setAside] = host::openOrSetAside(file);
-    if (setAside)
-      notice = filledIn(texts.text("Your history was damaged and was put aside as {1}. A new one was begun."),
-                        {setAside->string()});
-    return std::move(database);
+    return !files.backups(false).empty();
+  } catch (const std::system_error&) {
+    return false;
+  }
+}
+
+host::Database openSettingAside(const fs::path& file, const TextLookup& texts, std::string& notice) {
+  auto [database, setAside] = host::openOrSetAside(file);
+  if (setAside)
+    notice = filledIn(texts.text("Your history was damaged and was put aside as {1}. A new one was begun."),
+                      {setAside->string()});
+  return std::move(database);
+}
+
+// A damaged one stays as it is where there are backups to go on from.
+host::Database open(const Environment& environment, std::string& notice) {
+  const fs::path& file = environment.databaseFile;
+  const TextLookup& texts = *environment.dependencies->texts;
+  try {
+    return hasBackups(*environment.files) ? host::Database{file} : openSettingAside(file, texts, notice);
   } catch (const host::DatabaseError& fault) {
+    if (fault.kind == host::DatabaseError::Kind::damaged) throw;
     host::Database database = openToRead(file, fault);
     notice = filledIn(texts.text("You can look at your history, but nothing can be saved: {1} may not be written."),
                       {file.string()});
     return database;
   }
+}
+
+// The app's own settings go with its own history, and those of a sample with that.
+bool carriesSettings(const Environment& environment) {
+  return environment.sampleFolder || environment.databaseFile == host::ownDatabaseFile();
+}
+
+std::function<std::vector<host::Setting>()> settingsOf(const Environment& environment) {
+  if (!carriesSettings(environment)) return [] { return std::vector<host::Setting>{}; };
+  return [app = environment.dependencies->userDefaults, group = environment.dependencies->appGroupUserDefaults] {
+    return host::carriedSettings({*app, *group});
+  };
+}
+
+Client<host::DataFiles> filesAround(const Environment& environment) {
+  return std::make_shared<host::DataFiles>(
+      host::DataFiles::Place{.database = environment.databaseFile,
+                             .zone = [calendar = environment.calendar] { return calendar->present().zone(); },
+                             .settings = settingsOf(environment),
+                             .ids = environment.dependencies->uuid});
+}
+
+// Only the app's own is backed up by itself, as on the command line.
+Client<host::HistoryClient> clientOf(host::Database database, const Environment& environment) {
+  auto history = std::make_shared<host::DatabaseHistory>(std::move(database));
+  if (environment.sampleFolder || environment.databaseFile != host::ownDatabaseFile()) return history;
+  return std::make_shared<host::BackedUpHistory>(
+      std::move(history),
+      host::BackupSource{
+          .folder = host::BackupFolder{environment.files->backupFolder()},
+          .history =
+              [file = environment.databaseFile] {
+                return host::Database{file, host::Database::Access::readOnly}.history();
+              },
+          .settings = settingsOf(environment),
+          .now = [date = environment.dependencies->date] { return date->now(); },
+          .failed =
+              [faults = environment.faults, clients = environment.dependencies](const std::exception& why) {
+                tell(faults, *clients,
+                     filledIn(clients->texts->text("Today's backup could not be made: {1}"),
+                              {host::faultText(why, *clients->texts)}));
+              }});
+}
+
+// What stands against opening it.
+std::string noticeOf(const host::DatabaseError& error, const Environment& environment) {
+  const Dependencies& clients = *environment.dependencies;
+  if (!environment.isDamaged) return host::faultText(error, *clients.texts);
+  return damagedText(environment.databaseFile, host::BackupFolder{environment.files->backupFolder()}, *clients.texts,
+                     *clients.dateFormatter);
+}
+
+// Which of the backups can be read is seen only when it is.
+std::optional<host::Backup> restoreNewestReadable(const host::DataFiles& files, Date now, fs::path& setAside) {
+  for (const host::ListedBackup& listed : files.backups(true)) {
+    if (!listed.counts) continue;
+    const auto restored = files.restore(listed.backup.file, now);
+    if (!restored) continue;
+    setAside = restored->setAside.value_or(fs::path{});
+    return listed.backup;
+  }
+  return std::nullopt;
 }
 
 }  // namespace
@@ -209,7 +294,7 @@ tl::expected<Environment, std::string> makeEnvironment(const Options& options) {
     const auto clients = std::make_shared<Dependencies>();
     addSystem(*clients,
               environment.sampleFolder ? environment.sampleFolder->path() : adapters::configurationDirectory(),
-              tellingOf(environment.settingsFaults, clients));
+              tellingOf(environment.faults, clients));
     if (const auto added = addPlaceAndTime(environment, *clients, options); !added)
       return tl::unexpected{added.error()};
     addServers(*clients, options);
@@ -228,12 +313,44 @@ tl::expected<Environment, std::string> makeEnvironment(const Options& options) {
 }
 
 bool openHistory(Environment& environment, const Options& options) {
-  const TextLookup& texts = *environment.dependencies->texts;
   environment.notice.clear();
+  environment.isDamaged = false;
   environment.databaseFile = databaseFile(environment, options);
+  environment.files = filesAround(environment);
   try {
-    environment.history =
-        std::make_shared<host::DatabaseHistory>(open(environment.databaseFile, texts, environment.notice));
+    environment.history = clientOf(open(environment, environment.notice), environment);
+  } catch (const host::DatabaseError& error) {
+    environment.isDamaged = error.kind == host::DatabaseError::Kind::damaged;
+    environment.notice = noticeOf(error, environment);
+  }
+  return environment.history != nullptr;
+}
+
+bool restoreNewestBackup(Environment& environment, const Options& options) {
+  const Dependencies& clients = *environment.dependencies;
+  try {
+    fs::path setAside;
+    const auto backup = restoreNewestReadable(*environment.files, clients.date->now(), setAside);
+    if (!backup) {
+      environment.notice = clients.texts->text("None of the backups can be read.");
+      return false;
+    }
+    if (!openHistory(environment, options)) return false;
+    environment.notice =
+        filledIn(clients.texts->text("The backup of {1} is restored. The damaged file is kept as {2}."),
+                 {clients.dateFormatter->string(backup->date, "yMMMdjm").value_or(""), setAside.string()});
+  } catch (const std::exception& error) {
+    environment.notice = host::faultText(error, *clients.texts);
+  }
+  return environment.history != nullptr;
+}
+
+bool beginAnew(Environment& environment, const Options& options) {
+  const TextLookup& texts = *environment.dependencies->texts;
+  try {
+    std::string notice;
+    openSettingAside(environment.databaseFile, texts, notice);
+    if (openHistory(environment, options)) environment.notice = std::move(notice);
   } catch (const host::DatabaseError& error) {
     environment.notice = host::faultText(error, texts);
   }

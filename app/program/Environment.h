@@ -7,6 +7,7 @@
 #include <tl/expected.hpp>
 
 #include "app/program/Options.h"
+#include "host/data/DataFiles.h"
 #include "host/fasting/HistoryClient.h"
 #include "host/place/WeekCalendar.h"
 #include "host/tips/Tips.h"
@@ -45,9 +46,11 @@ struct Environment {
   std::shared_ptr<host::WeekCalendar> calendar;        ///< the one in the dependencies, to choose its weeks
   std::shared_ptr<SystemZone> systemZone;              ///< to be followed; none where the options name a zone
   Client<host::HistoryClient> history;                 ///< none where it could not be opened; `notice` then says why
+  Client<host::DataFiles> files;                       ///< around the history, opened or not
+  bool isDamaged = false;                              ///< it could not be opened for that, and there are backups
   WeightUnit usualWeightUnit = WeightUnit::kilograms;  ///< in the locale
   bool rightToLeft = false;                            ///< the language is written so
-  EventStream<std::string> settingsFaults;             ///< sentences for the user, on the main thread
+  EventStream<std::string> faults;                     ///< sentences for the user, on the main thread
   /// One sentence for the user about the history: a damaged one had to be put aside, one may only be read.
   std::string notice = {};
 };
@@ -57,5 +60,10 @@ tl::expected<Environment, std::string> makeEnvironment(const Options& options);
 
 /// Tries again where the history could not be opened. True where it is open now.
 bool openHistory(Environment& environment, const Options& options);
+
+/// The two ways on from a damaged history: its newest backup that can be read takes its place, or an empty one does.
+/// The damaged file is kept, and `notice` says where. True where the history is open now.
+bool restoreNewestBackup(Environment& environment, const Options& options);
+bool beginAnew(Environment& environment, const Options& options);
 
 }  // namespace mivo::app

@@ -112,6 +112,7 @@ AppWindow::AppWindow(const Environment& environment, const Options& options, QSi
       words{*environment.dependencies->texts},
       app{{.dependencies = environment.dependencies,
            .history = environment.history,
+           .files = environment.files,
            .tips = environment.tips,
            .usualWeightUnit = environment.usualWeightUnit,
            .feedbackAddress = options.feedback,
@@ -120,7 +121,7 @@ AppWindow::AppWindow(const Environment& environment, const Options& options, QSi
            .about = {MIVO_VERSION, environment.databaseFile.string(), host::exportCommand(environment.databaseFile)},
            .followZone = following(environment.systemZone),
            .keepReminding = keepingReminders(environment, options)}},
-      settingsFaults{environment.settingsFaults.subscribe([this](const std::string& fault) { app.say(fault); })} {
+      faults{environment.faults.subscribe([this](const std::string& fault) { app.say(fault); })} {
   look.setOverride({.mode = modeOf(options), .textScale = options.textScale, .still = !options.picture.empty()});
   app.say(environment.notice);
   app.appear();
@@ -162,26 +163,30 @@ QQuickWindow* AppWindow::window() const {
   return engine.rootObjects().isEmpty() ? nullptr : qobject_cast<QQuickWindow*>(engine.rootObjects().constFirst());
 }
 
-FaultWindow::FaultWindow(const std::string& sentence, std::function<std::string()> tryAgain)
+FaultWindow::FaultWindow(const Obstacle& obstacle, Attempts ways)
     : look{dependency(&Dependencies::userDefaults)},
       words{*dependency(&Dependencies::texts)},
-      attempt{std::move(tryAgain)} {
+      attempts{std::move(ways)} {
   giveModel(engine, look);
   giveModel(engine, words);
   engine.addImportPath(QStringLiteral("qrc:/"));
-  engine.setInitialProperties({{QStringLiteral("sentence"), QString::fromStdString(sentence)}});
+  engine.setInitialProperties({{QStringLiteral("sentence"), QString::fromStdString(obstacle.sentence)},
+                               {QStringLiteral("isDamaged"), obstacle.isDamaged}});
   engine.load(QUrl{QStringLiteral("qrc:/Mivo/FaultWindow.qml")});
-  if (window()) QObject::connect(window(), SIGNAL(againWanted()), this, SLOT(tryAgain()));
+  if (!window()) return;
+  QObject::connect(window(), SIGNAL(againWanted()), this, SLOT(tryAgain()));
+  QObject::connect(window(), SIGNAL(backupWanted()), this, SLOT(restore()));
+  QObject::connect(window(), SIGNAL(newWanted()), this, SLOT(beginAnew()));
 }
 
 QQuickWindow* FaultWindow::window() const {
   return engine.rootObjects().isEmpty() ? nullptr : qobject_cast<QQuickWindow*>(engine.rootObjects().constFirst());
 }
 
-void FaultWindow::tryAgain() {
-  const std::string sentence = attempt();
-  if (sentence.empty()) return void(window()->close());
-  window()->setProperty("sentence", QString::fromStdString(sentence));
+void FaultWindow::show(const Obstacle& obstacle) {
+  if (obstacle.sentence.empty()) return void(window()->close());
+  window()->setProperty("sentence", QString::fromStdString(obstacle.sentence));
+  window()->setProperty("isDamaged", obstacle.isDamaged);
 }
 
 std::optional<std::string> drawInto(AppWindow& shown, const Options& options) {

@@ -52,29 +52,41 @@ class AppWindow {
   Appearance look;
   Words words;
   AppModel app;
-  Subscription settingsFaults;
+  Subscription faults;
   QQmlApplicationEngine engine;
   std::optional<EndsWithWindow> end;
 };
 
-/// Says why the app cannot start, and lets the user try again until it can or they close the window. Made where
-/// dependencies are in force.
+/// What stands in the way of the app.
+struct Obstacle {
+  std::string sentence;    ///< nothing where nothing stands in the way any more
+  bool isDamaged = false;  ///< the history is, and a backup can take its place
+};
+
+/// Says why the app cannot start, and lets the user try again, or go on from a backup or with a new history where it is
+/// damaged, until it can start or they close the window. Made where dependencies are in force.
 class FaultWindow : public QObject {
   Q_OBJECT
 
  public:
-  /// `tryAgain` answers what still stands in the way, or nothing.
-  FaultWindow(const std::string& sentence, std::function<std::string()> tryAgain);
+  /// Each answers what still stands in the way.
+  struct Attempts {
+    std::function<Obstacle()> again = {}, restore = {}, beginAnew = {};
+  };
+  FaultWindow(const Obstacle& obstacle, Attempts attempts);
 
   QQuickWindow* window() const;
   Appearance& appearance() { return look; }
 
  private:
-  Q_SLOT void tryAgain();
+  Q_SLOT void tryAgain() { show(attempts.again()); }
+  Q_SLOT void restore() { show(attempts.restore()); }
+  Q_SLOT void beginAnew() { show(attempts.beginAnew()); }
+  void show(const Obstacle& obstacle);
 
   Appearance look;
   Words words;
-  std::function<std::string()> attempt;
+  Attempts attempts;
   QQmlApplicationEngine engine;
 };
 

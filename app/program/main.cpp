@@ -32,7 +32,13 @@ int refused(int status, const std::string& sentence) {
 
 // Until the history is open, or the user gives up.
 bool askUntilOpen(Environment& environment, const Options& options) {
-  FaultWindow shown{environment.notice, [&] { return openHistory(environment, options) ? "" : environment.notice; }};
+  const auto attempt = [&](bool (*open)(Environment&, const Options&)) {
+    return [&environment, &options, open] {
+      return open(environment, options) ? Obstacle{} : Obstacle{environment.notice, environment.isDamaged};
+    };
+  };
+  FaultWindow shown{{environment.notice, environment.isDamaged},
+                    {attempt(openHistory), attempt(restoreNewestBackup), attempt(beginAnew)}};
   if (shown.window()) QGuiApplication::exec();
   return environment.history != nullptr;
 }

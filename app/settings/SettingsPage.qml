@@ -129,6 +129,31 @@ FocusScope {
 
                 ListGroup {
                     width: parent.width
+                    title: App.settings.data
+                    note: App.settings.dataNote
+
+                    ValueRow {
+                        iconName: "inbox"
+                        text: App.settings.importLabel
+                        onClicked: App.present("import")
+                    }
+
+                    ValueRow {
+                        iconName: "outbox"
+                        text: App.settings.exportLabel
+                        onClicked: App.present("export")
+                    }
+
+                    ValueRow {
+                        iconName: "safe"
+                        text: App.settings.backupsLabel
+                        value: App.settings.newestBackup
+                        onClicked: App.present("backups")
+                    }
+                }
+
+                ListGroup {
+                    width: parent.width
 
                     ValueRow {
                         iconName: "info"

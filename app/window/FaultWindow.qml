@@ -8,8 +8,12 @@ Window {
     id: root
 
     required property string sentence
+    /// A backup can take the place of the history, or an empty one.
+    property bool isDamaged: false
 
     signal againWanted
+    signal backupWanted
+    signal newWanted
 
     width: 390
     height: 520
@@ -50,10 +54,36 @@ Window {
                 Accessible.name: text
             }
 
+            StyledText {
+                visible: root.isDamaged
+                width: parent.width
+                text: Words.damagedIsKept
+                color: Theme.inkSecondary
+                Accessible.role: Accessible.StaticText
+                Accessible.name: text
+            }
+
+            ActionButton {
+                visible: root.isDamaged
+                width: parent.width
+                text: Words.restoreNewest
+                focus: visible
+                onClicked: root.backupWanted()
+            }
+
+            ActionButton {
+                visible: root.isDamaged
+                width: parent.width
+                kind: ActionButton.Secondary
+                text: Words.beginAnew
+                onClicked: root.newWanted()
+            }
+
             ActionButton {
                 width: parent.width
+                kind: root.isDamaged ? ActionButton.Plain : ActionButton.Primary
                 text: Words.tryAgain
-                focus: true
+                focus: !root.isDamaged
                 onClicked: root.againWanted()
             }
         }

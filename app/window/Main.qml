@@ -43,7 +43,7 @@ Window {
     Item {
         id: pages
 
-        readonly property bool covered: badgesLayer.covers || roadmapLayer.covers || weightsLayer.covers || cardsLayer.covers || remindersLayer.covers || aboutLayer.covers
+        readonly property bool covered: badgesLayer.covers || roadmapLayer.covers || weightsLayer.covers || cardsLayer.covers || remindersLayer.covers || aboutLayer.covers || backupsLayer.covers
 
         anchors.fill: parent
         anchors.leftMargin: root.side ? Theme.sideBarSize : 0
@@ -135,6 +135,13 @@ Window {
             page: AboutPage {}
         }
 
+        PushLayer {
+            id: backupsLayer
+            anchors.fill: parent
+            open: App.screens.page === "backups"
+            page: BackupsPage {}
+        }
+
         MessageBar {
             anchors.left: parent.left
             anchors.right: parent.right
@@ -163,6 +170,21 @@ Window {
     LateSheet {
         screen: "overlaps"
         sourceComponent: RepairSheet {}
+    }
+
+    LateSheet {
+        screen: "import"
+        sourceComponent: ImportSheet {}
+    }
+
+    LateSheet {
+        screen: "export"
+        sourceComponent: ExportSheet {}
+    }
+
+    LateSheet {
+        screen: "restore"
+        sourceComponent: RestoreSheet {}
     }
 
     LateSheet {
@@ -206,6 +228,8 @@ Window {
             onChosen: instant => App.addWeight.changeDate(instant)
         }
     }
+
+    FileDrop { anchors.fill: parent }
 
     Binding { target: Theme; property: "dark"; value: Appearance.dark }
     Binding { target: Theme; property: "textScale"; value: Appearance.textScale }

@@ -5,9 +5,10 @@
 #include <QtGui/QWheelEvent>
 #include <QtTest/QTest>
 
-#include <array>
+#include <algorithm>
 #include <map>
-#include <numeric>
+#include <random>
+#include <vector>
 
 #include "host/app/Settings.h"
 #include "tests/app/ShownApp.h"
@@ -229,16 +230,16 @@ TEST(Screens, openAgainAndAfterEachOther) {
     settle(app.window());
   };
   std::map<std::string, QStringList> first;
-  const auto screens = host::allScreens();
-  constexpr std::array<std::size_t, 2> steps{1, 5};
-  for (const std::size_t step : steps) {
-    ASSERT_EQ(std::gcd(step, screens.size()), 1U) << "each comes once a round";
-    for (std::size_t count = 0; count < screens.size(); ++count) {
-      const std::string screen{rawValue(screens[count * step % screens.size()])};
+  const auto all = host::allScreens();
+  std::vector<host::Screen> screens{all.begin(), all.end()};
+  for (const bool isShuffled : {false, true}) {
+    if (isShuffled) std::ranges::shuffle(screens, std::mt19937{5});
+    for (const host::Screen one : screens) {
+      const std::string screen{rawValue(one)};
       SCOPED_TRACE(screen);
-      if (step == 5) app.window().resize(900, 700);
+      if (isShuffled) app.window().resize(900, 700);
       present(screen);
-      if (step == 5) app.window().resize(390, 844);
+      if (isShuffled) app.window().resize(390, 844);
       settle(app.window());
       EXPECT_TRUE(isOpenSheetInside(app));
       const auto [known, isNew] = first.emplace(screen, seenTexts(app));

@@ -132,7 +132,8 @@ TEST_F(Failures, aFolderThatCannotBeMadeIsSaidUntilItCan) {
   ASSERT_TRUE(environment);
   ASSERT_EQ(environment->history, nullptr);
   const DependencyScope scope{environment->dependencies};
-  FaultWindow shown{environment->notice, [&] { return openHistory(*environment, options) ? "" : environment->notice; }};
+  FaultWindow shown{{environment->notice},
+                    {.again = [&] { return Obstacle{openHistory(*environment, options) ? "" : environment->notice}; }}};
   ASSERT_NE(shown.window(), nullptr);
   EXPECT_EQ(shown.window()->property("sentence").toString().toStdString(),
             "The folder " + data.string() + " cannot be made.");
@@ -156,6 +157,53 @@ TEST_F(Failures, aDamagedDatabaseIsPutAsideAndSaid) {
   EXPECT_EQ(fs::file_size(aside), letter.size()) << aside;
   click("Commencer le jeûne");
   EXPECT_TRUE(eventually([&] { return app->state().runningFast() != nullptr; }));
+}
+
+// A database and a newest backup that are both damaged: the backup before that takes the place.
+TEST_F(Failures, aDamagedDatabaseOffersItsNewestBackup) {
+  Options options = ShownApp::optionsFor("");
+  options.database = file.string();
+  {
+    const auto environment = makeEnvironment(options);
+    ASSERT_TRUE(environment && environment->history);
+    environment->history->apply(host::adding(fastOf(1, 0)));
+    environment->files->backUp(environment->history->load(), dateSince1970(1.7722e9));
+    environment->history->apply(host::adding(fastOf(2, 1)));
+    std::ofstream{environment->files->backupFolder() / "mivo-2026-03-01T030000Z.json"} << "{";
+  }
+  const auto damage = [&] {
+    fs::remove(file);
+    std::ofstream{file} << std::string(5000, 'x');
+  };
+  struct Way {
+    const char* signal;
+    std::size_t fasts;
+  };
+  for (const auto& [signal, fasts] : {Way{"backupWanted", 1}, Way{"newWanted", 0}}) {
+    SCOPED_TRACE(signal);
+    damage();
+    auto environment = makeEnvironment(options);
+    ASSERT_TRUE(environment);
+    ASSERT_EQ(environment->history, nullptr);
+    EXPECT_EQ(environment->notice, file.string() + " is damaged; the newest backup is of 1 Mar 2026, 04:00.");
+    EXPECT_EQ(fs::file_size(file), 5000U) << "as it was";
+    const DependencyScope scope{environment->dependencies};
+    const auto attempt = [&](bool (*opened)(Environment&, const Options&)) {
+      return [&environment, &options, opened] {
+        return opened(*environment, options) ? Obstacle{} : Obstacle{environment->notice, environment->isDamaged};
+      };
+    };
+    FaultWindow shown{{environment->notice, environment->isDamaged},
+                      {attempt(openHistory), attempt(restoreNewestBackup), attempt(beginAnew)}};
+    EXPECT_TRUE(shown.window()->property("isDamaged").toBool());
+    QMetaObject::invokeMethod(shown.window(), "againWanted");
+    EXPECT_TRUE(shown.window()->isVisible());
+    QMetaObject::invokeMethod(shown.window(), signal);
+    EXPECT_FALSE(shown.window()->isVisible());
+    ASSERT_NE(environment->history, nullptr);
+    EXPECT_EQ(environment->history->load().fasts.size(), fasts);
+    EXPECT_NE(environment->notice.find(".damaged-"), std::string::npos) << environment->notice;
+  }
 }
 
 TEST_F(Failures, aZoneThatChangesMovesEveryTimeAndNoRecord) {

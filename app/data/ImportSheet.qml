@@ -1,0 +1,151 @@
+// SPDX-License-Identifier: MIT
+// Bringing files along: choosing them, how far they are read, what they ask, what they would bring.
+pragma ComponentBehavior: Bound
+import QtQuick
+import Mivo
+
+Sheet {
+    id: root
+
+    readonly property ImportModel page: App.importing
+
+    title: page.title
+    spacing: 16
+
+    // The dialog is loaded when it is first wanted: the window need not wait for it.
+    Loader {
+        id: chooser
+        active: false
+        visible: false
+        source: "qrc:/Mivo/ChooseFiles.qml"
+        onLoaded: (item as ChooseFiles).open()
+
+        function open() {
+            if (active)
+                (item as ChooseFiles).open();
+            else
+                active = true;
+        }
+    }
+
+    StyledText {
+        visible: text !== ""
+        width: parent.width
+        text: root.page.text
+        color: Theme.inkSecondary
+        wrapMode: Text.WrapAtWordBoundaryOrAnywhere
+        Accessible.role: Accessible.StaticText
+        Accessible.name: text
+    }
+
+    StyledText {
+        visible: text !== ""
+        width: parent.width
+        text: root.page.fault
+        color: Theme.danger
+        wrapMode: Text.WrapAtWordBoundaryOrAnywhere
+        Accessible.role: Accessible.AlertMessage
+        Accessible.name: text
+    }
+
+    ProgressTrack {
+        visible: root.page.progress >= 0
+        width: parent.width
+        fraction: root.page.progress
+        Accessible.role: Accessible.ProgressBar
+        Accessible.name: root.page.text
+    }
+
+    Column {
+        visible: answers.count > 0
+        width: parent.width
+        spacing: 8
+
+        Repeater {
+            id: answers
+            model: root.page.answers
+
+            delegate: ActionButton {
+                required property int index
+                required property string modelData
+
+                width: parent.width
+                leastHeight: Theme.sheetButtonSize
+                kind: ActionButton.Secondary
+                text: modelData
+                onClicked: root.page.answer(index)
+            }
+        }
+    }
+
+    SheetList {
+        visible: root.page.files.count > 0
+
+        Repeater {
+            model: root.page.files
+            delegate: ImportFileLine {}
+        }
+    }
+
+    Column {
+        visible: root.page.refused.count > 0
+        width: parent.width
+        spacing: 8
+
+        StyledText {
+            width: parent.width
+            text: root.page.refusedTitle
+            style: Theme.labelText
+            color: Theme.inkSecondary
+            Accessible.role: Accessible.Heading
+            Accessible.name: text
+        }
+
+        SheetList {
+            Repeater {
+                model: root.page.refused
+                delegate: RefusedLine {}
+            }
+        }
+
+        StyledText {
+            visible: text !== ""
+            width: parent.width
+            text: root.page.moreRefused
+            style: Theme.labelText
+            color: Theme.inkSecondary
+            Accessible.role: Accessible.StaticText
+            Accessible.name: text
+        }
+    }
+
+    Column {
+        width: parent.width
+        spacing: 4
+
+        ActionButton {
+            visible: text !== ""
+            width: parent.width
+            leastHeight: Theme.sheetButtonSize
+            enabled: !root.page.isBusy
+            text: root.page.button
+            onClicked: root.page.confirm()
+        }
+
+        ActionButton {
+            visible: text !== ""
+            width: parent.width
+            leastHeight: Theme.sheetButtonSize
+            text: root.page.chooseLabel
+            onClicked: chooser.open()
+        }
+
+        ActionButton {
+            width: parent.width
+            leastHeight: Theme.sheetButtonSize
+            kind: ActionButton.Plain
+            text: root.page.cancelLabel
+            onClicked: root.close()
+        }
+    }
+}

@@ -1,0 +1,187 @@
+// SPDX-License-Identifier: MIT
+// Bringing records along, taking them out and going back to backups, driven with clicks, keys and files that are
+// dropped.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <QtCore/QMimeData>
+#include <QtGui/QDropEvent>
+#include <QtTest/QTest>
+#include <fstream>
+#include <sstream>
+
+#include "host/backup/BackupFolder.h"
+#include "host/database/Database.h"
+#include "tests/app/ShownApp.h"
+#include "tests/support/TemporaryFolder.h"
+
+namespace mivo::app {
+namespace {
+
+using testing::HasSubstr;
+using testing::SizeIs;
+
+/// The app on its own history, in a home of its own.
+class Data : public testing::Test {
+ protected:
+  Data() {
+    qputenv("XDG_CONFIG_HOME", QByteArray::fromStdString(folder.file("config")));
+    qputenv("XDG_DATA_HOME", QByteArray::fromStdString(folder.file("data")));
+    open();
+  }
+  ~Data() override { qunsetenv("XDG_DATA_HOME"); }
+
+  void open() {
+    app.reset();
+    Options options = ShownApp::optionsFor("");
+    options.tab = "settings";
+    app = std::make_unique<ShownApp>(options, QSize{390, 1400});
+  }
+
+  QString made(const std::string& name, const std::string& content) const {
+    std::ofstream{folder.file(name), std::ios::binary} << content;
+    return QString::fromStdString(folder.file(name));
+  }
+
+  /// As the desktop does it: over the window, then let go.
+  void drop(const QString& path) {
+    QMimeData files;
+    files.setUrls({QUrl::fromLocalFile(path)});
+    const QPoint middle{195, 300};
+    QDragEnterEvent enter{middle, Qt::CopyAction, &files, Qt::LeftButton, Qt::NoModifier};
+    QCoreApplication::sendEvent(&app->window(), &enter);
+    isHeld = app->text("Drop files to import them") != nullptr;
+    QDropEvent let{middle, Qt::CopyAction, &files, Qt::LeftButton, Qt::NoModifier};
+    QCoreApplication::sendEvent(&app->window(), &let);
+    settle(app->window());
+  }
+
+  void clickRow(const QString& text) {
+    const QQuickItem* row = app->find([&](const QQuickItem* item) {
+      return item->property("text").toString() == text && item->inherits("QQuickAbstractButton");
+    });
+    ASSERT_NE(row, nullptr) << text.toStdString();
+    app->click(row);
+  }
+
+  /// Answers the dialog that is open, which Qt draws itself where the display has none.
+  void answerDialog(const QString& path) {
+    QObject* dialog = nullptr;
+    ASSERT_TRUE(eventually([&] {
+      for (QObject* one : app->window().findChildren<QObject*>())
+        if (one->inherits("QQuickFileDialogImpl") && one->property("visible").toBool()) dialog = one;
+      return dialog != nullptr;
+    }));
+    dialog->setProperty("selectedFile", QUrl::fromLocalFile(path));
+    QMetaObject::invokeMethod(dialog, "accept");
+    settle(app->window());
+  }
+
+  bool eventuallySays(const QString& text) {
+    return eventually([&] { return app->text(text) != nullptr; });
+  }
+  host::History onDisk() const {
+    return host::Database{app->environment.databaseFile, host::Database::Access::readOnly}.history();
+  }
+  std::vector<host::Backup> backups() const {
+    return host::BackupFolder{host::backupFolder(app->environment.databaseFile)}.backups();
+  }
+
+  static constexpr const char* twoFasts =
+      "start,end\n2026-02-25T20:00Z,2026-02-26T12:00Z\n2026-02-26T20:00Z,2026-02-27T12:00Z\nsoon,\n";
+
+  tests::TemporaryFolder folder;
+  bool isHeld = false;
+  std::unique_ptr<ShownApp> app;
+};
+
+TEST_F(Data, areBroughtAlongFromFilesThatAreDropped) {
+  const QString path = made("fasts.csv", twoFasts);
+  app->key(Qt::Key_2, Qt::ControlModifier);
+  drop(path);
+  EXPECT_TRUE(isHeld);
+  ASSERT_TRUE(eventuallySays("2 new fasts, 1 refused")) << "wherever one is";
+  EXPECT_NE(app->text("fasts.csv, line 4, start"), nullptr);
+  EXPECT_TRUE(onDisk().fasts.empty()) << "shown, not done";
+  app->click("Cancel");
+  EXPECT_EQ(openScreen(app->state()), host::Screen::settings);
+  EXPECT_TRUE(onDisk().fasts.empty());
+
+  drop(path);
+  ASSERT_TRUE(eventually([&] { return app->button("Import 2 fasts") != nullptr; }));
+  app->click("Import 2 fasts");
+  ASSERT_TRUE(eventuallySays("Imported: 2 fasts"));
+  EXPECT_THAT(onDisk().fasts, SizeIs(2));
+  EXPECT_THAT(*app->state().fasts, SizeIs(2));
+  settle(app->window());
+  app->click("Undo");
+  EXPECT_TRUE(eventually([&] { return app->state().fasts->empty(); }));
+  EXPECT_TRUE(onDisk().fasts.empty());
+}
+
+TEST_F(Data, areChosenAskedForAndTakenOutInTheDialogsOfTheSystem) {
+  clickRow("Import");
+  app->click("Choose files");
+  answerDialog(made("weights.csv", "date,weight\n2026-02-25 07:00,80\n2026-02-26 07:00,79.5\n"));
+  ASSERT_TRUE(eventuallySays("weights.csv does not say in which unit its weights are."));
+  app->click("Kilograms");
+  ASSERT_TRUE(eventually([&] { return app->button("Import 2 weights") != nullptr; }));
+  app->key(Qt::Key_Escape);
+  EXPECT_EQ(openScreen(app->state()), host::Screen::settings);
+  EXPECT_TRUE(onDisk().weights.empty());
+
+  drop(made("weights.csv", "date,weight_kg\n2026-02-25T07:00Z,80\n"));
+  ASSERT_TRUE(eventually([&] { return app->button("Import 1 weight") != nullptr; }));
+  app->click("Import 1 weight");
+  ASSERT_TRUE(eventually([&] { return app->state().weights->size() == 1; }));
+  settle(app->window());
+  clickRow("Export");
+  clickRow("Weights");
+  answerDialog(QString::fromStdString(folder.file("out.csv")));
+  ASSERT_TRUE(eventuallySays(QString::fromStdString("Exported to " + folder.file("out.csv") + ": 1 weight")));
+  std::ostringstream written;
+  written << std::ifstream{folder.file("out.csv")}.rdbuf();
+  EXPECT_EQ(written.str(), "date,weight_kg\n2026-02-25T07:00:00Z,80\n");
+  drop(QString::fromStdString(folder.file("out.csv")));
+  EXPECT_TRUE(eventuallySays("1 there already"));
+}
+
+TEST_F(Data, areBackedUpBeforeTheFirstChangeOfADayAndGoneBackTo) {
+  const auto bring = [&](const char* name, const char* button, const char* content) {
+    drop(made(name, content));
+    ASSERT_TRUE(eventually([&] { return app->button(button) != nullptr; }));
+    app->click(button);
+    ASSERT_TRUE(eventually([&] { return !app->state().importing; }));
+    settle(app->window());
+  };
+  bring("fasts.csv", "Import 2 fasts", twoFasts);
+  EXPECT_THAT(backups(), SizeIs(0)) << "there was nothing";
+  bring("weights.csv", "Import 1 weight", "date,weight_kg\n2026-02-25T07:00Z,80\n");
+  ASSERT_THAT(backups(), SizeIs(1));
+  bring("more.csv", "Import 1 weight", "date,weight_kg\n2026-02-26T07:00Z,80\n");
+  ASSERT_THAT(backups(), SizeIs(1)) << "one a day";
+  const host::History all = onDisk();
+  EXPECT_THAT(all.weights, SizeIs(2));
+
+  clickRow("Backups");
+  ASSERT_TRUE(eventuallySays("2 fasts, 0 weights"));
+  clickRow("Today, 13:00");
+  EXPECT_NE(app->text("2 fasts, 2 weights"), nullptr);
+  app->click("Cancel");
+  EXPECT_EQ(onDisk(), all);
+  clickRow("Today, 13:00");
+  app->click("Restore");
+  ASSERT_TRUE(eventuallySays("Backup restored"));
+  EXPECT_TRUE(onDisk().weights.empty());
+  EXPECT_TRUE(app->state().weights->empty());
+  EXPECT_THAT(backups(), SizeIs(2)) << "with what was there before";
+  settle(app->window());
+  app->click("Undo");
+  EXPECT_TRUE(eventually([&] { return app->state().weights->size() == 2; }));
+  EXPECT_EQ(onDisk(), all);
+  app->click("Back up now");
+  EXPECT_TRUE(eventually([&] { return !app->model().failure().isEmpty(); }));
+}
+
+}  // namespace
+}  // namespace mivo::app
