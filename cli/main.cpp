@@ -1,14 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include <unistd.h>
-
 #include <CLI/CLI.hpp>
-#include <cerrno>
 #include <exception>
-#include <filesystem>
 #include <ranges>
 #include <span>
 #include <string>
-#include <system_error>
 #include <vector>
 
 #include "adapters/manual/ManualPage.h"
@@ -21,6 +16,7 @@
 #include "cli/records/RecordOptions.h"
 #include "cli/report/ReportCommand.h"
 #include "cli/terminal/StandardOutput.h"
+#include "cli/usage/BecomeProgram.h"
 #include "cli/usage/Usage.h"
 #include "host/database/Database.h"
 #include "host/versions/Versions.h"
@@ -31,22 +27,6 @@ namespace {
 constexpr const char* footer =
     "mivo start begins a fast, mivo stop ends it. mivo help COMMAND tells more of each, with examples.\n\n"
     "Exit status: 0 done, 1 a file or the records stood against it, 2 the command line did.";
-
-/// What needs the network is a program of its own beside this one: to load the network's libraries alone takes as long
-/// as a whole report.
-int becomeNetworkProgram(std::vector<std::string> arguments) {
-  std::error_code failure;
-  const auto self = std::filesystem::read_symlink("/proc/self/exe", failure);
-  const auto program = self.parent_path() / "mivo-roadmap";
-  arguments.insert(arguments.begin(), "mivo");
-  std::vector<char*> texts;
-  texts.reserve(arguments.size() + 1);
-  for (std::string& argument : arguments) texts.push_back(argument.data());
-  texts.push_back(nullptr);
-  ::execv(program.c_str(), texts.data());
-  complain(program.string() + ": " + std::generic_category().message(errno));
-  return atFault;
-}
 
 /// "mivo weight add --help tells what can": of the command that was asked for, or of the first thing that people want.
 std::string hint(const CLI::App& program) {
@@ -109,7 +89,8 @@ struct CommandLine {
 
 /// Runs the command that was parsed.
 int runCommand(const CommandLine& line, const std::vector<std::string>& arguments) {
-  if (line.networkCommands.areParsed()) return becomeNetworkProgram(arguments);
+  // To load the network's libraries alone takes as long as a whole report.
+  if (line.networkCommands.areParsed()) return becomeProgram("mivo-roadmap", arguments);
   for (const auto& [command, runRecordCommand] : line.recordCommands | std::views::reverse)  // a group's own come first
     if (command->parsed()) return runRecordCommand(line.recordOptions);
   if (line.completion.parsed()) return print(shellScript(line.shell));

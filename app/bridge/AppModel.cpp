@@ -38,7 +38,7 @@ AppModel::AppModel(AppServices given)
       dependencies{*services.dependencies},
       texts{*dependencies.texts},
       clients{[present = services.dependencies] { return pageClients(*present, present->date->now()); }},
-      store{State::make(TimeRange::week, services.usualWeightUnit),
+      store{State::make(services.timeRange, services.usualWeightUnit),
             host::AppFeature{.history = services.history, .files = services.files}, dependencies.mainQueue,
             dependencies.taskRunner},
       fastingBars{store.state().statistics.stats.fastingChartState, barClients(dependencies),
@@ -158,7 +158,8 @@ void AppModel::follow(const State& state) {
 void AppModel::followPages(const State& state) {
   const auto& statistics = state.statistics;
   tellTips(state);
-  cards.show(composeScreen(screenInput(statistics), screenFormatters()));
+  auto composed = composeScreen(screenInput(statistics), screenFormatters());
+  cards.show(services.printed ? host::printedCards(std::move(composed), *services.printed) : std::move(composed));
   const WeightUnit unit = statistics.goalWeightCardState.weightUnit;
   weightLine.show(drawing::WeightChart{weightLogs(statistics.stats, statistics.timeRange), statistics.timeRange}, unit,
                   state.now);

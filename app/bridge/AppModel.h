@@ -24,6 +24,7 @@
 #include "app/bridge/WeightsModel.h"
 #include "app/records/Records.h"
 #include "host/app/AppFeature.h"
+#include "host/pages/PrintedCards.h"
 #include "host/tips/Tips.h"
 #include "mivo/store/Store.h"
 
@@ -38,6 +39,8 @@ struct AppServices {
   Client<host::HistoryClient> history;
   Client<host::DataFiles> files;
   std::shared_ptr<const host::Tips> tips;
+  TimeRange timeRange = TimeRange::week;               ///< that the statistics begin with
+  std::optional<host::PrintedWeights> printed = {};    ///< where the screen is to be printed
   WeightUnit usualWeightUnit = WeightUnit::kilograms;  ///< in the user's locale
   std::string feedbackAddress = {};                    ///< of mail; none where nobody reads any
   std::shared_ptr<host::WeekCalendar> calendar;        ///< the one in the dependencies

@@ -2,9 +2,12 @@
 #include "app/program/Options.h"
 
 #include <CLI/CLI.hpp>
+#include <filesystem>
 #include <set>
 
 #include "host/app/Screens.h"
+#include "mivo/model/LowerCase.h"
+#include "mivo/model/TimeRange.h"
 
 namespace mivo::app {
 namespace {
@@ -13,6 +16,7 @@ constexpr const char* examples =
     "Examples:\n"
     "  mivo-app\n"
     "  mivo-app --sample data/one-year.json --now 2026-03-01T12:00:00Z\n"
+    "  mivo-app --print statistics.pdf --range month\n"
     "  mivo-app --render statistics.png --size 1280x800 --scale 2 --dark\n\n"
     "Exit status: 0 done, 1 the history or a file stood against it, 2 the command line did.";
 
@@ -43,9 +47,28 @@ std::set<std::string> screenNames() {
   return names;
 }
 
+std::set<std::string> rangeNames() {
+  std::set<std::string> names;
+  for (const TimeRange range : allTimeRanges) names.emplace(rawValue(range));
+  return names;
+}
+
+bool isPrintable(const std::string& file) {
+  const std::string ending = lowerCase(std::filesystem::path{file}.extension().string());
+  return ending == ".png" || ending == ".pdf";
+}
+
 void addLook(CLI::App& program, Options& options) {
   auto* picture = program.add_option("--render", options.picture, "Draws the window into a picture and ends");
   picture->type_name("FILE.png");
+  program.add_option("--print", options.printed, "Draws the statistics for others into a picture, or onto pages of A4")
+      ->type_name("FILE.png|FILE.pdf")
+      ->check([](const std::string& file) {
+        return isPrintable(file) ? "" : "expected a file whose name ends in .png or .pdf";
+      })
+      ->excludes(picture);
+  program.add_flag("--with-weights", options.withWeights, "Prints the cards of weights too")->needs("--print");
+  program.add_option("--range", options.range, "Of the statistics")->check(CLI::IsMember(rangeNames()));
   program.add_option("--size", options.size, "Of the window, in points; default: as it was last")->type_name("WxH");
   program.add_option("--scale", options.scale, "Pixels of the picture to a point")->check(CLI::Range(0.5, 4.0));
   program.add_flag("--whole", options.whole, "Draws the whole column, however high")->needs(picture);
@@ -60,6 +83,15 @@ void addLook(CLI::App& program, Options& options) {
 }
 
 }  // namespace
+
+Options asPrinted(Options options) {
+  options.picture = options.printed;
+  options.whole = true;
+  options.tab = "statistics";
+  if (options.size.empty()) options.size = "744x1052";  // of the shape of A4
+  if (options.scale == 1) options.scale = 2;
+  return options;
+}
 
 void addOptions(CLI::App& program, Options& options) {
   program.footer(examples);

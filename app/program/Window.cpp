@@ -14,8 +14,11 @@
 #include <QtQuick/QQuickWindow>
 #include <QtSvg/QSvgRenderer>
 
+#include <algorithm>
+
 #include "app/bridge/EngineModels.h"
 #include "app/program/KeepReminding.h"
+#include "app/program/Print.h"
 #include "app/program/SystemZone.h"
 #include "host/app/Settings.h"
 #include "host/database/Database.h"
@@ -32,6 +35,17 @@ std::optional<host::AppearanceMode> modeOf(const Options& options) {
   if (options.dark) return host::AppearanceMode::dark;
   if (options.light || !options.picture.empty()) return host::AppearanceMode::light;
   return std::nullopt;
+}
+
+TimeRange rangeOf(const Options& options) {
+  const auto wanted =
+      std::ranges::find_if(allTimeRanges, [&](TimeRange range) { return rawValue(range) == options.range; });
+  return wanted == allTimeRanges.end() ? TimeRange::week : *wanted;
+}
+
+std::optional<host::PrintedWeights> printedOf(const Options& options) {
+  if (options.printed.empty()) return std::nullopt;
+  return options.withWeights ? host::PrintedWeights::shown : host::PrintedWeights::hidden;
 }
 
 std::string openingTabOf(const AppModel& app, const UserDefaults& defaults, const Options& options) {
@@ -114,6 +128,8 @@ AppWindow::AppWindow(const Environment& environment, const Options& options, QSi
            .history = environment.history,
            .files = environment.files,
            .tips = environment.tips,
+           .timeRange = rangeOf(options),
+           .printed = printedOf(options),
            .usualWeightUnit = environment.usualWeightUnit,
            .feedbackAddress = options.feedback,
            .calendar = environment.calendar,
@@ -196,6 +212,7 @@ std::optional<std::string> drawInto(AppWindow& shown, const Options& options) {
     window.setHeight(window.property("wholeHeight").toInt());
     settle(window);
   }
+  if (!options.printed.empty()) return print(window, options.printed);
   if (window.grabWindow().save(QString::fromStdString(options.picture))) return std::nullopt;
   return options.picture + ": the picture could not be written";
 }

@@ -8,6 +8,7 @@
 #include <exception>
 #include <iostream>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "adapters/manual/ManualPage.h"
@@ -19,6 +20,7 @@
 #include "app/program/Window.h"
 #include "host/database/Database.h"
 #include "host/versions/Versions.h"
+#include "mivo/platform/TextLookup.h"
 
 namespace mivo::app {
 namespace {
@@ -61,8 +63,10 @@ int show(QGuiApplication& application, const Options& options) {
     if (status == startAnew && environment->sampleFolder) environment->sampleFolder->bequeath();
     return status;
   }
-  const auto fault = drawInto(shown, options);
-  return fault ? refused(atFault, *fault) : 0;
+  if (const auto fault = drawInto(shown, options)) return refused(atFault, *fault);
+  if (!options.printed.empty())
+    std::cout << filledIn(environment->dependencies->texts->text("Exported to {1}"), {options.printed}) << std::endl;
+  return 0;
 }
 
 int run(int count, char** arguments) {
@@ -87,6 +91,7 @@ int run(int count, char** arguments) {
   } catch (const CLI::ParseError& error) {
     return refused(wrongUsage, std::string{error.what()} + "; mivo-app --help tells what can be asked");
   }
+  if (!options.printed.empty()) options = asPrinted(std::move(options));
   choosePainting(options);
   int qtCount = 1;  // the options are ours
   QGuiApplication application{qtCount, arguments};

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include <filesystem>
 #include <optional>
+#include <string>
 #include <system_error>
+#include <utility>
 #include <vector>
 
 #include "adapters/system/AtomicFile.h"
@@ -9,6 +11,7 @@
 #include "cli/records/RecordCommands.h"
 #include "cli/records/RecordRun.h"
 #include "cli/records/RecordTables.h"
+#include "cli/usage/BecomeProgram.h"
 #include "cli/usage/Usage.h"
 #include "host/history/HistoryCsv.h"
 #include "host/history/Snapshot.h"
@@ -19,26 +22,35 @@ namespace {
 
 namespace fs = std::filesystem;
 
-enum class Form { snapshot, table };
+enum class Form { snapshot, table, printed };
 
 /// The form is read off the name, so that another one can come without changing what this one means.
 std::optional<Form> formOf(const fs::path& file) {
   const std::string ending = lowerCase(file.extension().string());
   if (ending == ".json") return Form::snapshot;
+  if (ending == ".png" || ending == ".pdf") return Form::printed;
   return ending == ".csv" ? std::optional{Form::table} : std::nullopt;
+}
+
+[[noreturn]] void refuseToReplace(const std::string& file) {
+  throw Refused{atFault, file + ": the file is there already: expected another name, or --force to replace it"};
+}
+
+void expectFile(const fs::path& file) {
+  std::error_code unknown;
+  if (fs::exists(file, unknown) && !fs::is_regular_file(file, unknown))
+    throw Refused{atFault, file.string() + ": expected a file, or no such name yet"};
 }
 
 void write(const RecordOptions& options, std::string_view content) {
   const fs::path file = options.to;
-  std::error_code unknown;
-  if (fs::exists(file, unknown) && !fs::is_regular_file(file, unknown))
-    throw Refused{atFault, options.to + ": expected a file, or no such name yet"};
+  expectFile(file);
   const auto existing = options.isForced ? adapters::Existing::replaced : adapters::Existing::refused;
   try {
     adapters::writePrivately(file, content, existing);
   } catch (const std::system_error& error) {
     if (error.code() != std::errc::file_exists) throw;
-    throw Refused{atFault, options.to + ": the file is there already: expected another name, or --force to replace it"};
+    refuseToReplace(options.to);
   }
 }
 
@@ -63,8 +75,11 @@ Form formOf(const RecordOptions& options, What what) {
   if (options.to == "-") return what == What::everything ? Form::snapshot : Form::table;
   const auto form = formOf(fs::path{options.to});
   if (!form)
-    throw Refused{wrongUsage,
-                  wrong("--to", "expected a file whose name ends in .json or .csv, or -", options.to).value()};
+    throw Refused{
+        wrongUsage,
+        wrong("--to", "expected a file whose name ends in .json, .csv, .png or .pdf, or -", options.to).value()};
+  if (*form == Form::printed && what != What::everything)
+    throw Refused{wrongUsage, "--what: a picture and pages show the statistics, not a list"};
   if (*form == Form::table && what == What::everything)
     throw Refused{wrongUsage, "--what: expected fasts or weights, since a table holds one of them"};
   return *form;
@@ -78,9 +93,28 @@ std::string written(const host::History& history, const std::vector<host::Settin
   return host::writeSnapshot(history, settings);
 }
 
+/// What draws the screen draws it on paper too: the app goes on from here.
+void print(const RecordRun& run) {
+  const RecordOptions& options = run.options;
+  std::error_code unknown;
+  expectFile(options.to);
+  if (!options.isForced && fs::exists(options.to, unknown)) refuseToReplace(options.to);
+  run.history();  // what stands against reading it is said here
+  std::vector<std::string> arguments{"--print", options.to, "--database", run.file().string()};
+  const auto add = [&arguments](const char* name, const std::string& value) {
+    if (!value.empty()) arguments.insert(arguments.end(), {name, value});
+  };
+  add("--locale", options.locale);
+  add("--time-zone", options.timeZone);
+  add("--range", options.range);
+  if (options.withWeights) arguments.emplace_back("--with-weights");
+  throw Refused{becomeProgram("mivo-app", std::move(arguments)), "the statistics are drawn by the app"};
+}
+
 std::string exportAll(const RecordRun& run) {
   const What what = whatOf(run.options);
   const Form form = formOf(run.options, what);
+  if (form == Form::printed) print(run);
   const host::History history = run.history();
   std::string content = written(history, run.settings(), form, what);
   if (run.options.to == "-") return content;

@@ -23,6 +23,7 @@ constexpr const char* fastExamples = R"(Examples:
   mivo list
   mivo export --to backup.json
   mivo export --to fasts.csv --what fasts
+  mivo export --to statistics.pdf --range month
   mivo import backup.json fasts.csv weights.csv
 
 A date without an offset is in --time-zone; a time alone is the last one that has passed, and as an end the first one
@@ -128,12 +129,16 @@ void addFastCommands(Commands& to) {
   to.format(to.add("list", "List the fasts, the latest last", runList));
   CLI::App& all = to.add("export", "Write fasts and weights into a file", runExport);
   all.add_option("--to", options.to,
-                 "A snapshot (.json) or a table (.csv), as mivo import reads; - for standard output")
+                 "A snapshot (.json) or a table (.csv), as mivo import reads, or - for standard output; or the "
+                 "statistics as a picture (.png) or pages (.pdf)")
       ->type_name("FILE")
       ->required();
   all.add_option("--what", options.what, "Only these; a table holds one of them")
       ->type_name(typeName(namesOf(exportedLists)));
   all.add_flag("--force", options.isForced, "Replace a file that is there already");
+  all.add_flag("--with-weights", options.withWeights, "Weights too on a picture or pages, which hide them otherwise");
+  all.add_option("--range", options.range, "Of the statistics on a picture or pages; default: week")
+      ->check(CLI::IsMember({"week", "month", "year"}));
   CLI::App& import =
       to.add("import", "Add what files hold to the fasts and weights, whichever app wrote them", runImport);
   import.add_option("FILE", options.files, "Backups, tables or logs, known by their content; - for standard input")

@@ -18,13 +18,13 @@ inline constexpr std::array<Choice<What>, 3> exportedLists{
 
 /// What stands after a command that keeps the history, as it was typed; empty or missing where it was not.
 struct RecordOptions {
-  std::string id, weight, to, what, which, folder;
+  std::string id, weight, to, what, which, folder, range;
   std::vector<std::string> files;  ///< to import
   std::optional<std::string> at, start, end, goalHours, note;
   struct {
     std::string dateOrder, weightUnit;
   } ambiguities;  ///< what files leave open
-  bool isRunning = false, isForced = false, isDryRun = false, takesSettings = false;
+  bool isRunning = false, isForced = false, isDryRun = false, takesSettings = false, withWeights = false;
   std::string database, locale, timeZone, format = "text";
 };
 

@@ -6,6 +6,7 @@
 
 #include <QtCore/QMimeData>
 #include <QtGui/QDropEvent>
+#include <QtGui/QImage>
 #include <QtTest/QTest>
 #include <fstream>
 #include <sstream>
@@ -18,8 +19,10 @@
 namespace mivo::app {
 namespace {
 
+using testing::AllOf;
 using testing::HasSubstr;
 using testing::SizeIs;
+using testing::StartsWith;
 
 /// The app on its own history, in a home of its own.
 class Data : public testing::Test {
@@ -182,6 +185,44 @@ TEST_F(Data, areBackedUpBeforeTheFirstChangeOfADayAndGoneBackTo) {
   app->click("Back up now");
   EXPECT_TRUE(eventually([&] { return !app->model().failure().isEmpty(); }));
 }
+
+struct PrintedRow {
+  const char* name;
+  bool withWeights;
+  const char* pages;
+};
+void PrintTo(const PrintedRow& row, std::ostream* out) { *out << row.name; }
+class PrintedStatistics : public testing::TestWithParam<PrintedRow> {};
+
+TEST_P(PrintedStatistics, areOnPagesAndAPictureWithWeightsWhereAskedFor) {
+  const tests::TemporaryFolder folder;
+  Options options = ShownApp::optionsFor(MIVO_DATA_FOLDER "/one-year.json");
+  options.range = "month";
+  options.printed = folder.file("statistics.PDF");
+  options.withWeights = GetParam().withWeights;
+  options = asPrinted(options);
+  ShownApp app{options, {744, 1052}};
+  EXPECT_EQ(*app.statistics().timeRange, TimeRange::month);
+  EXPECT_EQ(app.ofType("WeightChartCard") != nullptr, options.withWeights);
+  EXPECT_EQ(app.ofType("AddWeightCard"), nullptr) << "nothing that asks to be tapped";
+  ASSERT_EQ(drawInto(app.app, options), std::nullopt);
+  std::ostringstream document;
+  document << std::ifstream{options.printed}.rdbuf();
+  EXPECT_THAT(document.str(), AllOf(StartsWith("%PDF"), HasSubstr(GetParam().pages)));
+
+  options.printed = folder.file("statistics.png");
+  ASSERT_EQ(drawInto(app.app, options), std::nullopt);
+  const QImage picture{QString::fromStdString(options.printed)};
+  EXPECT_EQ(picture.width(), 744);
+  EXPECT_EQ(picture.pixelColor(0, picture.height() - 1), picture.pixelColor(0, 0)) << "it ends with the last card";
+  options.printed = folder.file("none/statistics.png");
+  EXPECT_THAT(drawInto(app.app, options).value_or(""), HasSubstr("none/statistics.png"));
+}
+
+INSTANTIATE_TEST_SUITE_P(Rows, PrintedStatistics,
+                         testing::Values(PrintedRow{"hidden", false, "/Count 2"},
+                                         PrintedRow{"shown", true, "/Count 3"}),
+                         [](const auto& row) { return std::string{row.param.name}; });
 
 }  // namespace
 }  // namespace mivo::app

@@ -104,10 +104,18 @@ struct RefusedExport {
 
 TEST_F(Export, leavesNothingBehindWhereItIsRefused) {
   fs::create_directory(place.file("folder.json"));
+  place.write("there.pdf", "");
   for (const RefusedExport& row : {
-           RefusedExport{"otherForm", "--to backup.pdf --database d",
-                         "--to: expected a file whose name ends in .json or .csv, or -, found \"backup.pdf\"",
+           RefusedExport{"otherForm", "--to backup.gif --database d",
+                         "--to: expected a file whose name ends in .json, .csv, .png or .pdf, or -, found "
+                         "\"backup.gif\"",
                          wrongUsage},
+           RefusedExport{"pagesOfAList", "--to fasts.pdf --what fasts --database d",
+                         "--what: a picture and pages show the statistics, not a list", wrongUsage},
+           RefusedExport{"otherRange", "--to fasts.pdf --range decade --database d", "--range", wrongUsage},
+           RefusedExport{"pagesOfNoDatabase", "--to a.pdf --database none", "none: expected a database of the app"},
+           RefusedExport{"pagesThatAreThere", "--to there.pdf --database d",
+                         "there.pdf: the file is there already: expected another name, or --force to replace it"},
            RefusedExport{"tableOfWhat", "--to backup.csv --database d",
                          "--what: expected fasts or weights, since a table holds one of them", wrongUsage},
            RefusedExport{"otherList", "--to backup.csv --what badges --database d",
