@@ -77,6 +77,7 @@ class Data : public testing::Test {
     }));
     dialog->setProperty("selectedFile", QUrl::fromLocalFile(path));
     QMetaObject::invokeMethod(dialog, "accept");
+    app->window().requestActivate();  // as a desktop does when a dialog with a window of its own has closed
     settle(app->window());
   }
 

@@ -67,7 +67,7 @@ class Machine : public testing::Test {
     environment.insert(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"), bus.address());
     environment.insert(QStringLiteral("XDG_CONFIG_HOME"), QString::fromStdString(folder.file("config")));
     environment.insert(QStringLiteral("XDG_DATA_HOME"), QString::fromStdString(folder.file("data")));
-    environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("en_GB.UTF-8"));
+    environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
     environment.insert(QStringLiteral("TZ"), QStringLiteral("UTC"));
     environment.remove(QStringLiteral("LANGUAGE"));
     host::setTellsGoal(settings, true);
