@@ -25,6 +25,7 @@ TEST_P(Pages, cutNoBlock) { EXPECT_EQ(pageBreaks(GetParam().blocks, GetParam().h
 INSTANTIATE_TEST_SUITE_P(
     Rows, Pages,
     testing::Values(PagesRow{"none", {}, 20, {{0, 20}}}, PagesRow{"one", {{10, 90}}, 95, {{0, 95}}},
+                    PagesRow{"firstIsHigher", {{0, 150}}, 160, {{0, 100}, {100, 160}}},
                     PagesRow{"endsWithThePage", {{10, 60}, {70, 100}}, 110, {{0, 100}}},
                     PagesRow{"aPointMore", {{10, 60}, {70, 101}}, 110, {{0, 60}, {70, 110}}},
                     PagesRow{"beside", {{10, 60}, {70, 80}, {70, 130}, {90, 120}}, 140, {{0, 60}, {70, 140}}},
