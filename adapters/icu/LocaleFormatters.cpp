@@ -15,6 +15,17 @@ void LocaleFormatters::fill(Dependencies& dependencies) const {
   dependencies.numberFormatter = numberFormatter;
 }
 
+PageClients LocaleFormatters::pageClients(const Calendar& calendar, const TextLookup& texts, Date now) const {
+  return {.now = now,
+          .calendar = calendar,
+          .texts = texts,
+          .dates = *dateFormatter,
+          .hourMin = *hourMinDurationUnitFormatter,
+          .hour = *hourDurationUnitFormatter,
+          .numbers = *numberFormatter,
+          .masses = *massFormatter};
+}
+
 LocaleFormatters makeFormatters(const UserLocale& locale, const ZonedCalendar& calendar) {
   return {.hourMinDurationUnitFormatter = durationFormatter(locale, DurationUnits::hoursAndMinutes),
           .hourDurationUnitFormatter = durationFormatter(locale, DurationUnits::hours),

@@ -3,6 +3,7 @@
 
 #include "adapters/icu/UserLocale.h"
 #include "adapters/time/ZonedCalendar.h"
+#include "mivo/pages/PageClients.h"
 #include "mivo/platform/Dependencies.h"
 
 namespace mivo::adapters {
@@ -17,6 +18,9 @@ struct LocaleFormatters {
 
   /// Puts them where the module looks for them.
   void fill(Dependencies& dependencies) const;
+
+  /// What a page is composed with at an instant. All of it must outlive that.
+  PageClients pageClients(const Calendar& calendar, const TextLookup& texts, Date now) const;
 };
 
 /// Cheap: what is costly to open is opened on its first use and kept.

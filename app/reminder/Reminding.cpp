@@ -29,14 +29,7 @@ host::ReminderText textOf(const host::Reminder& reminder, const UserDefaults& de
   const auto calendar = adapters::ZonedCalendar::gregorian(*zone, locale.firstWeekday());
   const auto formatters = adapters::makeFormatters(locale, *calendar);
   const adapters::MessageCatalogue texts{locale.tag()};
-  return host::reminderText(reminder, {.now = now,
-                                       .calendar = *calendar,
-                                       .texts = texts,
-                                       .dates = *formatters.dateFormatter,
-                                       .hourMin = *formatters.hourMinDurationUnitFormatter,
-                                       .hour = *formatters.hourDurationUnitFormatter,
-                                       .numbers = *formatters.numberFormatter,
-                                       .masses = *formatters.massFormatter});
+  return host::reminderText(reminder, formatters.pageClients(*calendar, texts, now));
 }
 
 }  // namespace

@@ -19,16 +19,7 @@ constexpr std::int64_t tenYears = 3650;
 
 /// What an app composes its pages with, in English.
 struct Surroundings {
-  mivo::PageClients clients() const {
-    return {.now = now,
-            .calendar = *calendar,
-            .texts = texts,
-            .dates = *formatters.dateFormatter,
-            .hourMin = *formatters.hourMinDurationUnitFormatter,
-            .hour = *formatters.hourDurationUnitFormatter,
-            .numbers = *formatters.numberFormatter,
-            .masses = *formatters.massFormatter};
-  }
+  mivo::PageClients clients() const { return formatters.pageClients(*calendar, texts, now); }
 
   mivo::adapters::UserLocale locale = mivo::adapters::UserLocale::parse("en-GB").value();
   std::shared_ptr<const mivo::adapters::ZonedCalendar> calendar =

@@ -29,9 +29,8 @@ host::BackupFolder folderOf(const RecordRun& run) {
 std::string backUp(const RecordRun& run) {
   const host::History history = run.history();
   const host::BackupFolder folder = folderOf(run);
-  const auto kept = folder.keep(history, run.settings(), run.now);
+  const auto kept = folder.keepAndRotate(history, run.settings(), run.now);
   if (!kept) return run.texts->text("There is nothing to back up yet.") + '\n';
-  if (kept->isNew) folder.rotate(kept->backup);
   return filledIn(run.texts->text(kept->isNew ? translatable("Backed up to {1}: {2}, {3}")
                                               : translatable("Nothing has changed since the backup {1}: {2}, {3}")),
                   {kept->backup.file.string(), fastCountText(history.fasts.size(), run),

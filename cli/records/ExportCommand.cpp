@@ -96,6 +96,7 @@ std::string written(const host::History& history, const std::vector<host::Settin
 /// What draws the screen draws it on paper too: the app goes on from here.
 void print(const RecordRun& run) {
   const RecordOptions& options = run.options;
+  if (const auto range = readChoice("--range", ranges, options.range); !range) throw Refused{wrongUsage, range.error()};
   std::error_code unknown;
   expectFile(options.to);
   if (!options.isForced && fs::exists(options.to, unknown)) refuseToReplace(options.to);

@@ -137,8 +137,8 @@ void addFastCommands(Commands& to) {
       ->type_name(typeName(namesOf(exportedLists)));
   all.add_flag("--force", options.isForced, "Replace a file that is there already");
   all.add_flag("--with-weights", options.withWeights, "Weights too on a picture or pages, which hide them otherwise");
-  all.add_option("--range", options.range, "Of the statistics on a picture or pages; default: week")
-      ->check(CLI::IsMember({"week", "month", "year"}));
+  all.add_option("--range", options.range, "Of the statistics on a picture or pages")
+      ->type_name(typeName(namesOf(ranges)));
   CLI::App& import =
       to.add("import", "Add what files hold to the fasts and weights, whichever app wrote them", runImport);
   import.add_option("FILE", options.files, "Backups, tables or logs, known by their content; - for standard input")

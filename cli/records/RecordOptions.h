@@ -18,7 +18,7 @@ inline constexpr std::array<Choice<What>, 3> exportedLists{
 
 /// What stands after a command that keeps the history, as it was typed; empty or missing where it was not.
 struct RecordOptions {
-  std::string id, weight, to, what, which, folder, range;
+  std::string id, weight, to, what, which, folder, range = "week";
   std::vector<std::string> files;  ///< to import
   std::optional<std::string> at, start, end, goalHours, note;
   struct {

@@ -16,15 +16,8 @@ namespace {
 host::FastingPage page(const RecordRun& run) {
   const auto calendar = adapters::ZonedCalendar::gregorian(run.zone, run.locale.firstWeekday());
   const auto goalSeconds = host::goalSeconds(adapters::FileUserDefaults{adapters::appDefaultsFile()});
-  const PageClients clients{.now = run.now,
-                            .calendar = *calendar,
-                            .texts = *run.texts,
-                            .dates = *run.formatters.dateFormatter,
-                            .hourMin = *run.formatters.hourMinDurationUnitFormatter,
-                            .hour = *run.formatters.hourDurationUnitFormatter,
-                            .numbers = *run.formatters.numberFormatter,
-                            .masses = *run.formatters.massFormatter};
-  return host::composeFastingPage(host::fastingPageFacts(run.history().fasts, goalSeconds, run.now), clients);
+  return host::composeFastingPage(host::fastingPageFacts(run.history().fasts, goalSeconds, run.now),
+                                  run.formatters.pageClients(*calendar, *run.texts, run.now));
 }
 
 std::string status(const RecordRun& run) {

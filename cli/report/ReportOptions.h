@@ -19,9 +19,7 @@ struct ReportOptions {
   bool ignoreGoal = false;
 };
 
-// What `--range` and `--count` mean.
-inline constexpr std::array<Choice<TimeRange>, 3> ranges{
-    {{"week", TimeRange::week}, {"month", TimeRange::month}, {"year", TimeRange::year}}};
+/// What `--count` means.
 inline constexpr std::array<Choice<StreakSettings::CountingEntity>, 2> countingEntities{
     {{"days", StreakSettings::CountingEntity::days}, {"fasts", StreakSettings::CountingEntity::fasts}}};
 

@@ -19,8 +19,8 @@ namespace fs = std::filesystem;
 fs::path programNamed(const std::string& name) {
   std::error_code failure;
   const fs::path here = fs::read_symlink("/proc/self/exe", failure).parent_path();
-  const fs::path inBuild = here.parent_path() / "app/program" / name;
-  return fs::exists(inBuild, failure) ? inBuild : here / name;
+  const fs::path beside = here / name, inBuild = here.parent_path() / "app/program" / name;
+  return !fs::exists(beside, failure) && fs::exists(inBuild, failure) ? inBuild : beside;
 }
 
 }  // namespace

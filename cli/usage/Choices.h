@@ -7,6 +7,8 @@
 #include <string_view>
 #include <vector>
 
+#include "mivo/model/TimeRange.h"
+
 namespace mivo::cli {
 
 /// One of the values that an option can have. A name that is empty stands for an option that was not given.
@@ -33,6 +35,10 @@ std::string alternatives(const std::vector<std::string>& names);
 
 /// Whether it is json.
 inline constexpr std::array<Choice<bool>, 2> formats{{{"text", false}, {"json", true}}};
+
+/// What `--range` means.
+inline constexpr std::array<Choice<TimeRange>, 3> ranges{
+    {{"week", TimeRange::week}, {"month", TimeRange::month}, {"year", TimeRange::year}}};
 
 /// Adds `--format`, whose value is one of the names of `formats`.
 CLI::Option* addFormat(CLI::App& command, std::string& format);

@@ -85,6 +85,13 @@ std::optional<KeptBackup> BackupFolder::keep(const History& history, std::span<c
   return KeptBackup{written(folder, writeSnapshot(history, settings), now), true};
 }
 
+std::optional<KeptBackup> BackupFolder::keepAndRotate(const History& history, std::span<const Setting> settings,
+                                                      Date now) const {
+  auto kept = keep(history, settings, now);
+  if (kept && kept->isNew) rotate(kept->backup);
+  return kept;
+}
+
 void BackupFolder::rotate(const Backup& made) const {
   const auto all = backups();
   std::vector<Date> dates;

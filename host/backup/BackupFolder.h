@@ -51,6 +51,9 @@ class BackupFolder {
   /// worth the place of another one. Costs reading and writing one backup.
   std::optional<KeptBackup> keep(const History& history, std::span<const Setting> settings, Date now) const;
 
+  /// The same, and where a backup was made those go that need not stay: see `rotate`.
+  std::optional<KeptBackup> keepAndRotate(const History& history, std::span<const Setting> settings, Date now) const;
+
   /// Removes the backups that `keptBackups` does not keep, but never `made`, the last one, which a clock that was set
   /// back may have given an old date; and what a killed program left half written on days before that.
   void rotate(const Backup& made) const;

@@ -7,9 +7,7 @@ namespace mivo::host {
 
 void backUpWhereDue(const BackupFolder& folder, const std::function<History()>& history,
                     const std::function<std::vector<Setting>()>& settings, Date now) {
-  if (!folder.isDue(now)) return;
-  const auto kept = folder.keep(history(), settings(), now);
-  if (kept && kept->isNew) folder.rotate(kept->backup);
+  if (folder.isDue(now)) folder.keepAndRotate(history(), settings(), now);
 }
 
 void BackedUpHistory::apply(const HistoryChange& change) const {

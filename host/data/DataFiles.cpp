@@ -58,9 +58,7 @@ std::vector<ListedBackup> DataFiles::backups(bool areCounted) const {
 }
 
 std::optional<KeptBackup> DataFiles::backUp(const History& history, Date now) const {
-  auto kept = folder.keep(history, place.settings(), now);
-  if (kept && kept->isNew) folder.rotate(kept->backup);
-  return kept;
+  return folder.keepAndRotate(history, place.settings(), now);
 }
 
 tl::expected<Restored, BadRecord> DataFiles::restore(const std::filesystem::path& file, Date now) const {
