@@ -391,7 +391,9 @@ TEST_F(Drive, goesOverMidnightAndAClockChange) {
     const QString dates = app->model().fastingChart()->visibleDates();
     const QString weightDates = app->model().weightChart()->visibleDates();
     EXPECT_TRUE(eventually([&] { return app->text(QString::fromLatin1(before)) != nullptr; })) << before;
-    EXPECT_TRUE(QTest::qWaitFor([&] { return app->text(QString::fromLatin1(after)) != nullptr; }, 20000)) << after;
+    EXPECT_TRUE(QTest::qWaitFor([&] { return app->text(QString::fromLatin1(after)) != nullptr; }, 20000))
+        << after << "; it is " << secondsSince1970(app->environment.dependencies->date->now()) << ", shown as of "
+        << secondsSince1970(app->state().now);
     const bool isOtherDay = std::string_view{after} == "Today, 00:00";
     EXPECT_EQ(app->model().fastingChart()->visibleDates() != dates, isOtherDay);
     EXPECT_EQ(app->model().weightChart()->visibleDates() != weightDates, isOtherDay);

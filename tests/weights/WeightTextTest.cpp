@@ -54,7 +54,7 @@ INSTANTIATE_TEST_SUITE_P(
         WeightRow{"noDigitBetween", "12..4", st, refused}, WeightRow{"blanksAlone", "12.5  ", st, 175 * pound},
         WeightRow{"heaviest", "700", kg, 700}, WeightRow{"heavier", "700.1", kg, refused},
         WeightRow{"heavierInPounds", "1543.3", lb, refused}, WeightRow{"infinite", "inf", kg, refused},
-        WeightRow{"brokenText", "81\xE2", kg, refused}),
+        WeightRow{"brokenText", "81\xE2", kg, refused}, WeightRow{"negativePounds", "12 st -0 lb", st, refused}),
     [](const auto& row) { return std::string{row.param.name}; });
 
 TEST(TypedWeight, isRefusedWithTheLimitInBothUnits) {

@@ -42,6 +42,8 @@ TEST_P(WholeNumber, isReadWhereItFits) {
 INSTANTIATE_TEST_SUITE_P(Rows, WholeNumber,
                          testing::Values(NumberRow{"largest", "9223372036854775807", INT64_MAX},
                                          NumberRow{"smallest", "-9223372036854775808", INT64_MIN},
+                                         NumberRow{"smallestWithAPoint", "-9223372036854775808.0", INT64_MIN},
+                                         NumberRow{"largestWithAPoint", "9223372036854775808.0", std::nullopt},
                                          NumberRow{"oneTooLarge", "9223372036854775808", std::nullopt},
                                          NumberRow{"unsignedLimit", "18446744073709551615", std::nullopt},
                                          NumberRow{"huge", "99999999999999999999999", std::nullopt},
