@@ -20,6 +20,12 @@ struct FastRecord {
   bool operator==(const FastRecord&) const = default;
 };
 
+/// The id of a fast or of a weight.
+inline UUID idOf(const FastRecord& record) { return record.fast.id; }
+inline UUID idOf(const BodyWeightSample& sample) { return sample.id; }
+inline UUID& idOf(FastRecord& record) { return record.fast.id; }
+inline UUID& idOf(BodyWeightSample& sample) { return sample.id; }
+
 /// The record of a fast that was still running, as it is once it has ended.
 FastRecord stopped(FastRecord running, Date end);
 

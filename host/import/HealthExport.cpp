@@ -6,7 +6,6 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
-#include <cmath>
 #include <cstring>
 #include <new>
 #include <utility>
@@ -14,6 +13,7 @@
 #include "host/dates/WrittenDate.h"
 #include "host/history/FieldRules.h"
 #include "host/history/Header.h"
+#include "host/history/SameWeighing.h"
 
 namespace mivo::host {
 namespace {
@@ -58,24 +58,13 @@ std::optional<double> kilogramsPerUnit(std::string_view name) {
   return unit == units.end() ? std::nullopt : std::optional{unit->kilograms};
 }
 
-double minuteOf(const BodyWeightSample& sample) { return std::floor(secondsSince1970(sample.date) / 60); }
-
 /// Leaves one of those that several sources have told, and says how many are gone. Ascending by date afterwards.
 std::int64_t dropRepeats(std::vector<BodyWeightSample>& weights) {
-  constexpr double mostBetweenSources = 0.0100000001;  // kilograms
   std::ranges::stable_sort(weights, {}, &BodyWeightSample::date);
   std::vector<BodyWeightSample> kept;
   kept.reserve(weights.size());
-  for (const BodyWeightSample& sample : weights) {
-    const bool isRepeat =
-        std::any_of(kept.rbegin(),
-                    std::find_if(kept.rbegin(), kept.rend(),
-                                 [&](const BodyWeightSample& one) { return minuteOf(one) != minuteOf(sample); }),
-                    [&](const BodyWeightSample& one) {
-                      return std::abs(one.weightInKg - sample.weightInKg) <= mostBetweenSources;
-                    });
-    if (!isRepeat) kept.push_back(sample);
-  }
+  for (const BodyWeightSample& sample : weights)
+    if (!isAmongItsMinute(sample, kept.rbegin(), kept.rend())) kept.push_back(sample);
   weights.swap(kept);
   return static_cast<std::int64_t>(kept.size() - weights.size());
 }

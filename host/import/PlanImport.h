@@ -30,7 +30,8 @@ struct ImportPlan {
 ///
 /// Fasts are equal that have the same start and end, whatever their goal, note and id: the one that is there stays as
 /// it is. Weights are equal that have the same date and kilograms. A running fast is equal to any with its start, and
-/// is refused where another one is running. A record whose id another one has gets a new one from `ids`. Cost: linear.
+/// is refused where another one is running. A record whose id another one has gets a new one from `ids`. Cost: linear
+/// where all are in order, else that of sorting them.
 ImportPlan planImport(const History& present, std::span<const ImportedFile> files, const UUIDGenerator& ids);
 
 }  // namespace mivo::host

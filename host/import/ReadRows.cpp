@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "host/import/ReadRows.h"
 
+#include <algorithm>
 #include <cstddef>
+#include <span>
+#include <vector>
 
 #include "host/import/FastRows.h"
 #include "host/import/RowDates.h"
@@ -18,6 +21,17 @@ std::size_t rowsOfTable(const RecordRows& rows) {
     if (!row.isLone || readDateCell(row.cells[0]).date) count = seen;
   });
   return count;
+}
+
+/// Hands the new ids of these records out again in ascending order: the database's index of ids then grows at its end,
+/// which takes a third of the time. They are as random as before.
+template <class Record>
+void orderIDs(std::span<Record> records) {
+  std::vector<UUID> ids;
+  ids.reserve(records.size());
+  for (Record& record : records) ids.push_back(idOf(record));
+  std::ranges::sort(ids);
+  for (std::size_t place = 0; place < ids.size(); ++place) idOf(records[place]) = ids[place];
 }
 
 }  // namespace
@@ -39,12 +53,16 @@ std::optional<ImportFault> readRows(const RecordRows& rows, const ImportSettings
   if (rows.columns().areWeights) {
     WeightRows reader{rows, dates, settings, ids, file};
     if (auto fault = reader.missingUnit()) return fault;
+    const std::size_t before = file.weights.size();
     file.weights.reserve(count);
     readEach(reader);
+    orderIDs(std::span{file.weights}.subspan(before));
   } else {
+    const std::size_t before = file.fasts.size();
     file.fasts.reserve(count);
     file.fastLines.reserve(count);
     readEach(FastRows{rows, dates, ids, file});
+    orderIDs(std::span{file.fasts}.subspan(before));
   }
   return std::nullopt;
 }

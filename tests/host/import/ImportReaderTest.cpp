@@ -5,6 +5,7 @@
 
 #include <ostream>
 #include <string>
+#include <vector>
 
 #include "Imported.h"
 
@@ -382,6 +383,19 @@ TEST(ReadFile, countsWhatItDoesNotKeepOfTheRefused) {
   const auto file = reader.finish().value();
   EXPECT_EQ(file.refused.count(), 250);
   EXPECT_EQ(file.refused.first().size(), RefusedRecords::mostKept);
+}
+
+TEST(ReadFile, givesRecordsIDsThatAscend) {
+  struct DescendingUUIDs : tests::CountingUUIDs {
+    UUID next() const override { return {0, 100 - ++last}; }
+  };
+  const DescendingUUIDs ids;
+  ImportReader reader{"a.csv", berlin(), ids};
+  reader.feed("date,weight_kg\n2026-03-03,81\n2026-03-01,82\n2026-03-02,83\n");
+  const ImportedFile file = reader.finish().value();
+  std::vector<UUID> given;
+  for (const auto& sample : file.weights) given.push_back(sample.id);
+  EXPECT_EQ(given, (std::vector<UUID>{{0, 97}, {0, 98}, {0, 99}}));
 }
 
 TEST(ReadFile, stopsAtWhatNeverEnds) {

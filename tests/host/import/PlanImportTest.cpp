@@ -2,8 +2,11 @@
 #include "host/import/PlanImport.h"
 
 #include <gtest/gtest.h>
+#include <rapidcheck/gtest.h>
 
+#include <algorithm>
 #include <ostream>
+#include <vector>
 
 #include "tests/support/FixedClients.h"
 
@@ -88,8 +91,66 @@ INSTANTIATE_TEST_SUITE_P(
         Row{"runningIsThere", {{running(1, 20)}}, {{running(2, 20)}}, {}, {0, 0, 1, 0}},
         Row{"runningHasEndedMeanwhile", {{fast(1, 20, 36)}}, {{running(2, 20)}}, {}, {0, 0, 1, 0}},
         Row{"secondRunning", {{running(1, 20)}}, {{running(2, 44)}}, {}, {0, 0, 0, 1}},
+        Row{"runningAmongThem",
+            {{fast(1, 0, 16)}},
+            {{running(2, 20), running(3, 44), running(4, 20), fast(5, 44, 60), running(6, 44), running(7, 0)}},
+            {{running(2, 20), fast(5, 44, 60)}},
+            {2, 0, 3, 1}},
         Row{"secondRunningInTheFile", {}, {{running(1, 20), running(2, 44)}}, {{running(1, 20)}}, {1, 0, 0, 1}}),
     [](const auto& row) { return std::string{row.param.name}; });
+
+/// As the rule is said, record by record.
+ImportPlan slowPlan(const History& present, const std::vector<ImportedFile>& files, const UUIDGenerator& ids) {
+  ImportPlan plan;
+  std::vector<FastRecord> fasts = present.fasts;
+  for (const ImportedFile& file : files) {
+    ImportCounts& counts = plan.counts.emplace_back();
+    for (FastRecord record : file.fasts) {
+      const auto isEqual = [&](const FastRecord& other) {
+        if (!record.fast.finished) return other.fast.start == record.fast.start;
+        return other.fast.start == record.fast.start && other.fast.finished &&
+               other.fast.finished->end == record.fast.finished->end;
+      };
+      const auto hasID = [&](const FastRecord& other) { return other.fast.id == record.fast.id; };
+      if (std::ranges::any_of(fasts, isEqual)) {
+        ++counts.equal;
+      } else if (!record.fast.finished && runningFast(fasts) != nullptr) {
+        ++counts.refused;
+      } else {
+        while (std::ranges::any_of(fasts, hasID)) record.fast.id = ids.next();
+        fasts.push_back(record);
+        plan.change.addedFasts.push_back(record);
+        ++counts.newFasts;
+      }
+    }
+  }
+  return plan;
+}
+
+RC_GTEST_PROP(Plan, isThatOfTheSlowRule, ()) {
+  std::uint64_t ids = 0;
+  const auto someFasts = [&ids](int runningOnesIn) {
+    std::vector<FastRecord> fasts;
+    for (int count = *rc::gen::inRange(0, 12); count > 0; --count) {
+      const std::uint64_t id = *rc::gen::inRange(0, 3) == 0 ? *rc::gen::inRange<std::uint64_t>(1, ids + 2) : ++ids;
+      const double start = *rc::gen::inRange(0, 5);
+      const bool runs = *rc::gen::inRange(0, 100) < runningOnesIn;
+      fasts.push_back(runs ? running(id, start) : fast(id, start, start + *rc::gen::inRange(0, 3)));
+    }
+    return fasts;
+  };
+  History present;
+  for (const FastRecord& record : someFasts(0)) {
+    const auto hasID = [&](const FastRecord& other) { return other.fast.id == record.fast.id; };
+    if (std::ranges::none_of(present.fasts, hasID)) present.fasts.push_back(record);
+  }
+  const std::vector files{file({someFasts(30)}), file({someFasts(30)})};
+  const tests::CountingUUIDs some, others;
+  const ImportPlan fast = planImport(present, files, some), slow = slowPlan(present, files, others);
+  RC_ASSERT((fast.change == slow.change));
+  RC_ASSERT((fast.counts == slow.counts));
+  RC_ASSERT(fast.refused.count() == slow.counts[0].refused + slow.counts[1].refused);
+}
 
 TEST(Plan, takesFilesAsOne) {
   const tests::CountingUUIDs ids;
