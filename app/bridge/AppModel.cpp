@@ -39,8 +39,8 @@ AppModel::AppModel(AppServices given)
       texts{*dependencies.texts},
       clients{[present = services.dependencies] { return pageClients(*present, present->date->now()); }},
       store{State::make(services.timeRange, services.usualWeightUnit),
-            host::AppFeature{.history = services.history, .files = services.files}, dependencies.mainQueue,
-            dependencies.taskRunner},
+            host::AppFeature{.history = services.history, .files = services.files, .linkedHealth = services.health},
+            dependencies.mainQueue, dependencies.taskRunner},
       fastingBars{store.state().statistics.stats.fastingChartState, barClients(dependencies),
                   [this](DayBarsModel::Action action) { sendStatistics(Sent::fastingChartAction{std::move(action)}); }},
       eatingBars{store.state().statistics.stats.eatingChartState, barClients(dependencies),
@@ -65,6 +65,7 @@ AppModel::AppModel(AppServices given)
                      [this] { keepReminding(); }},
       importSheet{clients, [this](Action action) { send(std::move(action)); }},
       exportSheet{clients, [this](Action action) { send(std::move(action)); }},
+      healthSheet{texts, [this](Action action) { send(std::move(action)); }},
       allBackups{clients, services.files->backupFolder(), [this](Action action) { send(std::move(action)); }} {
   feedbackTexts.show(composeFeedback(texts));
   following = store.observe([this](const State& state) { follow(state); });
@@ -96,15 +97,17 @@ void AppModel::watchTime() {
   watch.start(untilLookedAround);
 }
 
-// The clock's minutes, so that a day goes when it ends.
+// The clock's minutes, so that a day goes when it ends. From what was computed: the timer may come a moment too early,
+// and a clock read anew may be past the minute that the statistics have not seen.
 void AppModel::waitForNextMinute() {
-  nextMinute.start(static_cast<int>(std::ceil(host::untilNextMinute(clients().now) * 1000)) + 1);
+  nextMinute.start(static_cast<int>(std::ceil(host::untilNextMinute(store.state().now) * 1000)) + 1);
 }
 
 void AppModel::setWatched(bool isNow) {
   if (std::exchange(watched, isNow) == isNow) return;
   if (isNow) {
     lookAround();
+    appear();
     watch.start(untilLookedAround);
   } else {
     watch.stop();
@@ -170,6 +173,7 @@ void AppModel::followPages(const State& state) {
   overlapRepair.follow(state.overlapRepair);
   chosenSettings.follow(state);
   importSheet.follow(state);
+  healthSheet.follow(state);
   allBackups.follow(state);
   goalWeight.show(composeGoalWeightSheet(statistics.goalWeightCardState, texts, *dependencies.numberFormatter,
                                          *dependencies.massFormatter));
@@ -225,8 +229,6 @@ void AppModel::dismissTip() {
   seen.clear();
   follow(store.state());
 }
-
-void AppModel::requestHealthAccess() { sendStatistics(Sent::requestHealthKitAccess{}); }
 
 void AppModel::openGoalWeight() {
   sendStatistics(Sent::goalWeightCardAction{GoalWeightCardFeature::Action::didOpenGoal{}});

@@ -38,6 +38,7 @@ struct AppServices {
   std::shared_ptr<const Dependencies> dependencies;  ///< also in force where the model is made
   Client<host::HistoryClient> history;
   Client<host::DataFiles> files;
+  Client<host::LinkedHealthClient> health;
   std::shared_ptr<const host::Tips> tips;
   TimeRange timeRange = TimeRange::week;               ///< that the statistics begin with
   std::optional<host::PrintedWeights> printed = {};    ///< where the screen is to be printed
@@ -72,6 +73,7 @@ class AppModel : public QObject {
   Q_PROPERTY(mivo::app::SettingsModel* settings READ settings CONSTANT)
   Q_PROPERTY(mivo::app::ImportModel* importing READ importing CONSTANT)
   Q_PROPERTY(mivo::app::ExportModel* exporting READ exporting CONSTANT)
+  Q_PROPERTY(mivo::app::HealthModel* health READ health CONSTANT)
   Q_PROPERTY(mivo::app::BackupsModel* backups READ backups CONSTANT)
   /// Only while the roadmap is shown.
   Q_PROPERTY(mivo::app::RoadmapModel* roadmap READ roadmap NOTIFY roadmapChanged)
@@ -104,6 +106,7 @@ class AppModel : public QObject {
   SettingsModel* settings() { return &chosenSettings; }
   ImportModel* importing() { return &importSheet; }
   ExportModel* exporting() { return &exportSheet; }
+  HealthModel* health() { return &healthSheet; }
   BackupsModel* backups() { return &allBackups; }
   RoadmapModel* roadmap() { return features.get(); }
   GoalWeightSheetRecord* goalSheet() { return &goalWeight; }
@@ -131,7 +134,6 @@ class AppModel : public QObject {
   Q_INVOKABLE void back() { send(Action::didGoBack{}); }
   Q_INVOKABLE void chooseTimeRange(int index);
   Q_INVOKABLE void dismissTip();
-  Q_INVOKABLE void requestHealthAccess();
   Q_INVOKABLE void pressMessage() { send(Action::didTapMessage{}); }
   Q_INVOKABLE void dismissMessages() { send(Action::didDismissMessages{}); }
   Q_INVOKABLE void openGoalWeight();
@@ -181,6 +183,7 @@ class AppModel : public QObject {
   SettingsModel chosenSettings;
   ImportModel importSheet;
   ExportModel exportSheet;
+  HealthModel healthSheet;
   BackupsModel allBackups;
   GoalWeightSheetRecord goalWeight;
   FeedbackSheetRecord feedbackTexts;

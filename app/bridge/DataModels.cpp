@@ -50,7 +50,8 @@ ExportModel::ExportModel(std::function<PageClients()> present, std::function<voi
     : clients{std::move(present)}, send{std::move(sends)} {}
 
 void ExportModel::follow(const host::AppFeature::State& state) {
-  if (openScreen(state) == host::Screen::exporting || title.isEmpty()) show(host::composeExportSheet(clients()));
+  if (openScreen(state) == host::Screen::exporting || title.isEmpty())
+    show(host::composeExportSheet(state.printsWeights, clients()));
 }
 
 QUrl ExportModel::proposal(const QString& fileName) const {
@@ -61,6 +62,12 @@ QUrl ExportModel::proposal(const QString& fileName) const {
 void ExportModel::write(int row, const QUrl& file) {
   send(Action::didExport{host::exportedPartAt(static_cast<std::size_t>(row)), pathOf(file)});
 }
+
+void HealthModel::follow(const host::AppFeature::State& state) { show(composeHealthSheet(state.health, texts)); }
+
+void HealthModel::link(const QUrl& file) { send(Action::health{host::HealthFeature::Action::didLink{pathOf(file)}}); }
+
+void HealthModel::unlink() { send(Action::health{host::HealthFeature::Action::didUnlink{}}); }
 
 BackupsModel::BackupsModel(std::function<PageClients()> present, std::filesystem::path backups,
                            std::function<void(Action)> sends)

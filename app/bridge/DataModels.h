@@ -7,6 +7,7 @@
 
 #include <filesystem>
 #include <functional>
+#include <utility>
 
 #include "app/records/Records.h"
 #include "host/app/AppFeature.h"
@@ -53,9 +54,35 @@ class ExportModel : public mivo::app::ExportSheetRecord {
   /// The file that is proposed for a row, among the user's documents.
   Q_INVOKABLE QUrl proposal(const QString& fileName) const;
   Q_INVOKABLE void write(int row, const QUrl& file);
+  Q_INVOKABLE void switchWeights() { send(Action::didSwitchPrintedWeights{}); }
 
  private:
   std::function<PageClients()> clients;
+  std::function<void(Action)> send;
+};
+
+/// The `host::HealthSheet`.
+class HealthModel : public mivo::app::HealthSheetRecord {
+  Q_OBJECT
+  QML_ELEMENT
+  QML_UNCREATABLE("the app has one")
+
+ public:
+  using Action = host::AppFeature::Action;
+  HealthModel(const TextLookup& lookup, std::function<void(Action)> sends) : texts{lookup}, send{std::move(sends)} {}
+
+  void follow(const host::AppFeature::State& state);
+
+  Q_INVOKABLE void chooseFile() { Q_EMIT fileWanted(); }
+  Q_INVOKABLE void link(const QUrl& file);
+  Q_INVOKABLE void unlink();
+
+ Q_SIGNALS:
+  /// The dialog that chooses it is to open.
+  void fileWanted();
+
+ private:
+  const TextLookup& texts;
   std::function<void(Action)> send;
 };
 

@@ -61,6 +61,7 @@ void SettingsModel::follow(const host::AppFeature::State& state) {
   shownCards.follow(state.statistics, clients());
   shownReminders.follow();
   facts.weightUnit = state.statistics.goalWeightCardState.weightUnit;
+  facts.linkedHealth = linkedFileText(state.health, clients().texts);
   facts.newestBackup = newestBackupText(state.backups, clients());
   compose();
 }

@@ -14,6 +14,7 @@
 #include "host/pages/FastSheet.h"
 #include "host/pages/FastingPage.h"
 #include "host/pages/GoalChoice.h"
+#include "host/pages/HealthSheet.h"
 #include "host/pages/HistoryPage.h"
 #include "host/pages/ImportSheet.h"
 #include "host/pages/Message.h"
@@ -49,8 +50,9 @@ using ObjectRecords =
                WeightFastingChartCard, TrendsCard, AddWeightForm, GoalWeightSheet, BadgesPage, DonationsPage,
                RoadmapPage, FeedbackSheet, host::AboutPage, host::BackupsPage, host::CardSettingsPage,
                host::ControlWords, host::DateTimeChoice, host::ExportSheet, host::FastSheet, host::FastingPage,
-               host::GoalChoice, host::HistoryPage, host::ImportSheet, host::Message, host::OpenScreens,
-               host::RemindersPage, host::RepairSheet, host::RestoreSheet, host::SettingsPage, host::WeightsPage>;
+               host::GoalChoice, host::HealthSheet, host::HistoryPage, host::ImportSheet, host::Message,
+               host::OpenScreens, host::RemindersPage, host::RepairSheet, host::RestoreSheet, host::SettingsPage,
+               host::WeightsPage>;
 
 template <class Candidate, class List>
 inline constexpr bool isIn = false;

@@ -1,18 +1,24 @@
 // SPDX-License-Identifier: MIT
-// The system's dialog that chooses files to bring along. Loaded when it is first wanted.
+// The system's dialog that chooses files of the user's. A FileChooser loads it when it is first wanted.
 import QtQuick
 import QtQuick.Dialogs
-import Mivo
 
 Item {
+    id: root
+
+    property alias title: dialog.title
+    property bool takesMany
+    readonly property alias files: dialog.selectedFiles
+
+    signal chosen
+
     function open() {
         dialog.open();
     }
 
     FileDialog {
         id: dialog
-        title: App.importing.title
-        fileMode: FileDialog.OpenFiles
-        onAccepted: App.importing.choose(selectedFiles)
+        fileMode: root.takesMany ? FileDialog.OpenFiles : FileDialog.OpenFile
+        onAccepted: root.chosen()
     }
 }

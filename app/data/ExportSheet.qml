@@ -52,4 +52,16 @@ Sheet {
             }
         }
     }
+
+    Column {
+        width: parent.width
+
+        SwitchRow {
+            leftPadding: 0
+            rightPadding: 0
+            text: App.exporting.weightsLabel
+            on: App.exporting.printsWeights
+            onClicked: App.exporting.switchWeights()
+        }
+    }
 }

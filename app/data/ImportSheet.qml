@@ -12,20 +12,11 @@ Sheet {
     title: page.title
     spacing: 16
 
-    // The dialog is loaded when it is first wanted: the window need not wait for it.
-    Loader {
+    FileChooser {
         id: chooser
-        active: false
-        visible: false
-        source: "qrc:/Mivo/ChooseFiles.qml"
-        onLoaded: (item as ChooseFiles).open()
-
-        function open() {
-            if (active)
-                (item as ChooseFiles).open();
-            else
-                active = true;
-        }
+        title: root.title
+        takesMany: true
+        onChosen: root.page.choose(files)
     }
 
     StyledText {

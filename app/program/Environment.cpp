@@ -22,8 +22,9 @@
 #include "adapters/system/UserDirectories.h"
 #include "adapters/time/ZonedCalendar.h"
 #include "app/bridge/QtLinkOpener.h"
-#include "app/bridge/QtMainQueue.h"
 #include "app/program/OwnClock.h"
+#include "app/program/PrintOutside.h"
+#include "app/program/QtMainQueue.h"
 #include "app/program/SystemZone.h"
 #include "host/app/CarriedSettings.h"
 #include "host/app/Settings.h"
@@ -32,7 +33,6 @@
 #include "host/database/DatabaseHistory.h"
 #include "host/database/FaultText.h"
 #include "host/donations/DonationList.h"
-#include "host/health/StoredHealthClient.h"
 #include "host/history/Snapshot.h"
 #include "host/place/PlaceOptions.h"
 #include "host/text/TextFile.h"
@@ -93,7 +93,6 @@ void addSystem(Dependencies& clients, const fs::path& settings,
   clients.links = std::make_shared<QtLinkOpener>();
   clients.mainQueue = std::make_shared<QtMainQueue>();
   clients.taskRunner = std::make_shared<adapters::ThreadPool>();
-  clients.healthKitClient = std::make_shared<host::StoredHealthClient>(clients.userDefaults);
 }
 
 Read<std::monostate> addPlaceAndTime(Environment& environment, Dependencies& clients, const Options& options) {
@@ -208,12 +207,30 @@ std::function<std::vector<host::Setting>()> settingsOf(const Environment& enviro
   };
 }
 
-Client<host::DataFiles> filesAround(const Environment& environment) {
+// Only what was typed: the program that prints reads the settings itself.
+auto printOf(const Environment& environment, const Options& options) {
+  std::vector<std::string> arguments{"--database", environment.databaseFile.string()};
+  const auto add = [&arguments](const char* name, const std::string& value) {
+    if (!value.empty()) arguments.insert(arguments.end(), {name, value});
+  };
+  add("--locale", options.locale);
+  add("--time-zone", options.timeZone);
+  add("--now", options.now);
+  return [arguments](const fs::path& file, TimeRange range, host::PrintedWeights weights) {
+    std::vector<std::string> all = arguments;
+    all.insert(all.end(), {"--range", std::string{rawValue(range)}});
+    if (weights == host::PrintedWeights::shown) all.emplace_back("--with-weights");
+    printOutside(file, all);
+  };
+}
+
+Client<host::DataFiles> filesAround(const Environment& environment, const Options& options) {
   return std::make_shared<host::DataFiles>(
       host::DataFiles::Place{.database = environment.databaseFile,
                              .zone = [calendar = environment.calendar] { return calendar->present().zone(); },
                              .settings = settingsOf(environment),
-                             .ids = environment.dependencies->uuid});
+                             .ids = environment.dependencies->uuid,
+                             .print = printOf(environment, options)});
 }
 
 // Only the app's own is backed up by itself, as on the command line.
@@ -298,6 +315,10 @@ tl::expected<Environment, std::string> makeEnvironment(const Options& options) {
     if (const auto added = addPlaceAndTime(environment, *clients, options); !added)
       return tl::unexpected{added.error()};
     addServers(*clients, options);
+    environment.databaseFile = databaseFile(environment, options);
+    environment.health =
+        std::make_shared<host::LinkedHealthClient>(clients->userDefaults, carriesSettings(environment));
+    clients->healthKitClient = environment.health;
     environment.tips = std::make_shared<const host::Tips>(clients->userDefaults);
     clients->tips = environment.tips;
     environment.rightToLeft = isWrittenFromTheRight(clients->languageTag);
@@ -315,8 +336,7 @@ tl::expected<Environment, std::string> makeEnvironment(const Options& options) {
 bool openHistory(Environment& environment, const Options& options) {
   environment.notice.clear();
   environment.isDamaged = false;
-  environment.databaseFile = databaseFile(environment, options);
-  environment.files = filesAround(environment);
+  environment.files = filesAround(environment, options);
   try {
     environment.history = clientOf(open(environment, environment.notice), environment);
   } catch (const host::DatabaseError& error) {

@@ -9,6 +9,7 @@
 #include "app/program/Options.h"
 #include "host/data/DataFiles.h"
 #include "host/fasting/HistoryClient.h"
+#include "host/health/LinkedHealthClient.h"
 #include "host/place/WeekCalendar.h"
 #include "host/tips/Tips.h"
 #include "mivo/platform/Dependencies.h"
@@ -47,6 +48,7 @@ struct Environment {
   std::shared_ptr<SystemZone> systemZone;              ///< to be followed; none where the options name a zone
   Client<host::HistoryClient> history;                 ///< none where it could not be opened; `notice` then says why
   Client<host::DataFiles> files;                       ///< around the history, opened or not
+  Client<host::LinkedHealthClient> health;             ///< the one in the dependencies
   bool isDamaged = false;                              ///< it could not be opened for that, and there are backups
   WeightUnit usualWeightUnit = WeightUnit::kilograms;  ///< in the locale
   bool rightToLeft = false;                            ///< the language is written so

@@ -127,6 +127,7 @@ AppWindow::AppWindow(const Environment& environment, const Options& options, QSi
       app{{.dependencies = environment.dependencies,
            .history = environment.history,
            .files = environment.files,
+           .health = environment.health,
            .tips = environment.tips,
            .timeRange = rangeOf(options),
            .printed = printedOf(options),

@@ -139,6 +139,14 @@ FocusScope {
                     }
 
                     ValueRow {
+                        visible: text !== ""
+                        iconName: "health"
+                        text: App.settings.healthLabel
+                        value: App.settings.linkedHealth
+                        onClicked: App.present("health")
+                    }
+
+                    ValueRow {
                         iconName: "outbox"
                         text: App.settings.exportLabel
                         onClicked: App.present("export")

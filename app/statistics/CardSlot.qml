@@ -82,7 +82,7 @@ Item {
     Component { id: overlap; NoticeCard { card: root.card as NoticeCardRecord; iconName: "warning"; isCaution: true; onTapped: App.present("overlaps") } }
     Component { id: donation; TileCard { card: root.card as NoticeCardRecord; iconName: "heart"; onClicked: App.present("donations") } }
     Component { id: roadmap; TileCard { card: root.card as NoticeCardRecord; iconName: "feedback"; onClicked: App.present("roadmap") } }
-    Component { id: health; NoticeCard { card: root.card as NoticeCardRecord; iconName: "health"; onTapped: App.requestHealthAccess() } }
+    Component { id: health; NoticeCard { card: root.card as NoticeCardRecord; iconName: "health"; onTapped: App.health.chooseFile() } }
     Component { id: addWeight; AddWeightCard { card: root.card as NoticeCardRecord; entry: App.addWeight; inRow: root.span === 2; onDateTapped: App.present("date") } }
     Component { id: goalWeight; GoalWeightCard { card: root.card as GoalWeightCardRecord; onClicked: App.present("goalWeight"); onWeightsWanted: App.present("weights") } }
     Component { id: badges; BadgesCard { card: root.card as BadgesCardRecord; onClicked: App.present("badges") } }

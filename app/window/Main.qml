@@ -183,6 +183,26 @@ Window {
     }
 
     LateSheet {
+        screen: "health"
+        sourceComponent: HealthSheet {}
+    }
+
+    // Wanted from the card that asks for access, and from the sheet.
+    FileChooser {
+        id: healthFile
+        title: App.health.title
+        onChosen: App.health.link(files[0])
+    }
+
+    Connections {
+        target: App.health
+
+        function onFileWanted() {
+            healthFile.open();
+        }
+    }
+
+    LateSheet {
         screen: "restore"
         sourceComponent: RestoreSheet {}
     }

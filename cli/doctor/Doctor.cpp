@@ -14,6 +14,8 @@
 #include "host/backup/BackupFolder.h"
 #include "host/database/Database.h"
 #include "host/dates/DateText.h"
+#include "host/health/LinkedHealthClient.h"
+#include "host/health/ReadLinkedHealth.h"
 #include "host/json/JsonWriter.h"
 #include "host/text/TextFile.h"
 
@@ -82,6 +84,27 @@ Finding backups(const fs::path& database) {
   }
 }
 
+std::string linkedHealthFile(const fs::path& settings) {
+  const auto text = isThere(settings) ? host::readTextFile(settings.string()) : std::string{"{}"};
+  if (!text) return {};
+  try {
+    const JSONValue all = adapters::NlohmannDecoder{}.decoded(*text);
+    const JSONValue* const linked = all.member(host::linkedHealthFileKey);
+    return linked && linked->text() ? *linked->text() : std::string{};
+  } catch (const std::exception&) {
+    return {};  // the settings are ill, and said to be
+  }
+}
+
+/// Whether it can be read, not what it holds: it may be gigabytes.
+Finding healthData(const fs::path& settings) {
+  const std::string path = linkedHealthFile(settings);
+  if (path.empty()) return {"health data", "no file linked"};
+  const auto state = host::linkedFileState(path);
+  return state ? Finding{"health data", path + ": can be read"}
+               : Finding{"health data", describe(state.error().bad), true};
+}
+
 Finding timeZone() {
   const auto name = adapters::systemTimeZoneName();
   if (!name) return {"time zone", name.error(), true};
@@ -114,6 +137,7 @@ std::vector<Finding> examine(const DoctorOptions& options, const URLSession& net
                                 database(file, !options.database.empty())};
   addSetAside(findings, file);
   findings.push_back(backups(file));
+  findings.push_back(healthData(adapters::appDefaultsFile()));
   findings.push_back(timeZone());
   findings.push_back(zoneData());
   findings.push_back({"language", adapters::UserLocale::system().tag()});

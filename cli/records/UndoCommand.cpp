@@ -9,8 +9,7 @@
 namespace mivo::cli {
 namespace {
 
-UUID idOf(const host::FastRecord& record) { return record.fast.id; }
-UUID idOf(const BodyWeightSample& sample) { return sample.id; }
+using host::idOf;
 
 template <class Record>
 bool hasIDOf(const std::vector<Record>& records, const Record& one) {

@@ -45,6 +45,7 @@ int main() {
   loop->drain();  // the answers about health data and tips arrive here
   store.send(Action::requestHealthKitAccess{});
   store.send(Action::didTapOpenBadges{});
+  loop->drain();  // a task that stays behind keeps its loop alive, and the loop its task
 
   const StatsContainer& read = store.state().stats;
   std::printf("%lld fasts, %lld hours, %.1f hours on average\n", static_cast<long long>(read.totalFasts),

@@ -64,6 +64,7 @@ auto AppFeature::on(State& state, const Action::statistics& sent) const -> Effec
   if (std::holds_alternative<Sent::onAppear>(sent.action)) {
     takeSettings(state);
     recompute(state);
+    return reduce(state, Action::health{HealthFeature::Action::onAppear{}});
   } else if (std::holds_alternative<Sent::binding>(sent.action)) {
     recompute(state);
   } else if (std::holds_alternative<Sent::didTapFixOverlappingFasts>(sent.action)) {

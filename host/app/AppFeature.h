@@ -11,6 +11,7 @@
 #include "host/data/ImportFeature.h"
 #include "host/fasting/FastDraft.h"
 #include "host/fasting/HistoryClient.h"
+#include "host/health/HealthFeature.h"
 #include "host/history/FieldRules.h"
 #include "mivo/statistics/StatisticsFeature.h"
 #include "mivo/store/List.h"
@@ -63,9 +64,11 @@ struct AppFeature {
     Observed<std::int64_t> nextGoalSeconds = defaultGoalSeconds;          ///< what the next fast is meant to last
     Observed<std::optional<FastDraft>> draft = std::optional<FastDraft>{};
     Presentation<EditedWeight> editedWeight = {};
+    Observed<bool> printsWeights = false;  ///< where the statistics are exported
     Observed<std::optional<HistoryChange>> overlapRepair = std::optional<HistoryChange>{};  ///< proposed, not yet done
     Presentation<ImportFeature::State> importing = {};
     BackupsFeature::State backups = {};
+    HealthFeature::State health = {};
     Observed<std::optional<UndoOffer>> undo = std::optional<UndoOffer>{};
     Observed<std::string> failure = std::string{};  ///< one sentence, until dismissed
     /// The innermost that is open of those that nothing else here tells of; `openScreen` knows them all.
@@ -200,6 +203,9 @@ struct AppFeature {
       PresentationAction<ImportFeature::Action> action;
       bool operator==(const importing&) const = default;
     };
+    struct didSwitchPrintedWeights {
+      bool operator==(const didSwitchPrintedWeights&) const = default;
+    };
     struct didExport {
       ExportedPart part;
       std::string path;
@@ -208,6 +214,10 @@ struct AppFeature {
     struct backups {
       BackupsFeature::Action action;
       bool operator==(const backups&) const = default;
+    };
+    struct health {
+      HealthFeature::Action action;
+      bool operator==(const health&) const = default;
     };
     /// Has read what failed; without a failure, takes the offer to undo.
     struct didTapMessage {
@@ -231,20 +241,21 @@ struct AppFeature {
   };
   struct Action
       : Cases,
-        std::variant<Cases::statistics, Cases::reload, Cases::didLoad, Cases::didFail, Cases::didChangeSettings,
-                     Cases::recompute, Cases::didOpen, Cases::didClose, Cases::didGoBack, Cases::didTapStart,
-                     Cases::didTapStop, Cases::didChangeStart, Cases::didChangeGoal, Cases::didTapEditFast,
-                     Cases::didTapAddFast, Cases::didChangeDraftStart, Cases::didChangeDraftEnd,
-                     Cases::didChangeDraftGoal, Cases::didChangeDraftNote, Cases::didTapSaveDraft,
-                     Cases::didDismissDraft, Cases::didDeleteFast, Cases::didTapEditWeight, Cases::editedWeight,
-                     Cases::didDeleteWeight, Cases::didConfirmOverlapRepair, Cases::didCancelOverlapRepair,
-                     Cases::didChooseFiles, Cases::importing, Cases::didExport, Cases::backups, Cases::didTapMessage,
-                     Cases::didDismissMessages, Cases::didWrite, Cases::didFailToWrite> {
+        std::variant<
+            Cases::statistics, Cases::reload, Cases::didLoad, Cases::didFail, Cases::didChangeSettings,
+            Cases::recompute, Cases::didOpen, Cases::didClose, Cases::didGoBack, Cases::didTapStart, Cases::didTapStop,
+            Cases::didChangeStart, Cases::didChangeGoal, Cases::didTapEditFast, Cases::didTapAddFast,
+            Cases::didChangeDraftStart, Cases::didChangeDraftEnd, Cases::didChangeDraftGoal, Cases::didChangeDraftNote,
+            Cases::didTapSaveDraft, Cases::didDismissDraft, Cases::didDeleteFast, Cases::didTapEditWeight,
+            Cases::editedWeight, Cases::didDeleteWeight, Cases::didConfirmOverlapRepair, Cases::didCancelOverlapRepair,
+            Cases::didChooseFiles, Cases::importing, Cases::didSwitchPrintedWeights, Cases::didExport, Cases::backups,
+            Cases::health, Cases::didTapMessage, Cases::didDismissMessages, Cases::didWrite, Cases::didFailToWrite> {
     using variant::variant;
   };
 
   Client<HistoryClient> history;
   Client<DataFiles> files = {};
+  Client<LinkedHealthClient> linkedHealth = {};  ///< none: no health data at all
   Client<DateGenerator> date = dependency(&Dependencies::date);
   Client<UUIDGenerator> uuid = dependency(&Dependencies::uuid);
   Client<UserDefaults> userDefaults = dependency(&Dependencies::userDefaults);
@@ -255,6 +266,7 @@ struct AppFeature {
   AddWeightLogFeature weightEntry = {};
   ImportFeature importFeature = {files, history, texts};
   BackupsFeature backupsFeature = {files, history, texts, date};
+  HealthFeature healthFeature = {linkedHealth, files, history, texts};
 
   Effect<Action> reduce(State& state, const Action& action) const;
 
@@ -288,8 +300,11 @@ struct AppFeature {
   Effect<Action> on(State& state, const Action::didCancelOverlapRepair& sent) const;
   Effect<Action> on(State& state, const Action::didChooseFiles& sent) const;
   Effect<Action> on(State& state, const Action::importing& sent) const;
+  Effect<Action> on(State& state, const Action::didSwitchPrintedWeights& sent) const;
   Effect<Action> on(State& state, const Action::didExport& sent) const;
+  Effect<Action> print(const State& state, const std::string& file) const;
   Effect<Action> on(State& state, const Action::backups& sent) const;
+  Effect<Action> on(State& state, const Action::health& sent) const;
   Effect<Action> on(State& state, const Action::didTapMessage& sent) const;
   Effect<Action> on(State& state, const Action::didDismissMessages& sent) const;
   Effect<Action> on(State& state, const Action::didWrite& sent) const;
@@ -308,6 +323,7 @@ struct AppFeature {
   Effect<Action> write(Step step, HistoryChange change) const;
   Effect<Action> writeImport(State& state) const;
   Effect<Action> restore(State& state) const;
+  Effect<Action> didChangeAccess(State& state, bool isAllowed) const;
   Effect<Action> didWriteData(State& state, const Action::didWrite& written) const;
   bool isSaidWhereItWasTried(State& state, const Action::didFailToWrite& failed) const;
 };
@@ -330,8 +346,8 @@ void fields(Listed& record, Visit&& visit) {
 
 template <RecordOf<AppFeature::State> Listed, class Visit>
 void fields(Listed& record, Visit&& visit) {
-  auto& [statistics, fasts, weights, now, nextGoalSeconds, draft, editedWeight, overlapRepair, importing, backups, undo,
-         failure, screen] = record;
+  auto& [statistics, fasts, weights, now, nextGoalSeconds, draft, editedWeight, printsWeights, overlapRepair, importing,
+         backups, health, undo, failure, screen] = record;
   visit("statistics", statistics);
   visit("fasts", fasts);
   visit("weights", weights);
@@ -339,9 +355,11 @@ void fields(Listed& record, Visit&& visit) {
   visit("nextGoalSeconds", nextGoalSeconds);
   visit("draft", draft);
   visit("editedWeight", editedWeight);
+  visit("printsWeights", printsWeights);
   visit("overlapRepair", overlapRepair);
   visit("importing", importing);
   visit("backups", backups);
+  visit("health", health);
   visit("undo", undo);
   visit("failure", failure);
   visit("screen", screen);

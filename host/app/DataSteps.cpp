@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
-// What becomes of the data as a whole: files that are brought along, files that take it out, and backups.
+// What becomes of the data as a whole: files that are brought along, files that take it out, backups, and the linked
+// health data.
 #include <exception>
 #include <utility>
 
 #include "host/app/AppFeature.h"
 #include "host/database/FaultText.h"
+#include "mivo/store/Reducers.h"
 
 namespace mivo::host {
 namespace {
@@ -86,8 +88,17 @@ auto AppFeature::writeImport(State& state) const -> Effect<Action> {
       history, files, texts, *state.importing->preview);
 }
 
+auto AppFeature::on(State& state, const Action::didSwitchPrintedWeights&) const -> Effect<Action> {
+  state.printsWeights = !state.printsWeights;
+  return {};
+}
+
 auto AppFeature::on(State& state, const Action::didExport& asked) const -> Effect<Action> {
   Effect<Action> effect = on(state, Action::didClose{Screen::exporting});
+  if (asked.part == ExportedPart::pages || asked.part == ExportedPart::picture) {
+    effect.add(print(state, asked.path));
+    return effect;
+  }
   effect.add(Effect<Action>::run(
       [](const Send<Action>& send, const std::stop_token&, const Client<HistoryClient>& client,
          const Client<DataFiles>& data, const Client<TextLookup>& lookup, const Client<NumberFormatter>& counts,
@@ -102,6 +113,21 @@ auto AppFeature::on(State& state, const Action::didExport& asked) const -> Effec
       },
       history, files, texts, numbers, asked.part, asked.path));
   return effect;
+}
+
+auto AppFeature::print(const State& state, const std::string& file) const -> Effect<Action> {
+  return Effect<Action>::run(
+      [](const Send<Action>& send, const std::stop_token&, const Client<DataFiles>& data,
+         const Client<TextLookup>& lookup, const std::string& path, TimeRange range, PrintedWeights weights) {
+        try {
+          data->print(path, range, weights);
+          send(Action::didFail{filledIn(lookup->text("Exported to {1}"), {path})});
+        } catch (const std::exception& error) {
+          send(Action::didFail{faultText(error, *lookup)});
+        }
+      },
+      files, texts, file, *state.statistics.timeRange,
+      state.printsWeights ? PrintedWeights::shown : PrintedWeights::hidden);
 }
 
 auto AppFeature::on(State& state, const Action::backups& sent) const -> Effect<Action> {
@@ -130,6 +156,30 @@ auto AppFeature::restore(State& state) const -> Effect<Action> {
         }
       },
       files, texts, (*state.backups.chosen)->backup.file, date->now());
+}
+
+// The same fault is said once, however often it is tried. What has come is read with all else that is on disk: another
+// program's changes may lie in between.
+auto AppFeature::on(State& state, const Action::health& sent) const -> Effect<Action> {
+  using Health = HealthFeature::Action;
+  const std::string fault = *state.health.fault, notice = *state.health.notice;
+  Effect<Action> effect = scope<Action::health>(&State::health, healthFeature)(state, Action{sent});
+  if (*state.health.notice != notice && !state.health.notice->empty()) state.failure = *state.health.notice;
+  if (*state.health.fault != fault && !state.health.fault->empty()) state.failure = *state.health.fault;
+  if (std::holds_alternative<Health::didLink>(sent.action)) effect.add(didChangeAccess(state, true));
+  if (std::holds_alternative<Health::didUnlink>(sent.action)) effect.add(didChangeAccess(state, false));
+  const auto* synced = std::get_if<Health::didSync>(&sent.action);
+  if (synced && synced->added > 0) effect.add(on(state, Action::reload{}));
+  return effect;
+}
+
+// The statistics would ask only when they appear again, and show until then what they were told before.
+auto AppFeature::didChangeAccess(State& state, bool isAllowed) const -> Effect<Action> {
+  using Sent = StatisticsFeature::Action;
+  Effect<Action> effect;
+  if (isAllowed) effect.add(reduce(state, Action::statistics{Sent::requestHealthKitAccess{}}));
+  effect.add(reduce(state, Action::statistics{Sent::shouldRequestHealthKitAuthorizationResponse{!isAllowed}}));
+  return effect;
 }
 
 auto AppFeature::didWriteData(State& state, const Action::didWrite& written) const -> Effect<Action> {

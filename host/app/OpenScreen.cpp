@@ -52,6 +52,8 @@ bool hasWhatIsShown(const State& state, Screen screen) {
     case Screen::editWeight:
     case Screen::weightMenu:
       return !state.weights->empty();
+    case Screen::health:
+      return state.health.isOffered;
     case Screen::restoring:
       return newestReadable(*state.backups.backups).has_value();
     default:

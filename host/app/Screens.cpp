@@ -45,6 +45,7 @@ constexpr std::array<Row, screenCount> rows{{{statistics, "statistics", tab, sta
                                              {about, "about", page, settings},
                                              {importing, "import", sheet, settings},
                                              {exporting, "export", sheet, settings},
+                                             {health, "health", sheet, settings},
                                              {backups, "backups", page, settings},
                                              {restoring, "restore", sheet, backups},
                                              {firstWeekday, "firstWeekday", sheet, settings},

@@ -39,6 +39,7 @@ enum class Screen {
   about,
   importing,
   exporting,
+  health,
   backups,
   restoring,
   firstWeekday,

@@ -10,13 +10,22 @@ void backUpWhereDue(const BackupFolder& folder, const std::function<History()>& 
   if (folder.isDue(now)) folder.keepAndRotate(history(), settings(), now);
 }
 
-void BackedUpHistory::apply(const HistoryChange& change) const {
+void BackedUpHistory::backUp() const {
   try {
     backUpWhereDue(source.folder, source.history, source.settings, source.now());
   } catch (const std::exception& error) {
     source.failed(error);
   }
+}
+
+void BackedUpHistory::apply(const HistoryChange& change) const {
+  backUp();
   history->apply(change);
+}
+
+std::int64_t BackedUpHistory::sync(const WeightSync& read) const {
+  backUp();
+  return history->sync(read);
 }
 
 }  // namespace mivo::host

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cstdint>
 #include <functional>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -35,8 +37,12 @@ class BackedUpHistory final : public HistoryClient {
   History load() const override { return history->load(); }
   void apply(const HistoryChange& change) const override;
   std::int64_t version() const override { return history->version(); }
+  std::optional<FileState> lastSynced() const override { return history->lastSynced(); }
+  std::int64_t sync(const WeightSync& read) const override;
 
  private:
+  void backUp() const;
+
   std::shared_ptr<const HistoryClient> history;
   BackupSource source;
 };

@@ -15,11 +15,13 @@
 #include "host/backup/BackupFolder.h"
 #include "host/backup/Restore.h"
 #include "host/data/CountText.h"
+#include "host/data/ExportedPart.h"
 #include "host/history/History.h"
 #include "host/history/Setting.h"
 #include "host/import/ImportSettings.h"
 #include "host/import/ImportedFile.h"
 #include "host/import/PlanImport.h"
+#include "mivo/model/TimeRange.h"
 #include "mivo/platform/UUIDGenerator.h"
 
 namespace mivo::host {
@@ -30,9 +32,6 @@ struct ImportAnswers {
   std::optional<DateOrder> dateOrder = {};
   bool operator==(const ImportAnswers&) const = default;
 };
-
-/// What is taken out into a file of its own: all of it as a snapshot, or a table.
-enum class ExportedPart { everything, fasts, weights };
 
 /// A backup as it is listed.
 struct ListedBackup {
@@ -52,6 +51,8 @@ class DataFiles {
     std::function<std::shared_ptr<const adapters::TimeZone>()> zone;  ///< of dates without an offset
     std::function<std::vector<Setting>()> settings;                   ///< that snapshots carry
     std::shared_ptr<const UUIDGenerator> ids;
+    /// Onto pages or into a picture, as the file's name ends.
+    std::function<void(const std::filesystem::path& file, TimeRange range, PrintedWeights weights)> print = {};
   };
   using Read = tl::expected<std::vector<ImportedFile>, ImportFault>;
 
@@ -62,8 +63,13 @@ class DataFiles {
             const std::function<void(double)>& progress, const std::stop_token& stop) const;
   ImportPlan plan(const History& present, const std::vector<ImportedFile>& files) const;
 
-  /// The file is written whole or not at all; one that is there is replaced.
+  /// The records as a snapshot or a table. The file is written whole or not at all; one that is there is replaced.
   void write(ExportedPart part, const History& history, const std::filesystem::path& file) const;
+
+  /// The statistics, as `write` does; throws std::runtime_error, too.
+  void print(const std::filesystem::path& file, TimeRange range, PrintedWeights weights) const {
+    place.print(file, range, weights);
+  }
 
   const std::filesystem::path& backupFolder() const { return folder.path(); }
   /// The newest first; their records are read and counted where that is asked for.

@@ -10,17 +10,20 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <array>
 #include <cerrno>
 #include <chrono>
 #include <cstring>
+#include <iterator>
 #include <system_error>
 #include <utility>
 
 #include "adapters/system/FileDescriptor.h"
 #include "adapters/system/UserDirectories.h"
+#include "host/database/LastChange.h"
+#include "host/database/RecordTables.h"
 #include "host/database/Schema.h"
 #include "host/dates/DateText.h"
+#include "host/history/SameWeighing.h"
 
 namespace mivo::host {
 namespace {
@@ -30,90 +33,12 @@ using Kind = DatabaseError::Kind;
 
 constexpr int millisecondsToWaitForALock = 5000;
 
-// Identifiers as 16 bytes, the most significant first, so that they sort and read as their text does.
-using IDBytes = std::array<unsigned char, 16>;
-
-IDBytes bytes(UUID id) {
-  IDBytes result;
-  for (std::size_t place = 0; place < result.size(); ++place) {
-    const std::uint64_t half = place < 8 ? id.high : id.low;
-    result[place] = static_cast<unsigned char>(half >> (56 - 8 * (place % 8)));
-  }
-  return result;
-}
-
-UUID identifier(const SQLite::Column& column) {
-  IDBytes held{};
-  std::memcpy(held.data(), column.getBlob(), held.size());
-  UUID id;
-  for (std::size_t place = 0; place < held.size(); ++place) {
-    std::uint64_t& half = place < 8 ? id.high : id.low;
-    half = half << 8 | held[place];
-  }
-  return id;
-}
-
-void bind(SQLite::Statement& statement, int place, UUID id) {
-  const IDBytes held = bytes(id);
-  statement.bind(place, held.data(), static_cast<int>(held.size()));
-}
-
-void bind(SQLite::Statement& statement, const FastRecord& record) {
-  const auto& [fast, note] = record;
-  bind(statement, 1, fast.id);
-  statement.bind(2, secondsSince1970(fast.start));
-  if (fast.finished)
-    statement.bind(3, secondsSince1970(fast.finished->end));
-  else
-    statement.bind(3);
-  statement.bind(4, fast.goalSeconds);
-  statement.bind(5, note);
-}
-
-void bind(SQLite::Statement& statement, const BodyWeightSample& sample) {
-  bind(statement, 1, sample.id);
-  statement.bind(2, secondsSince1970(sample.date));
-  statement.bind(3, sample.weightInKg);
-}
-
-FastRecord fastRecord(SQLite::Statement& row) {
-  const UUID id = identifier(row.getColumn(0));
-  const Date start = dateSince1970(row.getColumn(1));
-  const SQLite::Column end = row.getColumn(2);
-  const std::int64_t goalSeconds = row.getColumn(3);
-  return {end.isNull() ? mivo::ongoingFast(id, start, goalSeconds)
-                       : finishedFast(id, start, dateSince1970(end), goalSeconds),
-          row.getColumn(4)};
-}
-
-BodyWeightSample weightSample(SQLite::Statement& row) {
-  return {identifier(row.getColumn(0)), dateSince1970(row.getColumn(1)), row.getColumn(2)};
-}
-
-constexpr const char* selectFasts = "SELECT id, startedAt, endedAt, goalSeconds, note FROM fasts ";
-constexpr const char* selectWeights = "SELECT id, weighedAt, weightInKg FROM weights ";
-constexpr const char* deleteFast =
-    "DELETE FROM fasts WHERE id = ? AND startedAt = ? AND endedAt IS ? AND goalSeconds = ? AND note = ?";
-constexpr const char* deleteWeight = "DELETE FROM weights WHERE id = ? AND weighedAt = ? AND weightInKg = ?";
-constexpr const char* insertFast =
-    "INSERT INTO fasts (id, startedAt, endedAt, goalSeconds, note) VALUES (?, ?, ?, ?, ?)";
-constexpr const char* insertWeight = "INSERT INTO weights (id, weighedAt, weightInKg) VALUES (?, ?, ?)";
-
-// The last change.
-constexpr const char* selectLastFasts =
-    "SELECT id, startedAt, endedAt, goalSeconds, note FROM lastChangeFasts WHERE isAdded = ? ORDER BY rowid";
-constexpr const char* selectLastWeights =
-    "SELECT id, weighedAt, weightInKg FROM lastChangeWeights WHERE isAdded = ? ORDER BY rowid";
-constexpr const char* insertRemovedFast =
-    "INSERT INTO lastChangeFasts (id, startedAt, endedAt, goalSeconds, note, isAdded) VALUES (?, ?, ?, ?, ?, 0)";
-constexpr const char* insertAddedFast =
-    "INSERT INTO lastChangeFasts (id, startedAt, endedAt, goalSeconds, note, isAdded) VALUES (?, ?, ?, ?, ?, 1)";
-constexpr const char* insertRemovedWeight =
-    "INSERT INTO lastChangeWeights (id, weighedAt, weightInKg, isAdded) VALUES (?, ?, ?, 0)";
-constexpr const char* insertAddedWeight =
-    "INSERT INTO lastChangeWeights (id, weighedAt, weightInKg, isAdded) VALUES (?, ?, ?, 1)";
-
-DatabaseError conflict(const fs::path& file, const char* sentence) { return {Kind::conflict, file, sentence}; }
+// What syncs have read.
+constexpr const char* selectSyncedFile = "SELECT inode, sizeInBytes, modifiedAt FROM syncedFile";
+constexpr const char* replaceSyncedFile =
+    "INSERT OR REPLACE INTO syncedFile (place, inode, sizeInBytes, modifiedAt) VALUES (1, ?, ?, ?)";
+constexpr const char* selectSyncedWeights = "SELECT weighedAt, weightInKg FROM syncedWeights";
+constexpr const char* insertSyncedWeight = "INSERT OR IGNORE INTO syncedWeights (weighedAt, weightInKg) VALUES (?, ?)";
 
 // What the system said where SQLite only knows that writing failed.
 Kind kindOfFailedWrite(int systemError) {
@@ -181,67 +106,35 @@ auto translating(const fs::path& file, Body&& body) {
   }
 }
 
-template <class Record>
-void removeAll(SQLite::Database& database, const fs::path& file, const char* sql, const std::vector<Record>& records) {
-  if (records.empty()) return;
-  SQLite::Statement statement{database, sql};
-  for (const Record& record : records) {
-    bind(statement, record);
-    if (statement.exec() != 1) throw conflict(file, "a record was changed meanwhile; nothing was changed");
-    statement.reset();
+/// Those that are there and those that syncs have read.
+std::vector<BodyWeightSample> knownWeighings(SQLite::Database& database) {
+  std::vector<BodyWeightSample> known = readWeights(database);
+  SQLite::Statement synced{database, selectSyncedWeights};
+  while (synced.executeStep()) known.push_back({{}, dateSince1970(synced.getColumn(0)), synced.getColumn(1)});
+  sortByDate(known);
+  return known;
+}
+
+void remember(SQLite::Database& database, const WeightSync& read) {
+  SQLite::Statement file{database, replaceSyncedFile};
+  file.bind(1, read.file.inode);
+  file.bind(2, read.file.sizeInBytes);
+  file.bind(3, read.file.modifiedAt);
+  file.exec();
+  SQLite::Statement weight{database, insertSyncedWeight};
+  for (const BodyWeightSample& sample : read.weights) {
+    weight.bind(1, secondsSince1970(sample.date));
+    weight.bind(2, sample.weightInKg);
+    weight.exec();
+    weight.reset();
   }
 }
 
-template <class Record>
-void addAll(SQLite::Database& database, const char* sql, const std::vector<Record>& records) {
-  if (records.empty()) return;
-  SQLite::Statement statement{database, sql};
-  for (const Record& record : records) {
-    bind(statement, record);
-    statement.exec();
-    statement.reset();
-  }
-}
-
-History readAll(SQLite::Database& database) {
-  History history;
-  SQLite::Statement fasts{database, std::string{selectFasts} + "ORDER BY startedAt, place"};
-  while (fasts.executeStep()) history.fasts.push_back(fastRecord(fasts));
-  SQLite::Statement weights{database, std::string{selectWeights} + "ORDER BY weighedAt, place"};
-  while (weights.executeStep()) history.weights.push_back(weightSample(weights));
-  return history;
-}
-
-template <class Record>
-std::vector<Record> lastOnes(SQLite::Database& database, const char* sql, bool isAdded,
-                             Record (*record)(SQLite::Statement&)) {
-  SQLite::Statement rows{database, sql};
-  rows.bind(1, isAdded ? 1 : 0);
-  std::vector<Record> records;
-  while (rows.executeStep()) records.push_back(record(rows));
-  return records;
-}
-
-HistoryChange lastChange(SQLite::Database& database) {
-  return {.removedFasts = lastOnes(database, selectLastFasts, false, fastRecord),
-          .addedFasts = lastOnes(database, selectLastFasts, true, fastRecord),
-          .removedWeights = lastOnes(database, selectLastWeights, false, weightSample),
-          .addedWeights = lastOnes(database, selectLastWeights, true, weightSample)};
-}
-
-void keepAsLast(SQLite::Database& database, const HistoryChange& change) {
-  database.exec("DELETE FROM lastChangeFasts; DELETE FROM lastChangeWeights");
-  addAll(database, insertRemovedFast, change.removedFasts);
-  addAll(database, insertAddedFast, change.addedFasts);
-  addAll(database, insertRemovedWeight, change.removedWeights);
-  addAll(database, insertAddedWeight, change.addedWeights);
-}
-
-void write(SQLite::Database& database, const fs::path& file, const HistoryChange& change) {
-  removeAll(database, file, deleteFast, change.removedFasts);
-  removeAll(database, file, deleteWeight, change.removedWeights);
-  addAll(database, insertFast, change.addedFasts);
-  addAll(database, insertWeight, change.addedWeights);
+void write(SQLite::Database& database, const HistoryChange& change) {
+  removeAll(database, change.removedFasts);
+  removeAll(database, change.removedWeights);
+  insertAll(database, "fasts", change.addedFasts);
+  insertAll(database, "weights", change.addedWeights);
   keepAsLast(database, change);
 }
 
@@ -326,6 +219,7 @@ struct Database::Connection {
       database.exec("PRAGMA journal_mode = WAL");
       database.exec("PRAGMA synchronous = FULL");
       database.exec("PRAGMA foreign_keys = ON");
+      database.exec("PRAGMA temp_store = MEMORY");  // what a statement of many rows may have to take back
     }
     const std::string verdict = database.execAndGet("PRAGMA quick_check(1)");
     if (verdict != "ok") throw DatabaseError{Kind::damaged, file, sentence(Kind::damaged, verdict.c_str())};
@@ -360,7 +254,7 @@ Database& Database::operator=(Database&&) noexcept = default;
 History Database::history() const {
   return translating(file(), [&] {
     SQLite::Transaction snapshot{connection->database};
-    return readAll(connection->database);
+    return readHistory(connection->database);
   });
 }
 
@@ -368,7 +262,7 @@ void Database::apply(const HistoryChange& change) {
   if (change.isEmpty()) return;
   const auto transaction = connection->begin();
   translating(file(), [&] {
-    write(connection->database, file(), change);
+    write(connection->database, change);
     transaction->commit();
   });
 }
@@ -378,7 +272,7 @@ HistoryChange Database::undo() {
   return translating(file(), [&] {
     HistoryChange change = inverse(lastChange(connection->database));
     if (change.isEmpty()) return change;
-    write(connection->database, file(), change);
+    write(connection->database, change);
     transaction->commit();
     return change;
   });
@@ -387,16 +281,39 @@ HistoryChange Database::undo() {
 HistoryChange Database::replace(const History& records, const std::function<void(const History& present)>& before) {
   const auto transaction = connection->begin();
   return translating(file(), [&]() -> HistoryChange {
-    History present = readAll(connection->database);
+    History present = readHistory(connection->database);
     before(present);
     if (present.fasts == records.fasts && present.weights == records.weights) return {};
     HistoryChange change{.removedFasts = std::move(present.fasts),
                          .addedFasts = records.fasts,
                          .removedWeights = std::move(present.weights),
                          .addedWeights = records.weights};
-    write(connection->database, file(), change);
+    write(connection->database, change);
     transaction->commit();
     return change;
+  });
+}
+
+// One that is older and only read has no such table.
+std::optional<FileState> Database::lastSynced() const {
+  return translating(file(), [&]() -> std::optional<FileState> {
+    SQLite::Database& database = connection->database;
+    if (!database.tableExists("syncedFile")) return std::nullopt;
+    SQLite::Statement row{database, selectSyncedFile};
+    if (!row.executeStep()) return std::nullopt;
+    return FileState{.inode = row.getColumn(0), .sizeInBytes = row.getColumn(1), .modifiedAt = row.getColumn(2)};
+  });
+}
+
+std::int64_t Database::sync(const WeightSync& read) {
+  const auto transaction = connection->begin();
+  return translating(file(), [&] {
+    SQLite::Database& database = connection->database;
+    const std::vector<BodyWeightSample> added = newWeighings(read.weights, knownWeighings(database));
+    insertAll(database, "weights", added);
+    remember(database, read);
+    transaction->commit();
+    return std::ssize(added);
   });
 }
 

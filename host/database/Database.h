@@ -11,6 +11,7 @@
 #include <utility>
 
 #include "host/fasting/HistoryChange.h"
+#include "host/fasting/WeightSync.h"
 #include "host/history/History.h"
 
 namespace mivo::host {
@@ -71,6 +72,16 @@ class Database {
   /// already. `before` is handed what is there, while nobody else can change it; what it throws leaves all as it was.
   /// Throws DatabaseError.
   HistoryChange replace(const History& records, const std::function<void(const History& present)>& before);
+
+  /// The state of the file whose weights were synced last; nothing before the first time.
+  std::optional<FileState> lastSynced() const;
+
+  /// Adds those weights of a linked file that are new, and returns how many. All of them are remembered, with the state
+  /// of their file, in the same step and in this database: a weight that was brought once and then deleted or edited is
+  /// known by what was read, whatever became of it, so that it does not come back from this file, a later one or
+  /// another one; and what comes late with an old date still comes. Which weighings are the same, `isSameWeighing`
+  /// says. `undo` still takes back the change before. Throws DatabaseError.
+  std::int64_t sync(const WeightSync& read);
 
   /// Another number than last time: another program has changed something since.
   std::int64_t version() const;

@@ -4,6 +4,7 @@
 #include <atomic>
 #include <cstdint>
 #include <mutex>
+#include <optional>
 #include <utility>
 
 #include "host/database/Database.h"
@@ -23,6 +24,8 @@ class DatabaseHistory final : public HistoryClient {
     if (lock) seen = database.version();
     return seen;
   }
+  std::optional<FileState> lastSynced() const override { return locked()->lastSynced(); }
+  std::int64_t sync(const WeightSync& read) const override { return locked()->sync(read); }
 
  private:
   struct Locked {

@@ -48,6 +48,18 @@ constexpr std::array steps{
          weighedAt REAL NOT NULL,
          weightInKg REAL NOT NULL
        ) STRICT;)",
+    // Every weighing that was read from a linked file, whatever became of it since, and how that file was last.
+    R"(CREATE TABLE syncedWeights (
+         weighedAt REAL NOT NULL,
+         weightInKg REAL NOT NULL,
+         PRIMARY KEY (weighedAt, weightInKg)
+       ) STRICT, WITHOUT ROWID;
+       CREATE TABLE syncedFile (
+         place INTEGER PRIMARY KEY CHECK (place = 1),
+         inode INTEGER NOT NULL,
+         sizeInBytes INTEGER NOT NULL,
+         modifiedAt INTEGER NOT NULL
+       ) STRICT;)",
 };
 constexpr int oldestReadable = 1, newest = static_cast<int>(steps.size());
 

@@ -7,9 +7,6 @@
 namespace mivo::host {
 namespace {
 
-UUID idOf(const FastRecord& record) { return record.fast.id; }
-UUID idOf(const BodyWeightSample& sample) { return sample.id; }
-
 template <class Record, class Instant>
 void apply(const std::vector<Record>& removed, const std::vector<Record>& added, std::vector<Record>& records,
            Instant instant) {

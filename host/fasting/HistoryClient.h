@@ -2,8 +2,10 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 
 #include "host/fasting/HistoryChange.h"
+#include "host/fasting/WeightSync.h"
 #include "host/history/History.h"
 
 namespace mivo::host {
@@ -17,6 +19,12 @@ class HistoryClient {
   virtual void apply(const HistoryChange& change) const = 0;
   /// Another number than last time: another program has changed something since.
   virtual std::int64_t version() const = 0;
+  /// The state of the file whose weights were synced last; nothing before the first time.
+  virtual std::optional<FileState> lastSynced() const = 0;
+  /// Adds those weights that are neither there nor known from a sync before, and remembers them all; how many it
+  /// added. It is no step of the user's: what can be undone stays the last of those. On disk when it returns; throws
+  /// with a sentence for the user.
+  virtual std::int64_t sync(const WeightSync& read) const = 0;
 };
 
 }  // namespace mivo::host

@@ -9,7 +9,8 @@
 namespace mivo::host {
 namespace {
 
-constexpr std::array parts{ExportedPart::everything, ExportedPart::fasts, ExportedPart::weights};
+constexpr std::array parts{ExportedPart::everything, ExportedPart::fasts, ExportedPart::weights, ExportedPart::pages,
+                           ExportedPart::picture};
 
 /// "2026-03-01": in UTC as backups are, whatever the language, so that files sort by it.
 std::string day(Date date) { return rfc3339(date).substr(0, 10); }
@@ -35,6 +36,18 @@ ExportRow rowOf(ExportedPart part, const PageClients& clients) {
               .fileName = "mivo-weights",
               .ending = "csv",
               .filter = texts.text("Table")};
+    case ExportedPart::pages:
+      return {.title = texts.text("Statistics on pages"),
+              .note = texts.text("To print, or to take along to a conversation"),
+              .fileName = "mivo-statistics",
+              .ending = "pdf",
+              .filter = texts.text("Document")};
+    case ExportedPart::picture:
+      return {.title = texts.text("Statistics as a picture"),
+              .note = texts.text("To show to others"),
+              .fileName = "mivo-statistics",
+              .ending = "png",
+              .filter = texts.text("Picture")};
   }
   return {};
 }
@@ -43,10 +56,12 @@ ExportRow rowOf(ExportedPart part, const PageClients& clients) {
 
 ExportedPart exportedPartAt(std::size_t row) { return parts.at(row); }
 
-ExportSheet composeExportSheet(const PageClients& clients) {
+ExportSheet composeExportSheet(bool printsWeights, const PageClients& clients) {
   ExportSheet sheet{.title = clients.texts.text("Export"),
-                    .text = clients.texts.text("Whatever is exported can be imported again."),
-                    .rows = {}};
+                    .text = clients.texts.text("Backups and tables can be imported again."),
+                    .rows = {},
+                    .weightsLabel = clients.texts.text("Weights on pages and picture"),
+                    .printsWeights = printsWeights};
   for (const ExportedPart part : parts) {
     ExportRow row = rowOf(part, clients);
     row.fileName += '-' + day(clients.now) + '.' + row.ending;

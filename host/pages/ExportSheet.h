@@ -34,18 +34,22 @@ struct ExportSheet {
   std::string title;  ///< "Export"
   std::string text;
   std::vector<ExportRow> rows;
+  std::string weightsLabel;  ///< "Weights on pages and picture"
+  bool printsWeights;
   bool operator==(const ExportSheet&) const = default;
 };
 
 template <RecordOf<ExportSheet> Listed, class Visit>
 void fields(Listed& record, Visit&& visit) {
-  auto& [title, text, rows] = record;
+  auto& [title, text, rows, weightsLabel, printsWeights] = record;
   visit("title", title);
   visit("text", text);
   visit("rows", rows);
+  visit("weightsLabel", weightsLabel);
+  visit("printsWeights", printsWeights);
 }
 
-ExportSheet composeExportSheet(const PageClients& clients);
+ExportSheet composeExportSheet(bool printsWeights, const PageClients& clients);
 
 /// What a row takes out.
 ExportedPart exportedPartAt(std::size_t row);

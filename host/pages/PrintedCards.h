@@ -3,12 +3,10 @@
 
 #include <vector>
 
+#include "host/data/ExportedPart.h"
 #include "mivo/statistics/Cards.h"
 
 namespace mivo::host {
-
-/// What of the weights others may see on a printed screen.
-enum class PrintedWeights { hidden, shown };
 
 /// What of the statistics stands on a picture or on paper: their figures, without what asks to be tapped. Cards of
 /// weights are left out unless they are to be shown, and the range where nothing below it is left.

@@ -106,6 +106,8 @@ SettingsPage composeSettings(const SettingsFacts& facts, const PageClients& clie
           .reducesMotion = facts.appearance.reducesMotion,
           .data = texts.text("Data"),
           .importLabel = texts.text("Import"),
+          .healthLabel = facts.linkedHealth.empty() ? "" : texts.text("Health data"),
+          .linkedHealth = facts.linkedHealth,
           .exportLabel = texts.text("Export"),
           .backupsLabel = texts.text("Backups"),
           .newestBackup = facts.newestBackup,

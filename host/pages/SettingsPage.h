@@ -20,6 +20,7 @@ struct SettingsFacts {
   int usualWeekday = 2;                           ///< the locale's
   std::string language = {};                      ///< as chosen; empty for the system's
   Appearance appearance = {};
+  std::string linkedHealth = {};  ///< the linked file, as `linkedFileText` says it
   std::string newestBackup = {};  ///< when that was made, as `newestBackupText` says it
   std::string version = {};
   bool operator==(const SettingsFacts&) const = default;
@@ -73,7 +74,10 @@ struct SettingsPage {
   std::string reducedMotionLabel;
   bool reducesMotion = false;
   std::string data;  ///< over what is done with the records as a whole
-  std::string importLabel, exportLabel, backupsLabel;
+  std::string importLabel;
+  std::string healthLabel;   ///< "Health data"; none where no file can be linked
+  std::string linkedHealth;  ///< "export.zip"
+  std::string exportLabel, backupsLabel;
   std::string newestBackup;  ///< "Today, 03:00"
   std::string dataNote;
   std::string aboutLabel;  ///< leads to what the app is
@@ -84,8 +88,8 @@ struct SettingsPage {
 template <RecordOf<SettingsPage> Listed, class Visit>
 void fields(Listed& record, Visit&& visit) {
   auto& [title, cardsLabel, general, goalLabel, goal, goalSeconds, weightUnit, firstWeekday, language, appearance,
-         textSize, reducedMotionLabel, reducesMotion, data, importLabel, exportLabel, backupsLabel, newestBackup,
-         dataNote, aboutLabel, version] = record;
+         textSize, reducedMotionLabel, reducesMotion, data, importLabel, healthLabel, linkedHealth, exportLabel,
+         backupsLabel, newestBackup, dataNote, aboutLabel, version] = record;
   visit("title", title);
   visit("cardsLabel", cardsLabel);
   visit("general", general);
@@ -101,6 +105,8 @@ void fields(Listed& record, Visit&& visit) {
   visit("reducesMotion", reducesMotion);
   visit("data", data);
   visit("importLabel", importLabel);
+  visit("healthLabel", healthLabel);
+  visit("linkedHealth", linkedHealth);
   visit("exportLabel", exportLabel);
   visit("backupsLabel", backupsLabel);
   visit("newestBackup", newestBackup);

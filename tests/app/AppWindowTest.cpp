@@ -105,6 +105,22 @@ TEST(AppWindow, movesAllChartsToTheNewDayAtMidnight) {
   EXPECT_NE(app.weightChart()->average().toStdString(), average) << "without the weight of 23 February";
 }
 
+/// Goes over midnight as soon as the statistics were computed for the day's last moment.
+struct ClockAtMidnight final : DateGenerator {
+  Date now() const override { return isComputed && isComputed() ? lastMoment + Duration{0.1} : lastMoment; }
+  Date lastMoment = tests::utc("2026-03-01 22:59:59") + Duration{0.9};
+  std::function<bool()> isComputed;
+};
+
+TEST(AppWindow, missesNoMidnightThatComesWhileTheStatisticsAreComputed) {
+  const auto clock = std::make_shared<ClockAtMidnight>();
+  clock->lastMoment -= Duration{0.1};
+  ShownApp shown{ShownApp::optionsFor(threeWeeks), {390, 844}, clock};
+  clock->lastMoment += Duration{0.1};
+  clock->isComputed = [&] { return *shown.state().now >= clock->lastMoment; };
+  EXPECT_TRUE(eventually([&] { return shown.text(QStringLiteral("Today, 00:00")) != nullptr; }));
+}
+
 TEST(AppWindow, choosesTheRangeByClickAndByKey) {
   Shown shown{threeWeeks};
   QQuickItem* picker = shown.ofType("SegmentedControl");

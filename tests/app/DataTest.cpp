@@ -150,6 +150,67 @@ TEST_F(Data, areChosenAskedForAndTakenOutInTheDialogsOfTheSystem) {
   EXPECT_TRUE(eventuallySays("1 there already"));
 }
 
+TEST_F(Data, areDrawnOntoPagesWithTheWeightsOnlyWhereThatIsSwitchedOn) {
+  drop(made("weights.csv", "date,weight_kg\n2026-02-25T07:00Z,80\n2026-02-26T07:00Z,79\n"));
+  ASSERT_TRUE(eventually([&] { return app->button("Import 2 weights") != nullptr; }));
+  app->click("Import 2 weights");
+  ASSERT_TRUE(eventually([&] { return app->state().weights->size() == 2; }));
+  settle(app->window());
+  const auto sizeOf = [&](const char* row, const std::string& name) {
+    clickRow("Export");
+    if (name.starts_with("with")) clickRow("Weights on pages and picture");
+    clickRow(row);
+    answerDialog(QString::fromStdString(folder.file(name)));
+    EXPECT_TRUE(eventuallySays(QString::fromStdString("Exported to " + folder.file(name))));
+    settle(app->window());
+    return std::filesystem::file_size(folder.file(name));
+  };
+  const auto without = sizeOf("Statistics as a picture", "out.png");
+  EXPECT_GT(sizeOf("Statistics as a picture", "with.png"), without);
+  sizeOf("Statistics on pages", "out.pdf");
+  std::string begin(4, ' ');
+  std::ifstream{folder.file("out.pdf")}.read(begin.data(), 4);
+  EXPECT_EQ(begin, "%PDF");
+}
+
+TEST_F(Data, comeFromTheHealthExportThatAccessIsAllowedTo) {
+  const auto exported = [](const std::string& records) {
+    return "<?xml version=\"1.0\"?>\n<HealthData locale=\"en_GB\">\n" + records + "</HealthData>\n";
+  };
+  const auto mass = [](const std::string& day, const std::string& kilograms) {
+    return "<Record type=\"HKQuantityTypeIdentifierBodyMass\" unit=\"kg\" startDate=\"2026-02-" + day +
+           " 07:00:00 +0100\" value=\"" + kilograms + "\"/>\n";
+  };
+  const QString path = made("export.xml", exported(mass("25", "80") + mass("26", "79.5")));
+  app->key(Qt::Key_2, Qt::ControlModifier);
+  app->click("Allow access");
+  answerDialog(path);
+  ASSERT_TRUE(eventually([&] { return app->state().weights->size() == 2; }));
+  settle(app->window());
+  EXPECT_EQ(app->button("Allow access"), nullptr);
+  EXPECT_THAT(onDisk().weights, SizeIs(2));
+
+  made("export.xml", exported(mass("25", "80") + mass("26", "79.5") + mass("27", "79")));
+  app->key(Qt::Key_3, Qt::ControlModifier);
+  EXPECT_THAT(*app->state().weights, SizeIs(2));
+  EXPECT_NE(app->text("export.xml"), nullptr) << "the settings name it";
+  app->key(Qt::Key_2, Qt::ControlModifier);
+  EXPECT_TRUE(eventually([&] { return app->state().weights->size() == 3; }));
+
+  app->key(Qt::Key_3, Qt::ControlModifier);
+  clickRow("Health data");
+  app->click("Choose another file");
+  answerDialog(made("phone.xml", exported(mass("28", "78"))));
+  EXPECT_TRUE(eventually([&] { return app->state().weights->size() == 4; }));
+  app->click("Unlink");
+  EXPECT_EQ(app->button("Unlink"), nullptr);
+  app->key(Qt::Key_Escape);
+  open();
+  app->key(Qt::Key_2, Qt::ControlModifier);
+  EXPECT_TRUE(eventually([&] { return app->button("Allow access") != nullptr; }));
+  EXPECT_THAT(*app->state().weights, SizeIs(4));
+}
+
 TEST_F(Data, areBackedUpBeforeTheFirstChangeOfADayAndGoneBackTo) {
   const auto bring = [&](const char* name, const char* button, const char* content) {
     drop(made(name, content));

@@ -23,6 +23,7 @@ TEST(Doctor, isContentWhereNothingHasBegun) {
   EXPECT_EQ(ran.errors, "");
   EXPECT_THAT(ran.output, HasSubstr("mivo/mivo.sqlite: none yet\n"));
   EXPECT_THAT(ran.output, HasSubstr("  time zone        UTC\n"));
+  EXPECT_THAT(ran.output, HasSubstr("  health data      no file linked\n"));
   EXPECT_THAT(ran.output, HasSubstr("  vote server      none named\n"));
   EXPECT_FALSE(std::filesystem::exists(place.file("mivo"))) << "it changes nothing";
 }
@@ -49,6 +50,8 @@ TEST(Doctor, tellsWhatIsIllAndLeavesItAsItIs) {
            IllRow{"namedDatabase", "other", "", "--database none", "! database         none: no such file\n"},
            IllRow{"settings", "mivo/app.json", "{\"weightUnit\": ", "", "! settings"},
            IllRow{"sharedSettings", "mivo/group.json", "no JSON", "", "! shared settings"},
+           IllRow{"healthData", "mivo/app.json", R"({"health.linkedFile": "/no/such.zip"})", "",
+                  "! health data      /no/such.zip: expected a file that can be read: "},
            IllRow{"server", "other", "", std::string{"--tally "} + nowhere,
                   "! vote server      " + std::string{nowhere}},
        }) {
@@ -60,6 +63,17 @@ TEST(Doctor, tellsWhatIsIllAndLeavesItAsItIs) {
     EXPECT_THAT(ran.output, HasSubstr(row.finding)) << row.name;
     EXPECT_EQ(std::filesystem::file_size(place.file(row.file)), row.content.size()) << row.name;
   }
+}
+
+TEST(Doctor, namesTheLinkedHealthExport) {
+  const Workplace place;
+  std::filesystem::create_directories(place.file("mivo"));
+  const std::string path = place.file("export.zip").string();
+  place.write("export.zip", "not looked into");
+  place.write("mivo/app.json", R"({"health.linkedFile": ")" + path + "\"}");
+  const Ran ran = place.run("doctor");
+  EXPECT_EQ(ran.status, 0);
+  EXPECT_THAT(ran.output, HasSubstr("  health data      " + path + ": can be read\n"));
 }
 
 TEST(Doctor, readsTheNewestBackup) {

@@ -50,6 +50,9 @@ TEST_F(DailyBackup, holdsWhatWasThereBeforeTheFirstChangeOfADayInUTC) {
   change("2026-03-02 00:00");
   change("2026-03-02 12:00");
   EXPECT_EQ(backups(), (std::vector<std::string>{"2026-03-02 00:00:00: 3", "2026-03-01 23:00:00: 1"}));
+  present = utc("2026-03-03 12:00");
+  history.sync({.file = {}, .weights = {{{2, 1}, present, 80}}});
+  EXPECT_EQ(backups().front(), "2026-03-03 12:00:00: 5") << "what a linked file brings is a change, too";
   EXPECT_EQ(failure, "");
 }
 

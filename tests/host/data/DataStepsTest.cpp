@@ -10,6 +10,7 @@
 #include "host/database/DatabaseHistory.h"
 #include "host/pages/BackupsPage.h"
 #include "host/pages/ExportSheet.h"
+#include "host/pages/HealthSheet.h"
 #include "host/pages/ImportSheet.h"
 #include "host/pages/Message.h"
 #include "tests/pages/Pages.h"
@@ -65,10 +66,24 @@ class DataSteps : public tests::StatisticsTest {
       DataFiles::Place{.database = file,
                        .zone = [] { return adapters::TimeZone::load("UTC").value(); },
                        .settings = [] { return std::vector<Setting>{{"weightUnit", std::string{"kg"}}}; },
-                       .ids = std::make_shared<adapters::LocalUUIDGenerator>()});
+                       .ids = std::make_shared<adapters::LocalUUIDGenerator>(),
+                       .print =
+                           [this](const std::filesystem::path& to, TimeRange range, PrintedWeights weights) {
+                             if (to == "full.pdf") throw std::runtime_error{"full.pdf: the disk is full"};
+                             printed.push_back(to.string() + " " + std::string{rawValue(range)} +
+                                               (weights == PrintedWeights::shown ? " with weights" : ""));
+                           }});
+  mutable std::vector<std::string> printed;
   tests::Pages pages;
-  Store<AppFeature> app{AppFeature::State::make(TimeRange::week), AppFeature{.history = history, .files = data},
-                        world.queue, world.tasks};
+  std::shared_ptr<const LinkedHealthClient> linked = [this] {
+    auto client = std::make_shared<LinkedHealthClient>(world.dependencies.userDefaults);
+    world.dependencies.healthKitClient = client;
+    scope.emplace(std::make_shared<const Dependencies>(world.dependencies));
+    return client;
+  }();
+  Store<AppFeature> app{AppFeature::State::make(TimeRange::week),
+                        AppFeature{.history = history, .files = data, .linkedHealth = linked}, world.queue,
+                        world.tasks};
 };
 
 const std::string twoFasts = "start,end\n2026-02-25T20:00Z,2026-02-26T12:00Z\n2026-02-26T20:00Z,2026-02-27T12:00Z\n";
@@ -255,9 +270,9 @@ TEST_F(DataSteps, sayInThePreviewWhyNothingWasWritten) {
 TEST_F(DataSteps, takeOutWhatComesBackAsEqual) {
   choose({made("a.csv", twoFasts), made("w.csv", "date,weight_kg\n2026-02-25T07:00Z,80.1\n")});
   sendImport(Import::didTapImport{});
-  const ExportSheet exported = composeExportSheet(pages.at(utc("2026-03-01 12:00")));
+  const ExportSheet exported = composeExportSheet(false, pages.at(utc("2026-03-01 12:00")));
   const std::string sentences[] = {": 2 fasts, 1 weight", ": 2 fasts", ": 1 weight"};
-  ASSERT_THAT(exported.rows, SizeIs(3));
+  ASSERT_THAT(exported.rows, SizeIs(5));
   std::vector<std::string> names;
   for (std::size_t row = 0; row < 3; ++row) {
     const std::string path = folder.file(exported.rows[row].fileName);
@@ -274,6 +289,96 @@ TEST_F(DataSteps, takeOutWhatComesBackAsEqual) {
   EXPECT_THAT(names, ElementsAre("mivo-2026-03-01.json", "mivo-fasts-2026-03-01.csv", "mivo-weights-2026-03-01.csv"));
   send(Action::didExport{ExportedPart::fasts, folder.file("no/such/folder.csv")});
   EXPECT_THAT(message().text, testing::HasSubstr("no/such/folder.csv"));
+}
+
+TEST_F(DataSteps, printTheShownRangeWithoutWeightsUnlessThatIsSwitchedOn) {
+  send(Action::didExport{exportedPartAt(3), "statistics.pdf"});
+  EXPECT_EQ(message().text, "Exported to statistics.pdf");
+  send(Action::didSwitchPrintedWeights{});
+  send(Action::statistics{
+      StatisticsFeature::Action::binding{Write<&StatisticsFeature::State::timeRange>{TimeRange::month}}});
+  send(Action::didExport{exportedPartAt(4), "statistics.png"});
+  EXPECT_THAT(printed, ElementsAre("statistics.pdf week", "statistics.png month with weights"));
+  send(Action::didExport{exportedPartAt(3), "full.pdf"});
+  EXPECT_EQ(message().text, "full.pdf: the disk is full");
+}
+
+/// The body masses of those kilograms, at 07:00 of 1 March 2026 and the days after it.
+std::string healthExport(const std::vector<int>& kilograms) {
+  std::string all = "<HealthData>\n";
+  for (std::size_t day = 0; day < kilograms.size(); ++day)
+    all += "<Record type=\"HKQuantityTypeIdentifierBodyMass\" unit=\"kg\" startDate=\"2026-03-0" +
+           std::to_string(day + 1) + " 07:00:00 +0000\" value=\"" + std::to_string(kilograms[day]) + "\"/>\n";
+  return all + "</HealthData>\n";
+}
+
+class HealthSteps : public DataSteps {
+ protected:
+  void sendHealth(HealthFeature::Action action) { send(Action::health{std::move(action)}); }
+  void link(const std::string& path) { sendHealth(HealthFeature::Action::didLink{path}); }
+  void appear() { send(Action::statistics{StatisticsFeature::Action::onAppear{}}); }
+  bool asksForAccess() const { return state().statistics.showHealthKitCard; }
+  std::string row() const { return linkedFileText(state().health, pages.texts); }
+};
+
+TEST_F(HealthSteps, askForAccessUntilAFileIsLinkedWhoseWeightsAreThereThen) {
+  appear();
+  EXPECT_TRUE(asksForAccess());
+  EXPECT_EQ(row(), "None");
+  EXPECT_EQ(composeHealthSheet(state().health, pages.texts).unlinkLabel, "");
+  app.send(Action::health{HealthFeature::Action::didLink{made("export.xml", healthExport({80, 81}))}});
+  EXPECT_FALSE(asksForAccess()) << "at once";
+  app.send(Action::statistics{StatisticsFeature::Action::onAppear{}});
+  EXPECT_FALSE(asksForAccess()) << "not until the answer comes either";
+  settle();
+  EXPECT_TRUE(world.dependencies.userDefaults->healthKitSync());
+  EXPECT_EQ(row(), "export.xml");
+  EXPECT_THAT(*state().weights, SizeIs(2));
+  EXPECT_EQ(onDisk().weights, state().weights->elements());
+  EXPECT_EQ(*state().statistics.addWeightLogState.weightInKg, 81) << "where the next one begins";
+  EXPECT_EQ(*state().undo, std::nullopt);
+  EXPECT_EQ(message().text, "");
+
+  made("export.xml", healthExport({80, 81, 82}));
+  appear();
+  EXPECT_THAT(*state().weights, SizeIs(3));
+  sendHealth(HealthFeature::Action::didUnlink{});
+  EXPECT_TRUE(asksForAccess());
+  EXPECT_FALSE(world.dependencies.userDefaults->healthKitSync());
+  EXPECT_THAT(*state().weights, SizeIs(3));
+}
+
+TEST_F(HealthSteps, keepWhatThePersonDeletedAndOffersToTakeItBack) {
+  link(made("export.xml", healthExport({80, 81})));
+  send(Action::didDeleteWeight{state().weights->elements().front().id});
+  made("export.xml", healthExport({80, 81, 82}));
+  appear();
+  ASSERT_THAT(*state().weights, SizeIs(2));
+  EXPECT_EQ(state().weights->elements().front().weightInKg, 81);
+  EXPECT_EQ(message(), (Message{"Weight deleted", "Undo", false, 6}));
+  send(Action::didTapMessage{});
+  EXPECT_THAT(*state().weights, SizeIs(3));
+}
+
+TEST_F(HealthSteps, sayTheSameFaultOnceAndKeepItInTheSheet) {
+  const std::string path = made("export.xml", healthExport({80}));
+  link(path);
+  std::filesystem::remove(path);
+  appear();
+  const std::string gone = "The linked health file is no longer there: " + path;
+  EXPECT_EQ(message().text, gone);
+  EXPECT_EQ(row(), "Cannot be read");
+  send(Action::didTapMessage{});
+  appear();
+  EXPECT_EQ(message().text, "");
+  EXPECT_EQ(composeHealthSheet(state().health, pages.texts).fault, gone);
+  EXPECT_THAT(*state().weights, SizeIs(1));
+  link(path);
+  EXPECT_EQ(message().text, gone) << "it was chosen again";
+  made("export.xml", healthExport({}));
+  appear();
+  EXPECT_EQ(message().text, "There are no weights in the linked health file: " + path);
+  EXPECT_EQ(row(), "export.xml");
 }
 
 class BackupSteps : public DataSteps {

@@ -96,6 +96,38 @@ TEST_F(DatabaseTest, takesTheLastChangeBackAndDoesItAgain) {
   EXPECT_EQ(open().history(), after);
 }
 
+/// Records of which neither ids nor dates are in the order in which they are added.
+HistoryChange addingMany(std::uint64_t count) {
+  HistoryChange change;
+  for (std::uint64_t index = 0; index < count; ++index) {
+    const std::uint64_t shuffled = index * 77 % count;
+    const auto day = 24 * static_cast<double>(shuffled);
+    change.addedFasts.push_back(fast(index * 31 % count, day, day + 16, "note " + std::to_string(index)));
+    change.addedWeights.push_back({{3, shuffled}, at(day), 80 + static_cast<double>(index) / 1000});
+  }
+  return change;
+}
+
+TEST_F(DatabaseTest, takesManyRecordsAsItTakesFew) {
+  const HistoryChange many = addingMany(200);
+  open().apply(adding({fast(1000, -24, -8)}));
+  open().apply(many);
+  EXPECT_EQ(open().undo(), inverse(many));
+  EXPECT_THAT(open().history().fasts, ElementsAre(fast(1000, -24, -8)));
+  EXPECT_EQ(open().undo(), many);
+  EXPECT_EQ(open().undo(), inverse(many)) << "of records that were added again";
+  EXPECT_EQ(open().undo(), many);
+  const History present = open().history();
+  HistoryChange taken = addingMany(200);
+  for (FastRecord& record : taken.addedFasts) record.fast.id.high = 8;
+  for (BodyWeightSample& sample : taken.addedWeights) sample.id.high = 4;
+  taken.addedWeights[150].id = {3, 150};
+  Database database = open();
+  EXPECT_EQ(failure(database, taken).kind, Kind::conflict);
+  EXPECT_EQ(database.history(), present);
+  EXPECT_EQ(database.undo(), inverse(many)) << "a change that failed was taken for the last";
+}
+
 TEST_F(DatabaseTest, hasNothingToTakeBackBeforeTheFirstChange) {
   EXPECT_TRUE(open().undo().isEmpty());
   open().apply(adding({fast(1, 0, 16)}));

@@ -17,6 +17,8 @@ struct NoHistory : HistoryClient {
   History load() const override { return {}; }
   void apply(const HistoryChange&) const override {}
   std::int64_t version() const override { return 0; }
+  std::optional<FileState> lastSynced() const override { return std::nullopt; }
+  std::int64_t sync(const WeightSync&) const override { return 0; }
 };
 
 class OpenScreensTest : public tests::StatisticsTest {
@@ -30,14 +32,18 @@ class OpenScreensTest : public tests::StatisticsTest {
                      {ongoingFast({7, 3}, at(-2), 57600), ""}};
     history.weights = {{{8, 1}, at(-30), 80}, {{8, 2}, at(-6), 79}};
     app.send(Action::didLoad{history});
+    app.send(Action::health{HealthFeature::Action::onAppear{}});
     app.send(
         Action::backups{BackupsFeature::Action::didList{{{.backup = {"mivo.json", now}, .counts = RecordCounts{}}}}});
   }
 
   OpenScreens shown() const { return composeOpenScreens(app.state()); }
 
-  Store<AppFeature> app{AppFeature::State::make(TimeRange::week), AppFeature{.history = std::make_shared<NoHistory>()},
-                        world.queue, world.tasks};
+  Store<AppFeature> app{
+      AppFeature::State::make(TimeRange::week),
+      AppFeature{.history = std::make_shared<NoHistory>(),
+                 .linkedHealth = std::make_shared<LinkedHealthClient>(world.dependencies.userDefaults)},
+      world.queue, world.tasks};
 };
 
 struct Row {
@@ -78,6 +84,7 @@ TEST_F(OpenScreensTest, openOverWhatTheyStandOnFromWhereverOneIs) {
                               {Screen::about, {"settings", "about", ""}, settings},
                               {Screen::importing, {"settings", "", "import"}, settings},
                               {Screen::exporting, {"settings", "", "export"}, settings},
+                              {Screen::health, {"settings", "", "health"}, settings},
                               {Screen::backups, {"settings", "backups", ""}, settings},
                               {Screen::restoring, {"settings", "backups", "restore"}, {"settings", "backups", ""}},
                               {Screen::firstWeekday, {"settings", "", "firstWeekday"}, settings},
