@@ -33,13 +33,16 @@ struct ThreadPool::Pool {
 ThreadPool::ThreadPool(int threads) : pool{std::make_unique<Pool>(threads)} {}
 
 ThreadPool::~ThreadPool() {
+  if (!pool) return;
   pool->threads.stop();
   // A thread cannot wait for itself.
   if (pool->threads.get_executor().running_in_this_thread()) std::thread{[last = std::move(pool)] {}}.detach();
 }
 
 void ThreadPool::run(std::function<void()> task) const {
-  boost::asio::post(pool->threads, [task = std::move(task)] { runReporting(task); });
+  if (pool) boost::asio::post(pool->threads, [task = std::move(task)] { runReporting(task); });
 }
+
+void ThreadPool::finish() { pool.reset(); }
 
 }  // namespace mivo::adapters

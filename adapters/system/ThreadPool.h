@@ -20,6 +20,10 @@ class ThreadPool final : public TaskRunner {
 
   void run(std::function<void()> task) const override;
 
+  /// Does at once what destroying does; what is run from then on never begins. On the thread that runs tasks, and
+  /// inside none.
+  void finish();
+
  private:
   struct Pool;
   std::unique_ptr<Pool> pool;

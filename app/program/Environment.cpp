@@ -92,7 +92,12 @@ void addSystem(Dependencies& clients, const fs::path& settings,
   clients.urlSession = std::make_shared<adapters::CurlURLSession>();
   clients.links = std::make_shared<QtLinkOpener>();
   clients.mainQueue = std::make_shared<QtMainQueue>();
-  clients.taskRunner = std::make_shared<adapters::ThreadPool>();
+}
+
+// A task holds the dependencies, and these the threads: without this the last task would end beside a main that is
+// gone.
+std::shared_ptr<const TaskRunner> finishedWhenLetGo(const std::shared_ptr<adapters::ThreadPool>& threads) {
+  return {threads.get(), [threads](const TaskRunner*) { threads->finish(); }};
 }
 
 Read<std::monostate> addPlaceAndTime(Environment& environment, Dependencies& clients, const Options& options) {
@@ -309,6 +314,9 @@ tl::expected<Environment, std::string> makeEnvironment(const Options& options) {
     Environment environment;
     if (!options.sample.empty()) environment.sampleFolder = std::make_unique<SampleFolder>();
     const auto clients = std::make_shared<Dependencies>();
+    const auto threads = std::make_shared<adapters::ThreadPool>();
+    clients->taskRunner = threads;
+    environment.threads = finishedWhenLetGo(threads);
     addSystem(*clients,
               environment.sampleFolder ? environment.sampleFolder->path() : adapters::configurationDirectory(),
               tellingOf(environment.faults, clients));

@@ -14,6 +14,7 @@
 #include "host/tips/Tips.h"
 #include "mivo/platform/Dependencies.h"
 #include "mivo/platform/EventStream.h"
+#include "mivo/platform/TaskRunner.h"
 
 namespace mivo::app {
 
@@ -55,6 +56,8 @@ struct Environment {
   EventStream<std::string> faults;                     ///< sentences for the user, on the main thread
   /// One sentence for the user about the history: a damaged one had to be put aside, one may only be read.
   std::string notice = {};
+  /// Those of the dependencies; whoever lets go of it last waits for the tasks, on the main thread.
+  std::shared_ptr<const TaskRunner> threads;
 };
 
 /// Sets the clients up and opens the history, or says in one sentence what is wrong with the options.

@@ -5,8 +5,8 @@
 
 namespace mivo::app {
 
-/// The main queue on Qt's event loop. Made on the main thread, once there is an application; let go of on any thread,
-/// where what has not run by then never does.
+/// The main queue on Qt's event loop. Made on the main thread, once there is an application; let go of on any thread
+/// before that application is; what has not run by then never does.
 class QtMainQueue final : public MainQueue {
  public:
   QtMainQueue();

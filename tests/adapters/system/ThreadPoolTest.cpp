@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <atomic>
+#include <chrono>
 #include <latch>
 #include <memory>
 #include <optional>
@@ -65,6 +66,28 @@ TEST(ThreadPool, mayBeReleasedLastByItsOwnTaskAndDropsTheRest) {
   running.run([&didRunTheRest, rest = std::shared_ptr<int>{nullptr, dropped}] { didRunTheRest = true; });
   mayRelease.count_down();
   isDropped.wait();
+  EXPECT_FALSE(didRunTheRest);
+}
+
+TEST(ThreadPool, finishesThoughItsOwnTasksHoldIt) {
+  std::latch isRunning{1};
+  std::atomic<bool> didEnd = false, didRunTheRest = false;
+  std::weak_ptr<ThreadPool> held;
+  {
+    const auto pool = std::make_shared<ThreadPool>(1);
+    held = pool;
+    pool->run([&, pool] {
+      isRunning.count_down();
+      std::this_thread::sleep_for(std::chrono::milliseconds{20});
+      didEnd = true;
+    });
+    isRunning.wait();
+    pool->run([&, pool] { didRunTheRest = true; });
+    pool->finish();
+    EXPECT_TRUE(didEnd);
+    pool->run([&] { didRunTheRest = true; });
+  }
+  EXPECT_TRUE(held.expired());
   EXPECT_FALSE(didRunTheRest);
 }
 
