@@ -69,6 +69,7 @@ TEST_F(Reminders, areToldWhileTheWindowIsOpenAndClosed) {
   ASSERT_TRUE(desktop.awaits(1));
   EXPECT_EQ(desktop.shown[0].title, QStringLiteral("Goal reached"));
 
+  app.reset();
   app = opened();  // starts another that tells, in the place of the one before
   app.reset();
   ASSERT_TRUE(eventually([&] { return isTelling(); }));
