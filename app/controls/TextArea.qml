@@ -50,7 +50,8 @@ Rectangle {
             Accessible.multiLine: true
             Accessible.name: root.accessibleName
             // Tab leaves the field; no text here needs one.
-            KeyNavigation.priority: KeyNavigation.BeforeItem
+            Keys.onTabPressed: nextItemInFocusChain(true).forceActiveFocus(Qt.TabFocusReason)
+            Keys.onBacktabPressed: nextItemInFocusChain(false).forceActiveFocus(Qt.BacktabFocusReason)
             onTextChanged: {
                 if (activeFocus)
                     root.edited(text);
