@@ -6,6 +6,7 @@
 
 #include "host/dates/SpokenDate.h"
 #include "host/place/TypedDates.h"
+#include "mivo/platform/TextLookup.h"
 #include "mivo/weights/WeightUnits.h"
 
 namespace mivo::cli {
@@ -65,8 +66,8 @@ Read<Date> readTypedDate(std::string_view option, std::string_view text, const a
     return wrong(option, "expected a date and time, as in 2026-03-01 20:00, 20:00, \"yesterday 8 pm\" or \"2h ago\"",
                  text);
   return wrong(option,
-               "expected " + host::typedDate(readings->first, zone) + " or " + host::typedDate(readings->second, zone) +
-                   ", since the clocks show this twice",
+               filledIn(host::expectedOneOfTwo,
+                        {host::typedDate(readings->first, zone), host::typedDate(readings->second, zone)}),
                text);
 }
 

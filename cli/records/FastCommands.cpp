@@ -6,6 +6,7 @@
 #include "adapters/system/LocalUUIDGenerator.h"
 #include "adapters/system/UserDirectories.h"
 #include "cli/options/OptionValues.h"
+#include "cli/records/ImportCommand.h"
 #include "cli/records/RecordCommands.h"
 #include "cli/records/RecordRun.h"
 #include "cli/records/RecordTables.h"
@@ -67,8 +68,12 @@ std::string stop(const RecordRun& run) {
 }
 
 std::string add(const RecordRun& run) {
-  const Date start = run.date("START", *run.options.start);
-  const Date end = run.date("END", *run.options.end, start);
+  const RecordOptions& options = run.options;
+  if (options.takesLines || (options.start == "-" && !options.end)) return addLines(run, run.goalSeconds(usualGoal()));
+  if (!options.start || !options.end) throw Refused{wrongUsage, "expected START and END, or --lines"};
+  if (options.isDryRun) throw Refused{wrongUsage, "--dry-run: expected --lines with it"};
+  const Date start = run.date("START", *options.start);
+  const Date end = run.date("END", *options.end, start);
   return addOne(run, translatable("Added {1}"),
                 finishedFast(adapters::LocalUUIDGenerator{}.next(), start, end, run.goalSeconds(usualGoal())));
 }

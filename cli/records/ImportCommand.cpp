@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "cli/records/ImportCommand.h"
+
 #include <array>
 #include <string>
 #include <vector>
@@ -8,13 +10,15 @@
 #include "adapters/system/UserDirectories.h"
 #include "cli/options/OptionValues.h"
 #include "cli/records/RecordCommands.h"
-#include "cli/records/RecordRun.h"
 #include "cli/terminal/StandardOutput.h"
 #include "cli/usage/Usage.h"
 #include "host/app/CarriedSettings.h"
 #include "host/files/ReadImportFiles.h"
 #include "host/import/ImportText.h"
 #include "host/import/PlanImport.h"
+#include "host/import/SaidFasts.h"
+#include "host/place/TypedDates.h"
+#include "host/text/TextFile.h"
 #include "mivo/weights/WeightUnits.h"
 
 namespace mivo::cli {
@@ -58,27 +62,44 @@ std::string settingsTaken(const Files& files, const RecordRun& run) {
          '\n';
 }
 
-std::string import(const RecordRun& run) {
-  const adapters::LocalUUIDGenerator ids;
-  const Files files = read(run, ids);
+/// Adds what they hold as one change, or only tells of it where the run is dry.
+std::string report(const RecordRun& run, const Files& files, const UUIDGenerator& ids) {
   HistoryFile history = run.open();
   const host::ImportPlan plan = planImport(history.history(), files, ids);
   const bool isDone = !run.options.isDryRun;
   if (isDone && !plan.change.isEmpty()) history.apply(plan.change);
-  std::string report;
+  std::string lines;
   for (std::size_t index = 0; index < files.size(); ++index) {
     const auto& numbers = *run.formatters.numberFormatter;
-    report += importSummary(files[index], plan.counts[index], isDone, *run.texts, numbers) + '\n';
-    for (const std::string& note : importNotes(files[index], *run.texts, numbers)) report += "  " + note + '\n';
+    lines += importSummary(files[index], plan.counts[index], isDone, *run.texts, numbers) + '\n';
+    for (const std::string& note : importNotes(files[index], *run.texts, numbers)) lines += "  " + note + '\n';
   }
-  if (isDone && run.options.takesSettings) report += settingsTaken(files, run);
+  if (isDone && run.options.takesSettings) lines += settingsTaken(files, run);
   for (const auto& file : files)
     if (file.endsBeforeStart) complain(describe(*file.endsBeforeStart));
   complainOf(plan.refused, run);
-  return report;
+  return lines;
+}
+
+std::string import(const RecordRun& run) {
+  const adapters::LocalUUIDGenerator ids;
+  return report(run, read(run, ids), ids);
 }
 
 }  // namespace
+
+std::string addLines(const RecordRun& run, std::int64_t goalSeconds) {
+  if (run.options.note) throw Refused{wrongUsage, "--note: expected one fast, not --lines"};
+  const std::string name = host::inputName("-");
+  const auto text = host::readTextInput("-");
+  if (!text) throw Refused{atFault, describe(text.error())};
+  const auto [names, order] = host::typedDateWords(run.locale);
+  const adapters::LocalUUIDGenerator ids;
+  const Files files{host::readSaidFasts(name, *text, {names, {run.now, *run.zone, order}, goalSeconds}, ids)};
+  if (!files.front().fasts.empty()) return report(run, files, ids);
+  complainOf(files.front().refused, run);
+  throw Refused{atFault, name + ": expected fasts, one a line, as in \"yesterday 20:00 - 12:00\""};
+}
 
 int runImport(const RecordOptions& options) { return runRecordCommand(options, import); }
 

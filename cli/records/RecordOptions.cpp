@@ -15,6 +15,7 @@ constexpr const char* fastExamples = R"(Examples:
   mivo start --at "2026-02-28 20:04" --goal-hours 18
   mivo stop
   mivo add "yesterday 8 pm" 12:00 --note "no breakfast"
+  mivo add --lines --dry-run < notes.txt
   mivo edit 3f9a --end 2026-02-28T12:30:00+01:00
   mivo remove 3f9a
   mivo repair --dry-run
@@ -111,9 +112,13 @@ void addFastCommands(Commands& to) {
   to.goalAndNote(start, usualGoal);
   CLI::App& stop = to.add("stop", "Stop the fast that is running", runStop);
   to.date(stop, "--at", options.at, "When it ended; default: now");
-  CLI::App& add = to.add("add", "Add a fast that has ended", runAdd);
-  add.add_option("START", options.start, "When it began")->required();
-  add.add_option("END", options.end, "When it ended")->required();
+  CLI::App& add = to.add("add", "Add a fast that has ended, or several", runAdd);
+  CLI::Option* const lines =
+      add.add_flag("--lines", options.takesLines,
+                   "Those of standard input, one a line: \"yesterday 20:00 - 12:00\" or \"yesterday 20:00, 16h\"");
+  add.add_option("START", options.start, "When it began; - alone is --lines")->excludes(lines);
+  add.add_option("END", options.end, "When it ended")->excludes(lines);
+  add.add_flag("--dry-run", options.isDryRun, "Only tell which of the lines would be added");
   to.goalAndNote(add, usualGoal);
   CLI::App& edit = to.add("edit", "Change a fast", runEdit);
   to.id(edit);

@@ -24,7 +24,8 @@ struct RecordOptions {
   struct {
     std::string dateOrder, weightUnit;
   } ambiguities;  ///< what files leave open
-  bool isRunning = false, isForced = false, isDryRun = false, takesSettings = false, withWeights = false;
+  bool isRunning = false, takesLines = false, isForced = false, isDryRun = false, takesSettings = false,
+       withWeights = false;
   std::string database, locale, timeZone, format = "text";
 };
 

@@ -9,6 +9,7 @@
 #include "adapters/time/TimeZone.h"
 #include "host/dates/WrittenDate.h"
 #include "mivo/model/Date.h"
+#include "mivo/model/Translatable.h"
 
 namespace mivo::host {
 
@@ -19,6 +20,10 @@ struct SpokenFrame {
   DateOrder order;                 ///< of the user's locale; holds where a date can be read in both
   std::optional<Date> after = {};  ///< for the end of something: its start
 };
+
+/// Said of a date that is two, as `typedDate` writes them.
+inline constexpr std::string_view expectedOneOfTwo =
+    translatable("expected {1} or {2}, since the clocks show this twice");
 
 /// Why a text gives no date: it is none, or it is two that clocks show alike.
 struct SpokenFault {

@@ -258,6 +258,7 @@ DateNames namesOf(const std::array<const char*, 12>& months, const std::array<co
   names.daysAgo = {{"today", 0}, {"yesterday", 1}};
   names.now = {"now"};
   names.links = {"at"};
+  names.untils = {"to", "until", "till"};
   return names;
 }
 

@@ -15,15 +15,15 @@ namespace mivo::host {
 enum class DateOrder { dayFirst, monthFirst };
 
 /// The names that a language gives to months (1 to 12), days of the week (0 = Sunday), the halves of the day (0 = AM,
-/// 1 = PM), today and yesterday (0 and 1 days ago) and now, in small letters and without points, full and short; and
-/// the words that may stand between a day and its time.
+/// 1 = PM), today and yesterday (0 and 1 days ago) and now, in small letters and without points, full and short; the
+/// words that may stand between a day and its time, and those between a start and its end.
 struct DateNames {
   struct Name {
     std::string text;
     unsigned number = 0;
   };
   std::vector<Name> months, weekdays, halves, daysAgo;
-  std::vector<std::string> now, links;
+  std::vector<std::string> now, links, untils;
 };
 
 /// The number of a name, whatever its ASCII case and its points.

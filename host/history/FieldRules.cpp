@@ -18,7 +18,7 @@ void noteEndBeforeStart(std::optional<KeptOddity>& oddity, BadRecord bad) {
     ++oddity->count;
     return;
   }
-  bad.reason = "expected an end after the start";
+  bad.reason = expectedEndAfterStart;
   oddity = KeptOddity{.first = std::move(bad)};
 }
 

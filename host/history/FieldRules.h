@@ -8,6 +8,7 @@
 #include <string_view>
 
 #include "host/history/History.h"
+#include "mivo/model/Translatable.h"
 #include "mivo/weights/WeightUnits.h"
 
 namespace mivo::host {
@@ -24,6 +25,7 @@ inline constexpr std::size_t longestNoteInBytes = 65536;
 
 inline constexpr std::string_view expectedDate =
     "expected a date and time of the years 1 to 9999, as in 2026-03-01T12:00:00Z";
+inline constexpr std::string_view expectedEndAfterStart = translatable("expected an end after the start");
 inline constexpr std::string_view expectedNote = "expected UTF-8 text of at most 65536 bytes";
 inline constexpr std::string_view expectedWeight = "expected kilograms above 0 and at most 1000";
 static_assert(largestWeightInKg == 1000);

@@ -14,7 +14,6 @@ namespace {
 constexpr std::string_view expectedGoal = "expected a goal in hours, as in 16 or 16:30";
 constexpr std::string_view expectedLength =
     "expected a length, as in 16:30 or 16h 30m, or a number and its unit in the header";
-constexpr std::string_view expectedEndAfterStart = "expected an end after the start";
 
 }  // namespace
 

@@ -33,6 +33,8 @@ std::string nothingFound(ImportKind kind, const TextLookup& texts) {
       return texts.text("It was read as a table of weights, and no row below its header has one.");
     case ImportKind::weightLog:
       return texts.text("It was read as a log of weights, and no line has one.");
+    case ImportKind::saidFasts:
+      break;  // is refused as a whole
   }
   return {};
 }

@@ -14,8 +14,8 @@
 
 namespace mivo::host {
 
-/// What a file was recognised as, by its content.
-enum class ImportKind { snapshot, database, fastTable, weightTable, weightLog, otherBackup, healthExport };
+/// What a file was recognised as, by its content; typed lines are what they were said to be.
+enum class ImportKind { snapshot, database, fastTable, weightTable, weightLog, otherBackup, healthExport, saidFasts };
 
 /// The records that were refused: the first of them, in the order of the file, and how many there are.
 class RefusedRecords {

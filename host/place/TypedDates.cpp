@@ -50,22 +50,26 @@ DateNames namesIn(const adapters::DateWords& words) {
   append(names.daysAgo, english.daysAgo);
   append(names.now, english.now);
   append(names.links, english.links);
+  append(names.untils, english.untils);
   names.links.insert(names.links.end(), {"um", "à", "a"});
+  names.untils.insert(names.untils.end(), {"bis", "à", "jusqu'à", "jusqu’à", "a", "hasta"});
   return names;
 }
 
 }  // namespace
 
+TypedDateWords typedDateWords(const adapters::UserLocale& locale) {
+  const adapters::DateWords words = adapters::dateWords(locale);
+  return {.names = namesIn(words), .order = words.isDayFirst ? DateOrder::dayFirst : DateOrder::monthFirst};
+}
+
 tl::expected<Date, SpokenFault> readTypedDate(std::string_view text, const adapters::UserLocale& locale,
                                               const adapters::TimeZone& zone, Date now, std::optional<Date> after) {
   if (const auto written = parseDateText(text); written && written->offset)
     if (const auto date = instant(*written)) return *date;
-  const adapters::DateWords words = adapters::dateWords(locale);
-  const SpokenFrame frame{.now = now,
-                          .zone = zone,
-                          .order = words.isDayFirst ? DateOrder::dayFirst : DateOrder::monthFirst,
-                          .after = after};
-  return readSpokenDate(adapters::inSmallLetters(text), namesIn(words), frame);
+  const auto [names, order] = typedDateWords(locale);
+  const SpokenFrame frame{.now = now, .zone = zone, .order = order, .after = after};
+  return readSpokenDate(adapters::inSmallLetters(text), names, frame);
 }
 
 }  // namespace mivo::host

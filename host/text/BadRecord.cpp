@@ -4,6 +4,7 @@
 #include <unicode/uchar.h>
 
 #include "host/text/Utf8.h"
+#include "mivo/platform/TextLookup.h"
 
 namespace mivo::host {
 namespace {
@@ -45,7 +46,7 @@ std::string describe(const BadRecord& bad) {
   std::string sentence = bad.file;
   if (bad.line > 0) sentence += ':' + std::to_string(bad.line);
   if (!bad.column.empty()) sentence += ": " + bad.column;
-  sentence += ": " + bad.reason;
+  sentence += ": " + (bad.either ? filledIn(bad.reason, {bad.either->first, bad.either->second}) : bad.reason);
   if (bad.value) sentence += ", found \"" + *bad.value + '"';
   return sentence;
 }

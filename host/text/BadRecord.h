@@ -5,18 +5,20 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace mivo::host {
 
 /// What was refused in a file. `line` counts from 1, as editors do, and is 0 where the file as a whole is meant;
 /// `column` is the file's own name for the field; `value` is the file's own text, made fit for a sentence by
-/// `quotable`; `reason` says what was expected.
+/// `quotable`; `reason` says what was expected, and `either` of which two, where it has places for them.
 struct BadRecord {
   std::string file;
   std::int64_t line = 0;
   std::string column = {};
   std::optional<std::string> value = {};
   std::string reason = {};
+  std::optional<std::pair<std::string, std::string>> either = {};
   bool operator==(const BadRecord&) const = default;
 };
 

@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "host/import/ImportReader.h"
+#include "host/import/SaidFasts.h"
 #include "mivo/weights/WeightUnits.h"
 #include "tests/support/FixedClients.h"
 
@@ -37,10 +38,18 @@ void check(const host::ImportedFile& file) {
     if (describe(bad).find('\n') != std::string::npos) std::abort();
 }
 
+host::ImportedFile readSaid(std::string_view bytes) {
+  static const auto zone = adapters::TimeZone::load("America/Sao_Paulo").value();
+  const tests::CountingUUIDs ids;
+  const host::SpokenFrame dates{dateSince1970(1795613420), *zone, host::DateOrder::monthFirst};
+  return host::readSaidFasts("f", bytes, {host::englishDateNames(), dates, 57600}, ids);
+}
+
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   const std::string_view bytes{reinterpret_cast<const char*>(data), size};
+  check(readSaid(bytes));
   const auto whole = readInPieces(bytes, bytes.size() + 1), pieces = readInPieces(bytes, 7);
   if (whole.has_value() != pieces.has_value()) std::abort();
   if (!whole) {

@@ -66,6 +66,40 @@ TEST_F(Import, takesADatabaseAndASnapshotAsTheyAre) {
   EXPECT_EQ(place.run("import --database d d").output, "d: 0 fasts and 0 weights added, 3 there already, 0 refused\n");
 }
 
+const std::string expectedFast =
+    "expected a start and an end, as in \"yesterday 20:00 - 12:00\" or \"yesterday 20:00, 16h\", found ";
+
+TEST_F(Import, addsTheFastsOfLinesAsOneChange) {
+  place.write("notes",
+              "Fasts\n- 27.2.2026 20:00 – 28.2.2026 12:30\n- 1.3.2026 20:00 bis 12:00\n\n- 2.3.2026 20:00, 16h 30m\n");
+  const std::string add = "add --database d --locale en-DE --goal-hours 18 --time-zone Europe/Berlin ";
+  EXPECT_EQ(place.run(add + "--lines --dry-run", "<notes >output").output,
+            "standard input: 3 fasts and 0 weights to add, 0 there already, 1 refused\n");
+  EXPECT_FALSE(std::filesystem::exists(place.file("d")));
+  const Ran ran = place.run(add + "--lines", "<notes >output");
+  EXPECT_EQ(ran.status, 0);
+  EXPECT_EQ(ran.output, "standard input: 3 fasts and 0 weights added, 0 there already, 1 refused\n");
+  EXPECT_EQ(ran.errors, "mivo: standard input:1: " + expectedFast + "\"Fasts\"\n");
+  ASSERT_EQ(history().fasts.size(), 3u);
+  EXPECT_EQ(history().fasts.back().fast.finished->end, dateSince1970(1772537400));  // 2026-03-03, 11:30 in UTC
+  EXPECT_EQ(history().fasts.back().fast.goalSeconds, 18 * 3600);
+  EXPECT_EQ(place.run(add + "-", "<notes >output").output,
+            "standard input: 0 fasts and 0 weights added, 3 there already, 1 refused\n");
+  EXPECT_EQ(place.run("undo --database d").status, 0);
+  EXPECT_THAT(history().fasts, IsEmpty());
+}
+
+TEST_F(Import, refusesLinesOfWhichNoneIsAFast) {
+  place.write("letter", "Dear all,\n");
+  const Ran ran = place.run("add --lines --database d", "<letter >output");
+  EXPECT_EQ(ran.status, 1);
+  EXPECT_EQ(ran.output, "");
+  EXPECT_EQ(ran.errors, "mivo: standard input:1: " + expectedFast +
+                            "\"Dear all,\"\nmivo: standard input: expected fasts, one a line, as in \"yesterday "
+                            "20:00 - 12:00\"\n");
+  EXPECT_FALSE(std::filesystem::exists(place.file("d")));
+}
+
 struct RefusedImport {
   const char* name;
   std::string arguments, error;
