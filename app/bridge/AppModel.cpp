@@ -64,6 +64,7 @@ AppModel::AppModel(AppServices given)
                      [this] { send(Action::didChangeSettings{}); },
                      [this] { keepReminding(); }},
       importSheet{clients, [this](Action action) { send(std::move(action)); }},
+      severalFastsSheet{clients, [this](Action action) { send(std::move(action)); }},
       exportSheet{clients, [this](Action action) { send(std::move(action)); }},
       healthSheet{texts, [this](Action action) { send(std::move(action)); }},
       allBackups{clients, services.files->backupFolder(), [this](Action action) { send(std::move(action)); }} {
@@ -173,6 +174,7 @@ void AppModel::followPages(const State& state) {
   overlapRepair.follow(state.overlapRepair);
   chosenSettings.follow(state);
   importSheet.follow(state);
+  severalFastsSheet.follow(state);
   healthSheet.follow(state);
   allBackups.follow(state);
   goalWeight.show(composeGoalWeightSheet(statistics.goalWeightCardState, texts, *dependencies.numberFormatter,
@@ -201,6 +203,7 @@ void AppModel::followScreens(const State& state) {
     Q_EMIT roadmapChanged();
   }
   importSheet.follow(state);
+  severalFastsSheet.follow(state);
   exportSheet.follow(state);
   openScreens.show(composeOpenScreens(state));
 }

@@ -72,6 +72,7 @@ class AppModel : public QObject {
   Q_PROPERTY(mivo::app::RepairModel* repair READ repair CONSTANT)
   Q_PROPERTY(mivo::app::SettingsModel* settings READ settings CONSTANT)
   Q_PROPERTY(mivo::app::ImportModel* importing READ importing CONSTANT)
+  Q_PROPERTY(mivo::app::SeveralFastsModel* severalFasts READ severalFasts CONSTANT)
   Q_PROPERTY(mivo::app::ExportModel* exporting READ exporting CONSTANT)
   Q_PROPERTY(mivo::app::HealthModel* health READ health CONSTANT)
   Q_PROPERTY(mivo::app::BackupsModel* backups READ backups CONSTANT)
@@ -105,6 +106,7 @@ class AppModel : public QObject {
   RepairModel* repair() { return &overlapRepair; }
   SettingsModel* settings() { return &chosenSettings; }
   ImportModel* importing() { return &importSheet; }
+  SeveralFastsModel* severalFasts() { return &severalFastsSheet; }
   ExportModel* exporting() { return &exportSheet; }
   HealthModel* health() { return &healthSheet; }
   BackupsModel* backups() { return &allBackups; }
@@ -182,6 +184,7 @@ class AppModel : public QObject {
   RepairModel overlapRepair;
   SettingsModel chosenSettings;
   ImportModel importSheet;
+  SeveralFastsModel severalFastsSheet;
   ExportModel exportSheet;
   HealthModel healthSheet;
   BackupsModel allBackups;

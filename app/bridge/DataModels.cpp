@@ -20,7 +20,7 @@ ImportModel::ImportModel(std::function<PageClients()> present, std::function<voi
 
 void ImportModel::follow(const host::AppFeature::State& state) {
   host::ImportSheet now = composeImportSheet(state, clients());
-  if (state.importing) {
+  if (state.importing && !*state.importing->isTyped) {
     last = std::move(now);
   } else {
     last.takesFiles = now.takesFiles;
@@ -44,6 +44,15 @@ void ImportModel::confirm() { sendImport(host::ImportFeature::Action::didTapImpo
 void ImportModel::sendImport(host::ImportFeature::Action action) {
   using Shown = PresentationAction<host::ImportFeature::Action>;
   send(Action::importing{Shown::presented{std::move(action)}});
+}
+
+void SeveralFastsModel::follow(const host::AppFeature::State& state) {
+  if (openScreen(state) == host::Screen::severalFasts) show(composeSeveralFastsSheet(*state.importing, clients()));
+}
+
+void SeveralFastsModel::add() {
+  using Shown = PresentationAction<host::ImportFeature::Action>;
+  send(Action::importing{Shown::presented{host::ImportFeature::Action::didTapImport{}}});
 }
 
 ExportModel::ExportModel(std::function<PageClients()> present, std::function<void(Action)> sends)

@@ -38,6 +38,27 @@ class ImportModel : public mivo::app::ImportSheetRecord {
   host::ImportSheet last;
 };
 
+/// The `host::SeveralFastsSheet`; once nothing is typed any more, as it was last.
+class SeveralFastsModel : public mivo::app::SeveralFastsSheetRecord {
+  Q_OBJECT
+  QML_ELEMENT
+  QML_UNCREATABLE("the app has one")
+
+ public:
+  using Action = host::AppFeature::Action;
+  SeveralFastsModel(std::function<PageClients()> present, std::function<void(Action)> sends)
+      : clients{std::move(present)}, send{std::move(sends)} {}
+
+  void follow(const host::AppFeature::State& state);
+
+  Q_INVOKABLE void type(const QString& lines) { send(Action::didTypeFasts{lines.toStdString()}); }
+  Q_INVOKABLE void add();
+
+ private:
+  std::function<PageClients()> clients;
+  std::function<void(Action)> send;
+};
+
 /// The `host::ExportSheet`.
 class ExportModel : public mivo::app::ExportSheetRecord {
   Q_OBJECT

@@ -22,6 +22,7 @@
 #include "host/pages/RemindersPage.h"
 #include "host/pages/RepairSheet.h"
 #include "host/pages/SettingsPage.h"
+#include "host/pages/SeveralFastsSheet.h"
 #include "host/pages/WeightsPage.h"
 #include "mivo/achievements/BadgesPage.h"
 #include "mivo/roadmap/FeedbackSheet.h"
@@ -52,7 +53,7 @@ using ObjectRecords =
                host::ControlWords, host::DateTimeChoice, host::ExportSheet, host::FastSheet, host::FastingPage,
                host::GoalChoice, host::HealthSheet, host::HistoryPage, host::ImportSheet, host::Message,
                host::OpenScreens, host::RemindersPage, host::RepairSheet, host::RestoreSheet, host::SettingsPage,
-               host::WeightsPage>;
+               host::SeveralFastsSheet, host::WeightsPage>;
 
 template <class Candidate, class List>
 inline constexpr bool isIn = false;

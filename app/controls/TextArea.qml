@@ -7,10 +7,11 @@ Rectangle {
     id: root
 
     property alias text: edit.text
-    property string accessibleName
+    property string placeholder
+    property string accessibleName: placeholder
     property bool hasProblem: false
-    /// What its text needs to be seen whole.
-    readonly property real wholeHeight: edit.implicitHeight + 24
+    /// What its text needs to be seen whole, or what stands there without one.
+    readonly property real wholeHeight: Math.max(edit.implicitHeight, hint.visible ? hint.implicitHeight : 0) + 24
 
     /// By whoever types, not by whoever sets the text.
     signal edited(string text)
@@ -63,5 +64,16 @@ Rectangle {
                     flick.contentY = cursorRectangle.y + cursorRectangle.height - flick.height;
             }
         }
+    }
+
+    StyledText {
+        id: hint
+        anchors.fill: flick
+        visible: edit.text === "" && !edit.preeditText
+        clip: true
+        text: root.placeholder
+        color: Theme.inkTertiary
+        wrapMode: Text.Wrap
+        Accessible.ignored: true
     }
 }

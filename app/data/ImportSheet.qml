@@ -78,36 +78,11 @@ Sheet {
         }
     }
 
-    Column {
-        visible: root.page.refused.count > 0
+    RefusedList {
         width: parent.width
-        spacing: 8
-
-        StyledText {
-            width: parent.width
-            text: root.page.refusedTitle
-            style: Theme.labelText
-            color: Theme.inkSecondary
-            Accessible.role: Accessible.Heading
-            Accessible.name: text
-        }
-
-        SheetList {
-            Repeater {
-                model: root.page.refused
-                delegate: RefusedLine {}
-            }
-        }
-
-        StyledText {
-            visible: text !== ""
-            width: parent.width
-            text: root.page.moreRefused
-            style: Theme.labelText
-            color: Theme.inkSecondary
-            Accessible.role: Accessible.StaticText
-            Accessible.name: text
-        }
+        title: root.page.refusedTitle
+        rows: root.page.refused
+        more: root.page.moreRefused
     }
 
     Column {

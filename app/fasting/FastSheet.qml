@@ -176,6 +176,15 @@ Sheet {
             text: root.draft.removeLabel
             onClicked: root.draft.remove()
         }
+
+        ActionButton {
+            width: parent.width
+            visible: text !== ""
+            leastHeight: Theme.sheetButtonSize
+            kind: ActionButton.Plain
+            text: root.draft.severalLabel
+            onClicked: App.present("severalFasts")
+        }
     }
 
     DateTimeSheet {

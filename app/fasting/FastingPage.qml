@@ -81,6 +81,11 @@ FocusScope {
     }
 
     LateSheet {
+        screen: "severalFasts"
+        sourceComponent: SeveralFastsSheet {}
+    }
+
+    LateSheet {
         screen: "fastGoal"
         sourceComponent: FastGoalSheet {
             goal: App.fasting.goalSeconds

@@ -8,6 +8,7 @@
 #include <QtGui/QGuiApplication>
 #include <QtQml/QQmlEngine>
 #include <QtQml/QQmlIncubationController>
+#include <QtQuick/QQuickItem>
 #include <QtQuick/QQuickWindow>
 
 #include <CLI/CLI.hpp>
@@ -255,6 +256,24 @@ void drawImports(AppWindow& app, Gallery& gallery, const Language& language, con
   });
 }
 
+/// Lines that were pasted, and what of them is refused.
+void drawTypedFasts(AppWindow& app, Gallery& gallery, const Language& language, const History& history) {
+  QQuickWindow& window = *app.window();
+  inEachLook(gallery.wanted, language, [&](const Size& size, const Look& shown) {
+    const QString name = nameOf("severalFasts-preview", size, shown, language, history.name);
+    if (!isWanted(name, gallery.wanted)) return;
+    app.appearance().setOverride({.mode = shown.mode, .textScale = shown.textScale, .still = true});
+    window.resize(size.size);
+    app.model().present({});
+    app.model().present(QStringLiteral("severalFasts"));
+    awaitFrames(window, gallery.motion);
+    window.activeFocusItem()->setProperty(
+        "text", QStringLiteral("- 2026-02-20 20:00 \u2013 2026-02-21 12:30\n- 2026-02-25 20:00, 16h\n"
+                               "- 2026-02-26 20:00 \u2013 2026-02-26 25:00\n- 2025-10-26 02:30 \u2013 18:00"));
+    drawAndMeasure(window, name, false, gallery);
+  });
+}
+
 bool isInHalf(std::size_t number, const Wanted& wanted) {
   return wanted.half == 0 || number % 2 == static_cast<std::size_t>(wanted.half - 1);
 }
@@ -281,6 +300,7 @@ int drawAll(Gallery gallery) {
       settle(*app.window(), 40);
       drawScreens(app, gallery, language, history);
       if (&history == &histories[1]) drawImports(app, gallery, language, history, scratch);
+      if (&history == &histories[1]) drawTypedFasts(app, gallery, language, history);
     }
   }
   scratch.removeRecursively();

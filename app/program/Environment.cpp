@@ -100,6 +100,14 @@ std::shared_ptr<const TaskRunner> finishedWhenLetGo(const std::shared_ptr<adapte
   return {threads.get(), [threads](const TaskRunner*) { threads->finish(); }};
 }
 
+// Made when they are first asked for.
+auto wordsIn(adapters::UserLocale locale) {
+  return [locale = std::move(locale), words = std::shared_ptr<const host::TypedDateWords>{}]() mutable {
+    if (!words) words = std::make_shared<const host::TypedDateWords>(host::typedDateWords(locale));
+    return words;
+  };
+}
+
 Read<std::monostate> addPlaceAndTime(Environment& environment, Dependencies& clients, const Options& options) {
   const auto zone = host::readTimeZone(options.timeZone);
   if (!zone) return tl::unexpected{zone.error()};
@@ -111,6 +119,7 @@ Read<std::monostate> addPlaceAndTime(Environment& environment, Dependencies& cli
   environment.calendar = std::make_shared<host::WeekCalendar>(*calendar);
   environment.calendar->choose(host::firstWeekday(*clients.userDefaults));
   environment.usualWeightUnit = locale->weightUnit();
+  environment.typedDateWords = wordsIn(*locale);
   clients.date = *date;
   clients.calendar = clients.currentCalendar = environment.calendar;
   clients.languageTag = locale->tag();
@@ -235,6 +244,7 @@ Client<host::DataFiles> filesAround(const Environment& environment, const Option
                              .zone = [calendar = environment.calendar] { return calendar->present().zone(); },
                              .settings = settingsOf(environment),
                              .ids = environment.dependencies->uuid,
+                             .words = environment.typedDateWords,
                              .print = printOf(environment, options)});
 }
 

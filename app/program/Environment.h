@@ -2,6 +2,7 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 #include <memory>
 #include <string>
 #include <tl/expected.hpp>
@@ -10,6 +11,7 @@
 #include "host/data/DataFiles.h"
 #include "host/fasting/HistoryClient.h"
 #include "host/health/LinkedHealthClient.h"
+#include "host/place/TypedDates.h"
 #include "host/place/WeekCalendar.h"
 #include "host/tips/Tips.h"
 #include "mivo/platform/Dependencies.h"
@@ -45,7 +47,8 @@ struct Environment {
   std::shared_ptr<const Dependencies> dependencies;
   std::shared_ptr<const host::Tips> tips;
   std::filesystem::path databaseFile;
-  std::shared_ptr<host::WeekCalendar> calendar;        ///< the one in the dependencies, to choose its weeks
+  std::shared_ptr<host::WeekCalendar> calendar;  ///< the one in the dependencies, to choose its weeks
+  std::function<std::shared_ptr<const host::TypedDateWords>()> typedDateWords;  ///< for the main thread
   std::shared_ptr<SystemZone> systemZone;              ///< to be followed; none where the options name a zone
   Client<host::HistoryClient> history;                 ///< none where it could not be opened; `notice` then says why
   Client<host::DataFiles> files;                       ///< around the history, opened or not

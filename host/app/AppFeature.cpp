@@ -377,6 +377,9 @@ std::string doneText(const AppFeature::UndoOffer& offer, const TextLookup& texts
       return texts.text("Weight deleted");
     case Step::repairOverlaps:
       return texts.text("Overlapping fasts fixed");
+    case Step::addSeveral:
+      return filledIn(texts.text("Added: {1}"),
+                      {fastCountText(static_cast<std::int64_t>(offer.change.removedFasts.size()), texts, numbers)});
     case Step::importing: {
       const RecordCounts counts{static_cast<std::int64_t>(offer.change.removedFasts.size()),
                                 static_cast<std::int64_t>(offer.change.removedWeights.size())};

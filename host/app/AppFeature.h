@@ -32,6 +32,7 @@ struct AppFeature {
     stopAtOnce,
     edit,
     add,
+    addSeveral,
     remove,
     addWeight,
     editWeight,
@@ -198,6 +199,11 @@ struct AppFeature {
       std::vector<std::string> paths;
       bool operator==(const didChooseFiles&) const = default;
     };
+    /// Into the field for several fasts: all that it holds now.
+    struct didTypeFasts {
+      std::string text;
+      bool operator==(const didTypeFasts&) const = default;
+    };
     /// The preview is gone once what it shows is on disk.
     struct importing {
       PresentationAction<ImportFeature::Action> action;
@@ -241,15 +247,16 @@ struct AppFeature {
   };
   struct Action
       : Cases,
-        std::variant<
-            Cases::statistics, Cases::reload, Cases::didLoad, Cases::didFail, Cases::didChangeSettings,
-            Cases::recompute, Cases::didOpen, Cases::didClose, Cases::didGoBack, Cases::didTapStart, Cases::didTapStop,
-            Cases::didChangeStart, Cases::didChangeGoal, Cases::didTapEditFast, Cases::didTapAddFast,
-            Cases::didChangeDraftStart, Cases::didChangeDraftEnd, Cases::didChangeDraftGoal, Cases::didChangeDraftNote,
-            Cases::didTapSaveDraft, Cases::didDismissDraft, Cases::didDeleteFast, Cases::didTapEditWeight,
-            Cases::editedWeight, Cases::didDeleteWeight, Cases::didConfirmOverlapRepair, Cases::didCancelOverlapRepair,
-            Cases::didChooseFiles, Cases::importing, Cases::didSwitchPrintedWeights, Cases::didExport, Cases::backups,
-            Cases::health, Cases::didTapMessage, Cases::didDismissMessages, Cases::didWrite, Cases::didFailToWrite> {
+        std::variant<Cases::statistics, Cases::reload, Cases::didLoad, Cases::didFail, Cases::didChangeSettings,
+                     Cases::recompute, Cases::didOpen, Cases::didClose, Cases::didGoBack, Cases::didTapStart,
+                     Cases::didTapStop, Cases::didChangeStart, Cases::didChangeGoal, Cases::didTapEditFast,
+                     Cases::didTapAddFast, Cases::didChangeDraftStart, Cases::didChangeDraftEnd,
+                     Cases::didChangeDraftGoal, Cases::didChangeDraftNote, Cases::didTapSaveDraft,
+                     Cases::didDismissDraft, Cases::didDeleteFast, Cases::didTapEditWeight, Cases::editedWeight,
+                     Cases::didDeleteWeight, Cases::didConfirmOverlapRepair, Cases::didCancelOverlapRepair,
+                     Cases::didChooseFiles, Cases::didTypeFasts, Cases::importing, Cases::didSwitchPrintedWeights,
+                     Cases::didExport, Cases::backups, Cases::health, Cases::didTapMessage, Cases::didDismissMessages,
+                     Cases::didWrite, Cases::didFailToWrite> {
     using variant::variant;
   };
 
@@ -299,6 +306,7 @@ struct AppFeature {
   Effect<Action> on(State& state, const Action::didConfirmOverlapRepair& sent) const;
   Effect<Action> on(State& state, const Action::didCancelOverlapRepair& sent) const;
   Effect<Action> on(State& state, const Action::didChooseFiles& sent) const;
+  Effect<Action> on(State& state, const Action::didTypeFasts& sent) const;
   Effect<Action> on(State& state, const Action::importing& sent) const;
   Effect<Action> on(State& state, const Action::didSwitchPrintedWeights& sent) const;
   Effect<Action> on(State& state, const Action::didExport& sent) const;

@@ -43,10 +43,12 @@ std::string outcomeText(BackupsFeature::Outcome outcome, const TextLookup& texts
   return {};
 }
 
+bool bringsRecords(Step step) { return step == Step::importing || step == Step::addSeveral; }
+
 }  // namespace
 
 bool takesFiles(const State& state) {
-  if (state.importing) return *state.importing->phase != Phase::writing;
+  if (state.importing && !*state.importing->isTyped) return *state.importing->phase != Phase::writing;
   return kindOf(openScreen(state)) != ScreenKind::sheet;
 }
 
@@ -58,6 +60,24 @@ auto AppFeature::on(State& state, const Action::didChooseFiles& chosen) const ->
   effect.add(
       reduce(state, Action::importing{PresentationAction<Import>::presented{Import::didChooseFiles{chosen.paths}}}));
   return effect;
+}
+
+// At once, so that nothing is added but what is shown; a text that takes longer than a frame is not read.
+auto AppFeature::on(State& state, const Action::didTypeFasts& typed) const -> Effect<Action> {
+  constexpr std::size_t longest = 1U << 16;  // bytes, some 2,000 fasts
+  if (openScreen(state) != Screen::severalFasts || *state.importing->phase == Phase::writing) return {};
+  ImportFeature::State next{.isTyped = true};
+  if (typed.text.size() > longest) {
+    next.phase = Phase::refused;
+    next.failure = texts->text("This is too long to be read at once. Add it in several parts.");
+  } else if (typed.text.find_first_not_of(" \t\r\n") != std::string::npos) {
+    std::vector read{files->readLines(typed.text, state.nextGoalSeconds, date->now())};
+    ImportPlan plan = files->plan({state.fasts->elements(), {}, {}}, read);
+    next.phase = Phase::ready;
+    next.preview = std::make_shared<const ImportPreview>(ImportPreview{std::move(read), std::move(plan)});
+  }
+  *state.importing = std::move(next);
+  return {};
 }
 
 auto AppFeature::on(State& state, const Action::importing& sent) const -> Effect<Action> {
@@ -75,17 +95,17 @@ auto AppFeature::writeImport(State& state) const -> Effect<Action> {
   return Effect<Action>::run(
       [](const Send<Action>& send, const std::stop_token&, const Client<HistoryClient>& client,
          const Client<DataFiles>& data, const Client<TextLookup>& lookup,
-         const std::shared_ptr<const ImportPreview>& preview) {
+         const std::shared_ptr<const ImportPreview>& preview, Step step) {
         HistoryChange change;
         try {
           change = data->plan(client->load(), preview->files).change;
           if (!change.isEmpty()) client->apply(change);
         } catch (const std::exception& error) {
-          return send(Action::didFailToWrite{Step::importing, {}, faultText(error, *lookup)});
+          return send(Action::didFailToWrite{step, {}, faultText(error, *lookup)});
         }
-        send(Action::didWrite{Step::importing, std::move(change)});
+        send(Action::didWrite{step, std::move(change)});
       },
-      history, files, texts, *state.importing->preview);
+      history, files, texts, *state.importing->preview, *state.importing->isTyped ? Step::addSeveral : Step::importing);
 }
 
 auto AppFeature::on(State& state, const Action::didSwitchPrintedWeights&) const -> Effect<Action> {
@@ -184,7 +204,7 @@ auto AppFeature::didChangeAccess(State& state, bool isAllowed) const -> Effect<A
 
 auto AppFeature::didWriteData(State& state, const Action::didWrite& written) const -> Effect<Action> {
   const bool isNothing = written.change.isEmpty();
-  if (written.step == Step::importing) {
+  if (bringsRecords(written.step)) {
     if (state.importing && *state.importing->phase == Phase::writing) state.importing = {};
     if (isNothing) state.failure = texts->text("All of it is there already.");
   }
@@ -196,7 +216,7 @@ auto AppFeature::didWriteData(State& state, const Action::didWrite& written) con
 }
 
 bool AppFeature::isSaidWhereItWasTried(State& state, const Action::didFailToWrite& failed) const {
-  if (failed.step == Step::importing && state.importing && *state.importing->phase == Phase::writing) {
+  if (bringsRecords(failed.step) && state.importing && *state.importing->phase == Phase::writing) {
     state.importing->phase = Phase::ready;
     state.importing->failure = failed.sentence;
     return true;

@@ -69,7 +69,7 @@ Screen openScreen(const State& state) {
   if (*state.draft) return Screen::editFast;
   if (state.editedWeight) return Screen::editWeight;
   if (*state.overlapRepair) return Screen::overlaps;
-  if (state.importing) return Screen::importing;
+  if (state.importing) return *state.importing->isTyped ? Screen::severalFasts : Screen::importing;
   if (*state.backups.chosen) return Screen::restoring;
   const auto& destination = state.statistics.destination;
   if (!destination) return state.screen;
@@ -132,7 +132,8 @@ auto AppFeature::enter(State& state, Screen screen) const -> Effect<Action> {
     case Screen::editWeight:
       return on(state, Action::didTapEditWeight{state.weights->back().id});
     case Screen::importing:
-      state.importing = ImportFeature::State{};
+    case Screen::severalFasts:
+      state.importing = ImportFeature::State{.isTyped = screen == Screen::severalFasts};
       return {};
     case Screen::settings:
     case Screen::backups:
@@ -161,6 +162,7 @@ auto AppFeature::leave(State& state, Screen screen) const -> Effect<Action> {
     case Screen::overlaps:
       return on(state, Action::didCancelOverlapRepair{});
     case Screen::importing:
+    case Screen::severalFasts:
       return reduce(state, Action::importing{PresentationAction<ImportFeature::Action>::dismiss{}});
     case Screen::restoring:
       return reduce(state, Action::backups{BackupsFeature::Action::didDismiss{}});

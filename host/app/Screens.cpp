@@ -34,6 +34,7 @@ constexpr std::array<Row, screenCount> rows{{{statistics, "statistics", tab, sta
                                              {fasting, "fasting", tab, fasting},
                                              {editFast, "editFast", sheet, fasting},
                                              {addFast, "addFast", sheet, fasting},
+                                             {severalFasts, "severalFasts", sheet, fasting},
                                              {fastGoal, "fastGoal", sheet, fasting},
                                              {fastStart, "fastStart", sheet, fasting},
                                              {fastMenu, "fastMenu", sheet, fasting},

@@ -28,6 +28,7 @@ enum class Screen {
   fasting,
   editFast,
   addFast,
+  severalFasts,
   fastGoal,
   fastStart,
   fastMenu,

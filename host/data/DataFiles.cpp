@@ -9,6 +9,7 @@
 #include "host/files/ReadImportFiles.h"
 #include "host/history/HistoryCsv.h"
 #include "host/history/Snapshot.h"
+#include "host/import/SaidFasts.h"
 
 namespace mivo::host {
 namespace {
@@ -37,6 +38,12 @@ DataFiles::Read DataFiles::read(const std::vector<std::string>& paths, const Imp
     std::ranges::move(*some, std::back_inserter(files));
   }
   return files;
+}
+
+ImportedFile DataFiles::readLines(std::string_view text, std::int64_t goalSeconds, Date now) const {
+  const auto words = place.words();
+  const auto zone = place.zone();
+  return readSaidFasts({}, text, {words->names, {now, *zone, words->order}, goalSeconds}, *place.ids);
 }
 
 ImportPlan DataFiles::plan(const History& present, const std::vector<ImportedFile>& files) const {

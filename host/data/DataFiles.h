@@ -8,6 +8,7 @@
 #include <optional>
 #include <stop_token>
 #include <string>
+#include <string_view>
 #include <tl/expected.hpp>
 #include <vector>
 
@@ -21,6 +22,7 @@
 #include "host/import/ImportSettings.h"
 #include "host/import/ImportedFile.h"
 #include "host/import/PlanImport.h"
+#include "host/place/TypedDates.h"
 #include "mivo/model/TimeRange.h"
 #include "mivo/platform/UUIDGenerator.h"
 
@@ -51,6 +53,7 @@ class DataFiles {
     std::function<std::shared_ptr<const adapters::TimeZone>()> zone;  ///< of dates without an offset
     std::function<std::vector<Setting>()> settings;                   ///< that snapshots carry
     std::shared_ptr<const UUIDGenerator> ids;
+    std::function<std::shared_ptr<const TypedDateWords>()> words = {};  ///< of dates that are typed
     /// Onto pages or into a picture, as the file's name ends.
     std::function<void(const std::filesystem::path& file, TimeRange range, PrintedWeights weights)> print = {};
   };
@@ -61,6 +64,8 @@ class DataFiles {
   /// See `readImportFiles`; `progress` gets from 0 to 1 over all files.
   Read read(const std::vector<std::string>& paths, const ImportAnswers& answers,
             const std::function<void(double)>& progress, const std::stop_token& stop) const;
+  /// Past fasts of typed lines; see `readSaidFasts`. Asks for the words on the thread that it is called from.
+  ImportedFile readLines(std::string_view text, std::int64_t goalSeconds, Date now) const;
   ImportPlan plan(const History& present, const std::vector<ImportedFile>& files) const;
 
   /// The records as a snapshot or a table. The file is written whole or not at all; one that is there is replaced.

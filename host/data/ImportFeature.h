@@ -18,18 +18,19 @@
 
 namespace mivo::host {
 
-/// What some files hold, held against the history.
+/// What some files or typed lines hold, held against the history.
 struct ImportPreview {
   std::vector<ImportedFile> files;
   ImportPlan plan;
 };
 
 /// Files that are brought along: chosen, read, looked at. Writing them is for whoever presents this. What is read is
-/// dropped, and the reading ends, once it is no longer presented.
+/// dropped, and the reading ends, once it is no longer presented. Typed fasts are read by whoever presents this, too.
 struct ImportFeature {
   enum class Phase { choosing, reading, refused, ready, writing };
 
   struct State {
+    Observed<bool> isTyped = false;  ///< lines that somebody types, and no files
     Observed<Phase> phase = Phase::choosing;
     Observed<List<std::string>> paths = List<std::string>{};
     Observed<double> progress = 0.0;  ///< 0 to 1 of reading
@@ -100,7 +101,8 @@ std::vector<ImportAnswers> importAnswers(ImportFault::Asks asks);
 
 template <RecordOf<ImportFeature::State> Listed, class Visit>
 void fields(Listed& record, Visit&& visit) {
-  auto& [phase, paths, progress, answers, fault, failure, preview] = record;
+  auto& [isTyped, phase, paths, progress, answers, fault, failure, preview] = record;
+  visit("isTyped", isTyped);
   visit("phase", phase);
   visit("paths", paths);
   visit("progress", progress);

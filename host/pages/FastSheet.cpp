@@ -60,6 +60,7 @@ FastSheet composeFastSheet(const FastDraft& draft, std::span<const FastRecord> f
   sheet.failure = draft.failure;
   sheet.saveLabel = texts.text("Save");
   sheet.removeLabel = texts.text("Delete fast");
+  if (sheet.isNew) sheet.severalLabel = texts.text("Several at once");
   return sheet;
 }
 

@@ -30,6 +30,7 @@ struct FastSheet {
   std::vector<ZoneTimeText> zones;
   std::string failure;  ///< why it could not be written
   std::string saveLabel, removeLabel;
+  std::string severalLabel;  ///< "Several at once"; empty where a fast is edited
   bool operator==(const FastSheet&) const = default;
 };
 
@@ -37,7 +38,7 @@ template <RecordOf<FastSheet> Listed, class Visit>
 void fields(Listed& record, Visit&& visit) {
   auto& [title, isNew, start, end, startLabel, startText, startSpoken, startProblem, endLabel, endText, endSpoken,
          endProblem, lengthLabel, length, lengthSpoken, seconds, overlap, goalSeconds, goalProblem, noteLabel, note,
-         noteProblem, zonesLabel, zones, failure, saveLabel, removeLabel] = record;
+         noteProblem, zonesLabel, zones, failure, saveLabel, removeLabel, severalLabel] = record;
   visit("title", title);
   visit("isNew", isNew);
   visit("start", start);
@@ -65,6 +66,7 @@ void fields(Listed& record, Visit&& visit) {
   visit("failure", failure);
   visit("saveLabel", saveLabel);
   visit("removeLabel", removeLabel);
+  visit("severalLabel", severalLabel);
 }
 
 /// `fasts` are by start. O(n) for what it overlaps.

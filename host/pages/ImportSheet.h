@@ -44,6 +44,20 @@ void fields(Listed& record, Visit&& visit) {
   visit("spoken", spoken);
 }
 
+/// The first of the rows that are refused, and how many others there are.
+struct RefusedRows {
+  std::string title;  ///< "2 rows are refused"
+  std::vector<RefusedRow> rows;
+  std::string more;  ///< "80 more are refused"
+};
+
+/// Without the folders of `paths` in the names of files.
+RefusedRows composeRefusedRows(const RefusedRecords& refused, const List<std::string>& paths,
+                               const PageClients& clients);
+
+/// "12 new fasts, 3 there already, 2 refused"; empty where there is nothing at all.
+std::string importCountsText(const ImportCounts& counts, const PageClients& clients);
+
 /// Bringing files along: choosing them, how far they are read, what they ask, what they would bring. What is not to be
 /// seen at a time is empty.
 struct ImportSheet {

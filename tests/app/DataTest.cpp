@@ -123,6 +123,36 @@ TEST_F(Data, areBroughtAlongFromFilesThatAreDropped) {
   EXPECT_TRUE(onDisk().fasts.empty());
 }
 
+TEST_F(Data, areTypedSeveralFastsAtOnce) {
+  app->app.model().present("addFast");
+  settle(app->window());
+  app->click("Several at once");
+  ASSERT_TRUE(eventuallySays("Add several fasts"));
+  EXPECT_FALSE(app->button("Add fasts")->isEnabled());
+  app->type("25.2.2026 20:00 - 12:00");
+  app->key(Qt::Key_Return);
+  app->type("26.2.2026 20:00, 16h");
+  app->key(Qt::Key_Return);
+  app->type("soon");
+  EXPECT_NE(app->text("2 new fasts, 1 refused"), nullptr);
+  EXPECT_NE(app->text("line 3"), nullptr);
+  app->key(Qt::Key_Escape);
+  EXPECT_EQ(openScreen(app->state()), host::Screen::fasting);
+  EXPECT_TRUE(onDisk().fasts.empty()) << "shown, not done";
+
+  app->app.model().present("severalFasts");
+  settle(app->window());
+  app->type("25.2.2026 20:00 - 12:00");
+  app->key(Qt::Key_Tab);
+  app->key(Qt::Key_Space);
+  ASSERT_TRUE(eventuallySays("Added: 1 fast"));
+  EXPECT_THAT(onDisk().fasts, SizeIs(1));
+  settle(app->window());
+  app->click("Undo");
+  EXPECT_TRUE(eventually([&] { return app->state().fasts->empty(); }));
+  EXPECT_TRUE(onDisk().fasts.empty());
+}
+
 TEST_F(Data, areChosenAskedForAndTakenOutInTheDialogsOfTheSystem) {
   clickRow("Import");
   app->click("Choose files");

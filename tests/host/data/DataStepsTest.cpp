@@ -13,6 +13,7 @@
 #include "host/pages/HealthSheet.h"
 #include "host/pages/ImportSheet.h"
 #include "host/pages/Message.h"
+#include "host/pages/SeveralFastsSheet.h"
 #include "tests/pages/Pages.h"
 #include "tests/statistics/StatisticsWorld.h"
 #include "tests/support/FullDisk.h"
@@ -62,17 +63,21 @@ class DataSteps : public tests::StatisticsTest {
   tests::TemporaryFolder folder;
   std::filesystem::path file = folder.path / "mivo.sqlite";
   std::shared_ptr<const DatabaseHistory> history = std::make_shared<DatabaseHistory>(Database{file});
-  std::shared_ptr<const DataFiles> data = std::make_shared<DataFiles>(
-      DataFiles::Place{.database = file,
-                       .zone = [] { return adapters::TimeZone::load("UTC").value(); },
-                       .settings = [] { return std::vector<Setting>{{"weightUnit", std::string{"kg"}}}; },
-                       .ids = std::make_shared<adapters::LocalUUIDGenerator>(),
-                       .print =
-                           [this](const std::filesystem::path& to, TimeRange range, PrintedWeights weights) {
-                             if (to == "full.pdf") throw std::runtime_error{"full.pdf: the disk is full"};
-                             printed.push_back(to.string() + " " + std::string{rawValue(range)} +
-                                               (weights == PrintedWeights::shown ? " with weights" : ""));
-                           }});
+  std::shared_ptr<const DataFiles> data = std::make_shared<DataFiles>(DataFiles::Place{
+      .database = file,
+      .zone = [] { return adapters::TimeZone::load("UTC").value(); },
+      .settings = [] { return std::vector<Setting>{{"weightUnit", std::string{"kg"}}}; },
+      .ids = std::make_shared<adapters::LocalUUIDGenerator>(),
+      .words =
+          [] {
+            return std::make_shared<const TypedDateWords>(typedDateWords(adapters::UserLocale::parse("en-GB").value()));
+          },
+      .print =
+          [this](const std::filesystem::path& to, TimeRange range, PrintedWeights weights) {
+            if (to == "full.pdf") throw std::runtime_error{"full.pdf: the disk is full"};
+            printed.push_back(to.string() + " " + std::string{rawValue(range)} +
+                              (weights == PrintedWeights::shown ? " with weights" : ""));
+          }});
   mutable std::vector<std::string> printed;
   tests::Pages pages;
   std::shared_ptr<const LinkedHealthClient> linked = [this] {
@@ -177,6 +182,77 @@ TEST_F(DataSteps, importAllFilesAsOneChangeThatIsUndoneAsOne) {
   send(Action::didTapMessage{});
   EXPECT_EQ(onDisk(), History{});
   EXPECT_THAT(*state().fasts, IsEmpty());
+}
+
+struct TypedRow {
+  const char* name;
+  std::string text, summary, button = "Add fasts";
+  std::vector<std::string> refused = {};
+  std::string fault = {};
+};
+void PrintTo(const TypedRow& row, std::ostream* out) { *out << row.name; }
+class TypedLines : public DataSteps, public testing::WithParamInterface<TypedRow> {};
+
+TEST_P(TypedLines, sayWhatTheyHoldBeforeAnythingIsWritten) {
+  send(Action::didOpen{Screen::severalFasts});
+  send(Action::didTypeFasts{"25.2.2026 20:00 - 12:00"});
+  sendImport(Import::didTapImport{});
+  send(Action::didOpen{Screen::severalFasts});
+  send(Action::didTypeFasts{"anything"});
+  send(Action::didTypeFasts{GetParam().text});
+  const SeveralFastsSheet shown = composeSeveralFastsSheet(*state().importing, pages.at(world.clock->now()));
+  EXPECT_EQ(shown.summary, GetParam().summary);
+  EXPECT_EQ(shown.fault, GetParam().fault);
+  EXPECT_EQ(shown.button, GetParam().button);
+  EXPECT_EQ(shown.canAdd, shown.button != "Add fasts");
+  std::vector<std::string> refused;
+  for (const RefusedRow& row : shown.refused) refused.push_back(row.spoken);
+  EXPECT_EQ(refused, GetParam().refused);
+  EXPECT_EQ(shown.refusedTitle.empty(), refused.empty());
+  EXPECT_THAT(onDisk().fasts, SizeIs(1));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Rows, TypedLines,
+    testing::Values(TypedRow{"none", " \n", ""},
+                    TypedRow{"newAndOld",
+                             "- 25.2.2026 20:00 - 12:00\n- 26.2.2026 20:00, 16h\n- 26.2.2026 20:00 to 12:00",
+                             "1 new fast, 2 there already", "Add 1 fast"},
+                    TypedRow{"nothingNew", "25.2.2026 20:00 - 12:00", "1 there already"},
+                    TypedRow{"refused",
+                             "26.2.2026 20:00 - 12:00\n27.2.2026 20:00 - soon",
+                             "1 new fast, 1 refused",
+                             "Add 1 fast",
+                             {"line 2: expected an end, as in 12:00 or \"today 12:00\", found \"soon\""}},
+                    TypedRow{"tooLong",
+                             std::string(70'000, 'x'),
+                             "",
+                             "Add fasts",
+                             {},
+                             "This is too long to be read at once. Add it in several parts."}),
+    [](const auto& row) { return std::string{row.param.name}; });
+
+TEST_F(DataSteps, addTypedFastsAsOneChangeThatIsUndoneAsOne) {
+  send(Action::didTypeFasts{"25.2.2026 20:00 - 12:00"});
+  EXPECT_FALSE(state().importing) << "where there is no field for it";
+  send(Action::didOpen{Screen::severalFasts});
+  send(Action::didTypeFasts{"25.2.2026 20:00 - 12:00\n26.2.2026 20:00 - 12:00"});
+  EXPECT_FALSE(sheet().takesFiles) << "they would take the place of what is typed";
+  {
+    const tests::FullDisk full;
+    sendImport(Import::didTapImport{});
+  }
+  EXPECT_EQ(composeSeveralFastsSheet(*state().importing, pages.at(world.clock->now())).fault,
+            "Nothing was saved: the disk is full. Make room and try again.");
+  app.send(Action::importing{PresentationAction<Import>::presented{Import::didTapImport{}}});
+  send(Action::didTypeFasts{"26.2.2026 20:00 - 12:00"});
+  EXPECT_EQ(openScreen(state()), Screen::fasting);
+  ASSERT_THAT(onDisk().fasts, SizeIs(2)) << "what was confirmed, and not what is typed meanwhile";
+  EXPECT_EQ(onDisk().fasts.front().fast.goalSeconds, state().nextGoalSeconds);
+  EXPECT_EQ(onDisk().fasts, state().fasts->elements());
+  EXPECT_EQ(message(), (Message{"Added: 2 fasts", "Undo", false, 6}));
+  send(Action::didTapMessage{});
+  EXPECT_EQ(onDisk(), History{});
 }
 
 TEST_F(DataSteps, readAnewWithTheAnswerToWhatTheFileDoesNotSay) {

@@ -27,6 +27,7 @@ FastSheet sheetOf(const FastDraft& draft, const std::vector<FastRecord>& fasts =
 TEST(FastSheet, showsAFastAsItIs) {
   const FastSheet sheet = sheetOf(draftOf(tuesday), {tuesday});
   EXPECT_EQ(sheet.title, "Edit fast");
+  EXPECT_EQ(sheet.severalLabel, "");
   EXPECT_EQ(sheet.startSpoken, "Start, 02-24 19:00");
   EXPECT_EQ(sheet.endSpoken, "End, 02-25 11:30");
   EXPECT_EQ(sheet.lengthSpoken, "Length, 16h 29m");
@@ -41,6 +42,7 @@ TEST(FastSheet, addsAFastThatReachesItsGoalNow) {
   const FastSheet sheet = sheetOf(newDraft({}, {0, 7}, 57600, now));
   EXPECT_EQ(sheet.title, "Add fast");
   EXPECT_TRUE(sheet.isNew);
+  EXPECT_EQ(sheet.severalLabel, "Several at once");
   EXPECT_EQ(sheet.startText, "02-28 20:00") << "its days are not named after today";
   EXPECT_EQ(sheet.endText, "03-01 12:00");
 }

@@ -73,6 +73,7 @@ TEST_F(OpenScreensTest, openOverWhatTheyStandOnFromWhereverOneIs) {
                               {Screen::fasting, fasting, fasting},
                               {Screen::editFast, {"fasting", "", "editFast"}, fasting},
                               {Screen::addFast, {"fasting", "", "editFast"}, fasting},
+                              {Screen::severalFasts, {"fasting", "", "severalFasts"}, fasting},
                               {Screen::fastGoal, {"fasting", "", "fastGoal"}, fasting},
                               {Screen::fastStart, {"fasting", "", "fastStart"}, fasting},
                               {Screen::fastMenu, {"fasting", "", "fastMenu"}, fasting},
