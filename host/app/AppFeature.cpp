@@ -185,7 +185,7 @@ auto AppFeature::on(State& state, const Action::didTapSaveDraft&) const -> Effec
   draft.failure = outcome ? std::string{} : refusalText(outcome.error(), *texts);
   const Step step = draft.before ? Step::edit : Step::add;
   state.draft = std::move(draft);
-  return outcome ? write(step, std::move(*outcome)) : Effect<Action>{};
+  return outcome ? write(state, step, std::move(*outcome)) : Effect<Action>{};
 }
 
 auto AppFeature::on(State& state, const Action::didDismissDraft&) const -> Effect<Action> {
@@ -221,7 +221,7 @@ auto AppFeature::on(State& state, const Action::didConfirmOverlapRepair&) const 
   if (!*state.overlapRepair) return {};
   HistoryChange change = **state.overlapRepair;
   state.overlapRepair = std::nullopt;
-  return write(Step::repairOverlaps, std::move(change));
+  return write(state, Step::repairOverlaps, std::move(change));
 }
 
 auto AppFeature::on(State& state, const Action::didCancelOverlapRepair&) const -> Effect<Action> {
@@ -235,7 +235,7 @@ auto AppFeature::on(State& state, const Action::didTapMessage&) const -> Effect<
   UndoOffer offer = **state.undo;
   offer.isTaken = true;
   state.undo = offer;
-  return write(Step::undo, std::move(offer.change));
+  return write(state, Step::undo, std::move(offer.change));
 }
 
 auto AppFeature::on(State& state, const Action::didDismissMessages&) const -> Effect<Action> {
@@ -249,7 +249,6 @@ auto AppFeature::on(State& state, const Action::didWrite& written) const -> Effe
   auto weights = state.weights->elements();
   apply(written.change, fasts, weights);
   take(state, std::move(fasts), std::move(weights));
-  state.failure = std::string{};
   if (isOf(*state.draft, written.change)) state.draft = std::nullopt;
   if (isOf(state.editedWeight, written.change)) state.editedWeight = std::nullopt;
   if (written.step == Step::undo) state.undo = std::nullopt;
@@ -300,7 +299,7 @@ void AppFeature::takeSettings(State& state) const {
 auto AppFeature::saveWeight(State& state, const BodyWeightSample& sample) const -> Effect<Action> {
   const WeightUnit unit = state.statistics.addWeightLogState.weightUnit;
   auto outcome = addingWeight(*state.weights, sample, unit, *masses, date->now());
-  if (outcome) return write(Step::addWeight, std::move(*outcome));
+  if (outcome) return write(state, Step::addWeight, std::move(*outcome));
   const std::string sentence = refusalText(outcome.error(), *texts);
   if (!std::holds_alternative<IsSavedAlready>(outcome.error()))
     return tellWeightCard(state, AddWeightLogFeature::Action::didFailToSave{sentence});
@@ -315,7 +314,7 @@ auto AppFeature::saveEditedWeight(State& state, const BodyWeightSample& accepted
   auto outcome = changingWeight(*state.weights, after, date->now());
   if (!outcome)
     return tellEditedWeight(state, AddWeightLogFeature::Action::didFailToSave{refusalText(outcome.error(), *texts)});
-  if (!outcome->isEmpty()) return write(Step::editWeight, std::move(*outcome));
+  if (!outcome->isEmpty()) return write(state, Step::editWeight, std::move(*outcome));
   state.editedWeight = std::nullopt;
   return {};
 }
@@ -331,10 +330,12 @@ auto AppFeature::tellWeightCard(State& state, AddWeightLogFeature::Action action
 
 auto AppFeature::writeOrSay(State& state, Step step, Outcome outcome) const -> Effect<Action> {
   if (!outcome) state.failure = refusalText(outcome.error(), *texts);
-  return outcome && !outcome->isEmpty() ? write(step, std::move(*outcome)) : Effect<Action>{};
+  return outcome && !outcome->isEmpty() ? write(state, step, std::move(*outcome)) : Effect<Action>{};
 }
 
-auto AppFeature::write(Step step, HistoryChange change) const -> Effect<Action> {
+// What is told while it is written stays: where its backup went.
+auto AppFeature::write(State& state, Step step, HistoryChange change) const -> Effect<Action> {
+  state.failure = std::string{};
   return Effect<Action>::run(
       [](const Send<Action>& send, std::stop_token, const Client<HistoryClient>& client,
          const Client<TextLookup>& lookup, Step done, const HistoryChange& written) {

@@ -328,7 +328,7 @@ struct AppFeature {
   Effect<Action> tellEditedWeight(State& state, AddWeightLogFeature::Action action) const;
   Effect<Action> tellWeightCard(State& state, AddWeightLogFeature::Action action) const;
   Effect<Action> writeOrSay(State& state, Step step, Outcome outcome) const;
-  Effect<Action> write(Step step, HistoryChange change) const;
+  Effect<Action> write(State& state, Step step, HistoryChange change) const;
   Effect<Action> writeImport(State& state) const;
   Effect<Action> restore(State& state) const;
   Effect<Action> didChangeAccess(State& state, bool isAllowed) const;

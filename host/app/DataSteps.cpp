@@ -92,6 +92,7 @@ auto AppFeature::on(State& state, const Action::importing& sent) const -> Effect
 auto AppFeature::writeImport(State& state) const -> Effect<Action> {
   state.importing->phase = Phase::writing;
   state.importing->failure = std::string{};
+  state.failure = std::string{};
   return Effect<Action>::run(
       [](const Send<Action>& send, const std::stop_token&, const Client<HistoryClient>& client,
          const Client<DataFiles>& data, const Client<TextLookup>& lookup,
@@ -164,6 +165,7 @@ auto AppFeature::on(State& state, const Action::backups& sent) const -> Effect<A
 auto AppFeature::restore(State& state) const -> Effect<Action> {
   state.backups.isRestoring = true;
   state.backups.failure = std::string{};
+  state.failure = std::string{};
   return Effect<Action>::run(
       [](const Send<Action>& send, const std::stop_token&, const Client<DataFiles>& data,
          const Client<TextLookup>& lookup, const std::filesystem::path& file, Date now) {

@@ -367,6 +367,15 @@ TEST_F(AppFeatureTest, keepsTheOfferWhereUndoingFails) {
   EXPECT_EQ(*state().undo, std::nullopt);
 }
 
+TEST_F(AppFeatureTest, keepsWhatIsSaidWhileAChangeIsWritten) {
+  send(Action::didFail{"Of the step before."});
+  app.send(Action::didTapStart{at(-3), 57600});
+  EXPECT_THAT(*state().failure, IsEmpty());
+  send(Action::didFail{"The backup went elsewhere."});
+  ASSERT_NE(state().runningFast(), nullptr);
+  EXPECT_EQ(*state().failure, "The backup went elsewhere.");
+}
+
 TEST_F(AppFeatureTest, changesNothingWhereWritingFails) {
   Database{file}.apply(adding({mivo::ongoingFast({7, 9}, at(-3), 57600), ""}));  // by another program
   const AppFeature::State before = state();
