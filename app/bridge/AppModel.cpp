@@ -67,7 +67,7 @@ AppModel::AppModel(AppServices given)
       severalFastsSheet{clients, [this](Action action) { send(std::move(action)); }},
       exportSheet{clients, [this](Action action) { send(std::move(action)); }},
       healthSheet{texts, [this](Action action) { send(std::move(action)); }},
-      allBackups{clients, services.files->backupFolder(), [this](Action action) { send(std::move(action)); }} {
+      allBackups{clients, [this](Action action) { send(std::move(action)); }} {
   feedbackTexts.show(composeFeedback(texts));
   following = store.observe([this](const State& state) { follow(state); });
   load();

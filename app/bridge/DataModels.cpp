@@ -78,12 +78,11 @@ void HealthModel::link(const QUrl& file) { send(Action::health{host::HealthFeatu
 
 void HealthModel::unlink() { send(Action::health{host::HealthFeature::Action::didUnlink{}}); }
 
-BackupsModel::BackupsModel(std::function<PageClients()> present, std::filesystem::path backups,
-                           std::function<void(Action)> sends)
-    : clients{std::move(present)}, folder{std::move(backups)}, send{std::move(sends)} {}
+BackupsModel::BackupsModel(std::function<PageClients()> present, std::function<void(Action)> sends)
+    : clients{std::move(present)}, send{std::move(sends)} {}
 
 void BackupsModel::follow(const host::AppFeature::State& state) {
-  show(composeBackupsPage(state.backups, folder, clients()));
+  show(composeBackupsPage(state.backups, clients()));
   if (*state.backups.chosen) restoreSheet.show(composeRestoreSheet(state, clients()));
 }
 
@@ -94,6 +93,12 @@ void BackupsModel::choose(int row) {
 }
 
 void BackupsModel::restore() { sendBackups(host::BackupsFeature::Action::didTapRestore{}); }
+
+void BackupsModel::chooseFolder(const QUrl& chosenFolder) {
+  sendBackups(host::BackupsFeature::Action::didChooseFolder{pathOf(chosenFolder)});
+}
+
+void BackupsModel::useUsualFolder() { sendBackups(host::BackupsFeature::Action::didChooseFolder{}); }
 
 void BackupsModel::sendBackups(host::BackupsFeature::Action action) { send(Action::backups{std::move(action)}); }
 

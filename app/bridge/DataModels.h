@@ -5,7 +5,6 @@
 #include <QtCore/QList>
 #include <QtCore/QUrl>
 
-#include <filesystem>
 #include <functional>
 #include <utility>
 
@@ -116,7 +115,7 @@ class BackupsModel : public mivo::app::BackupsPageRecord {
 
  public:
   using Action = host::AppFeature::Action;
-  BackupsModel(std::function<PageClients()> clients, std::filesystem::path folder, std::function<void(Action)> send);
+  BackupsModel(std::function<PageClients()> clients, std::function<void(Action)> send);
 
   void follow(const host::AppFeature::State& state);
   RestoreSheetRecord* chosen() { return &restoreSheet; }
@@ -124,12 +123,13 @@ class BackupsModel : public mivo::app::BackupsPageRecord {
   Q_INVOKABLE void backUp();
   Q_INVOKABLE void choose(int row);
   Q_INVOKABLE void restore();
+  Q_INVOKABLE void chooseFolder(const QUrl& chosenFolder);
+  Q_INVOKABLE void useUsualFolder();
 
  private:
   void sendBackups(host::BackupsFeature::Action action);
 
   std::function<PageClients()> clients;
-  std::filesystem::path folder;
   std::function<void(Action)> send;
   RestoreSheetRecord restoreSheet;
 };

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The backups that there are, and a new one.
+// The backups that there are, a new one, and where they go.
 pragma ComponentBehavior: Bound
 import QtQuick
 import Mivo
@@ -42,13 +42,55 @@ PushedPage {
     }
 
     StyledText {
+        visible: text !== ""
         x: Theme.cardPadding
         width: parent.width - 2 * x
-        text: App.backups.note
+        text: App.backups.fault
         style: Theme.labelText
-        color: Theme.inkSecondary
+        color: Theme.danger
         wrapMode: Text.WrapAtWordBoundaryOrAnywhere
-        Accessible.role: Accessible.StaticText
+        Accessible.role: Accessible.AlertMessage
         Accessible.name: text
+    }
+
+    ListGroup {
+        visible: App.backups.folder !== ""
+        width: parent.width
+        note: App.backups.note
+
+        FactRow {
+            title: App.backups.folderLabel
+            value: App.backups.folder
+        }
+
+        ValueRow {
+            visible: text !== ""
+            enabled: !App.backups.isBusy
+            text: App.backups.changeLabel
+            onClicked: chooser.open()
+        }
+
+        ValueRow {
+            visible: text !== ""
+            enabled: !App.backups.isBusy
+            text: App.backups.usualLabel
+            onClicked: App.backups.useUsualFolder()
+        }
+    }
+
+    Loader {
+        id: chooser
+
+        active: false
+        visible: false
+        source: "qrc:/Mivo/ChooseFolder.qml"
+        onLoaded: (item as ChooseFolder).open()
+
+        function open() {
+            if (active)
+                (item as ChooseFolder).open();
+            else
+                active = true;
+        }
     }
 }

@@ -180,7 +180,7 @@ host::Database openToRead(const fs::path& file, const host::DatabaseError& fault
 
 bool hasBackups(const host::DataFiles& files) {
   try {
-    return !files.backups(false).empty();
+    return !files.backupPlace().folderToRestore().backups().empty();
   } catch (const std::system_error&) {
     return false;
   }
@@ -194,14 +194,17 @@ host::Database openSettingAside(const fs::path& file, const TextLookup& texts, s
   return std::move(database);
 }
 
-// A damaged one stays as it is where there are backups to go on from.
+// A damaged one stays as it is where there are backups to go on from. Their folder may be slow to look at: only then.
 host::Database open(const Environment& environment, std::string& notice) {
   const fs::path& file = environment.databaseFile;
   const TextLookup& texts = *environment.dependencies->texts;
   try {
-    return hasBackups(*environment.files) ? host::Database{file} : openSettingAside(file, texts, notice);
+    return host::Database{file};
   } catch (const host::DatabaseError& fault) {
-    if (fault.kind == host::DatabaseError::Kind::damaged) throw;
+    if (fault.kind == host::DatabaseError::Kind::damaged) {
+      if (hasBackups(*environment.files)) throw;
+      return openSettingAside(file, texts, notice);
+    }
     host::Database database = openToRead(file, fault);
     notice = filledIn(texts.text("You can look at your history, but nothing can be saved: {1} may not be written."),
                       {file.string()});
@@ -245,6 +248,7 @@ Client<host::DataFiles> filesAround(const Environment& environment, const Option
                              .settings = settingsOf(environment),
                              .ids = environment.dependencies->uuid,
                              .words = environment.typedDateWords,
+                             .defaults = environment.dependencies->userDefaults,
                              .print = printOf(environment, options)});
 }
 
@@ -255,7 +259,7 @@ Client<host::HistoryClient> clientOf(host::Database database, const Environment&
   return std::make_shared<host::BackedUpHistory>(
       std::move(history),
       host::BackupSource{
-          .folder = host::BackupFolder{environment.files->backupFolder()},
+          .place = [files = environment.files] { return files->backupPlace(); },
           .history =
               [file = environment.databaseFile] {
                 return host::Database{file, host::Database::Access::readOnly}.history();
@@ -267,6 +271,10 @@ Client<host::HistoryClient> clientOf(host::Database database, const Environment&
                 tell(faults, *clients,
                      filledIn(clients->texts->text("Today's backup could not be made: {1}"),
                               {host::faultText(why, *clients->texts)}));
+              },
+          .wentBesideTheDatabase =
+              [faults = environment.faults, clients = environment.dependencies](const host::BackupPlace& place) {
+                tell(faults, *clients, backupFaultText(place, *clients->texts));
               }});
 }
 
@@ -274,18 +282,17 @@ Client<host::HistoryClient> clientOf(host::Database database, const Environment&
 std::string noticeOf(const host::DatabaseError& error, const Environment& environment) {
   const Dependencies& clients = *environment.dependencies;
   if (!environment.isDamaged) return host::faultText(error, *clients.texts);
-  return damagedText(environment.databaseFile, host::BackupFolder{environment.files->backupFolder()}, *clients.texts,
+  return damagedText(environment.databaseFile, environment.files->backupPlace().folderToRestore(), *clients.texts,
                      *clients.dateFormatter);
 }
 
 // Which of the backups can be read is seen only when it is.
 std::optional<host::Backup> restoreNewestReadable(const host::DataFiles& files, Date now, fs::path& setAside) {
-  for (const host::ListedBackup& listed : files.backups(true)) {
-    if (!listed.counts) continue;
-    const auto restored = files.restore(listed.backup.file, now);
+  for (host::Backup& backup : files.backupPlace().folderToRestore().backups()) {
+    const auto restored = files.restore(backup.file, now);
     if (!restored) continue;
     setAside = restored->setAside.value_or(fs::path{});
-    return listed.backup;
+    return std::move(backup);
   }
   return std::nullopt;
 }

@@ -1,14 +1,17 @@
 // SPDX-License-Identifier: MIT
 #include "cli/backup/DamagedSentence.h"
 
+#include "adapters/system/FileUserDefaults.h"
+#include "adapters/system/UserDirectories.h"
 #include "cli/usage/Usage.h"
-#include "host/backup/BackupFolder.h"
+#include "host/backup/BackupPlace.h"
 #include "host/backup/DamagedText.h"
 
 namespace mivo::cli {
 
 std::string damagedSentence(const host::DatabaseError& damaged, const TextLookup& texts, const DateFormatter& dates) {
-  const host::BackupFolder folder{host::backupFolder(damaged.file)};
+  const adapters::FileUserDefaults defaults{adapters::appDefaultsFile()};
+  const host::BackupFolder folder = host::backupPlace(damaged.file, defaults).folderToRestore();
   const std::string command = host::restoreCommand(damaged.file);
   return withHelp(damagedText(damaged.file, folder, texts, dates), folder.backups().empty()
                                                                        ? command + " FILE puts a snapshot in its place"

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <exception>
 #include <filesystem>
+#include <string_view>
 #include <system_error>
 
 #include "adapters/icu/UserLocale.h"
@@ -11,7 +12,7 @@
 #include "adapters/system/UserDirectories.h"
 #include "adapters/time/TimeZone.h"
 #include "adapters/time/TimeZoneNames.h"
-#include "host/backup/BackupFolder.h"
+#include "host/backup/BackupPlace.h"
 #include "host/database/Database.h"
 #include "host/dates/DateText.h"
 #include "host/health/LinkedHealthClient.h"
@@ -70,9 +71,8 @@ void addSetAside(std::vector<Finding>& findings, const fs::path& file) {
 }
 
 /// Only the newest one is read: it is the one that is offered.
-Finding backups(const fs::path& database) {
+Finding backups(const host::BackupFolder& folder) {
   try {
-    const host::BackupFolder folder{host::backupFolder(database)};
     const auto all = folder.backups();
     if (all.empty()) return {"backups", folder.path().string() + ": none yet"};
     const auto newest = host::readBackup(all.front().file);
@@ -84,13 +84,21 @@ Finding backups(const fs::path& database) {
   }
 }
 
-std::string linkedHealthFile(const fs::path& settings) {
+/// While it cannot be used they go beside the history.
+void addChosenFolder(std::vector<Finding>& findings, const host::BackupPlace& place) {
+  if (place.chosen.empty()) return;
+  const std::string found = place.fault ? place.fault.message() + "; backups go beside the history" : "can be written";
+  findings.push_back({"backup folder", place.chosen.string() + ": " + found, bool{place.fault}});
+}
+
+/// A text among the app's settings; empty where there is none.
+std::string setting(const fs::path& settings, std::string_view key) {
   const auto text = isThere(settings) ? host::readTextFile(settings.string()) : std::string{"{}"};
   if (!text) return {};
   try {
     const JSONValue all = adapters::NlohmannDecoder{}.decoded(*text);
-    const JSONValue* const linked = all.member(host::linkedHealthFileKey);
-    return linked && linked->text() ? *linked->text() : std::string{};
+    const JSONValue* const found = all.member(key);
+    return found && found->text() ? *found->text() : std::string{};
   } catch (const std::exception&) {
     return {};  // the settings are ill, and said to be
   }
@@ -98,7 +106,7 @@ std::string linkedHealthFile(const fs::path& settings) {
 
 /// Whether it can be read, not what it holds: it may be gigabytes.
 Finding healthData(const fs::path& settings) {
-  const std::string path = linkedHealthFile(settings);
+  const std::string path = setting(settings, host::linkedHealthFileKey);
   if (path.empty()) return {"health data", "no file linked"};
   const auto state = host::linkedFileState(path);
   return state ? Finding{"health data", path + ": can be read"}
@@ -136,7 +144,10 @@ std::vector<Finding> examine(const DoctorOptions& options, const URLSession& net
                                 settings("shared settings", adapters::groupDefaultsFile()),
                                 database(file, !options.database.empty())};
   addSetAside(findings, file);
-  findings.push_back(backups(file));
+  const host::BackupPlace place =
+      host::backupPlace(file, fs::path{setting(adapters::appDefaultsFile(), host::backupFolderKey)});
+  findings.push_back(backups(place.folder()));
+  addChosenFolder(findings, place);
   findings.push_back(healthData(adapters::appDefaultsFile()));
   findings.push_back(timeZone());
   findings.push_back(zoneData());

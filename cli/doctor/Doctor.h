@@ -17,9 +17,9 @@ struct Finding {
   bool operator==(const Finding&) const = default;
 };
 
-/// Looks at the settings, the database, what was set aside of damaged ones and its backups, the linked health export,
-/// the time zone and its data, the language, and the vote server, where one is named. What is not there yet is no
-/// illness. Nothing is changed, not even mended.
+/// Looks at the settings, the database, what was set aside of damaged ones, its backups and the folder that was chosen
+/// for them, the linked health export, the time zone and its data, the language, and the vote server, where one is
+/// named. What is not there yet is no illness. Nothing is changed, not even mended.
 std::vector<Finding> examine(const DoctorOptions& options, const URLSession& network);
 
 /// A line for each, those that are ill marked by "!".

@@ -6,13 +6,16 @@
 #include <system_error>
 #include <vector>
 
+#include "adapters/system/FileUserDefaults.h"
+#include "adapters/system/UserDirectories.h"
 #include "cli/options/OptionValues.h"
 #include "cli/records/RecordCommands.h"
 #include "cli/records/RecordRun.h"
 #include "cli/records/RecordTables.h"
+#include "cli/terminal/StandardOutput.h"
 #include "cli/usage/Usage.h"
-#include "host/backup/BackupFolder.h"
 #include "host/backup/BackupName.h"
+#include "host/backup/BackupPlace.h"
 #include "host/backup/Restore.h"
 #include "host/json/JsonWriter.h"
 #include "host/json/RecordJson.h"
@@ -22,8 +25,12 @@ namespace {
 
 namespace fs = std::filesystem;
 
+/// That of the options, or the one in force; why the chosen one is not is said.
 host::BackupFolder folderOf(const RecordRun& run) {
-  return host::BackupFolder{run.options.folder.empty() ? host::backupFolder(run.file()) : fs::path{run.options.folder}};
+  if (!run.options.folder.empty()) return host::BackupFolder{run.options.folder};
+  const host::BackupPlace place = run.backupPlace();
+  if (place.fault) complain(backupFaultText(place, *run.texts));
+  return place.folder();
 }
 
 std::string backUp(const RecordRun& run) {
@@ -71,8 +78,9 @@ std::string list(const RecordRun& run) {
 }
 
 /// The newest backup, or the newest of those that begin as was typed, or the file of that name.
-fs::path chosen(const RecordRun& run, const host::BackupFolder& folder) {
+fs::path chosen(const RecordRun& run, const host::BackupFolder& inForce) {
   const std::string& which = run.options.which;
+  const host::BackupFolder folder = run.options.folder.empty() ? run.backupPlace().folderToRestore() : inForce;
   for (const host::Backup& backup : folder.backups())
     if (host::backupKey(backup.date).starts_with(which) || backup.file.filename() == which) return backup.file;
   std::error_code unknown;
@@ -128,10 +136,31 @@ std::string restore(const RecordRun& run) {
   return whatCame(file, *records, run) + '\n' + whereTheStateBeforeWent(restored, run) + '\n';
 }
 
+/// A setting that was not written would be said to be in force.
+[[noreturn]] void refuseUnsaved(const RecordRun& run, const fs::path& file, const std::error_code& why) {
+  throw Refused{atFault,
+                filledIn(run.texts->text("Settings cannot be saved in {1}: {2}"), {file.string(), why.message()})};
+}
+
+std::string folder(const RecordRun& run) {
+  const std::string& typed = run.options.newFolder;
+  if (typed.empty() && !run.options.isUsualFolder) return folderOf(run).path().string() + '\n';
+  const host::BackupPlace before = run.backupPlace();
+  if (!before.isOffered)
+    throw Refused{wrongUsage, wrong("--database", "a folder can be chosen for the app's own history alone").value()};
+  const adapters::FileUserDefaults defaults{
+      adapters::appDefaultsFile(),
+      [&run](const fs::path& file, const std::error_code& why) { refuseUnsaved(run, file, why); }};
+  const auto now = host::chooseBackupFolder(typed, defaults, *run.texts);
+  if (!now) throw Refused{atFault, now.error()};
+  return backupPlaceText(before, *now, *run.texts) + '\n';
+}
+
 }  // namespace
 
 int runBackup(const RecordOptions& options) { return runRecordCommand(options, backUp); }
 int runBackupList(const RecordOptions& options) { return runRecordCommand(options, list); }
 int runBackupRestore(const RecordOptions& options) { return runRecordCommand(options, restore); }
+int runBackupFolder(const RecordOptions& options) { return runRecordCommand(options, folder); }
 
 }  // namespace mivo::cli

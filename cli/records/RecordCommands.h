@@ -24,10 +24,12 @@ int runList(const RecordOptions& options);
 /// Adds what files hold to the history, all of them or none.
 int runImport(const RecordOptions& options);
 int runExport(const RecordOptions& options);
-/// Backs the history up now, or tells which backup has it already; lists the backups; goes back to one of them.
+/// Backs the history up now, or tells which backup has it already; lists the backups; goes back to one of them; tells
+/// or chooses where they go.
 int runBackup(const RecordOptions& options);
 int runBackupList(const RecordOptions& options);
 int runBackupRestore(const RecordOptions& options);
+int runBackupFolder(const RecordOptions& options);
 int runWeightAdd(const RecordOptions& options);
 int runWeightList(const RecordOptions& options);
 int runWeightRemove(const RecordOptions& options);

@@ -46,10 +46,14 @@ constexpr const char* backupExamples = R"(Examples:
   mivo backup restore
   mivo backup restore 2026-02-28
   mivo backup restore other-machine.json
+  mivo backup folder
+  mivo backup folder /media/stick
+  mivo backup folder --usual
 
-Before the first change of a day the app's own history is backed up into the folder beside it. The newest of each of 7
-days, 4 weeks and 12 months stay. To restore is a change as any other: what was there is backed up, and mivo undo takes
-it back. The settings of a backup come with mivo import --with-settings FILE.)";
+Before the first change of a day the app's own history is backed up into the folder beside it, or into one in the folder
+that you choose; while that is missing, beside it again. The newest of each of 7 days, 4 weeks and 12 months stay. To
+restore is a change as any other: what was there is backed up, and mivo undo takes it back. The settings of a backup
+come with mivo import --with-settings FILE.)";
 
 class Commands {
  public:
@@ -172,7 +176,8 @@ void addWeightCommands(CLI::App& program, Commands& to) {
 void addBackupCommands(Commands& to) {
   RecordOptions& options = to.options;
   to.showing(backupExamples);
-  CLI::App& backup = to.add("backup", "Back fasts and weights up, list the backups and go back to one", runBackup);
+  CLI::App& backup = to.add(
+      "backup", "Back fasts and weights up, list the backups, go back to one and choose their folder", runBackup);
   backup.require_subcommand(0, 1);
   to.inside(backup, backupExamples);
   CLI::App& list = to.add("list", "List the backups, the newest first", runBackupList);
@@ -181,8 +186,12 @@ void addBackupCommands(Commands& to) {
   restore.add_option("BACKUP", options.which,
                      "The beginning of one that mivo backup list shows, or a file; default: the newest");
   for (CLI::App* command : {&backup, &list, &restore})
-    command->add_option("--folder", options.folder, "Where backups are; default: beside the history")
+    command->add_option("--folder", options.folder, "Where backups are, this time; default: as mivo backup folder says")
         ->type_name("FOLDER");
+  CLI::App& folder = to.add("folder", "Tell where backups go, or choose the folder for it", runBackupFolder);
+  folder.excludes(backup.get_option("--folder"));
+  CLI::Option* const usual = folder.add_flag("--usual", options.isUsualFolder, "Beside the history again");
+  folder.add_option("FOLDER", options.newFolder, "Where their folder is to be, from now on")->excludes(usual);
 }
 
 }  // namespace

@@ -18,14 +18,14 @@ inline constexpr std::array<Choice<What>, 3> exportedLists{
 
 /// What stands after a command that keeps the history, as it was typed; empty or missing where it was not.
 struct RecordOptions {
-  std::string id, weight, to, what, which, folder, range = "week";
+  std::string id, weight, to, what, which, folder, newFolder, range = "week";
   std::vector<std::string> files;  ///< to import
   std::optional<std::string> at, start, end, goalHours, note;
   struct {
     std::string dateOrder, weightUnit;
   } ambiguities;  ///< what files leave open
   bool isRunning = false, takesLines = false, isForced = false, isDryRun = false, takesSettings = false,
-       withWeights = false;
+       withWeights = false, isUsualFolder = false;
   std::string database, locale, timeZone, format = "text";
 };
 

@@ -14,7 +14,6 @@
 #include "cli/usage/Usage.h"
 #include "host/app/CarriedSettings.h"
 #include "host/app/Settings.h"
-#include "host/backup/BackupFolder.h"
 #include "host/data/DailyBackup.h"
 #include "host/dates/SpokenDate.h"
 #include "host/history/FieldRules.h"
@@ -100,12 +99,16 @@ HistoryFile RecordRun::open() const {
 
 void RecordRun::backUp(const host::Database& database) const {
   try {
-    backUpWhereDue(
-        host::BackupFolder{host::backupFolder(database.file())}, [&] { return database.history(); },
-        [this] { return settings(); }, now);
+    const auto place =
+        backUpWhereDue(backupPlace(), [&] { return database.history(); }, [this] { return settings(); }, now);
+    if (place) complain(backupFaultText(*place, *texts));
   } catch (const std::system_error& error) {
     complain(filledIn(texts->text("Today's backup could not be made: {1}"), {error.what()}));
   }
+}
+
+host::BackupPlace RecordRun::backupPlace() const {
+  return host::backupPlace(file(), adapters::FileUserDefaults{adapters::appDefaultsFile()});
 }
 
 std::vector<host::Setting> RecordRun::settings() const {

@@ -17,6 +17,7 @@
 #include "cli/records/HistoryFile.h"
 #include "cli/records/RecordOptions.h"
 #include "cli/records/ShortIDs.h"
+#include "host/backup/BackupPlace.h"
 #include "host/fasting/Fasting.h"
 #include "host/history/Setting.h"
 #include "mivo/platform/TextLookup.h"
@@ -49,6 +50,8 @@ class RecordRun {
   HistoryFile open() const;
   /// The records. Nothing is made where there is no file: no records where that is the app's own, refused otherwise.
   host::History history() const;
+  /// Where its backups go.
+  host::BackupPlace backupPlace() const;
   /// The app's settings, which go with its own history only.
   std::vector<host::Setting> settings() const;
 

@@ -154,6 +154,8 @@ auto AppFeature::print(const State& state, const std::string& file) const -> Eff
 auto AppFeature::on(State& state, const Action::backups& sent) const -> Effect<Action> {
   if (const auto* made = std::get_if<Backups::didBackUp>(&sent.action))
     state.failure = outcomeText(made->outcome, *texts);
+  else if (const auto* moved = std::get_if<Backups::didMove>(&sent.action))
+    state.failure = moved->sentence;
   else if (const auto* failed = std::get_if<Backups::didFail>(&sent.action))
     state.failure = failed->sentence;
   else if (std::holds_alternative<Backups::didTapRestore>(sent.action) && *state.backups.chosen &&

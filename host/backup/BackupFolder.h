@@ -65,7 +65,7 @@ class BackupFolder {
 /// The records of a backup, or of any other snapshot; or the first fault.
 tl::expected<History, BadRecord> readBackup(const std::filesystem::path& file);
 
-/// Where the backups of a database are, unless another folder is named: beside it, "mivo.sqlite.backups".
+/// Where the backups of a database usually are: beside it, "mivo.sqlite.backups". `backupPlace` says where they go.
 std::filesystem::path backupFolder(const std::filesystem::path& database);
 
 }  // namespace mivo::host

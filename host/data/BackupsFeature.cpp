@@ -30,7 +30,9 @@ auto BackupsFeature::on(State&, const Action::list& asked) const -> Effect<Actio
       [](const Send<Action>& send, const std::stop_token&, const Client<DataFiles>& data,
          const Client<TextLookup>& lookup, bool areCounted) {
         try {
-          send(Action::didList{data->backups(areCounted)});
+          BackupPlace place = data->backupPlace();
+          auto listed = data->backups(place.folder(), areCounted);
+          send(Action::didList{std::move(place), std::move(listed)});
         } catch (const std::exception& error) {
           send(Action::didFail{faultText(error, *lookup)});
         }
@@ -45,6 +47,7 @@ auto BackupsFeature::on(State& state, const Action::didList& listed) const -> Ef
     const auto known = std::ranges::find(*state.backups, one.backup, &ListedBackup::backup);
     if (!one.counts && !one.fault && known != state.backups->end()) one = *known;
   }
+  state.place = listed.place;
   state.backups = List<ListedBackup>{std::move(backups)};
   return {};
 }
@@ -65,6 +68,30 @@ auto BackupsFeature::on(State& state, const Action::didTapBackUp&) const -> Effe
 }
 
 auto BackupsFeature::on(State& state, const Action::didBackUp&) const -> Effect<Action> {
+  state.isWorking = false;
+  return on(state, Action::list{true});
+}
+
+// Looking at a folder of another machine may take its time.
+auto BackupsFeature::on(State& state, const Action::didChooseFolder& chosen) const -> Effect<Action> {
+  if (*state.isWorking) return {};
+  state.isWorking = true;
+  return Effect<Action>::run(
+      [](const Send<Action>& send, const std::stop_token&, const Client<DataFiles>& data,
+         const Client<TextLookup>& lookup, const std::string& path) {
+        try {
+          const BackupPlace before = data->backupPlace();
+          const auto now = data->chooseBackupFolder(path, *lookup);
+          if (!now) return send(Action::didFail{now.error()});
+          send(Action::didMove{backupPlaceText(before, *now, *lookup)});
+        } catch (const std::exception& error) {
+          send(Action::didFail{faultText(error, *lookup)});
+        }
+      },
+      files, texts, chosen.path);
+}
+
+auto BackupsFeature::on(State& state, const Action::didMove&) const -> Effect<Action> {
   state.isWorking = false;
   return on(state, Action::list{true});
 }

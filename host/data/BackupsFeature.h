@@ -18,15 +18,16 @@
 
 namespace mivo::host {
 
-/// The backups of the history: listed, made, and one of them chosen to go back to. Going back is for whoever keeps the
-/// history.
+/// The backups of the history: listed, made, and one of them chosen to go back to; and the folder that they go to.
+/// Going back is for whoever keeps the history.
 struct BackupsFeature {
   /// What became of a backup that was asked for.
   enum class Outcome { made, unchanged, nothingThere };
 
   struct State {
+    Observed<BackupPlace> place = BackupPlace{};                                   ///< as it was when they were listed
     Observed<List<ListedBackup>> backups = List<ListedBackup>{};                   ///< the newest first
-    Observed<bool> isWorking = false;                                              ///< makes one
+    Observed<bool> isWorking = false;                                              ///< makes one, or moves on
     Observed<std::optional<ListedBackup>> chosen = std::optional<ListedBackup>{};  ///< to go back to
     Observed<bool> isRestoring = false;
     Observed<std::string> failure = std::string{};  ///< of going back, while one is chosen
@@ -40,6 +41,7 @@ struct BackupsFeature {
       bool operator==(const list&) const = default;
     };
     struct didList {
+      BackupPlace place;
       std::vector<ListedBackup> backups;
       bool operator==(const didList&) const = default;
     };
@@ -49,6 +51,15 @@ struct BackupsFeature {
     struct didBackUp {
       Outcome outcome;
       bool operator==(const didBackUp&) const = default;
+    };
+    /// Empty for the usual one.
+    struct didChooseFolder {
+      std::string path;
+      bool operator==(const didChooseFolder&) const = default;
+    };
+    struct didMove {
+      std::string sentence;  ///< for the user: where to
+      bool operator==(const didMove&) const = default;
     };
     struct didFail {
       std::string sentence;
@@ -67,9 +78,10 @@ struct BackupsFeature {
       bool operator==(const didTapRestore&) const = default;
     };
   };
-  struct Action : Cases,
-                  std::variant<Cases::list, Cases::didList, Cases::didTapBackUp, Cases::didBackUp, Cases::didFail,
-                               Cases::didChoose, Cases::didDismiss, Cases::didTapRestore> {
+  struct Action
+      : Cases,
+        std::variant<Cases::list, Cases::didList, Cases::didTapBackUp, Cases::didBackUp, Cases::didChooseFolder,
+                     Cases::didMove, Cases::didFail, Cases::didChoose, Cases::didDismiss, Cases::didTapRestore> {
     using variant::variant;
   };
 
@@ -85,6 +97,8 @@ struct BackupsFeature {
   Effect<Action> on(State& state, const Action::didList& sent) const;
   Effect<Action> on(State& state, const Action::didTapBackUp& sent) const;
   Effect<Action> on(State& state, const Action::didBackUp& sent) const;
+  Effect<Action> on(State& state, const Action::didChooseFolder& sent) const;
+  Effect<Action> on(State& state, const Action::didMove& sent) const;
   Effect<Action> on(State& state, const Action::didFail& sent) const;
   Effect<Action> on(State& state, const Action::didChoose& sent) const;
   Effect<Action> on(State& state, const Action::didDismiss& sent) const;
@@ -93,7 +107,8 @@ struct BackupsFeature {
 
 template <RecordOf<BackupsFeature::State> Listed, class Visit>
 void fields(Listed& record, Visit&& visit) {
-  auto& [backups, isWorking, chosen, isRestoring, failure] = record;
+  auto& [place, backups, isWorking, chosen, isRestoring, failure] = record;
+  visit("place", place);
   visit("backups", backups);
   visit("isWorking", isWorking);
   visit("chosen", chosen);

@@ -24,8 +24,6 @@ ListedBackup counted(Backup backup) {
 
 }  // namespace
 
-DataFiles::DataFiles(Place where) : place{std::move(where)}, folder{host::backupFolder(place.database)} {}
-
 DataFiles::Read DataFiles::read(const std::vector<std::string>& paths, const ImportAnswers& answers,
                                 const std::function<void(double)>& progress, const std::stop_token& stop) const {
   const ImportSettings settings{place.zone(), answers.weightUnit, answers.dateOrder};
@@ -57,7 +55,7 @@ void DataFiles::write(ExportedPart part, const History& history, const std::file
   adapters::writePrivately(file, content, adapters::Existing::replaced);
 }
 
-std::vector<ListedBackup> DataFiles::backups(bool areCounted) const {
+std::vector<ListedBackup> DataFiles::backups(const BackupFolder& folder, bool areCounted) const {
   std::vector<ListedBackup> listed;
   for (Backup& backup : folder.backups())
     listed.push_back(areCounted ? counted(std::move(backup)) : ListedBackup{.backup = std::move(backup)});
@@ -65,13 +63,13 @@ std::vector<ListedBackup> DataFiles::backups(bool areCounted) const {
 }
 
 std::optional<KeptBackup> DataFiles::backUp(const History& history, Date now) const {
-  return folder.keepAndRotate(history, place.settings(), now);
+  return backupPlace().folder().keepAndRotate(history, place.settings(), now);
 }
 
 tl::expected<Restored, BadRecord> DataFiles::restore(const std::filesystem::path& file, Date now) const {
   const auto records = readBackup(file);
   if (!records) return tl::unexpected{records.error()};
-  return host::restore(place.database, *records, folder, place.settings(), now);
+  return host::restore(place.database, *records, backupPlace().folder(), place.settings(), now);
 }
 
 }  // namespace mivo::host

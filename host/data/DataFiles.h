@@ -10,10 +10,11 @@
 #include <string>
 #include <string_view>
 #include <tl/expected.hpp>
+#include <utility>
 #include <vector>
 
 #include "adapters/time/TimeZone.h"
-#include "host/backup/BackupFolder.h"
+#include "host/backup/BackupPlace.h"
 #include "host/backup/Restore.h"
 #include "host/data/CountText.h"
 #include "host/data/ExportedPart.h"
@@ -24,7 +25,10 @@
 #include "host/import/PlanImport.h"
 #include "host/place/TypedDates.h"
 #include "mivo/model/TimeRange.h"
+#include "mivo/platform/Client.h"
+#include "mivo/platform/TextLookup.h"
 #include "mivo/platform/UUIDGenerator.h"
+#include "mivo/platform/UserDefaults.h"
 
 namespace mivo::host {
 
@@ -54,12 +58,13 @@ class DataFiles {
     std::function<std::vector<Setting>()> settings;                   ///< that snapshots carry
     std::shared_ptr<const UUIDGenerator> ids;
     std::function<std::shared_ptr<const TypedDateWords>()> words = {};  ///< of dates that are typed
+    Client<UserDefaults> defaults;  ///< in which the folder of the backups is chosen
     /// Onto pages or into a picture, as the file's name ends.
     std::function<void(const std::filesystem::path& file, TimeRange range, PrintedWeights weights)> print = {};
   };
   using Read = tl::expected<std::vector<ImportedFile>, ImportFault>;
 
-  explicit DataFiles(Place where);
+  explicit DataFiles(Place where) : place{std::move(where)} {}
 
   /// See `readImportFiles`; `progress` gets from 0 to 1 over all files.
   Read read(const std::vector<std::string>& paths, const ImportAnswers& answers,
@@ -76,16 +81,20 @@ class DataFiles {
     place.print(file, range, weights);
   }
 
-  const std::filesystem::path& backupFolder() const { return folder.path(); }
-  /// The newest first; their records are read and counted where that is asked for.
-  std::vector<ListedBackup> backups(bool areCounted) const;
+  BackupPlace backupPlace() const { return host::backupPlace(place.database, *place.defaults); }
+  /// Of the app's own history: see `host::chooseBackupFolder`.
+  tl::expected<BackupPlace, std::string> chooseBackupFolder(const std::filesystem::path& folder,
+                                                            const TextLookup& texts) const {
+    return host::chooseBackupFolder(folder, *place.defaults, texts);
+  }
+  /// Those of a folder, the newest first; their records are read and counted where that is asked for.
+  std::vector<ListedBackup> backups(const BackupFolder& folder, bool areCounted) const;
   std::optional<KeptBackup> backUp(const History& history, Date now) const;
   /// The file's records take the place of all there are, or the fault of the file.
   tl::expected<Restored, BadRecord> restore(const std::filesystem::path& file, Date now) const;
 
  private:
   Place place;
-  BackupFolder folder;
 };
 
 }  // namespace mivo::host

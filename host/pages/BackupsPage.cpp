@@ -19,17 +19,21 @@ BackupRow rowOf(const ListedBackup& listed, const PageClients& clients) {
 
 }  // namespace
 
-BackupsPage composeBackupsPage(const BackupsFeature::State& state, const std::filesystem::path& folder,
-                               const PageClients& clients) {
+BackupsPage composeBackupsPage(const BackupsFeature::State& state, const PageClients& clients) {
   const TextLookup& texts = clients.texts;
+  const BackupPlace& place = state.place;
   BackupsPage page{.title = texts.text("Backups"),
                    .button = texts.text("Back up now"),
                    .isBusy = state.isWorking,
                    .listTitle = state.backups->empty() ? "" : texts.text("Choose one to go back to"),
                    .rows = {},
-                   .note = filledIn(texts.text("A backup is made each day before the first change. The newest of each "
-                                               "of 7 days, 4 weeks and 12 months stay, in {1}"),
-                                    {folder.string()})};
+                   .folderLabel = texts.text("Folder"),
+                   .folder = place.folder().path().string(),
+                   .changeLabel = place.isOffered ? texts.text("Change folder") : "",
+                   .usualLabel = place.chosen.empty() ? "" : texts.text("Use the usual folder"),
+                   .fault = backupFaultText(place, texts),
+                   .note = texts.text("A backup is made each day before the first change. The newest of each of 7 "
+                                      "days, 4 weeks and 12 months stay.")};
   for (const ListedBackup& listed : *state.backups) page.rows.push_back(rowOf(listed, clients));
   return page;
 }

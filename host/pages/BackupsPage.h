@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <filesystem>
 #include <string>
 #include <vector>
 
@@ -29,30 +28,38 @@ void fields(Listed& record, Visit&& visit) {
   visit("spoken", spoken);
 }
 
-/// The backups that there are, and a new one.
+/// The backups that there are, a new one, and where they go.
 struct BackupsPage {
   std::string title;   ///< "Backups"
   std::string button;  ///< "Back up now"
   bool isBusy = false;
   std::string listTitle;  ///< over the rows; none where there are none
   std::vector<BackupRow> rows;
-  std::string note;  ///< when they are made, which stay, and where
+  std::string folderLabel, folder;  ///< "Folder", the one in force; empty while that is not known
+  std::string changeLabel;          ///< "Change folder", also of the dialog; none where no other can be chosen
+  std::string usualLabel;           ///< "Use the usual folder"; none where that is the chosen one
+  std::string fault;                ///< why the chosen folder is not in force
+  std::string note;                 ///< when they are made, and which stay
   bool operator==(const BackupsPage&) const = default;
 };
 
 template <RecordOf<BackupsPage> Listed, class Visit>
 void fields(Listed& record, Visit&& visit) {
-  auto& [title, button, isBusy, listTitle, rows, note] = record;
+  auto& [title, button, isBusy, listTitle, rows, folderLabel, folder, changeLabel, usualLabel, fault, note] = record;
   visit("title", title);
   visit("button", button);
   visit("isBusy", isBusy);
   visit("listTitle", listTitle);
   visit("rows", rows);
+  visit("folderLabel", folderLabel);
+  visit("folder", folder);
+  visit("changeLabel", changeLabel);
+  visit("usualLabel", usualLabel);
+  visit("fault", fault);
   visit("note", note);
 }
 
-BackupsPage composeBackupsPage(const BackupsFeature::State& state, const std::filesystem::path& folder,
-                               const PageClients& clients);
+BackupsPage composeBackupsPage(const BackupsFeature::State& state, const PageClients& clients);
 
 /// "Today, 03:00" of the newest, "None" where there is none.
 std::string newestBackupText(const BackupsFeature::State& state, const PageClients& clients);

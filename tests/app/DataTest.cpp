@@ -11,7 +11,7 @@
 #include <fstream>
 #include <sstream>
 
-#include "host/backup/BackupFolder.h"
+#include "host/backup/BackupPlace.h"
 #include "host/database/Database.h"
 #include "tests/app/ShownApp.h"
 #include "tests/support/TemporaryFolder.h"
@@ -68,16 +68,26 @@ class Data : public testing::Test {
   }
 
   /// Answers the dialog that is open, which Qt draws itself where the display has none.
-  void answerDialog(const QString& path) {
+  void answerDialog(const QString& path, bool isFolder = false) {
     QObject* dialog = nullptr;
     ASSERT_TRUE(eventually([&] {
       for (QObject* one : app->window().findChildren<QObject*>())
-        if (one->inherits("QQuickFileDialogImpl") && one->property("visible").toBool()) dialog = one;
+        if (one->inherits(isFolder ? "QQuickFolderDialogImpl" : "QQuickFileDialogImpl") &&
+            one->property("visible").toBool())
+          dialog = one;
       return dialog != nullptr;
     }));
-    dialog->setProperty("selectedFile", QUrl::fromLocalFile(path));
+    dialog->setProperty(isFolder ? "selectedFolder" : "selectedFile", QUrl::fromLocalFile(path));
     QMetaObject::invokeMethod(dialog, "accept");
     app->window().requestActivate();  // as a desktop does when a dialog with a window of its own has closed
+    settle(app->window());
+  }
+
+  void bring(const char* name, const char* button, const char* content) {
+    drop(made(name, content));
+    ASSERT_TRUE(eventually([&] { return app->button(button) != nullptr; }));
+    app->click(button);
+    ASSERT_TRUE(eventually([&] { return !app->state().importing; }));
     settle(app->window());
   }
 
@@ -242,13 +252,6 @@ TEST_F(Data, comeFromTheHealthExportThatAccessIsAllowedTo) {
 }
 
 TEST_F(Data, areBackedUpBeforeTheFirstChangeOfADayAndGoneBackTo) {
-  const auto bring = [&](const char* name, const char* button, const char* content) {
-    drop(made(name, content));
-    ASSERT_TRUE(eventually([&] { return app->button(button) != nullptr; }));
-    app->click(button);
-    ASSERT_TRUE(eventually([&] { return !app->state().importing; }));
-    settle(app->window());
-  };
   bring("fasts.csv", "Import 2 fasts", twoFasts);
   EXPECT_THAT(backups(), SizeIs(0)) << "there was nothing";
   bring("weights.csv", "Import 1 weight", "date,weight_kg\n2026-02-25T07:00Z,80\n");
@@ -276,6 +279,31 @@ TEST_F(Data, areBackedUpBeforeTheFirstChangeOfADayAndGoneBackTo) {
   EXPECT_EQ(onDisk(), all);
   app->click("Back up now");
   EXPECT_TRUE(eventually([&] { return !app->model().failure().isEmpty(); }));
+
+  const QString stick = QString::fromStdString(folder.file("stick"));
+  std::filesystem::create_directory(folder.file("stick"));
+  clickRow("Change folder");
+  answerDialog(stick, true);
+  ASSERT_TRUE(eventuallySays(stick + "/mivo.sqlite.backups"));
+  EXPECT_EQ(app->text("Today, 13:00"), nullptr) << "those of another folder";
+  app->click("Back up now");
+  EXPECT_TRUE(eventuallySays("The backup is made."));
+  EXPECT_THAT(host::BackupFolder{stick.toStdString() + "/mivo.sqlite.backups"}.backups(), SizeIs(1));
+  clickRow("Use the usual folder");
+  EXPECT_TRUE(eventuallySays(QString::fromStdString(app->environment.databaseFile.string() + ".backups")));
+  EXPECT_EQ(app->text("Use the usual folder"), nullptr);
+}
+
+TEST_F(Data, areBackedUpBesideTheHistoryAndSaidSoWhileTheChosenFolderIsMissing) {
+  const std::string gone = folder.file("gone"), beside = app->environment.databaseFile.string() + ".backups";
+  app->environment.dependencies->userDefaults->setValue(host::backupFolderKey, gone);
+  bring("fasts.csv", "Import 2 fasts", twoFasts);
+  bring("weights.csv", "Import 1 weight", "date,weight_kg\n2026-02-25T07:00Z,80\n");
+  EXPECT_THAT(backups(), SizeIs(1));
+  EXPECT_NE(
+      app->text(QString::fromStdString("Backups cannot go to " + gone +
+                                       " at the moment (No such file or directory). Meanwhile they go to " + beside)),
+      nullptr);
 }
 
 struct PrintedRow {

@@ -1,9 +1,6 @@
 // SPDX-License-Identifier: MIT
 // What can go wrong around the app: each is said on the screen in the user's language, and nothing is lost.
 #include <gtest/gtest.h>
-#include <linux/capability.h>
-#include <sys/syscall.h>
-#include <unistd.h>
 
 #include <cerrno>
 #include <filesystem>
@@ -13,19 +10,13 @@
 #include "host/database/Database.h"
 #include "tests/app/ShownApp.h"
 #include "tests/support/FullDisk.h"
+#include "tests/support/OrdinaryUser.h"
 #include "tests/support/TemporaryFolder.h"
 
 namespace mivo::app {
 namespace {
 
 namespace fs = std::filesystem;
-
-// Root may write wherever it likes; without its capabilities it is a user like any other.
-void giveUpCapabilities() {
-  __user_cap_header_struct header{_LINUX_CAPABILITY_VERSION_3, 0};
-  __user_cap_data_struct none[2]{};
-  ASSERT_EQ(::syscall(SYS_capset, &header, none), 0);
-}
 
 /// The app on a database of its own.
 class Failures : public testing::Test {
@@ -96,7 +87,7 @@ TEST_F(Failures, settingsThatCannotBeSavedAreSaidAndHoldUntilTheEnd) {
 }
 
 TEST_F(Failures, aReadOnlyFolderShowsTheHistoryAndSavesNothing) {
-  giveUpCapabilities();
+  tests::becomeOrdinaryUser();
   open();
   host::Database{file}.apply(host::adding(fastOf(1, 0)));
   app.reset();
@@ -113,7 +104,7 @@ TEST_F(Failures, aReadOnlyFolderShowsTheHistoryAndSavesNothing) {
 }
 
 TEST_F(Failures, aReadOnlyFolderWithoutAHistoryIsSaid) {
-  giveUpCapabilities();
+  tests::becomeOrdinaryUser();
   fs::create_directories(data);
   fs::permissions(data, fs::perms::owner_read | fs::perms::owner_exec);
   Options options = ShownApp::optionsFor("");
@@ -169,7 +160,7 @@ TEST_F(Failures, aDamagedDatabaseOffersItsNewestBackup) {
     environment->history->apply(host::adding(fastOf(1, 0)));
     environment->files->backUp(environment->history->load(), dateSince1970(1.7722e9));
     environment->history->apply(host::adding(fastOf(2, 1)));
-    std::ofstream{environment->files->backupFolder() / "mivo-2026-03-01T030000Z.json"} << "{";
+    std::ofstream{environment->files->backupPlace().folder().path() / "mivo-2026-03-01T030000Z.json"} << "{";
   }
   const auto damage = [&] {
     fs::remove(file);

@@ -52,6 +52,8 @@ TEST(Doctor, tellsWhatIsIllAndLeavesItAsItIs) {
            IllRow{"sharedSettings", "mivo/group.json", "no JSON", "", "! shared settings"},
            IllRow{"healthData", "mivo/app.json", R"({"health.linkedFile": "/no/such.zip"})", "",
                   "! health data      /no/such.zip: expected a file that can be read: "},
+           IllRow{"backupFolder", "mivo/app.json", R"({"backups.folder": "/no/stick"})", "",
+                  "! backup folder    /no/stick: No such file or directory; backups go beside the history\n"},
            IllRow{"server", "other", "", std::string{"--tally "} + nowhere,
                   "! vote server      " + std::string{nowhere}},
        }) {
@@ -90,6 +92,18 @@ TEST(Doctor, readsTheNewestBackup) {
   EXPECT_THAT(ran.output,
               HasSubstr("! backups          " +
                         place.file("mivo/mivo.sqlite.backups/mivo-2526-03-01T120000Z.json").string() + ":1: "));
+}
+
+TEST(Doctor, looksIntoTheFolderThatWasChosenForBackups) {
+  const Workplace place;
+  std::filesystem::create_directory(place.file("stick"));
+  place.run("backup folder stick");
+  place.run("weight add 81kg");
+  place.run("backup");
+  const Ran ran = place.run("doctor");
+  EXPECT_EQ(ran.status, 0);
+  EXPECT_THAT(ran.output, HasSubstr(place.file("stick/mivo.sqlite.backups").string() + ": 1, the newest of "));
+  EXPECT_THAT(ran.output, HasSubstr("  backup folder    " + place.file("stick").string() + ": can be written\n"));
 }
 
 TEST(Doctor, tellsThatTheTimeZoneIsUnknown) {

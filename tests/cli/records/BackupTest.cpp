@@ -176,6 +176,63 @@ TEST_F(BackupCommands, offerTheNewestOfADamagedDatabase) {
   EXPECT_THAT(place.run("list --database d").errors, HasSubstr("(mivo backup restore --database 'd' FILE puts"));
 }
 
+struct FolderRow {
+  const char *name, *arguments;
+  int status;
+  const char* error;
+};
+
+TEST_F(BackupCommands, goToTheFolderThatIsChosen) {
+  const std::string usual = folder.path().string(), stick = place.file("stick").string(),
+                    chosen = stick + "/mivo.sqlite.backups";
+  fs::create_directory(stick);
+  place.write("letter", "no folder");
+  EXPECT_EQ(done("backup folder").output, usual + '\n');
+  EXPECT_EQ(done("backup folder stick").output,
+            "Backups go to " + chosen + " from now on. Those made before stay in " + usual + '\n');
+  for (const FolderRow& row : {
+           FolderRow{"missing", "none", 1, "/none: No such file or directory\n"},
+           FolderRow{"noFolder", "letter", 1, "/letter: Not a directory\n"},
+           FolderRow{"both", "stick --usual", 2, "excludes"},
+           FolderRow{"anotherHistory", "stick --database other", 2, "for the app's own history alone\n"},
+       }) {
+    const Ran ran = place.run(std::string{"backup folder "} + row.arguments);
+    EXPECT_EQ(ran.status, row.status) << row.name;
+    EXPECT_THAT(ran.errors, HasSubstr(row.error)) << row.name;
+    EXPECT_EQ(done("backup folder").output, chosen + '\n') << row.name;
+  }
+  EXPECT_EQ(place.run("backup --folder none folder stick").status, 2);
+
+  put(weighing(3));
+  EXPECT_THAT(done("backup").output, HasSubstr(chosen));
+  EXPECT_THAT(done("backup list").output, HasSubstr("0        3\n"));
+  EXPECT_EQ(done("backup folder --usual").output,
+            "Backups go to " + usual + " from now on. Those made before stay in " + chosen + '\n');
+  EXPECT_EQ(done("backup list").output, "No backups yet.\n");
+}
+
+TEST_F(BackupCommands, goBesideTheHistoryWhileTheChosenFolderIsMissing) {
+  const fs::path stick = place.file("stick");
+  fs::create_directory(stick);
+  done("backup folder stick");
+  fs::remove(stick);
+  put(weighing(3));
+  const std::string said = "mivo: Backups cannot go to " + stick.string() +
+                           " at the moment (No such file or directory). Meanwhile they go to " +
+                           folder.path().string() + '\n';
+  EXPECT_EQ(done("weight add 80kg").errors, said);
+  EXPECT_EQ(done("weight add 79kg").errors, "") << "told once";
+  EXPECT_EQ(folder.backups().size(), 1u);
+  EXPECT_EQ(done("backup folder").errors, said);
+  EXPECT_FALSE(fs::exists(stick));
+
+  fs::create_directory(stick);
+  std::ofstream{database} << std::string(5000, 'x');
+  EXPECT_THAT(place.run("list").errors, HasSubstr("(mivo backup restore brings it back)")) << "from the usual folder";
+  done("backup restore");
+  EXPECT_EQ(own(), weighing(3));
+}
+
 // Restores one of two states, over a sound or a damaged database.
 TEST_F(BackupCommands, leaveTheStateBeforeOrAfterWhereTheyAreKilled) {
   using namespace std::chrono;

@@ -32,6 +32,9 @@ using Backups = BackupsFeature::Action;
 
 class DataSteps : public tests::StatisticsTest {
  protected:
+  DataSteps() { ::setenv("XDG_DATA_HOME", folder.path.c_str(), 1); }
+  ~DataSteps() override { ::unsetenv("XDG_DATA_HOME"); }
+
   void settle() {
     do {
       world.tasks->runAll();
@@ -53,15 +56,13 @@ class DataSteps : public tests::StatisticsTest {
   void choose(const std::vector<std::string>& paths) { send(Action::didChooseFiles{paths}); }
 
   ImportSheet sheet() const { return composeImportSheet(state(), pages.at(world.clock->now())); }
-  BackupsPage backupsPage() const {
-    return composeBackupsPage(state().backups, data->backupFolder(), pages.at(world.clock->now()));
-  }
+  BackupsPage backupsPage() const { return composeBackupsPage(state().backups, pages.at(world.clock->now())); }
   Message message() const { return composeMessage(state(), pages.texts, pages.numbers); }
   History onDisk() const { return Database{file}.history(); }
   const AppFeature::State& state() const { return app.state(); }
 
   tests::TemporaryFolder folder;
-  std::filesystem::path file = folder.path / "mivo.sqlite";
+  std::filesystem::path file = folder.path / "mivo" / "mivo.sqlite";
   std::shared_ptr<const DatabaseHistory> history = std::make_shared<DatabaseHistory>(Database{file});
   std::shared_ptr<const DataFiles> data = std::make_shared<DataFiles>(DataFiles::Place{
       .database = file,
@@ -72,6 +73,7 @@ class DataSteps : public tests::StatisticsTest {
           [] {
             return std::make_shared<const TypedDateWords>(typedDateWords(adapters::UserLocale::parse("en-GB").value()));
           },
+      .defaults = world.dependencies.userDefaults,
       .print =
           [this](const std::filesystem::path& to, TimeRange range, PrintedWeights weights) {
             if (to == "full.pdf") throw std::runtime_error{"full.pdf: the disk is full"};
@@ -482,7 +484,7 @@ TEST_F(BackupSteps, areMadeAtOnceAndListed) {
   EXPECT_EQ(message().text, "The backup is made.");
   sendBackups(Backups::didTapBackUp{});
   EXPECT_EQ(message().text, "Nothing has changed since the newest backup.");
-  std::ofstream{data->backupFolder() / "mivo-2026-06-01T030000Z.json"} << "{";
+  std::ofstream{data->backupPlace().folder().path() / "mivo-2026-06-01T030000Z.json"} << "{";
   send(Action::didOpen{Screen::statistics});
   send(Action::didOpen{Screen::settings});
   EXPECT_THAT(rows(), ElementsAre("Today, 12:00, 0 fasts, 2 weights", "06-01 03:00")) << "of a new one only the date";
@@ -516,6 +518,42 @@ TEST_F(BackupSteps, areGoneBackToAndUndone) {
   send(Action::didTapMessage{});
   EXPECT_EQ(onDisk(), after);
   EXPECT_EQ(state().weights->elements(), after.weights);
+}
+
+TEST_F(BackupSteps, goToAFolderThatIsChosenAndBack) {
+  const std::string usual = file.string() + ".backups", stick = folder.file("stick"),
+                    chosen = stick + "/mivo.sqlite.backups";
+  sendBackups(Backups::didTapBackUp{});
+  const std::vector<std::string> before = rows();
+  EXPECT_EQ(backupsPage().folder, usual);
+  EXPECT_EQ(backupsPage().usualLabel, "");
+
+  sendBackups(Backups::didChooseFolder{stick});
+  EXPECT_EQ(message().text, "Backups cannot be kept in " + stick + ": No such file or directory");
+  EXPECT_EQ(backupsPage().folder, usual);
+  EXPECT_FALSE(backupsPage().isBusy);
+
+  std::filesystem::create_directory(stick);
+  sendBackups(Backups::didChooseFolder{stick});
+  EXPECT_EQ(message().text, "Backups go to " + chosen + " from now on. Those made before stay in " + usual);
+  EXPECT_EQ(backupsPage().folder, chosen);
+  EXPECT_EQ(backupsPage().usualLabel, "Use the usual folder");
+  EXPECT_THAT(rows(), IsEmpty());
+  sendBackups(Backups::didTapBackUp{});
+  EXPECT_THAT(rows(), SizeIs(1));
+  EXPECT_EQ(BackupFolder{chosen}.backups().size(), 1U);
+
+  std::filesystem::remove_all(stick);
+  send(Action::didOpen{Screen::statistics});
+  send(Action::didOpen{Screen::backups});
+  EXPECT_EQ(backupsPage().folder, usual);
+  EXPECT_EQ(backupsPage().fault, "Backups cannot go to " + stick +
+                                     " at the moment (No such file or directory). Meanwhile they go to " + usual);
+  EXPECT_EQ(rows(), before);
+  sendBackups(Backups::didChooseFolder{});
+  EXPECT_EQ(message().text, "Backups go to " + usual);
+  EXPECT_EQ(backupsPage().fault, "");
+  EXPECT_EQ(backupsPage().usualLabel, "");
 }
 
 TEST_F(BackupSteps, changeNothingWhereTheyHoldTheSameOrCannotBeRead) {

@@ -99,7 +99,8 @@ class Linked {
       std::make_shared<DataFiles>(DataFiles::Place{.database = database,
                                                    .zone = [] { return adapters::TimeZone::load("UTC").value(); },
                                                    .settings = [] { return std::vector<Setting>{}; },
-                                                   .ids = std::make_shared<adapters::LocalUUIDGenerator>()});
+                                                   .ids = std::make_shared<adapters::LocalUUIDGenerator>(),
+                                                   .defaults = world.dependencies.userDefaults});
   Store<HealthFeature> app{HealthFeature::State{}, HealthFeature{client, files, history, world.dependencies.texts},
                            world.queue, world.tasks};
 };

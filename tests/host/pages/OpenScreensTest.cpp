@@ -33,8 +33,8 @@ class OpenScreensTest : public tests::StatisticsTest {
     history.weights = {{{8, 1}, at(-30), 80}, {{8, 2}, at(-6), 79}};
     app.send(Action::didLoad{history});
     app.send(Action::health{HealthFeature::Action::onAppear{}});
-    app.send(
-        Action::backups{BackupsFeature::Action::didList{{{.backup = {"mivo.json", now}, .counts = RecordCounts{}}}}});
+    app.send(Action::backups{
+        BackupsFeature::Action::didList{{}, {{.backup = {"mivo.json", now}, .counts = RecordCounts{}}}}});
   }
 
   OpenScreens shown() const { return composeOpenScreens(app.state()); }
