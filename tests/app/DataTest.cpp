@@ -10,6 +10,7 @@
 #include <QtTest/QTest>
 #include <fstream>
 #include <sstream>
+#include <system_error>
 
 #include "host/backup/BackupPlace.h"
 #include "host/database/Database.h"
@@ -300,10 +301,10 @@ TEST_F(Data, areBackedUpBesideTheHistoryAndSaidSoWhileTheChosenFolderIsMissing) 
   bring("fasts.csv", "Import 2 fasts", twoFasts);
   bring("weights.csv", "Import 1 weight", "date,weight_kg\n2026-02-25T07:00Z,80\n");
   EXPECT_THAT(backups(), SizeIs(1));
-  EXPECT_NE(
-      app->text(QString::fromStdString("Backups cannot go to " + gone +
-                                       " at the moment (No such file or directory). Meanwhile they go to " + beside)),
-      nullptr);
+  const std::string why = std::make_error_code(std::errc::no_such_file_or_directory).message();
+  EXPECT_NE(app->text(QString::fromStdString("Backups cannot go to " + gone + " at the moment (" + why +
+                                             "). Meanwhile they go to " + beside)),
+            nullptr);
 }
 
 struct PrintedRow {
