@@ -399,6 +399,15 @@ class HealthSteps : public DataSteps {
   std::string row() const { return linkedFileText(state().health, pages.texts); }
 };
 
+TEST_F(HealthSteps, showThatTheyReadOnceMoreThanALookAtTheFileIsDone) {
+  HealthFeature::State shown;
+  EXPECT_LT(composeHealthSheet(shown, pages.texts).progress, 0);
+  shown.reading = HealthFeature::Reading{};
+  EXPECT_LT(composeHealthSheet(shown, pages.texts).progress, 0);
+  shown.reading->progress = 0.25;
+  EXPECT_EQ(composeHealthSheet(shown, pages.texts).progress, 0.25);
+}
+
 TEST_F(HealthSteps, askForAccessUntilAFileIsLinkedWhoseWeightsAreThereThen) {
   appear();
   EXPECT_TRUE(asksForAccess());
