@@ -231,6 +231,8 @@ INSTANTIATE_TEST_SUITE_P(
         SyncRow{"empty", [](Linked& l) { l.write("export.xml", ""); }, "07:00 80, 08:00 81", unreadable},
         SyncRow{"noHealthExport", [](Linked& l) { l.write("export.xml", "date,weight\n2026-03-01,80\n"); },
                 "07:00 80, 08:00 81", unreadable},
+        SyncRow{"aTableOfWeights", [](Linked& l) { l.write("export.xml", "date,weight_kg\n2026-03-01,80\n"); },
+                "07:00 80, 08:00 81", unreadable},
         SyncRow{"gone", [](Linked& l) { fs::remove(l.folder.file("export.xml")); }, "07:00 80, 08:00 81",
                 "The linked health file is no longer there: "},
         SyncRow{"goneAndBack",
