@@ -4,7 +4,6 @@
 #include <gtest/gtest.h>
 
 #include <atomic>
-#include <chrono>
 #include <latch>
 #include <memory>
 #include <optional>
@@ -70,25 +69,27 @@ TEST(ThreadPool, mayBeReleasedLastByItsOwnTaskAndDropsTheRest) {
 }
 
 TEST(ThreadPool, finishesThoughItsOwnTasksHoldIt) {
-  std::latch isRunning{1};
-  std::atomic<bool> didEnd = false, didRunTheRest = false;
+  std::latch isRunning{1}, mayEnd{1};
+  std::atomic<bool> didEnd = false, didBeginAfterwards = false;
   std::weak_ptr<ThreadPool> held;
   {
     const auto pool = std::make_shared<ThreadPool>(1);
     held = pool;
     pool->run([&, pool] {
       isRunning.count_down();
-      std::this_thread::sleep_for(std::chrono::milliseconds{20});
+      mayEnd.wait();
       didEnd = true;
     });
+    pool->run([pool] {});
     isRunning.wait();
-    pool->run([&, pool] { didRunTheRest = true; });
-    pool->finish();
+    std::jthread finishes{[&] { pool->finish(); }};
+    mayEnd.count_down();
+    finishes.join();
     EXPECT_TRUE(didEnd);
-    pool->run([&] { didRunTheRest = true; });
+    pool->run([&] { didBeginAfterwards = true; });
   }
   EXPECT_TRUE(held.expired());
-  EXPECT_FALSE(didRunTheRest);
+  EXPECT_FALSE(didBeginAfterwards);
 }
 
 }  // namespace
