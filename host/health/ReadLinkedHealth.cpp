@@ -60,8 +60,7 @@ tl::expected<std::optional<LinkedHealth>, LinkedHealthFault> readLinkedHealth(
     if (file.kind != ImportKind::healthExport) continue;
     isHealth = true;
     std::ranges::move(file.weights, std::back_inserter(found.sync.weights));
-    for (const BadRecord& bad : file.refused.first()) found.refused.add(bad);
-    found.refused.addUnseen(file.refused.count() - std::ssize(file.refused.first()));
+    found.refused.add(file.refused);
   }
   if (!isHealth) return tl::unexpected{noHealthExport(path)};
   sortByDate(found.sync.weights);

@@ -26,6 +26,11 @@ class RefusedRecords {
     if (kept.size() < mostKept) kept.push_back(std::move(bad));
     ++counted;
   }
+  /// Those of another list behind these.
+  void add(const RefusedRecords& others) {
+    for (const BadRecord& bad : others.kept) add(bad);
+    addUnseen(others.counted - static_cast<std::int64_t>(others.kept.size()));
+  }
   /// Counts some that nothing more is to be said of.
   void addUnseen(std::int64_t more) { counted += more; }
   const std::vector<BadRecord>& first() const { return kept; }

@@ -83,8 +83,7 @@ class Merge {
 
   void add(const ImportedFile& file) {
     counts = {.refused = file.refused.count()};
-    for (const BadRecord& bad : file.refused.first()) plan.refused.add(bad);
-    plan.refused.addUnseen(file.refused.count() - static_cast<std::int64_t>(file.refused.first().size()));
+    plan.refused.add(file.refused);
     for (std::size_t index = 0; index < file.fasts.size(); ++index)
       add(file.fasts[index], file.name, file.lineOfFast(index));
     for (const BodyWeightSample& sample : file.weights) add(sample);
