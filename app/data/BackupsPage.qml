@@ -78,19 +78,10 @@ PushedPage {
         }
     }
 
-    Loader {
+    FileChooser {
         id: chooser
-
-        active: false
-        visible: false
-        source: "qrc:/Mivo/ChooseFolder.qml"
-        onLoaded: (item as ChooseFolder).open()
-
-        function open() {
-            if (active)
-                (item as ChooseFolder).open();
-            else
-                active = true;
-        }
+        title: App.backups.changeLabel
+        takesFolder: true
+        onChosen: App.backups.chooseFolder(files[0])
     }
 }

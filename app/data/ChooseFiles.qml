@@ -1,24 +1,40 @@
 // SPDX-License-Identifier: MIT
-// The system's dialog that chooses files of the user's. A FileChooser loads it when it is first wanted.
+// The system's dialogs that choose files of the user's, or a folder. A FileChooser loads it when it is first wanted.
 import QtQuick
 import QtQuick.Dialogs
 
 Item {
     id: root
 
-    property alias title: dialog.title
+    property string title
     property bool takesMany
-    readonly property alias files: dialog.selectedFiles
+    property bool takesFolder
+    property list<url> files
 
     signal chosen
 
     function open() {
-        dialog.open();
+        if (takesFolder)
+            folderDialog.open();
+        else
+            fileDialog.open();
+    }
+
+    function choose(urls: list<url>) {
+        files = urls;
+        chosen();
     }
 
     FileDialog {
-        id: dialog
+        id: fileDialog
+        title: root.title
         fileMode: root.takesMany ? FileDialog.OpenFiles : FileDialog.OpenFile
-        onAccepted: root.chosen()
+        onAccepted: root.choose(selectedFiles)
+    }
+
+    FolderDialog {
+        id: folderDialog
+        title: root.title
+        onAccepted: root.choose([selectedFolder])
     }
 }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The system's dialog that chooses files, loaded when it is first wanted: no page need wait for it.
+// The system's dialog that chooses files or a folder, loaded when it is first wanted: no page need wait for it.
 import QtQuick
 import Mivo
 
@@ -8,6 +8,7 @@ Loader {
 
     required property string title
     property bool takesMany: false
+    property bool takesFolder: false
     property list<url> files
 
     signal chosen
@@ -28,6 +29,7 @@ Loader {
         const dialog = item as ChooseFiles;
         dialog.title = title;
         dialog.takesMany = takesMany;
+        dialog.takesFolder = takesFolder;
         dialog.open();
     }
 
