@@ -18,7 +18,8 @@ class AddWeightModel : public mivo::app::AddWeightFormRecord {
 
  public:
   using Action = AddWeightLogFeature::Action;
-  explicit AddWeightModel(std::function<void(Action)> sends) : send{std::move(sends)} {}
+  AddWeightModel(std::function<void(Action)> sends, QObject* parent)
+      : mivo::app::AddWeightFormRecord{parent}, send{std::move(sends)} {}
 
   Q_INVOKABLE void edit(const QString& text) { send(Action::didChangeText{text.toStdString()}); }
   Q_INVOKABLE void increase() { send(Action::didTapIncrease{}); }

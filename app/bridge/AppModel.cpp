@@ -9,8 +9,8 @@
 #include <cmath>
 
 #include "app/bridge/EngineModels.h"
-#include "app/bridge/Stamps.h"
 #include "host/app/CurrentTipFacts.h"
+#include "host/app/Stamps.h"
 #include "host/database/FaultText.h"
 #include "host/fasting/Fasting.h"
 #include "mivo/platform/Dependencies.h"
@@ -37,38 +37,41 @@ AppModel::AppModel(AppServices given)
     : services{std::move(given)},
       dependencies{*services.dependencies},
       texts{*dependencies.texts},
-      clients{[present = services.dependencies] { return pageClients(*present, present->date->now()); }},
+      link{.clients = [present = services.dependencies] { return pageClients(*present, present->date->now()); },
+           .send = [this](Action action) { send(std::move(action)); }},
       store{State::make(services.timeRange, services.usualWeightUnit),
             host::AppFeature{.history = services.history, .files = services.files, .linkedHealth = services.health},
             dependencies.mainQueue, dependencies.taskRunner},
-      fastingBars{store.state().statistics.stats.fastingChartState, barClients(dependencies),
-                  [this](DayBarsModel::Action action) { sendStatistics(Sent::fastingChartAction{std::move(action)}); }},
-      eatingBars{store.state().statistics.stats.eatingChartState, barClients(dependencies),
-                 [this](DayBarsModel::Action action) { sendStatistics(Sent::eatingChartAction{std::move(action)}); }},
-      weightLine{drawing::WeightChart{}, lineChartsHaveHeaders(dependencies.platformVersion), clients},
-      pairLine{WeightFastingChart{}, lineChartsHaveHeaders(dependencies.platformVersion), clients},
-      weightEntry{
-          [this](AddWeightModel::Action action) { sendStatistics(Sent::addWeightLogAction{std::move(action)}); }},
-      allWeights{clients, [this](Action action) { send(std::move(action)); }},
-      runningFast{clients, [this](Action action) { send(std::move(action)); }},
-      donationSheet{[this](DonationsFeature::Action action) {
-        using Shown = PresentationAction<Destination::Action>;
-        sendStatistics(Sent::destination{Shown::presented{Destination::Action::donations{std::move(action)}}});
-      }},
-      overlapRepair{clients, [this](Action action) { send(std::move(action)); }},
-      chosenSettings{clients,
-                     dependencies,
-                     services.calendar,
-                     *services.appearance,
-                     services.about,
-                     [this] { send(Action::didChangeSettings{}); },
-                     [this] { keepReminding(); }},
-      importSheet{clients, [this](Action action) { send(std::move(action)); }},
-      severalFastsSheet{clients, [this](Action action) { send(std::move(action)); }},
-      exportSheet{clients, [this](Action action) { send(std::move(action)); }},
-      healthSheet{texts, [this](Action action) { send(std::move(action)); }},
-      allBackups{clients, [this](Action action) { send(std::move(action)); }} {
-  feedbackTexts.show(composeFeedback(texts));
+      fastingChart{new DayBarsModel{
+          store.state().statistics.stats.fastingChartState, barClients(dependencies),
+          [this](DayBarsModel::Action action) { sendStatistics(Sent::fastingChartAction{std::move(action)}); }, this}},
+      eatingChart{new DayBarsModel{
+          store.state().statistics.stats.eatingChartState, barClients(dependencies),
+          [this](DayBarsModel::Action action) { sendStatistics(Sent::eatingChartAction{std::move(action)}); }, this}},
+      weightChart{new LineChartModel{drawing::WeightChart{}, lineChartsHaveHeaders(dependencies.platformVersion),
+                                     link.clients, this}},
+      weightFastingChart{new LineChartModel{WeightFastingChart{}, lineChartsHaveHeaders(dependencies.platformVersion),
+                                            link.clients, this}},
+      addWeight{new AddWeightModel{
+          [this](AddWeightModel::Action action) { sendStatistics(Sent::addWeightLogAction{std::move(action)}); },
+          this}},
+      weights{new WeightsModel{link, this}},
+      fasting{new FastingModel{link, this}},
+      donations{new DonationsModel{
+          [this](DonationsFeature::Action action) {
+            using Shown = PresentationAction<Destination::Action>;
+            sendStatistics(Sent::destination{Shown::presented{Destination::Action::donations{std::move(action)}}});
+          },
+          this}},
+      repair{new RepairModel{link, this}},
+      settings{new SettingsModel{link.clients, dependencies, services.calendar, *services.appearance, services.about,
+                                 [this] { send(Action::didChangeSettings{}); }, [this] { keepReminding(); }, this}},
+      importing{new ImportModel{link, this}},
+      severalFasts{new SeveralFastsModel{link, this}},
+      exporting{new ExportModel{link, this}},
+      health{new HealthModel{link, this}},
+      backups{new BackupsModel{link, this}} {
+  feedback->show(composeFeedback(texts));
   following = store.observe([this](const State& state) { follow(state); });
   load();
   watchTime();
@@ -129,15 +132,12 @@ void AppModel::lookForOtherPrograms() {
   }
 }
 
-// Every text of a date is another one then; no record is.
 void AppModel::followZone() {
   const auto zone = services.followZone ? services.followZone() : std::nullopt;
   if (!zone) return;
-  send(Action::recompute{});
-  runningFast.retell();
-  allWeights.retell();
-  say(filledIn(texts.text("Your time zone is now {1}. All times are shown in it; nothing was changed."),
-               {qString(*zone).replace(QLatin1Char{'_'}, QLatin1Char{' '}).toStdString()}));
+  send(Action::didChangeZone{*zone});
+  fasting->retell();
+  weights->retell();
 }
 
 void AppModel::keepReminding() {
@@ -150,9 +150,9 @@ void AppModel::say(const std::string& sentence) {
 
 void AppModel::follow(const State& state) {
   const auto& statistics = state.statistics;
-  fastingBars.follow(statistics.stats.fastingChartState);
-  eatingBars.follow(statistics.stats.eatingChartState);
-  if (auto stamps = stampsOf(state); stamps != seen) {
+  fastingChart->follow(statistics.stats.fastingChartState);
+  eatingChart->follow(statistics.stats.eatingChartState);
+  if (auto stamps = host::stampsOf(state); stamps != seen) {
     seen = std::move(stamps);
     followPages(state);
   }
@@ -163,23 +163,23 @@ void AppModel::followPages(const State& state) {
   const auto& statistics = state.statistics;
   tellTips(state);
   auto composed = composeScreen(screenInput(statistics), screenFormatters());
-  cards.show(services.printed ? host::printedCards(std::move(composed), *services.printed) : std::move(composed));
+  screen->show(services.printed ? host::printedCards(std::move(composed), *services.printed) : std::move(composed));
   const WeightUnit unit = statistics.goalWeightCardState.weightUnit;
-  weightLine.show(drawing::WeightChart{weightLogs(statistics.stats, statistics.timeRange), statistics.timeRange}, unit,
-                  state.now);
-  pairLine.show(mivo::weightFastingChart(statistics.stats, statistics.timeRange), unit, state.now);
-  weightEntry.show(composeAddWeight(statistics.addWeightLogState, clients()));
-  allWeights.follow(state);
-  runningFast.follow(state);
-  overlapRepair.follow(state.overlapRepair);
-  chosenSettings.follow(state);
-  importSheet.follow(state);
-  severalFastsSheet.follow(state);
-  healthSheet.follow(state);
-  allBackups.follow(state);
-  goalWeight.show(composeGoalWeightSheet(statistics.goalWeightCardState, texts, *dependencies.numberFormatter,
+  weightChart->show(drawing::WeightChart{weightLogs(statistics.stats, statistics.timeRange), statistics.timeRange},
+                    unit, state.now);
+  weightFastingChart->show(mivo::weightFastingChart(statistics.stats, statistics.timeRange), unit, state.now);
+  addWeight->show(composeAddWeight(statistics.addWeightLogState, link.clients()));
+  weights->follow(state);
+  fasting->follow(state);
+  repair->follow(state);
+  settings->follow(state);
+  importing->follow(state);
+  severalFasts->follow(state);
+  health->follow(state);
+  backups->follow(state);
+  goalSheet->show(composeGoalWeightSheet(statistics.goalWeightCardState, texts, *dependencies.numberFormatter,
                                          *dependencies.massFormatter));
-  said.show(host::composeMessage(state, texts, *dependencies.numberFormatter));
+  message->show(host::composeMessage(state, texts, *dependencies.numberFormatter));
   followDestination(statistics);
 }
 
@@ -187,10 +187,10 @@ void AppModel::followDestination(const StatisticsFeature::State& state) {
   const auto& destination = state.destination;
   if (!destination) return;
   if (const auto* shown = std::get_if<Destination::State::badges>(&*destination))
-    badgeSummary.show(
+    badges->show(
         composeBadges(shown->state, state.streakSettings->countingEntity, texts, *dependencies.numberFormatter));
   if (const auto* shown = std::get_if<Destination::State::donations>(&*destination))
-    donationSheet.show(composeDonations(shown->state, texts));
+    donations->show(composeDonations(shown->state, texts));
 }
 
 void AppModel::followScreens(const State& state) {
@@ -202,10 +202,10 @@ void AppModel::followScreens(const State& state) {
     features = std::make_unique<RoadmapModel>(dependencies);
     Q_EMIT roadmapChanged();
   }
-  importSheet.follow(state);
-  severalFastsSheet.follow(state);
-  exportSheet.follow(state);
-  openScreens.show(composeOpenScreens(state));
+  importing->follow(state);
+  severalFasts->follow(state);
+  exporting->follow(state);
+  screens->show(composeOpenScreens(state));
 }
 
 void AppModel::tellTips(const State& state) const {
@@ -220,7 +220,7 @@ void AppModel::present(const QString& name) {
 }
 
 void AppModel::close(const QString& name) {
-  if (const auto screen = host::screenFrom(name.toStdString())) send(Action::didClose{*screen});
+  if (const auto closed = host::screenFrom(name.toStdString())) send(Action::didClose{*closed});
 }
 
 void AppModel::chooseTimeRange(int index) {
@@ -252,7 +252,7 @@ bool AppModel::sendFeedback(const QString& idea, const QString& replyTo) {
   mail.setQuery(fields);
   if (!services.feedbackAddress.empty() && QDesktopServices::openUrl(mail)) return true;
   copy(body);
-  say(texts.text("No mail program took your idea. It is on the clipboard now."));
+  say(host::noMailProgramText(texts));
   return false;
 }
 

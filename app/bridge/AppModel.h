@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "app/bridge/AddWeightModel.h"
+#include "app/bridge/AppLink.h"
 #include "app/bridge/DataModels.h"
 #include "app/bridge/DayBarsModel.h"
 #include "app/bridge/DonationsModel.h"
@@ -59,29 +60,29 @@ class AppModel : public QObject {
   Q_OBJECT
   QML_NAMED_ELEMENT(App)
   QML_SINGLETON
-  Q_PROPERTY(mivo::app::ScreenModel* screen READ screen CONSTANT)
-  Q_PROPERTY(mivo::app::DayBarsModel* fastingChart READ fastingChart CONSTANT)
-  Q_PROPERTY(mivo::app::DayBarsModel* eatingChart READ eatingChart CONSTANT)
-  Q_PROPERTY(mivo::app::LineChartModel* weightChart READ weightChart CONSTANT)
-  Q_PROPERTY(mivo::app::LineChartModel* weightFastingChart READ weightFastingChart CONSTANT)
-  Q_PROPERTY(mivo::app::AddWeightModel* addWeight READ addWeight CONSTANT)
-  Q_PROPERTY(mivo::app::WeightsModel* weights READ weights CONSTANT)
-  Q_PROPERTY(mivo::app::FastingModel* fasting READ fasting CONSTANT)
-  Q_PROPERTY(mivo::app::BadgesPageRecord* badges READ badges CONSTANT)
-  Q_PROPERTY(mivo::app::DonationsModel* donations READ donations CONSTANT)
-  Q_PROPERTY(mivo::app::RepairModel* repair READ repair CONSTANT)
-  Q_PROPERTY(mivo::app::SettingsModel* settings READ settings CONSTANT)
-  Q_PROPERTY(mivo::app::ImportModel* importing READ importing CONSTANT)
-  Q_PROPERTY(mivo::app::SeveralFastsModel* severalFasts READ severalFasts CONSTANT)
-  Q_PROPERTY(mivo::app::ExportModel* exporting READ exporting CONSTANT)
-  Q_PROPERTY(mivo::app::HealthModel* health READ health CONSTANT)
-  Q_PROPERTY(mivo::app::BackupsModel* backups READ backups CONSTANT)
+  Q_PROPERTY(mivo::app::ScreenModel* screen MEMBER screen CONSTANT)
+  Q_PROPERTY(mivo::app::DayBarsModel* fastingChart MEMBER fastingChart CONSTANT)
+  Q_PROPERTY(mivo::app::DayBarsModel* eatingChart MEMBER eatingChart CONSTANT)
+  Q_PROPERTY(mivo::app::LineChartModel* weightChart MEMBER weightChart CONSTANT)
+  Q_PROPERTY(mivo::app::LineChartModel* weightFastingChart MEMBER weightFastingChart CONSTANT)
+  Q_PROPERTY(mivo::app::AddWeightModel* addWeight MEMBER addWeight CONSTANT)
+  Q_PROPERTY(mivo::app::WeightsModel* weights MEMBER weights CONSTANT)
+  Q_PROPERTY(mivo::app::FastingModel* fasting MEMBER fasting CONSTANT)
+  Q_PROPERTY(mivo::app::BadgesPageRecord* badges MEMBER badges CONSTANT)
+  Q_PROPERTY(mivo::app::DonationsModel* donations MEMBER donations CONSTANT)
+  Q_PROPERTY(mivo::app::RepairModel* repair MEMBER repair CONSTANT)
+  Q_PROPERTY(mivo::app::SettingsModel* settings MEMBER settings CONSTANT)
+  Q_PROPERTY(mivo::app::ImportModel* importing MEMBER importing CONSTANT)
+  Q_PROPERTY(mivo::app::SeveralFastsModel* severalFasts MEMBER severalFasts CONSTANT)
+  Q_PROPERTY(mivo::app::ExportModel* exporting MEMBER exporting CONSTANT)
+  Q_PROPERTY(mivo::app::HealthModel* health MEMBER health CONSTANT)
+  Q_PROPERTY(mivo::app::BackupsModel* backups MEMBER backups CONSTANT)
   /// Only while the roadmap is shown.
   Q_PROPERTY(mivo::app::RoadmapModel* roadmap READ roadmap NOTIFY roadmapChanged)
-  Q_PROPERTY(mivo::app::OpenScreensRecord* screens READ screens CONSTANT)
-  Q_PROPERTY(mivo::app::GoalWeightSheetRecord* goalSheet READ goalSheet CONSTANT)
-  Q_PROPERTY(mivo::app::FeedbackSheetRecord* feedback READ feedback CONSTANT)
-  Q_PROPERTY(mivo::app::MessageRecord* message READ message CONSTANT)
+  Q_PROPERTY(mivo::app::OpenScreensRecord* screens MEMBER screens CONSTANT)
+  Q_PROPERTY(mivo::app::GoalWeightSheetRecord* goalSheet MEMBER goalSheet CONSTANT)
+  Q_PROPERTY(mivo::app::FeedbackSheetRecord* feedback MEMBER feedback CONSTANT)
+  Q_PROPERTY(mivo::app::MessageRecord* message MEMBER message CONSTANT)
   /// Whether anybody can see the window; while nobody can, only the minute's update is done.
   Q_PROPERTY(bool watched READ isWatched NOTIFY watchedChanged)
 
@@ -93,28 +94,7 @@ class AppModel : public QObject {
   explicit AppModel(AppServices services);
   static AppModel* create(QQmlEngine*, QJSEngine*);
 
-  ScreenModel* screen() { return &cards; }
-  DayBarsModel* fastingChart() { return &fastingBars; }
-  DayBarsModel* eatingChart() { return &eatingBars; }
-  LineChartModel* weightChart() { return &weightLine; }
-  LineChartModel* weightFastingChart() { return &pairLine; }
-  AddWeightModel* addWeight() { return &weightEntry; }
-  WeightsModel* weights() { return &allWeights; }
-  FastingModel* fasting() { return &runningFast; }
-  BadgesPageRecord* badges() { return &badgeSummary; }
-  DonationsModel* donations() { return &donationSheet; }
-  RepairModel* repair() { return &overlapRepair; }
-  SettingsModel* settings() { return &chosenSettings; }
-  ImportModel* importing() { return &importSheet; }
-  SeveralFastsModel* severalFasts() { return &severalFastsSheet; }
-  ExportModel* exporting() { return &exportSheet; }
-  HealthModel* health() { return &healthSheet; }
-  BackupsModel* backups() { return &allBackups; }
   RoadmapModel* roadmap() { return features.get(); }
-  GoalWeightSheetRecord* goalSheet() { return &goalWeight; }
-  FeedbackSheetRecord* feedback() { return &feedbackTexts; }
-  MessageRecord* message() { return &said; }
-  OpenScreensRecord* screens() { return &openScreens; }
   /// One sentence about what failed; empty where nothing did.
   QString failure() const;
 
@@ -169,34 +149,38 @@ class AppModel : public QObject {
   AppServices services;
   const Dependencies& dependencies;
   const TextLookup& texts;
-  std::function<PageClients()> clients;  // of the present
+  const AppLink link;
   std::int64_t seenVersion = 0;
   Store<host::AppFeature> store;
   std::vector<Stamp> seen;
-  ScreenModel cards;
-  DayBarsModel fastingBars, eatingBars;
-  LineChartModel weightLine, pairLine;
-  AddWeightModel weightEntry;
-  WeightsModel allWeights;
-  FastingModel runningFast;
-  BadgesPageRecord badgeSummary;
-  DonationsModel donationSheet;
-  RepairModel overlapRepair;
-  SettingsModel chosenSettings;
-  ImportModel importSheet;
-  SeveralFastsModel severalFastsSheet;
-  ExportModel exportSheet;
-  HealthModel healthSheet;
-  BackupsModel allBackups;
-  GoalWeightSheetRecord goalWeight;
-  FeedbackSheetRecord feedbackTexts;
-  MessageRecord said;
   std::unique_ptr<RoadmapModel> features;
   std::optional<host::Screen> opened;  // as the window was told last
-  OpenScreensRecord openScreens;
   bool watched = true;
   QTimer nextMinute, watch;
   Subscription following;
+
+ public:
+  ScreenModel* const screen = new ScreenModel{this};
+  DayBarsModel* const fastingChart;
+  DayBarsModel* const eatingChart;
+  LineChartModel* const weightChart;
+  LineChartModel* const weightFastingChart;
+  AddWeightModel* const addWeight;
+  WeightsModel* const weights;
+  FastingModel* const fasting;
+  BadgesPageRecord* const badges = new BadgesPageRecord{this};
+  DonationsModel* const donations;
+  RepairModel* const repair;
+  SettingsModel* const settings;
+  ImportModel* const importing;
+  SeveralFastsModel* const severalFasts;
+  ExportModel* const exporting;
+  HealthModel* const health;
+  BackupsModel* const backups;
+  OpenScreensRecord* const screens = new OpenScreensRecord{this};
+  GoalWeightSheetRecord* const goalSheet = new GoalWeightSheetRecord{this};
+  FeedbackSheetRecord* const feedback = new FeedbackSheetRecord{this};
+  MessageRecord* const message = new MessageRecord{this};
 };
 
 }  // namespace mivo::app

@@ -13,13 +13,14 @@ std::string pathOf(const QUrl& file) {
   return (file.isLocalFile() ? file.toLocalFile() : file.toString()).toStdString();
 }
 
+AppAction toImport(host::ImportFeature::Action action) {
+  return AppAction::importing{PresentationAction<host::ImportFeature::Action>::presented{std::move(action)}};
+}
+
 }  // namespace
 
-ImportModel::ImportModel(std::function<PageClients()> present, std::function<void(Action)> sends)
-    : clients{std::move(present)}, send{std::move(sends)} {}
-
 void ImportModel::follow(const host::AppFeature::State& state) {
-  host::ImportSheet now = composeImportSheet(state, clients());
+  host::ImportSheet now = composeImportSheet(state, app.clients());
   if (state.importing && !*state.importing->isTyped) {
     last = std::move(now);
   } else {
@@ -32,35 +33,24 @@ void ImportModel::follow(const host::AppFeature::State& state) {
 void ImportModel::choose(const QList<QUrl>& chosen) {
   std::vector<std::string> paths;
   for (const QUrl& file : chosen) paths.push_back(pathOf(file));
-  send(Action::didChooseFiles{std::move(paths)});
+  app.send(AppAction::didChooseFiles{std::move(paths)});
 }
 
 void ImportModel::answer(int place) {
-  sendImport(host::ImportFeature::Action::didAnswer{static_cast<std::size_t>(place)});
+  app.send(toImport(host::ImportFeature::Action::didAnswer{static_cast<std::size_t>(place)}));
 }
 
-void ImportModel::confirm() { sendImport(host::ImportFeature::Action::didTapImport{}); }
-
-void ImportModel::sendImport(host::ImportFeature::Action action) {
-  using Shown = PresentationAction<host::ImportFeature::Action>;
-  send(Action::importing{Shown::presented{std::move(action)}});
-}
+void ImportModel::confirm() { app.send(toImport(host::ImportFeature::Action::didTapImport{})); }
 
 void SeveralFastsModel::follow(const host::AppFeature::State& state) {
-  if (openScreen(state) == host::Screen::severalFasts) show(composeSeveralFastsSheet(*state.importing, clients()));
+  if (openScreen(state) == host::Screen::severalFasts) show(composeSeveralFastsSheet(*state.importing, app.clients()));
 }
 
-void SeveralFastsModel::add() {
-  using Shown = PresentationAction<host::ImportFeature::Action>;
-  send(Action::importing{Shown::presented{host::ImportFeature::Action::didTapImport{}}});
-}
-
-ExportModel::ExportModel(std::function<PageClients()> present, std::function<void(Action)> sends)
-    : clients{std::move(present)}, send{std::move(sends)} {}
+void SeveralFastsModel::add() { app.send(toImport(host::ImportFeature::Action::didTapImport{})); }
 
 void ExportModel::follow(const host::AppFeature::State& state) {
   if (openScreen(state) == host::Screen::exporting || title.isEmpty())
-    show(host::composeExportSheet(state.printsWeights, clients()));
+    show(host::composeExportSheet(state.printsWeights, app.clients()));
 }
 
 QUrl ExportModel::proposal(const QString& fileName) const {
@@ -69,37 +59,36 @@ QUrl ExportModel::proposal(const QString& fileName) const {
 }
 
 void ExportModel::write(int row, const QUrl& file) {
-  send(Action::didExport{host::exportedPartAt(static_cast<std::size_t>(row)), pathOf(file)});
+  app.send(AppAction::didExport{host::exportedPartAt(static_cast<std::size_t>(row)), pathOf(file)});
 }
 
-void HealthModel::follow(const host::AppFeature::State& state) { show(composeHealthSheet(state.health, texts)); }
+void HealthModel::follow(const host::AppFeature::State& state) {
+  show(composeHealthSheet(state.health, app.clients().texts));
+}
 
-void HealthModel::link(const QUrl& file) { send(Action::health{host::HealthFeature::Action::didLink{pathOf(file)}}); }
+void HealthModel::link(const QUrl& file) {
+  app.send(AppAction::health{host::HealthFeature::Action::didLink{pathOf(file)}});
+}
 
-void HealthModel::unlink() { send(Action::health{host::HealthFeature::Action::didUnlink{}}); }
-
-BackupsModel::BackupsModel(std::function<PageClients()> present, std::function<void(Action)> sends)
-    : clients{std::move(present)}, send{std::move(sends)} {}
+void HealthModel::unlink() { app.send(AppAction::health{host::HealthFeature::Action::didUnlink{}}); }
 
 void BackupsModel::follow(const host::AppFeature::State& state) {
-  show(composeBackupsPage(state.backups, clients()));
-  if (*state.backups.chosen) restoreSheet.show(composeRestoreSheet(state, clients()));
+  show(composeBackupsPage(state.backups, app.clients()));
+  if (*state.backups.chosen) chosen->show(composeRestoreSheet(state, app.clients()));
 }
 
-void BackupsModel::backUp() { sendBackups(host::BackupsFeature::Action::didTapBackUp{}); }
+void BackupsModel::backUp() { app.send(AppAction::backups{host::BackupsFeature::Action::didTapBackUp{}}); }
 
 void BackupsModel::choose(int row) {
-  sendBackups(host::BackupsFeature::Action::didChoose{static_cast<std::size_t>(row)});
+  app.send(AppAction::backups{host::BackupsFeature::Action::didChoose{static_cast<std::size_t>(row)}});
 }
 
-void BackupsModel::restore() { sendBackups(host::BackupsFeature::Action::didTapRestore{}); }
+void BackupsModel::restore() { app.send(AppAction::backups{host::BackupsFeature::Action::didTapRestore{}}); }
 
 void BackupsModel::chooseFolder(const QUrl& chosenFolder) {
-  sendBackups(host::BackupsFeature::Action::didChooseFolder{pathOf(chosenFolder)});
+  app.send(AppAction::backups{host::BackupsFeature::Action::didChooseFolder{pathOf(chosenFolder)}});
 }
 
-void BackupsModel::useUsualFolder() { sendBackups(host::BackupsFeature::Action::didChooseFolder{}); }
-
-void BackupsModel::sendBackups(host::BackupsFeature::Action action) { send(Action::backups{std::move(action)}); }
+void BackupsModel::useUsualFolder() { app.send(AppAction::backups{host::BackupsFeature::Action::didChooseFolder{}}); }
 
 }  // namespace mivo::app

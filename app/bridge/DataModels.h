@@ -5,11 +5,10 @@
 #include <QtCore/QList>
 #include <QtCore/QUrl>
 
-#include <functional>
 #include <utility>
 
+#include "app/bridge/AppLink.h"
 #include "app/records/Records.h"
-#include "host/app/AppFeature.h"
 
 namespace mivo::app {
 
@@ -20,8 +19,7 @@ class ImportModel : public mivo::app::ImportSheetRecord {
   QML_UNCREATABLE("the app has one")
 
  public:
-  using Action = host::AppFeature::Action;
-  ImportModel(std::function<PageClients()> clients, std::function<void(Action)> send);
+  ImportModel(AppLink to, QObject* parent) : mivo::app::ImportSheetRecord{parent}, app{std::move(to)} {}
 
   void follow(const host::AppFeature::State& state);
 
@@ -30,10 +28,7 @@ class ImportModel : public mivo::app::ImportSheetRecord {
   Q_INVOKABLE void confirm();
 
  private:
-  void sendImport(host::ImportFeature::Action action);
-
-  std::function<PageClients()> clients;
-  std::function<void(Action)> send;
+  AppLink app;
   host::ImportSheet last;
 };
 
@@ -44,18 +39,15 @@ class SeveralFastsModel : public mivo::app::SeveralFastsSheetRecord {
   QML_UNCREATABLE("the app has one")
 
  public:
-  using Action = host::AppFeature::Action;
-  SeveralFastsModel(std::function<PageClients()> present, std::function<void(Action)> sends)
-      : clients{std::move(present)}, send{std::move(sends)} {}
+  SeveralFastsModel(AppLink to, QObject* parent) : mivo::app::SeveralFastsSheetRecord{parent}, app{std::move(to)} {}
 
   void follow(const host::AppFeature::State& state);
 
-  Q_INVOKABLE void type(const QString& lines) { send(Action::didTypeFasts{lines.toStdString()}); }
+  Q_INVOKABLE void type(const QString& lines) { app.send(AppAction::didTypeFasts{lines.toStdString()}); }
   Q_INVOKABLE void add();
 
  private:
-  std::function<PageClients()> clients;
-  std::function<void(Action)> send;
+  AppLink app;
 };
 
 /// The `host::ExportSheet`.
@@ -65,8 +57,7 @@ class ExportModel : public mivo::app::ExportSheetRecord {
   QML_UNCREATABLE("the app has one")
 
  public:
-  using Action = host::AppFeature::Action;
-  ExportModel(std::function<PageClients()> clients, std::function<void(Action)> send);
+  ExportModel(AppLink to, QObject* parent) : mivo::app::ExportSheetRecord{parent}, app{std::move(to)} {}
 
   /// Composed for a day: its files are named after that.
   void follow(const host::AppFeature::State& state);
@@ -74,11 +65,10 @@ class ExportModel : public mivo::app::ExportSheetRecord {
   /// The file that is proposed for a row, among the user's documents.
   Q_INVOKABLE QUrl proposal(const QString& fileName) const;
   Q_INVOKABLE void write(int row, const QUrl& file);
-  Q_INVOKABLE void switchWeights() { send(Action::didSwitchPrintedWeights{}); }
+  Q_INVOKABLE void switchWeights() { app.send(AppAction::didSwitchPrintedWeights{}); }
 
  private:
-  std::function<PageClients()> clients;
-  std::function<void(Action)> send;
+  AppLink app;
 };
 
 /// The `host::HealthSheet`.
@@ -88,8 +78,7 @@ class HealthModel : public mivo::app::HealthSheetRecord {
   QML_UNCREATABLE("the app has one")
 
  public:
-  using Action = host::AppFeature::Action;
-  HealthModel(const TextLookup& lookup, std::function<void(Action)> sends) : texts{lookup}, send{std::move(sends)} {}
+  HealthModel(AppLink to, QObject* parent) : mivo::app::HealthSheetRecord{parent}, app{std::move(to)} {}
 
   void follow(const host::AppFeature::State& state);
 
@@ -102,8 +91,7 @@ class HealthModel : public mivo::app::HealthSheetRecord {
   void fileWanted();
 
  private:
-  const TextLookup& texts;
-  std::function<void(Action)> send;
+  AppLink app;
 };
 
 /// A `host::BackupsPage`, and the sheet of the backup that was chosen, as it was last once none is.
@@ -111,14 +99,12 @@ class BackupsModel : public mivo::app::BackupsPageRecord {
   Q_OBJECT
   QML_ELEMENT
   QML_UNCREATABLE("the app has one")
-  Q_PROPERTY(mivo::app::RestoreSheetRecord* chosen READ chosen CONSTANT)
+  Q_PROPERTY(mivo::app::RestoreSheetRecord* chosen MEMBER chosen CONSTANT)
 
  public:
-  using Action = host::AppFeature::Action;
-  BackupsModel(std::function<PageClients()> clients, std::function<void(Action)> send);
+  BackupsModel(AppLink to, QObject* parent) : mivo::app::BackupsPageRecord{parent}, app{std::move(to)} {}
 
   void follow(const host::AppFeature::State& state);
-  RestoreSheetRecord* chosen() { return &restoreSheet; }
 
   Q_INVOKABLE void backUp();
   Q_INVOKABLE void choose(int row);
@@ -127,11 +113,8 @@ class BackupsModel : public mivo::app::BackupsPageRecord {
   Q_INVOKABLE void useUsualFolder();
 
  private:
-  void sendBackups(host::BackupsFeature::Action action);
-
-  std::function<PageClients()> clients;
-  std::function<void(Action)> send;
-  RestoreSheetRecord restoreSheet;
+  AppLink app;
+  RestoreSheetRecord* const chosen = new RestoreSheetRecord{this};
 };
 
 }  // namespace mivo::app

@@ -5,8 +5,9 @@
 
 namespace mivo::app {
 
-DayBarsModel::DayBarsModel(State initial, drawing::DayBarsClients words, std::function<void(Action)> send)
-    : held{std::move(initial)}, clients{words}, sendAction{std::move(send)} {}
+DayBarsModel::DayBarsModel(State initial, drawing::DayBarsClients words, std::function<void(Action)> send,
+                           QObject* parent)
+    : mivo::app::ChartTable{parent}, held{std::move(initial)}, clients{words}, sendAction{std::move(send)} {}
 
 void DayBarsModel::follow(const State& newer) {
   const bool hasOtherUnit = !(held.chartTimeUnit == newer.chartTimeUnit);

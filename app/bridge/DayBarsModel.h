@@ -30,7 +30,7 @@ class DayBarsModel : public mivo::app::ChartTable {
   using State = ScrollChartFeature::State;
   using Action = ScrollChartFeature::Action;
 
-  DayBarsModel(State initial, drawing::DayBarsClients clients, std::function<void(Action)> send);
+  DayBarsModel(State initial, drawing::DayBarsClients clients, std::function<void(Action)> send, QObject* parent);
 
   const State& state() const { return held; }
   QString visibleDates() const { return dates; }

@@ -18,7 +18,8 @@ class DonationsModel : public mivo::app::DonationsPageRecord {
 
  public:
   using Action = DonationsFeature::Action;
-  explicit DonationsModel(std::function<void(Action)> sends) : send{std::move(sends)} {}
+  DonationsModel(std::function<void(Action)> sends, QObject* parent)
+      : mivo::app::DonationsPageRecord{parent}, send{std::move(sends)} {}
 
   Q_INVOKABLE void choose(const QString& id) { send(Action::didChooseProduct{id.toStdString()}); }
   Q_INVOKABLE void tapButton() { send(Action::didTapButton{}); }

@@ -3,12 +3,12 @@
 
 #include <QtQml/qqmlregistration.h>
 
-#include <functional>
 #include <optional>
+#include <utility>
 #include <vector>
 
+#include "app/bridge/AppLink.h"
 #include "app/records/Records.h"
-#include "host/app/AppFeature.h"
 
 namespace mivo::app {
 
@@ -19,23 +19,21 @@ class FastDraftModel : public mivo::app::FastSheetRecord {
   QML_UNCREATABLE("the app has one")
 
  public:
-  using Action = host::AppFeature::Action;
-  FastDraftModel(std::function<PageClients()> clients, std::function<void(Action)> send);
+  FastDraftModel(AppLink to, QObject* parent) : mivo::app::FastSheetRecord{parent}, app{std::move(to)} {}
 
   void follow(const host::AppFeature::State& state);
   /// Every text may read differently, though nothing was changed.
   void retell();
 
-  Q_INVOKABLE void setStart(double instant) { send(Action::didChangeDraftStart{dateSince1970(instant)}); }
-  Q_INVOKABLE void setEnd(double instant) { send(Action::didChangeDraftEnd{dateSince1970(instant)}); }
+  Q_INVOKABLE void setStart(double instant) { app.send(AppAction::didChangeDraftStart{dateSince1970(instant)}); }
+  Q_INVOKABLE void setEnd(double instant) { app.send(AppAction::didChangeDraftEnd{dateSince1970(instant)}); }
   Q_INVOKABLE void setGoal(double seconds);
-  Q_INVOKABLE void setNote(const QString& text) { send(Action::didChangeDraftNote{text.toStdString()}); }
-  Q_INVOKABLE void save() { send(Action::didTapSaveDraft{}); }
+  Q_INVOKABLE void setNote(const QString& text) { app.send(AppAction::didChangeDraftNote{text.toStdString()}); }
+  Q_INVOKABLE void save() { app.send(AppAction::didTapSaveDraft{}); }
   Q_INVOKABLE void remove();
 
  private:
-  std::function<PageClients()> clients;
-  std::function<void(Action)> send;
+  AppLink app;
   std::optional<host::FastDraft> draft;
   List<host::FastRecord> fasts;
   std::vector<Stamp> seen;

@@ -5,11 +5,11 @@
 
 namespace mivo::app {
 
-FastHistoryModel::FastHistoryModel(std::function<PageClients()> present, std::function<void(Action)> sends)
-    : clients{std::move(present)},
-      send{std::move(sends)},
+FastHistoryModel::FastHistoryModel(AppLink to, QObject* parent)
+    : mivo::app::HistoryPageRecord{parent},
+      app{std::move(to)},
       rows{new SeenRows{
-          rolesOf<host::HistoryRow>(), clients,
+          rolesOf<host::HistoryRow>(), app.clients,
           [this](std::size_t row, const PageClients& now) { return valuesOf(composeHistoryRow(facts, row, now)); },
           this}} {}
 
@@ -18,7 +18,7 @@ void FastHistoryModel::follow(const host::AppFeature::State& state) {
   if (std::exchange(seen, read) == read) return;
   take(host::historyFacts(state.fasts, state.now));
   rows->retellOnAnotherDay();
-  show(composeHistoryPage(facts, clients()));
+  show(composeHistoryPage(facts, app.clients()));
 }
 
 void FastHistoryModel::take(host::HistoryFacts next) {
@@ -29,17 +29,18 @@ void FastHistoryModel::take(host::HistoryFacts next) {
 
 void FastHistoryModel::edit(int row) {
   if (const auto* record = recordOf(facts, static_cast<std::size_t>(row)))
-    send(Action::didTapEditFast{record->fast.id});
+    app.send(AppAction::didTapEditFast{record->fast.id});
 }
 
 void FastHistoryModel::remove(int row) {
-  if (const auto* record = recordOf(facts, static_cast<std::size_t>(row))) send(Action::didDeleteFast{record->fast.id});
+  if (const auto* record = recordOf(facts, static_cast<std::size_t>(row)))
+    app.send(AppAction::didDeleteFast{record->fast.id});
 }
 
-void FastHistoryModel::lookUpMonths() { app::show(composeHistoryMonths(facts, clients()), *months); }
+void FastHistoryModel::lookUpMonths() { app::show(composeHistoryMonths(facts, app.clients()), *months); }
 
 QString FastHistoryModel::spokenText(int row) const {
-  return qString(historySpoken(facts, static_cast<std::size_t>(row), clients()));
+  return qString(historySpoken(facts, static_cast<std::size_t>(row), app.clients()));
 }
 
 }  // namespace mivo::app

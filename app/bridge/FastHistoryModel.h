@@ -3,12 +3,11 @@
 
 #include <QtQml/qqmlregistration.h>
 
-#include <functional>
 #include <vector>
 
+#include "app/bridge/AppLink.h"
 #include "app/bridge/SeenRows.h"
 #include "app/records/Records.h"
-#include "host/app/AppFeature.h"
 
 namespace mivo::app {
 
@@ -24,8 +23,7 @@ class FastHistoryModel : public mivo::app::HistoryPageRecord {
   Q_PROPERTY(int menuRow MEMBER menuRow)
 
  public:
-  using Action = host::AppFeature::Action;
-  FastHistoryModel(std::function<PageClients()> clients, std::function<void(Action)> send);
+  FastHistoryModel(AppLink to, QObject* parent);
 
   void follow(const host::AppFeature::State& state);
   void retell() { rows->retell(); }
@@ -40,8 +38,7 @@ class FastHistoryModel : public mivo::app::HistoryPageRecord {
  private:
   void take(host::HistoryFacts next);
 
-  std::function<PageClients()> clients;
-  std::function<void(Action)> send;
+  AppLink app;
   host::HistoryFacts facts;
   int menuRow = 0;
   std::vector<Stamp> seen;

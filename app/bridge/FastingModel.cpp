@@ -6,16 +6,19 @@
 
 namespace mivo::app {
 
-FastingModel::FastingModel(std::function<PageClients()> present, std::function<void(Action)> sends)
-    : clients{std::move(present)}, send{std::move(sends)}, ended{clients, send}, edited{clients, send} {
+FastingModel::FastingModel(AppLink to, QObject* parent)
+    : mivo::app::FastingPageRecord{parent},
+      app{std::move(to)},
+      history{new FastHistoryModel{app, this}},
+      draft{new FastDraftModel{app, this}} {
   timer.setSingleShot(true);
   timer.setTimerType(Qt::PreciseTimer);
   connect(&timer, &QTimer::timeout, this, &FastingModel::tick);
 }
 
 void FastingModel::follow(const host::AppFeature::State& state) {
-  ended.follow(state);
-  edited.follow(state);
+  history->follow(state);
+  draft->follow(state);
   std::vector<Stamp> read{state.fasts.stamp(), state.nextGoalSeconds.stamp(), state.now.stamp()};
   if (std::exchange(seen, read) == read) return;
   fasts = *state.fasts;
@@ -24,8 +27,8 @@ void FastingModel::follow(const host::AppFeature::State& state) {
 }
 
 void FastingModel::retell() {
-  ended.retell();
-  edited.retell();
+  history->retell();
+  draft->retell();
   tick();
 }
 
@@ -36,25 +39,25 @@ void FastingModel::setWatched(bool isNow) {
 }
 
 void FastingModel::tick() {
-  const auto present = clients();
+  const auto present = app.clients();
   show(composeFastingPage(facts, present));
   timer.stop();
   if (const auto seconds = untilNextTick(facts, watched, present.now))
     timer.start(static_cast<int>(std::ceil(*seconds * 1000)) + 1);
 }
 
-void FastingModel::start() { send(Action::didTapStart{clients().now, facts.nextGoalSeconds}); }
+void FastingModel::start() { app.send(AppAction::didTapStart{app.clients().now, facts.nextGoalSeconds}); }
 
-void FastingModel::press() { isRunning ? send(Action::didTapStop{clients().now}) : start(); }
+void FastingModel::press() { isRunning ? app.send(AppAction::didTapStop{app.clients().now}) : start(); }
 
 QString FastingModel::startProblem(double instant) const {
-  return qString(host::startProblem(fasts, dateSince1970(instant), clients()));
+  return qString(host::startProblem(fasts, dateSince1970(instant), app.clients()));
 }
 
-void FastingModel::changeStart(double instant) { send(Action::didChangeStart{dateSince1970(instant)}); }
+void FastingModel::changeStart(double instant) { app.send(AppAction::didChangeStart{dateSince1970(instant)}); }
 
 void FastingModel::changeGoal(double seconds) {
-  send(Action::didChangeGoal{static_cast<std::int64_t>(std::llround(seconds))});
+  app.send(AppAction::didChangeGoal{static_cast<std::int64_t>(std::llround(seconds))});
 }
 
 }  // namespace mivo::app

@@ -4,15 +4,14 @@
 #include <QtQml/qqmlregistration.h>
 #include <QtCore/QTimer>
 
-#include <functional>
 #include <vector>
 
+#include "app/bridge/AppLink.h"
 #include "app/bridge/DateTimeChoiceModel.h"
 #include "app/bridge/FastDraftModel.h"
 #include "app/bridge/FastHistoryModel.h"
 #include "app/bridge/GoalChoiceModel.h"
 #include "app/records/Records.h"
-#include "host/app/AppFeature.h"
 
 namespace mivo::app {
 
@@ -24,20 +23,17 @@ class FastingModel : public mivo::app::FastingPageRecord {
   QML_UNCREATABLE("the app has one")
   /// Whether anybody sees the seconds; else only the minutes go on.
   Q_PROPERTY(bool watched MEMBER watched WRITE setWatched NOTIFY watchedChanged)
-  Q_PROPERTY(mivo::app::FastHistoryModel* history READ history CONSTANT)
-  Q_PROPERTY(mivo::app::FastDraftModel* draft READ draft CONSTANT)
+  Q_PROPERTY(mivo::app::FastHistoryModel* history MEMBER history CONSTANT)
+  Q_PROPERTY(mivo::app::FastDraftModel* draft MEMBER draft CONSTANT)
 
  public:
-  using Action = host::AppFeature::Action;
-  FastingModel(std::function<PageClients()> clients, std::function<void(Action)> send);
+  FastingModel(AppLink to, QObject* parent);
 
   void follow(const host::AppFeature::State& state);
   /// Every text may read differently, though no record was changed.
   void retell();
 
   void setWatched(bool isNow);
-  FastHistoryModel* history() { return &ended; }
-  FastDraftModel* draft() { return &edited; }
 
   Q_INVOKABLE void start();
   /// The button: starts a fast, or stops the one that runs.
@@ -48,8 +44,8 @@ class FastingModel : public mivo::app::FastingPageRecord {
   /// Of the running fast, and of those to come.
   Q_INVOKABLE void changeGoal(double seconds);
   /// For a sheet that has a goal or a date to choose, which owns them.
-  Q_INVOKABLE mivo::app::GoalChoiceModel* goalChoice() const { return new GoalChoiceModel{clients}; }
-  Q_INVOKABLE mivo::app::DateTimeChoiceModel* dateTimeChoice() const { return new DateTimeChoiceModel{clients}; }
+  Q_INVOKABLE mivo::app::GoalChoiceModel* goalChoice() const { return new GoalChoiceModel{app.clients}; }
+  Q_INVOKABLE mivo::app::DateTimeChoiceModel* dateTimeChoice() const { return new DateTimeChoiceModel{app.clients}; }
 
  Q_SIGNALS:
   void watchedChanged();
@@ -57,13 +53,12 @@ class FastingModel : public mivo::app::FastingPageRecord {
  private:
   void tick();
 
-  std::function<PageClients()> clients;
-  std::function<void(Action)> send;
+  AppLink app;
+  FastHistoryModel* const history;
+  FastDraftModel* const draft;
   List<host::FastRecord> fasts;
   host::FastingPageFacts facts;
   std::vector<Stamp> seen;
-  FastHistoryModel ended;
-  FastDraftModel edited;
   bool watched = false;
   QTimer timer;
 };

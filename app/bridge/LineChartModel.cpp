@@ -8,8 +8,9 @@
 
 namespace mivo::app {
 
-LineChartModel::LineChartModel(drawing::LineChart::Source empty, bool withHeader, std::function<PageClients()> clients)
-    : hasHeader{withHeader}, present{std::move(clients)}, now{present().now} {
+LineChartModel::LineChartModel(drawing::LineChart::Source empty, bool withHeader, std::function<PageClients()> clients,
+                               QObject* parent)
+    : mivo::app::ChartTable{parent}, hasHeader{withHeader}, present{std::move(clients)}, now{present().now} {
   become(empty, WeightUnit::kilograms);
 }
 

@@ -31,7 +31,8 @@ class LineChartModel final : public mivo::app::ChartTable {
 
  public:
   /// Without points, it says which chart it is.
-  LineChartModel(drawing::LineChart::Source empty, bool hasHeader, std::function<PageClients()> clients);
+  LineChartModel(drawing::LineChart::Source empty, bool hasHeader, std::function<PageClients()> clients,
+                 QObject* parent);
 
   /// Takes over what is other than before.
   void show(const drawing::LineChart::Source& source, WeightUnit unit, Date now);

@@ -6,8 +6,11 @@
 namespace mivo::app {
 
 RemindersModel::RemindersModel(std::function<PageClients()> present, Client<UserDefaults> userDefaults,
-                               std::function<void()> tells)
-    : clients{std::move(present)}, defaults{std::move(userDefaults)}, told{std::move(tells)} {}
+                               std::function<void()> tells, QObject* parent)
+    : mivo::app::RemindersPageRecord{parent},
+      clients{std::move(present)},
+      defaults{std::move(userDefaults)},
+      told{std::move(tells)} {}
 
 void RemindersModel::follow() {
   const host::ReminderSettings settings = host::reminderSettings(*defaults);

@@ -20,7 +20,8 @@ class RemindersModel : public mivo::app::RemindersPageRecord {
 
  public:
   /// `changed` is called once something was written.
-  RemindersModel(std::function<PageClients()> clients, Client<UserDefaults> defaults, std::function<void()> changed);
+  RemindersModel(std::function<PageClients()> clients, Client<UserDefaults> defaults, std::function<void()> changed,
+                 QObject* parent);
 
   /// Looks at the settings, which other programs may have changed.
   void follow();

@@ -3,11 +3,10 @@
 
 #include <QtQml/qqmlregistration.h>
 
-#include <functional>
-#include <optional>
+#include <utility>
 
+#include "app/bridge/AppLink.h"
 #include "app/records/Records.h"
-#include "host/app/AppFeature.h"
 
 namespace mivo::app {
 
@@ -18,17 +17,16 @@ class RepairModel : public mivo::app::RepairSheetRecord {
   QML_UNCREATABLE("the app has one")
 
  public:
-  using Action = host::AppFeature::Action;
-  RepairModel(std::function<PageClients()> clients, std::function<void(Action)> send);
+  RepairModel(AppLink to, QObject* parent) : mivo::app::RepairSheetRecord{parent}, app{std::move(to)} {}
 
-  void follow(const std::optional<host::HistoryChange>& proposal);
+  void follow(const host::AppFeature::State& state) {
+    if (*state.overlapRepair) show(composeRepairSheet(**state.overlapRepair, app.clients()));
+  }
 
-  Q_INVOKABLE void confirm() { send(Action::didConfirmOverlapRepair{}); }
+  Q_INVOKABLE void confirm() { app.send(AppAction::didConfirmOverlapRepair{}); }
 
  private:
-  std::function<PageClients()> clients;
-  std::function<void(Action)> send;
-  std::optional<host::HistoryChange> change;
+  AppLink app;
 };
 
 }  // namespace mivo::app

@@ -23,6 +23,8 @@ class ScreenModel : public QAbstractListModel {
   Q_PROPERTY(mivo::app::TimeRangeCardRecord* timeRange READ timeRange NOTIFY cardsChanged)
 
  public:
+  using QAbstractListModel::QAbstractListModel;
+
   enum Role { KindRole = Qt::UserRole, CardRole };
 
   int rowCount(const QModelIndex& parent = {}) const override;

@@ -42,24 +42,26 @@ void CardSettingsModel::changeLongestBreak(int hours) {
 }
 
 SettingsModel::SettingsModel(std::function<PageClients()> present, const Dependencies& all,
-                             std::shared_ptr<host::WeekCalendar> week, Appearance& looks, const host::AboutFacts& about,
-                             std::function<void()> tells, std::function<void()> tellsReminders)
-    : clients{std::move(present)},
+                             std::shared_ptr<host::WeekCalendar> week, Appearance& looks,
+                             const host::AboutFacts& aboutFacts, std::function<void()> tells,
+                             std::function<void()> tellsReminders, QObject* parent)
+    : mivo::app::SettingsPageRecord{parent},
+      clients{std::move(present)},
       defaults{all.userDefaults},
       calendar{std::move(week)},
       look{looks},
       told{std::move(tells)},
-      shownCards{all.appGroupUserDefaults, told},
-      shownReminders{clients, all.userDefaults, std::move(tellsReminders)} {
-  aboutPage.show(host::composeAbout(about, {{std::string{"Qt "} + qVersion(), "LGPL-3.0"}}, clients().texts));
+      cards{new CardSettingsModel{all.appGroupUserDefaults, told, this}},
+      reminders{new RemindersModel{clients, all.userDefaults, std::move(tellsReminders), this}} {
+  about->show(host::composeAbout(aboutFacts, {{std::string{"Qt "} + qVersion(), "LGPL-3.0"}}, clients().texts));
   facts.usualWeekday = calendar->usualFirstWeekday();
-  facts.version = about.version;
+  facts.version = aboutFacts.version;
   connect(&look, &Appearance::changed, this, &SettingsModel::compose);
 }
 
 void SettingsModel::follow(const host::AppFeature::State& state) {
-  shownCards.follow(state.statistics, clients());
-  shownReminders.follow();
+  cards->follow(state.statistics, clients());
+  reminders->follow();
   facts.weightUnit = state.statistics.goalWeightCardState.weightUnit;
   facts.linkedHealth = linkedFileText(state.health, clients().texts);
   facts.newestBackup = newestBackupText(state.backups, clients());

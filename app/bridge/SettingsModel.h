@@ -24,8 +24,8 @@ class CardSettingsModel : public mivo::app::CardSettingsPageRecord {
 
  public:
   /// `changed` is called once something was written to the user's defaults, of which the app's extensions see `shared`.
-  CardSettingsModel(Client<UserDefaults> sharedDefaults, std::function<void()> changed)
-      : shared{std::move(sharedDefaults)}, told{std::move(changed)} {}
+  CardSettingsModel(Client<UserDefaults> sharedDefaults, std::function<void()> changed, QObject* parent)
+      : mivo::app::CardSettingsPageRecord{parent}, shared{std::move(sharedDefaults)}, told{std::move(changed)} {}
 
   void follow(const StatisticsFeature::State& state, const PageClients& clients);
 
@@ -52,22 +52,18 @@ class SettingsModel : public mivo::app::SettingsPageRecord {
   Q_OBJECT
   QML_ELEMENT
   QML_UNCREATABLE("the app has one")
-  Q_PROPERTY(mivo::app::CardSettingsModel* cards READ cards CONSTANT)
-  Q_PROPERTY(mivo::app::RemindersModel* reminders READ reminders CONSTANT)
-  Q_PROPERTY(mivo::app::AboutPageRecord* about READ about CONSTANT)
+  Q_PROPERTY(mivo::app::CardSettingsModel* cards MEMBER cards CONSTANT)
+  Q_PROPERTY(mivo::app::RemindersModel* reminders MEMBER reminders CONSTANT)
+  Q_PROPERTY(mivo::app::AboutPageRecord* about MEMBER about CONSTANT)
 
  public:
   /// `changed` is called once something was written that the statistics read, `remindersChanged` once something was of
   /// what the user wants to be told of.
   SettingsModel(std::function<PageClients()> clients, const Dependencies& all,
-                std::shared_ptr<host::WeekCalendar> calendar, Appearance& look, const host::AboutFacts& about,
-                std::function<void()> changed, std::function<void()> remindersChanged);
+                std::shared_ptr<host::WeekCalendar> calendar, Appearance& look, const host::AboutFacts& facts,
+                std::function<void()> changed, std::function<void()> remindersChanged, QObject* parent);
 
   void follow(const host::AppFeature::State& state);
-
-  CardSettingsModel* cards() { return &shownCards; }
-  RemindersModel* reminders() { return &shownReminders; }
-  AboutPageRecord* about() { return &aboutPage; }
 
   Q_INVOKABLE void chooseGoal(double seconds);
   Q_INVOKABLE void chooseWeightUnit(int place);
@@ -93,9 +89,9 @@ class SettingsModel : public mivo::app::SettingsPageRecord {
   std::shared_ptr<host::WeekCalendar> calendar;
   Appearance& look;
   std::function<void()> told;
-  CardSettingsModel shownCards;
-  RemindersModel shownReminders;
-  AboutPageRecord aboutPage;
+  CardSettingsModel* const cards;
+  RemindersModel* const reminders;
+  AboutPageRecord* const about = new AboutPageRecord{this};
   host::SettingsFacts facts;
   std::optional<host::SettingsFacts> composed;
 };

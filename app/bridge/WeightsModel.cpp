@@ -8,11 +8,12 @@ namespace mivo::app {
 
 using Edit = PresentationAction<AddWeightLogFeature::Action>;
 
-WeightsModel::WeightsModel(std::function<PageClients()> present, std::function<void(Action)> sends)
-    : clients{std::move(present)},
-      send{std::move(sends)},
-      form{[this](AddWeightModel::Action action) { sendEdited(Edit::presented{std::move(action)}); }},
-      rows{new SeenRows{rolesOf<host::WeightRow>(), clients,
+WeightsModel::WeightsModel(AppLink to, QObject* parent)
+    : mivo::app::WeightsPageRecord{parent},
+      app{std::move(to)},
+      entry{new AddWeightModel{
+          [this](AddWeightModel::Action action) { sendEdited(Edit::presented{std::move(action)}); }, this}},
+      rows{new SeenRows{rolesOf<host::WeightRow>(), app.clients,
                         [this](std::size_t row, const PageClients& now) {
                           return valuesOf(host::composeWeightRow(*host::weightOf(weights, row), unit, now));
                         },
@@ -21,7 +22,7 @@ WeightsModel::WeightsModel(std::function<PageClients()> present, std::function<v
 void WeightsModel::follow(const host::AppFeature::State& state) {
   take(state);
   const auto& present = state.editedWeight;
-  if (present) form.show(composeAddWeight(present->entry, clients()));
+  if (present) entry->show(composeAddWeight(present->entry, app.clients()));
   edited = present ? std::optional{present->before.id} : std::nullopt;
 }
 
@@ -37,31 +38,31 @@ void WeightsModel::take(const host::AppFeature::State& state) {
     retell();
   else
     rows->retellOnAnotherDay();
-  show(host::composeWeightsPage(weights, clients().texts));
+  show(host::composeWeightsPage(weights, app.clients().texts));
 }
 
 void WeightsModel::edit(int row) {
-  if (const auto* sample = sampleOf(row)) send(Action::didTapEditWeight{sample->id});
+  if (const auto* sample = sampleOf(row)) app.send(AppAction::didTapEditWeight{sample->id});
 }
 
 void WeightsModel::remove(int row) {
-  if (const auto* sample = sampleOf(row)) send(Action::didDeleteWeight{sample->id});
+  if (const auto* sample = sampleOf(row)) app.send(AppAction::didDeleteWeight{sample->id});
 }
 
 void WeightsModel::removeEdited() {
   if (!edited) return;
   const UUID id = *edited;
   sendEdited(Edit::dismiss{});
-  send(Action::didDeleteWeight{id});
+  app.send(AppAction::didDeleteWeight{id});
 }
 
 // A sheet that closes may still be touched.
 void WeightsModel::sendEdited(Edit action) {
-  if (edited) send(Action::editedWeight{std::move(action)});
+  if (edited) app.send(AppAction::editedWeight{std::move(action)});
 }
 
 QString WeightsModel::spokenText(int row) const {
-  return qString(host::weightsSpoken(weights, static_cast<std::size_t>(row), unit, clients()));
+  return qString(host::weightsSpoken(weights, static_cast<std::size_t>(row), unit, app.clients()));
 }
 
 }  // namespace mivo::app

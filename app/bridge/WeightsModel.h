@@ -3,14 +3,13 @@
 
 #include <QtQml/qqmlregistration.h>
 
-#include <functional>
 #include <optional>
 #include <vector>
 
 #include "app/bridge/AddWeightModel.h"
+#include "app/bridge/AppLink.h"
 #include "app/bridge/SeenRows.h"
 #include "app/records/Records.h"
-#include "host/app/AppFeature.h"
 
 namespace mivo::app {
 
@@ -23,15 +22,13 @@ class WeightsModel : public mivo::app::WeightsPageRecord {
   /// The row whose menu is open.
   Q_PROPERTY(int menuRow MEMBER menuRow)
   /// The weight that is edited; once none is any more, as it was last.
-  Q_PROPERTY(mivo::app::AddWeightModel* entry READ entry CONSTANT)
+  Q_PROPERTY(mivo::app::AddWeightModel* entry MEMBER entry CONSTANT)
 
  public:
-  using Action = host::AppFeature::Action;
-  WeightsModel(std::function<PageClients()> clients, std::function<void(Action)> send);
+  WeightsModel(AppLink to, QObject* parent);
 
   void follow(const host::AppFeature::State& state);
   void retell() { rows->retell(); }
-  AddWeightModel* entry() { return &form; }
 
   Q_INVOKABLE void edit(int row);
   Q_INVOKABLE void remove(int row);
@@ -44,14 +41,13 @@ class WeightsModel : public mivo::app::WeightsPageRecord {
   void take(const host::AppFeature::State& state);
   void sendEdited(PresentationAction<AddWeightLogFeature::Action> action);
 
-  std::function<PageClients()> clients;
-  std::function<void(Action)> send;
+  AppLink app;
   List<BodyWeightSample> weights;
   WeightUnit unit = WeightUnit::kilograms;
   std::optional<UUID> edited;
-  AddWeightModel form;
   int menuRow = 0;
   std::vector<Stamp> seen;
+  AddWeightModel* const entry;
   SeenRows* const rows;
 };
 

@@ -237,7 +237,7 @@ constexpr std::array<BroughtFile, 3> broughtFiles{
 void drawImports(AppWindow& app, Gallery& gallery, const Language& language, const History& history,
                  const QDir& scratch) {
   QQuickWindow& window = *app.window();
-  ImportModel& sheet = *app.model().importing();
+  ImportModel& sheet = *app.model().importing;
   inEachLook(gallery.wanted, language, [&](const Size& size, const Look& shown) {
     app.appearance().setOverride({.mode = shown.mode, .textScale = shown.textScale, .still = true});
     for (const auto& [kind, fileName, content] : broughtFiles) {

@@ -57,7 +57,7 @@ int show(QGuiApplication& application, const Options& options) {
   AppWindow shown{*environment, options, *size};
   if (!shown.window()) return refused(atFault, "the window could not be made");
   if (options.picture.empty()) {
-    QObject::connect(shown.model().settings(), &SettingsModel::languageChosen, &application,
+    QObject::connect(shown.model().settings, &SettingsModel::languageChosen, &application,
                      [] { QGuiApplication::exit(startAnew); });
     const int status = application.exec();
     if (status == startAnew && environment->sampleFolder) environment->sampleFolder->bequeath();

@@ -99,7 +99,7 @@ void measureColumnScroll(DrivenApp& app) {
 
 // From a fast that is saved to the frame with the new figures; between them it is written to the disk.
 double record(DrivenApp& app, Date start) {
-  const auto* rows = app.model().fasting()->history()->property("rows").value<QAbstractItemModel*>();
+  const auto* rows = app.model().fasting->history->property("rows").value<QAbstractItemModel*>();
   int atChange = -1;
   const auto changed =
       QObject::connect(rows, &QAbstractItemModel::rowsInserted, &app.window(), [&] { atChange = app.framesShown(); });

@@ -119,6 +119,15 @@ auto AppFeature::on(State& state, const Action::recompute&) const -> Effect<Acti
   return {};
 }
 
+auto AppFeature::on(State& state, const Action::didChangeZone& changed) const -> Effect<Action> {
+  std::string name = changed.zone;
+  std::ranges::replace(name, '_', ' ');
+  recompute(state);
+  state.failure = filledIn(texts->text("Your time zone is now {1}. All times are shown in it; nothing was changed."),
+                           {std::move(name)});
+  return {};
+}
+
 auto AppFeature::on(State& state, const Action::didTapStart& tapped) const -> Effect<Action> {
   FastRecord begun{mivo::ongoingFast(uuid->next(), tapped.start, tapped.goalSeconds), {}};
   return writeOrSay(state, Step::start, addingFast(*state.fasts, std::move(begun), date->now()));

@@ -106,6 +106,12 @@ struct AppFeature {
     struct recompute {
       bool operator==(const recompute&) const = default;
     };
+    /// The system's clock shows another zone than before, whose name this is: every text of a date is another one, no
+    /// record is.
+    struct didChangeZone {
+      std::string zone;
+      bool operator==(const didChangeZone&) const = default;
+    };
     struct didTapStart {
       Date start;
       std::int64_t goalSeconds;
@@ -248,9 +254,9 @@ struct AppFeature {
   struct Action
       : Cases,
         std::variant<Cases::statistics, Cases::reload, Cases::didLoad, Cases::didFail, Cases::didChangeSettings,
-                     Cases::recompute, Cases::didOpen, Cases::didClose, Cases::didGoBack, Cases::didTapStart,
-                     Cases::didTapStop, Cases::didChangeStart, Cases::didChangeGoal, Cases::didTapEditFast,
-                     Cases::didTapAddFast, Cases::didChangeDraftStart, Cases::didChangeDraftEnd,
+                     Cases::recompute, Cases::didChangeZone, Cases::didOpen, Cases::didClose, Cases::didGoBack,
+                     Cases::didTapStart, Cases::didTapStop, Cases::didChangeStart, Cases::didChangeGoal,
+                     Cases::didTapEditFast, Cases::didTapAddFast, Cases::didChangeDraftStart, Cases::didChangeDraftEnd,
                      Cases::didChangeDraftGoal, Cases::didChangeDraftNote, Cases::didTapSaveDraft,
                      Cases::didDismissDraft, Cases::didDeleteFast, Cases::didTapEditWeight, Cases::editedWeight,
                      Cases::didDeleteWeight, Cases::didConfirmOverlapRepair, Cases::didCancelOverlapRepair,
@@ -284,6 +290,7 @@ struct AppFeature {
   Effect<Action> on(State& state, const Action::didFail& sent) const;
   Effect<Action> on(State& state, const Action::didChangeSettings& sent) const;
   Effect<Action> on(State& state, const Action::recompute& sent) const;
+  Effect<Action> on(State& state, const Action::didChangeZone& sent) const;
   Effect<Action> on(State& state, const Action::didOpen& sent) const;
   Effect<Action> on(State& state, const Action::didClose& sent) const;
   Effect<Action> on(State& state, const Action::didGoBack& sent) const;

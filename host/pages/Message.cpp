@@ -18,4 +18,8 @@ Message composeMessage(const AppFeature::State& state, const TextLookup& texts, 
           .seconds = secondsOfAnOffer};
 }
 
+std::string noMailProgramText(const TextLookup& texts) {
+  return texts.text("No mail program took your idea. It is on the clipboard now.");
+}
+
 }  // namespace mivo::host

@@ -29,4 +29,7 @@ void fields(Listed& record, Visit&& visit) {
 
 Message composeMessage(const AppFeature::State& state, const TextLookup& texts, const NumberFormatter& numbers);
 
+/// What is said where no mail program took the user's idea.
+std::string noMailProgramText(const TextLookup& texts);
+
 }  // namespace mivo::host

@@ -88,8 +88,8 @@ TEST(AppWindow, movesAllChartsToTheNewDayAtMidnight) {
   ShownApp shown{options, {390, 844}, clock};
   AppModel& app = shown.model();
   const auto heads = [&] {
-    return QStringList{app.fastingChart()->visibleDates(), app.eatingChart()->visibleDates(),
-                       app.weightChart()->visibleDates(), app.weightFastingChart()->visibleDates()}
+    return QStringList{app.fastingChart->visibleDates(), app.eatingChart->visibleDates(),
+                       app.weightChart->visibleDates(), app.weightFastingChart->visibleDates()}
         .join(QLatin1Char{','})
         .simplified()
         .toStdString();
@@ -98,11 +98,11 @@ TEST(AppWindow, movesAllChartsToTheNewDayAtMidnight) {
   settle(shown.window());
   const std::string before = "23 Feb – 1 Mar 2026", after = "24 Feb – 2 Mar 2026";
   EXPECT_EQ(heads(), before + "," + before + "," + before + "," + before);
-  const std::string average = app.weightChart()->average().toStdString();
+  const std::string average = app.weightChart->average().toStdString();
   clock->date = tests::utc("2026-03-01 23:00:10");
   app.send(AppModel::Action::recompute{});
   EXPECT_EQ(heads(), after + "," + after + "," + after + "," + after);
-  EXPECT_NE(app.weightChart()->average().toStdString(), average) << "without the weight of 23 February";
+  EXPECT_NE(app.weightChart->average().toStdString(), average) << "without the weight of 23 February";
 }
 
 /// Goes over midnight as soon as the statistics were computed for the day's last moment.
@@ -219,8 +219,8 @@ TEST(AppWindow, snapsItsBarsAndNamesThoseThatAreSeen) {
     const auto first = static_cast<std::size_t>(std::lround(bars->scroll() / (bars->plotWidth() / 7)));
     const auto dates = dependency(&Dependencies::dateIntervalFormatter)
                            ->string({data[first].dateInterval.start, data[first + 6].dateInterval.end});
-    EXPECT_EQ(shown.model().fastingChart()->visibleDates().toStdString(), dates) << name;
-    EXPECT_EQ(shown.model().eatingChart()->visibleDates().toStdString(), dates) << name;
+    EXPECT_EQ(shown.model().fastingChart->visibleDates().toStdString(), dates) << name;
+    EXPECT_EQ(shown.model().eatingChart->visibleDates().toStdString(), dates) << name;
   }
 }
 
@@ -317,7 +317,7 @@ TEST(AppWindow, fixesOverlapsOnConfirmationAndUndoesIt) {
   EXPECT_TRUE(*shown.statistics().stats.hasOverlappingFasts);
   shown.app.model().present("overlaps");
   settle(shown.window());
-  QQuickItem* fix = shown.button(shown.app.model().repair()->property("button").toString());
+  QQuickItem* fix = shown.button(shown.app.model().repair->property("button").toString());
   ASSERT_NE(fix, nullptr);
   shown.click(fix);
   EXPECT_TRUE(eventually([&] { return !*shown.statistics().stats.hasOverlappingFasts; }));

@@ -290,7 +290,7 @@ void Drive::fixOverlapsAndUndo() {
   const auto before = onDisk().fasts;
   for (const bool isKept : {false, true}) {
     click("Review and fix");
-    click(app->model().repair()->property("button").toString());
+    click(app->model().repair->property("button").toString());
     ASSERT_TRUE(eventually([&] { return !*app->statistics().stats.hasOverlappingFasts; }));
     settle(app->window());
     EXPECT_NE(onDisk().fasts, before);
@@ -388,15 +388,15 @@ TEST_F(Drive, goesOverMidnightAndAClockChange) {
   for (const auto& [now, before, after] : moments) {
     start(now);
     key("ctrl+2");
-    const QString dates = app->model().fastingChart()->visibleDates();
-    const QString weightDates = app->model().weightChart()->visibleDates();
+    const QString dates = app->model().fastingChart->visibleDates();
+    const QString weightDates = app->model().weightChart->visibleDates();
     EXPECT_TRUE(eventually([&] { return app->text(QString::fromLatin1(before)) != nullptr; })) << before;
     EXPECT_TRUE(QTest::qWaitFor([&] { return app->text(QString::fromLatin1(after)) != nullptr; }, 20000))
         << after << "; it is " << secondsSince1970(app->environment.dependencies->date->now()) << ", shown as of "
         << secondsSince1970(app->state().now);
     const bool isOtherDay = std::string_view{after} == "Today, 00:00";
-    EXPECT_EQ(app->model().fastingChart()->visibleDates() != dates, isOtherDay);
-    EXPECT_EQ(app->model().weightChart()->visibleDates() != weightDates, isOtherDay);
+    EXPECT_EQ(app->model().fastingChart->visibleDates() != dates, isOtherDay);
+    EXPECT_EQ(app->model().weightChart->visibleDates() != weightDates, isOtherDay);
   }
 }
 

@@ -141,7 +141,7 @@ TEST_F(Fasting, standsStillWhereAFastBeginsOrEnds) {
     const double before = place();
     for (const char* what : {"stops", "begins"}) {
       const bool wasRunning = app->state().runningFast() != nullptr;
-      app->model().fasting()->press();
+      app->model().fasting->press();
       ASSERT_TRUE(eventually([&] { return (app->state().runningFast() != nullptr) != wasRunning; }));
       settle(app->window());
       EXPECT_NEAR(place(), before, 0.5) << what << ", scrolled by " << scrolled;

@@ -49,7 +49,7 @@ void clickOnce(ShownApp& app, const QString& text) {
     if (!eventually([&] { return app.button(QStringLiteral("Stop fast")) != nullptr; })) std::abort();
     const UUID id = app.state().runningFast()->fast.id;
     const Date start = host::startOfMinute(app.state().runningFast()->fast.start - Duration{secondsPerHour});
-    app.model().fasting()->changeStart(secondsSince1970(start));
+    app.model().fasting->changeStart(secondsSince1970(start));
     if (!eventually([&] { return app.state().runningFast()->fast.start == start; })) std::abort();
     std::cout << "started " << text(id) << std::endl;
     clickOnce(app, QStringLiteral("Stop fast"));

@@ -83,7 +83,7 @@ TEST_F(Resize, keepsTheLatestInSight) {
         EXPECT_NEAR(bars->scroll(), bars->maxScroll(), 0.01) << rawValue(range) << ", " << width << " points wide";
       for (const LineChart* line : all<LineChart>())
         EXPECT_NEAR(line->scroll(), line->maxScroll(), 0.01) << rawValue(range) << ", " << width << " points wide";
-      for (const DayBarsModel* chart : {app->model().fastingChart(), app->model().eatingChart()}) {
+      for (const DayBarsModel* chart : {app->model().fastingChart, app->model().eatingChart}) {
         const auto& days = *chart->state().visibleDays;
         EXPECT_EQ(days.rbegin()->first, chart->state().data->elements().back().dateInterval.start);
         EXPECT_GE(days.size(), 5U) << "no column is blank";
@@ -102,13 +102,13 @@ TEST_F(Resize, keepsTheDatesThatAreLookedAt) {
     LineChart* line = all<LineChart>().front();
     layerOver(line)->setProperty("contentX", line->maxScroll() - 300);
     settle(app->window());
-    const auto lastBar = [&] { return app->model().eatingChart()->state().visibleDays->rbegin()->first; };
+    const auto lastBar = [&] { return app->model().eatingChart->state().visibleDays->rbegin()->first; };
     const Date bar = lastBar();
-    const QString dates = app->model().weightChart()->visibleDates();
+    const QString dates = app->model().weightChart->visibleDates();
     for (const int width : {1280, 950, 1598, 320, 700, 1920, 390}) {
       become(width);
       EXPECT_EQ(lastBar(), bar) << rawValue(range) << ", " << width << " points wide";
-      EXPECT_EQ(app->model().weightChart()->visibleDates(), dates) << rawValue(range) << ", " << width;
+      EXPECT_EQ(app->model().weightChart->visibleDates(), dates) << rawValue(range) << ", " << width;
     }
   }
 }

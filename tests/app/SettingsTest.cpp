@@ -164,7 +164,7 @@ TEST_F(Settings, changeTheUnitOfEveryWeight) {
   EXPECT_NE(app->text("lb"), nullptr) << "in the row";
   EXPECT_EQ(*app->statistics().goalWeightCardState.weightUnit, WeightUnit::pounds);
   EXPECT_EQ(*app->statistics().addWeightLogState.weightUnit, WeightUnit::pounds);
-  EXPECT_EQ(app->model().addWeight()->property("unit").toString(), "lb");
+  EXPECT_EQ(app->model().addWeight->property("unit").toString(), "lb");
 }
 
 TEST_F(Settings, beginTheWeeksOfChartsOnTheChosenDay) {
@@ -189,7 +189,7 @@ TEST_F(Settings, changeTheGoalOfFastsToCome) {
   click("20h");
   click("Save");
   EXPECT_NE(app->text("20h"), nullptr);
-  app->model().fasting()->start();
+  app->model().fasting->start();
   ASSERT_TRUE(eventually([&] { return app->state().runningFast() != nullptr; }));
   EXPECT_EQ(app->state().runningFast()->fast.goalSeconds, 20 * 3600);
   click("Goal");
@@ -291,7 +291,7 @@ TEST_F(Settings, chooseWhatToBeToldOf) {
 TEST_F(Settings, startTheAppAnewForAnotherLanguage) {
   show("settings");
   int starts = 0;
-  QObject::connect(app->model().settings(), &SettingsModel::languageChosen, [&] { ++starts; });
+  QObject::connect(app->model().settings, &SettingsModel::languageChosen, [&] { ++starts; });
   click("Language");
   click("System");
   EXPECT_EQ(starts, 0) << "it is that already";

@@ -25,7 +25,7 @@ class ShownApp {
   AppModel& model() { return app.model(); }
   const AppModel::State& state() { return model().state(); }
   /// A text of the fasting page, by the name of its field.
-  QString fasting(const char* field) { return model().fasting()->property(field).toString(); }
+  QString fasting(const char* field) { return model().fasting->property(field).toString(); }
   const StatisticsFeature::State& statistics() { return state().statistics; }
 
   void click(const QQuickItem* item, QPointF at);

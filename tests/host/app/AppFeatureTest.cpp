@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "host/app/Settings.h"
+#include "host/app/Stamps.h"
 #include "host/database/DatabaseHistory.h"
 #include "mivo/statistics/AddWeightForm.h"
 #include "tests/statistics/StatisticsWorld.h"
@@ -408,6 +409,30 @@ TEST_F(AppFeatureTest, recomputesForAnotherRangeAndKeepsTheSelection) {
 
   send(Action::statistics{Sent::binding{Write<&StatisticsFeature::State::timeRange>{TimeRange::year}}});
   EXPECT_EQ(state().statistics.stats.fastingChartState.chartTimeUnit, ChartTimeUnit::month);
+}
+
+TEST_F(AppFeatureTest, stampsWhatChangesAPageButNotWhereChartsStand) {
+  const auto isWrittenBy = [this](const Action& action) {
+    const auto before = stampsOf(state());
+    send(action);
+    return stampsOf(state()) != before;
+  };
+  using Chart = ScrollChartFeature::Action;
+  keep(fast(1, -40, -24));
+  const UUID bar = state().statistics.stats.fastingChartState.data->front().id;
+  EXPECT_FALSE(isWrittenBy(Action::statistics{Sent::fastingChartAction{Chart::didTapBar{bar}}}));
+  EXPECT_EQ(*state().statistics.stats.fastingChartState.selectedUUID, bar);
+  EXPECT_FALSE(isWrittenBy(Action::didOpen{Screen::fasting}));
+  EXPECT_TRUE(isWrittenBy(Action::didTapEditFast{{7, 1}}));
+  EXPECT_TRUE(isWrittenBy(Action::recompute{}));
+}
+
+TEST_F(AppFeatureTest, namesTheZoneThatTimesAreShownInNow) {
+  const auto fasts = state().fasts;
+  send(Action::didChangeZone{"America/Port_of_Spain"});
+  EXPECT_EQ(*state().failure,
+            "Your time zone is now America/Port of Spain. All times are shown in it; nothing was changed.");
+  EXPECT_EQ(state().fasts, fasts);
 }
 
 TEST_F(AppFeatureTest, remembersTheGoal) {

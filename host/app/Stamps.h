@@ -10,14 +10,14 @@
 #include "mivo/store/Observed.h"
 #include "mivo/store/Presentation.h"
 
-namespace mivo::app {
+namespace mivo::host {
 
 /// The stamps of everything in a state that can change a page: all observed fields but which screen is open, and where
 /// charts are scrolled to and what is selected in them, which change with every frame. Two equal lists mean that
 /// nothing was written in between.
 template <class State>
 void collectStamps(const State& state, std::vector<Stamp>& stamps) {
-  if constexpr (std::same_as<State, Observed<host::Screen>>) {
+  if constexpr (std::same_as<State, Observed<Screen>>) {
     return;
   } else if constexpr (isObserved<State>) {
     stamps.push_back(state.stamp());
@@ -41,4 +41,4 @@ std::vector<Stamp> stampsOf(const State& state) {
   return stamps;
 }
 
-}  // namespace mivo::app
+}  // namespace mivo::host

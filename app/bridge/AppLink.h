@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <functional>
+
+#include "host/app/AppFeature.h"
+#include "mivo/pages/PageClients.h"
+
+namespace mivo::app {
+
+using AppAction = host::AppFeature::Action;
+
+/// What the models of pages have of the app.
+struct AppLink {
+  std::function<PageClients()> clients;  ///< what a page is composed with just now
+  std::function<void(AppAction)> send;   ///< takes what the user does
+};
+
+}  // namespace mivo::app
