@@ -54,13 +54,15 @@ class FastingModel : public mivo::app::FastingPageRecord {
   void tick();
 
   AppLink app;
-  FastHistoryModel* const history;
-  FastDraftModel* const draft;
   List<host::FastRecord> fasts;
   host::FastingPageFacts facts;
   std::vector<Stamp> seen;
   bool watched = false;
   QTimer timer;
+
+ public:
+  FastHistoryModel* const history;
+  FastDraftModel* const draft;
 };
 
 }  // namespace mivo::app
