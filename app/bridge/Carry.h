@@ -96,10 +96,10 @@ QVariantList valuesOf(const Listed& record) {
   return values;
 }
 
-template <class Listed>
-void show(const std::vector<Listed>& records, RecordRows& rows) {
+template <ListField Listed>
+void show(const Listed& records, RecordRows& rows) {
   std::vector<QVariantList> next;
-  for (const Listed& record : records) next.push_back(valuesOf(record));
+  for (const auto& record : records) next.push_back(valuesOf(record));
   rows.become(std::move(next));
 }
 

@@ -41,8 +41,8 @@ template <class... Records>
 struct RecordList {};
 
 /// Values: parts of other records, told as a whole. What others hold comes first.
-using ValueRecords = RecordList<SummaryFigure, BadgeFigure, TrendCard, BadgeItem, BadgeFamilyPage, DonationChoice,
-                                DonationGroup, RoadmapFilter, RoadmapNotice, host::Choice, host::Steps, host::RingMark>;
+using ValueRecords = RecordList<BadgeFigure, BadgeItem, BadgeFamilyPage, DonationChoice, DonationGroup, RoadmapFilter,
+                                RoadmapNotice, host::Choice, host::Steps, host::RingMark>;
 
 /// Objects: cards, pages and sheets. QML is told of each field that differs; a list of records that are no values is a
 /// `RecordRows`.

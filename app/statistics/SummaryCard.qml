@@ -30,11 +30,10 @@ Card {
 
             delegate: SummaryFigure {
                 required property int index
-                required property summaryFigureRecord modelData
+                required value
+                required label
 
                 width: (grid.width - (root.columns - 1) * grid.spacing) / root.columns
-                value: modelData.value
-                label: modelData.label
                 // The first row is the larger one.
                 largest: root.wide ? Theme.numberText : index < 2 ? Theme.numberLargeText : Theme.numberSmallText
                 middle: !root.wide && index < 2 ? Theme.numberText : root.wide ? Theme.numberSmallText : Theme.numberRowText

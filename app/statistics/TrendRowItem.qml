@@ -6,14 +6,38 @@ import Mivo
 Column {
     id: root
 
-    required property trendCardRecord modelData
+    required property string zone
+    required property string name
+    required property string detail
+    required property string averageFastTimeRangeText
+    required property string perDay
+    required property string thisLabel
+    required property string thisTimeRangeAvg
+    required property real thisTimeRangeFraction
+    required property bool thisTimeRangeInsideCapsule
+    required property string lastLabel
+    required property string lastTimeRangeAvg
+    required property real lastTimeRangeFraction
+    required property bool lastTimeRangeInsideCapsule
+    /// A line parts it from the row above.
+    property bool divided: false
+
     readonly property real labelWidth: Math.max(Theme.capsuleLabelSize, thisCapsule.wantedLabelWidth, lastCapsule.wantedLabelWidth)
-    readonly property Accent accent: Theme.accentOf(modelData.zone)
+    readonly property Accent accent: Theme.accentOf(zone)
+
+    Rectangle {
+        visible: root.divided
+        width: parent.width
+        height: Theme.hairlineSize
+        color: Theme.hairline
+    }
+
+    Item { visible: root.divided; width: 1; height: 16 }
 
     CardHead {
         width: parent.width
-        title: root.modelData.name
-        detail: root.modelData.detail
+        title: root.name
+        detail: root.detail
         hasSwatch: true
         swatch: root.accent.fill
     }
@@ -22,7 +46,7 @@ Column {
 
     StyledText {
         width: parent.width
-        text: root.modelData.averageFastTimeRangeText
+        text: root.averageFastTimeRangeText
         color: Theme.inkSecondary
     }
 
@@ -32,11 +56,11 @@ Column {
         id: thisCapsule
         width: parent.width
         labelWidth: root.labelWidth
-        label: root.modelData.thisLabel
-        value: root.modelData.thisTimeRangeAvg
-        perDay: root.modelData.perDay
-        fraction: root.modelData.thisTimeRangeFraction
-        inside: root.modelData.thisTimeRangeInsideCapsule
+        label: root.thisLabel
+        value: root.thisTimeRangeAvg
+        perDay: root.perDay
+        fraction: root.thisTimeRangeFraction
+        inside: root.thisTimeRangeInsideCapsule
         fill: root.accent.fill
         textOnFill: root.accent.textOnFill
     }
@@ -47,11 +71,11 @@ Column {
         id: lastCapsule
         width: parent.width
         labelWidth: root.labelWidth
-        label: root.modelData.lastLabel
-        value: root.modelData.lastTimeRangeAvg
-        perDay: root.modelData.perDay
-        fraction: root.modelData.lastTimeRangeFraction
-        inside: root.modelData.lastTimeRangeInsideCapsule
+        label: root.lastLabel
+        value: root.lastTimeRangeAvg
+        perDay: root.perDay
+        fraction: root.lastTimeRangeFraction
+        inside: root.lastTimeRangeInsideCapsule
         fill: root.accent.tint
         textOnFill: Theme.ink
     }

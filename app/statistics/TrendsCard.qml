@@ -26,25 +26,11 @@ Card {
         Repeater {
             model: root.card.rows
 
-            delegate: Column {
-                id: slot
+            delegate: TrendRowItem {
                 required property int index
-                required property trendCardRecord modelData
 
                 width: (grid.width - (grid.columns - 1) * grid.columnSpacing) / grid.columns
-                spacing: 16
-
-                Rectangle {
-                    visible: !root.wide && slot.index > 0
-                    width: parent.width
-                    height: Theme.hairlineSize
-                    color: Theme.hairline
-                }
-
-                TrendRowItem {
-                    width: parent.width
-                    modelData: slot.modelData
-                }
+                divided: !root.wide && index > 0
             }
         }
     }
