@@ -97,7 +97,7 @@ void measureColumnScroll(DrivenApp& app) {
   print("column-p99", quantile(times, 0.99));
 }
 
-// From a fast that is saved to the frame with the new figures; between them it is written to the disk.
+// From a fast that is saved in its sheet to the frame with the new figures; between them it is written to the disk.
 double record(DrivenApp& app, Date start) {
   const auto* rows = app.model().fasting->history->property("rows").value<QAbstractItemModel*>();
   int atChange = -1;
@@ -106,6 +106,7 @@ double record(DrivenApp& app, Date start) {
   app.model().send(AppModel::Action::didTapAddFast{});
   app.model().send(AppModel::Action::didChangeDraftStart{start});
   app.model().send(AppModel::Action::didChangeDraftEnd{start + std::chrono::minutes{1}});
+  settle(app.window(), 400);
   QElapsedTimer timer;
   timer.start();
   app.model().send(AppModel::Action::didTapSaveDraft{});
