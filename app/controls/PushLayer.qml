@@ -8,6 +8,7 @@ FocusScope {
 
     property bool open: false
     property alias page: loader.sourceComponent
+    property alias source: loader.source
     /// What the page made, as long as any of it can be seen.
     readonly property Item shown: loader.item as Item
 

@@ -7,6 +7,7 @@ import Mivo
 
 FocusScope {
     id: root
+    focus: true
 
     /// The window has room for a side bar beside the page.
     readonly property bool wide: Window.width >= Theme.sideBarWidth
@@ -77,12 +78,12 @@ FocusScope {
 
     LateSheet {
         screen: "editFast"
-        sourceComponent: FastSheet {}
+        source: "qrc:/Mivo/FastSheet.qml"
     }
 
     LateSheet {
         screen: "severalFasts"
-        sourceComponent: SeveralFastsSheet {}
+        source: "qrc:/Mivo/SeveralFastsSheet.qml"
     }
 
     LateSheet {

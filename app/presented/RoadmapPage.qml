@@ -7,7 +7,7 @@ import Mivo
 PushedPage {
     id: root
 
-    property RoadmapModel roadmap: null
+    property RoadmapModel roadmap: App.roadmap
 
     title: roadmap ? roadmap.title : ""
 

@@ -7,6 +7,7 @@ import Mivo
 
 FocusScope {
     id: root
+    focus: true
 
     readonly property bool wide: Window.width >= Theme.sideBarWidth
     readonly property real margin: wide ? Theme.pageMarginWide : Theme.pageMargin

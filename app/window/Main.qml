@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The window: a page with tabs below, or beside it where there is room, and what is presented over it.
+// The window: a page with tabs below, or beside it where there is room, and what is presented over it. What does not
+// show when it opens is named by its file, so that its type is loaded when it is first wanted.
 import QtQuick
 import QtQuick.Window
 import Mivo
@@ -60,7 +61,7 @@ Window {
                 visible: App.screens.tab === "fasting"
                 active: App.screens.tab === "fasting" || status === Loader.Ready // also below a page that covers it
                 focus: visible
-                sourceComponent: FastingPage { focus: true }
+                source: "qrc:/Mivo/FastingPage.qml"
             }
 
             StatisticsPage {
@@ -78,7 +79,7 @@ Window {
                 visible: App.screens.tab === "settings"
                 active: App.screens.tab === "settings" || status === Loader.Ready // also below a page that covers it
                 focus: visible
-                sourceComponent: SettingsPage { focus: true }
+                source: "qrc:/Mivo/SettingsPage.qml"
             }
         }
 
@@ -97,49 +98,49 @@ Window {
             id: badgesLayer
             anchors.fill: parent
             open: App.screens.page === "badges"
-            page: BadgesPage {}
+            source: "qrc:/Mivo/BadgesPage.qml"
         }
 
         PushLayer {
             id: roadmapLayer
             anchors.fill: parent
             open: App.screens.page === "roadmap"
-            page: RoadmapPage { roadmap: App.roadmap }
+            source: "qrc:/Mivo/RoadmapPage.qml"
         }
 
         PushLayer {
             id: weightsLayer
             anchors.fill: parent
             open: App.screens.page === "weights"
-            page: WeightsPage {}
+            source: "qrc:/Mivo/WeightsPage.qml"
         }
 
         PushLayer {
             id: cardsLayer
             anchors.fill: parent
             open: App.screens.page === "cards"
-            page: CardSettingsPage {}
+            source: "qrc:/Mivo/CardSettingsPage.qml"
         }
 
         PushLayer {
             id: remindersLayer
             anchors.fill: parent
             open: App.screens.page === "reminders"
-            page: RemindersPage {}
+            source: "qrc:/Mivo/RemindersPage.qml"
         }
 
         PushLayer {
             id: aboutLayer
             anchors.fill: parent
             open: App.screens.page === "about"
-            page: AboutPage {}
+            source: "qrc:/Mivo/AboutPage.qml"
         }
 
         PushLayer {
             id: backupsLayer
             anchors.fill: parent
             open: App.screens.page === "backups"
-            page: BackupsPage {}
+            source: "qrc:/Mivo/BackupsPage.qml"
         }
 
         MessageBar {
@@ -164,27 +165,27 @@ Window {
 
     LateSheet {
         screen: "donations"
-        sourceComponent: DonationsSheet {}
+        source: "qrc:/Mivo/DonationsSheet.qml"
     }
 
     LateSheet {
         screen: "overlaps"
-        sourceComponent: RepairSheet {}
+        source: "qrc:/Mivo/RepairSheet.qml"
     }
 
     LateSheet {
         screen: "import"
-        sourceComponent: ImportSheet {}
+        source: "qrc:/Mivo/ImportSheet.qml"
     }
 
     LateSheet {
         screen: "export"
-        sourceComponent: ExportSheet {}
+        source: "qrc:/Mivo/ExportSheet.qml"
     }
 
     LateSheet {
         screen: "health"
-        sourceComponent: HealthSheet {}
+        source: "qrc:/Mivo/HealthSheet.qml"
     }
 
     // Wanted from the card that asks for access, and from the sheet.
@@ -204,49 +205,39 @@ Window {
 
     LateSheet {
         screen: "restore"
-        sourceComponent: RestoreSheet {}
+        source: "qrc:/Mivo/RestoreSheet.qml"
     }
 
     LateSheet {
         screen: "feedback"
-        sourceComponent: FeedbackSheet {}
+        source: "qrc:/Mivo/FeedbackSheet.qml"
     }
 
     LateSheet {
         screen: "goalWeight"
-        sourceComponent: GoalWeightSheet {}
+        source: "qrc:/Mivo/GoalWeightSheet.qml"
     }
 
     LateSheet {
         screen: "editWeight"
-        sourceComponent: WeightSheet {}
+        source: "qrc:/Mivo/WeightSheet.qml"
     }
 
     // Not in the page that it belongs to: a sheet whose page goes before it has closed stays where it is, unseen.
     LateSheet {
         screen: "weightMenu"
-        sourceComponent: RowMenu {
-            title: App.weights.menuTitle
-            editText: App.weights.editLabel
-            removeText: App.weights.removeLabel
-            onEditWanted: App.weights.edit(App.weights.menuRow)
-            onRemoveWanted: App.weights.remove(App.weights.menuRow)
-        }
+        source: "qrc:/Mivo/WeightMenu.qml"
     }
 
     LateSheet {
         id: table
         screen: "table"
-        sourceComponent: TableSheet {}
+        source: "qrc:/Mivo/TableSheet.qml"
     }
 
     LateSheet {
         screen: "date"
-        sourceComponent: DateTimeSheet {
-            title: App.addWeight.dateTitle
-            instant: App.addWeight.date
-            onChosen: instant => App.addWeight.changeDate(instant)
-        }
+        source: "qrc:/Mivo/WeightDateSheet.qml"
     }
 
     FileDrop { anchors.fill: parent }
