@@ -20,7 +20,8 @@ TEST(IdentifiedArray, findsEveryIdOfALongListAndNoOther) {
   const IdentifiedArray<Bar> array{bars};
   ASSERT_EQ(array.size(), bars.size());
   for (std::size_t place = 0; place < bars.size(); ++place) ASSERT_EQ(array.indexOf(bars[place].id), place);
-  EXPECT_EQ(array.find(1), nullptr);
+  EXPECT_FALSE(array.contains(1));
+  EXPECT_TRUE(array.contains(bars.back().id));
   EXPECT_EQ(IdentifiedArray<Bar>{}.find(1), nullptr);
 }
 
