@@ -112,14 +112,19 @@ struct PeriodRow {
   DateInterval expected;
 };
 void PrintTo(const PeriodRow& row, std::ostream* out) { *out << row.name; }
-class ChartPeriod : public testing::TestWithParam<PeriodRow> {};
+class ChartPeriods : public testing::TestWithParam<PeriodRow> {};
 
-TEST_P(ChartPeriod, isTheCalendarsOwn) {
+TEST(ChartPeriod, isMissingWhereTheCalendarHasNoEndOfIt) {
+  const auto gregorian = tests::gregorianCalendar("UTC");
+  for (const TimeRange range : allTimeRanges) EXPECT_EQ(chartPeriod(lastDate, range, *gregorian), std::nullopt);
+}
+
+TEST_P(ChartPeriods, isTheCalendarsOwn) {
   EXPECT_EQ(chartPeriod(GetParam().date, GetParam().range, *tests::gregorianCalendar(GetParam().zone)),
             GetParam().expected);
 }
 INSTANTIATE_TEST_SUITE_P(
-    Rows, ChartPeriod,
+    Rows, ChartPeriods,
     testing::Values(
         PeriodRow{"day", week, "UTC", utc(2026, 2, 15, 9), {utc(2026, 2, 15), utc(2026, 2, 16)}},
         PeriodRow{"week", month, "UTC", utc(2026, 2, 15, 9), {utc(2026, 2, 9), utc(2026, 2, 16)}},

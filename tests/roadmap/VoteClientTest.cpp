@@ -236,10 +236,11 @@ INSTANTIATE_TEST_SUITE_P(Rows, InvalidAddress,
 
 TEST_F(VoteClient, oddButValidNamesAreSentAsTheyAre) {
   serve([](const std::string&) { return tests::ok(R"({"value": 1})"); });
-  for (const char* name : {"a.b-c_d~e", "%C3%A4pp", "a/b", "a+b;c=d,e!f"})
+  for (const char* name : {"a.b-c_d~e", "%C3%A4pp", "%9fpp", "%FApp", "a/b", "a+b;c=d,e!f"})
     FeatureVoterTallyAPI{name}.fetch(feature, {});
-  EXPECT_THAT(server->targets(), ElementsAre("/get/a.b-c_d~e/feature12", "/get/%C3%A4pp/feature12",
-                                             "/get/a/b/feature12", "/get/a+b;c=d,e!f/feature12"));
+  EXPECT_THAT(server->targets(),
+              ElementsAre("/get/a.b-c_d~e/feature12", "/get/%C3%A4pp/feature12", "/get/%9fpp/feature12",
+                          "/get/%FApp/feature12", "/get/a/b/feature12", "/get/a+b;c=d,e!f/feature12"));
 }
 
 TEST_F(VoteClient, featuresAreAskedBesideEachOther) {
