@@ -72,6 +72,10 @@ INSTANTIATE_TEST_SUITE_P(
         StreaksRow{"noBreakAllowed", {fast(0, 10), fast(10, 20), fast(19, 30)}, {inFasts, false, 0}, {2, 2}},
         StreaksRow{"negativeBreak", {fast(0, 10), fast(9.5, 20), fast(10, 30)}, {inFasts, false, -1}, {2, 2}},
         StreaksRow{"streakOfNoLengthIsNone", {fast(0, 0), fast(50, 50), fast(100, 100)}, {inFasts}, {0, 0}},
+        StreaksRow{"noLengthIsNotTheLongest",
+                   {fast(0, 0), fast(0, 0), fast(0, 0), fast(100, 110), fast(112, 120)},
+                   {inFasts},
+                   {2, 2}},
         StreaksRow{"backwardStreakIsLeftOut", {fast(0, 10), fast(50, 40), fast(100, 110)}, {inFasts}, {1, 1}}),
     [](const auto& row) { return std::string{row.param.name}; });
 
