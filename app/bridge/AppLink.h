@@ -10,7 +10,7 @@ namespace mivo::app {
 
 using AppAction = host::AppFeature::Action;
 
-/// What the models of pages have of the app.
+/// The two ways between a page's model and the app.
 struct AppLink {
   std::function<PageClients()> clients;  ///< what a page is composed with just now
   std::function<void(AppAction)> send;   ///< takes what the user does

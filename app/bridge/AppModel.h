@@ -160,6 +160,7 @@ class AppModel : public QObject {
   Subscription following;
 
  public:
+  // Below the store, of whose state some of them are made.
   ScreenModel* const screen = new ScreenModel{this};
   DayBarsModel* const fastingChart;
   DayBarsModel* const eatingChart;

@@ -61,6 +61,7 @@ class FastingModel : public mivo::app::FastingPageRecord {
   QTimer timer;
 
  public:
+  // Below the link that they are made with.
   FastHistoryModel* const history;
   FastDraftModel* const draft;
 };

@@ -60,7 +60,7 @@ class SettingsModel : public mivo::app::SettingsPageRecord {
   /// `changed` is called once something was written that the statistics read, `remindersChanged` once something was of
   /// what the user wants to be told of.
   SettingsModel(std::function<PageClients()> clients, const Dependencies& all,
-                std::shared_ptr<host::WeekCalendar> calendar, Appearance& look, const host::AboutFacts& facts,
+                std::shared_ptr<host::WeekCalendar> calendar, Appearance& look, const host::AboutFacts& aboutFacts,
                 std::function<void()> changed, std::function<void()> remindersChanged, QObject* parent);
 
   void follow(const host::AppFeature::State& state);
