@@ -8,12 +8,14 @@
 
 namespace mivo::app {
 
+using AppState = host::AppFeature::State;
 using AppAction = host::AppFeature::Action;
 
-/// The two ways between a page's model and the app.
+/// The ways between a page's model and the app.
 struct AppLink {
-  std::function<PageClients()> clients;  ///< what a page is composed with just now
-  std::function<void(AppAction)> send;   ///< takes what the user does
+  std::function<PageClients()> clients;    ///< what a page is composed with just now
+  std::function<const AppState&()> state;  ///< as it is just now
+  std::function<void(AppAction)> send;     ///< takes what the user does
 };
 
 }  // namespace mivo::app

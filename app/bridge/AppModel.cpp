@@ -11,7 +11,6 @@
 #include "app/bridge/EngineModels.h"
 #include "host/app/CurrentTipFacts.h"
 #include "host/app/Stamps.h"
-#include "host/database/FaultText.h"
 #include "host/fasting/Fasting.h"
 #include "mivo/platform/Dependencies.h"
 #include "mivo/statistics/ComposeScreen.h"
@@ -38,9 +37,14 @@ AppModel::AppModel(AppServices given)
       dependencies{*services.dependencies},
       texts{*dependencies.texts},
       link{.clients = [present = services.dependencies] { return pageClients(*present, present->date->now()); },
+           .state = [this]() -> const State& { return store.state(); },
            .send = [this](Action action) { send(std::move(action)); }},
       store{State::make(services.timeRange, services.usualWeightUnit),
-            host::AppFeature{.history = services.history, .files = services.files, .linkedHealth = services.health},
+            host::AppFeature{.history = services.history,
+                             .files = services.files,
+                             .linkedHealth = services.health,
+                             .chooseFirstWeekday = [week = services.calendar](auto weekday) { week->choose(weekday); },
+                             .keepReminding = services.keepReminding},
             dependencies.mainQueue, dependencies.taskRunner},
       fastingChart{new DayBarsModel{
           store.state().statistics.stats.fastingChartState, barClients(dependencies),
@@ -64,8 +68,7 @@ AppModel::AppModel(AppServices given)
           },
           this}},
       repair{new RepairModel{link, this}},
-      settings{new SettingsModel{link.clients, dependencies, services.calendar, *services.appearance, services.about,
-                                 [this] { send(Action::didChangeSettings{}); }, [this] { keepReminding(); }, this}},
+      settings{new SettingsModel{link, services.about, services.calendar->usualFirstWeekday(), this}},
       importing{new ImportModel{link, this}},
       severalFasts{new SeveralFastsModel{link, this}},
       exporting{new ExportModel{link, this}},
@@ -73,20 +76,11 @@ AppModel::AppModel(AppServices given)
       backups{new BackupsModel{link, this}} {
   feedback->show(composeFeedback(texts));
   following = store.observe([this](const State& state) { follow(state); });
-  load();
+  send(Action::load{});
   watchTime();
 }
 
 AppModel* AppModel::create(QQmlEngine* engine, QJSEngine*) { return modelOf<AppModel>(*engine); }
-
-void AppModel::load() {
-  try {
-    seenVersion = services.history->version();
-    send(Action::didLoad{services.history->load()});
-  } catch (const std::exception& error) {
-    send(Action::didFail{host::faultText(error, texts)});
-  }
-}
 
 // A running fast moves the figures, another program may write into the same database, and people travel.
 void AppModel::watchTime() {
@@ -120,16 +114,8 @@ void AppModel::setWatched(bool isNow) {
 }
 
 void AppModel::lookAround() {
-  lookForOtherPrograms();
+  send(Action::lookForChanges{});
   followZone();
-}
-
-void AppModel::lookForOtherPrograms() {
-  try {
-    if (std::exchange(seenVersion, services.history->version()) != seenVersion) send(Action::reload{});
-  } catch (const std::exception& error) {
-    send(Action::didFail{host::faultText(error, texts)});
-  }
 }
 
 void AppModel::followZone() {
@@ -138,10 +124,6 @@ void AppModel::followZone() {
   send(Action::didChangeZone{*zone});
   fasting->retell();
   weights->retell();
-}
-
-void AppModel::keepReminding() {
-  if (const auto fault = services.keepReminding ? services.keepReminding() : std::nullopt) say(*fault);
 }
 
 void AppModel::say(const std::string& sentence) {
@@ -161,6 +143,7 @@ void AppModel::follow(const State& state) {
 
 void AppModel::followPages(const State& state) {
   const auto& statistics = state.statistics;
+  services.appearance->show(state.settings.appearance);
   tellTips(state);
   auto composed = composeScreen(screenInput(statistics), screenFormatters());
   screen->show(services.printed ? host::printedCards(std::move(composed), *services.printed) : std::move(composed));

@@ -13,6 +13,7 @@
 
 #include "app/bridge/AddWeightModel.h"
 #include "app/bridge/AppLink.h"
+#include "app/bridge/Appearance.h"
 #include "app/bridge/DataModels.h"
 #include "app/bridge/DayBarsModel.h"
 #include "app/bridge/DonationsModel.h"
@@ -26,6 +27,7 @@
 #include "app/records/Records.h"
 #include "host/app/AppFeature.h"
 #include "host/pages/PrintedCards.h"
+#include "host/place/WeekCalendar.h"
 #include "host/tips/Tips.h"
 #include "mivo/store/Store.h"
 
@@ -50,8 +52,7 @@ struct AppServices {
   host::AboutFacts about = {};
   /// Takes over the system's time zone; its name where it is another one than before.
   std::function<std::optional<std::string>()> followZone = {};
-  /// Has what the user wants to be told of told while the window is closed; a sentence where that fails.
-  std::function<std::optional<std::string>()> keepReminding = {};
+  std::function<std::optional<std::string>(const host::ReminderSettings&)> keepReminding = {};
 };
 
 /// The app's store as QML reads and drives it. It looks at the state once after each action and tells each model what
@@ -106,9 +107,6 @@ class AppModel : public QObject {
   /// A sentence for the user, until dismissed; an empty one says nothing.
   void say(const std::string& sentence);
 
-  /// As the settings say: after they changed, and once for each start of the app.
-  void keepReminding();
-
   /// Opens a `host::Screen` by its name; for no name, closes all but the tab.
   Q_INVOKABLE void present(const QString& name);
   /// A sheet was closed by who looks at it.
@@ -134,11 +132,9 @@ class AppModel : public QObject {
   void watchedChanged();
 
  private:
-  void load();
   void watchTime();
   void waitForNextMinute();
   void lookAround();
-  void lookForOtherPrograms();
   void followZone();
   void follow(const State& state);
   void followPages(const State& state);
@@ -150,7 +146,6 @@ class AppModel : public QObject {
   const Dependencies& dependencies;
   const TextLookup& texts;
   const AppLink link;
-  std::int64_t seenVersion = 0;
   Store<host::AppFeature> store;
   std::vector<Stamp> seen;
   std::unique_ptr<RoadmapModel> features;

@@ -70,25 +70,11 @@ void HealthModel::link(const QUrl& file) {
   app.send(AppAction::health{host::HealthFeature::Action::didLink{pathOf(file)}});
 }
 
-void HealthModel::unlink() { app.send(AppAction::health{host::HealthFeature::Action::didUnlink{}}); }
-
 void BackupsModel::follow(const host::AppFeature::State& state) {
   show(composeBackupsPage(state.backups, app.clients()));
   if (*state.backups.chosen) chosen->show(composeRestoreSheet(state, app.clients()));
 }
 
-void BackupsModel::backUp() { app.send(AppAction::backups{host::BackupsFeature::Action::didTapBackUp{}}); }
-
-void BackupsModel::choose(int row) {
-  app.send(AppAction::backups{host::BackupsFeature::Action::didChoose{static_cast<std::size_t>(row)}});
-}
-
-void BackupsModel::restore() { app.send(AppAction::backups{host::BackupsFeature::Action::didTapRestore{}}); }
-
-void BackupsModel::chooseFolder(const QUrl& chosenFolder) {
-  app.send(AppAction::backups{host::BackupsFeature::Action::didChooseFolder{pathOf(chosenFolder)}});
-}
-
-void BackupsModel::useUsualFolder() { app.send(AppAction::backups{host::BackupsFeature::Action::didChooseFolder{}}); }
+void BackupsModel::chooseFolder(const QUrl& chosenFolder) { send(Action::didChooseFolder{pathOf(chosenFolder)}); }
 
 }  // namespace mivo::app

@@ -84,7 +84,7 @@ class HealthModel : public mivo::app::HealthSheetRecord {
 
   Q_INVOKABLE void chooseFile() { Q_EMIT fileWanted(); }
   Q_INVOKABLE void link(const QUrl& file);
-  Q_INVOKABLE void unlink();
+  Q_INVOKABLE void unlink() { app.send(AppAction::health{host::HealthFeature::Action::didUnlink{}}); }
 
  Q_SIGNALS:
   /// The dialog that chooses it is to open.
@@ -106,13 +106,16 @@ class BackupsModel : public mivo::app::BackupsPageRecord {
 
   void follow(const host::AppFeature::State& state);
 
-  Q_INVOKABLE void backUp();
-  Q_INVOKABLE void choose(int row);
-  Q_INVOKABLE void restore();
+  Q_INVOKABLE void backUp() { send(Action::didTapBackUp{}); }
+  Q_INVOKABLE void choose(int row) { send(Action::didChoose{static_cast<std::size_t>(row)}); }
+  Q_INVOKABLE void restore() { send(Action::didTapRestore{}); }
   Q_INVOKABLE void chooseFolder(const QUrl& chosenFolder);
-  Q_INVOKABLE void useUsualFolder();
+  Q_INVOKABLE void useUsualFolder() { send(Action::didChooseFolder{}); }
 
  private:
+  using Action = host::BackupsFeature::Action;
+  void send(Action action) { app.send(AppAction::backups{std::move(action)}); }
+
   AppLink app;
   RestoreSheetRecord* const chosen = new RestoreSheetRecord{this};
 };

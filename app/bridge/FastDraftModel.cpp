@@ -9,13 +9,11 @@ namespace mivo::app {
 void FastDraftModel::follow(const host::AppFeature::State& state) {
   std::vector<Stamp> read{state.draft.stamp(), state.fasts.stamp(), state.now.stamp()};
   if (std::exchange(seen, read) == read) return;
-  fasts = *state.fasts;
-  draft = state.draft;
   retell();
 }
 
 void FastDraftModel::retell() {
-  if (draft) show(composeFastSheet(*draft, fasts, app.clients()));
+  if (const auto& draft = *app.state().draft) show(composeFastSheet(*draft, *app.state().fasts, app.clients()));
 }
 
 void FastDraftModel::setGoal(double chosen) {
@@ -23,6 +21,7 @@ void FastDraftModel::setGoal(double chosen) {
 }
 
 void FastDraftModel::remove() {
+  const auto& draft = *app.state().draft;
   if (!draft || !draft->before) return;
   const UUID id = draft->before->fast.id;
   app.send(AppAction::didDismissDraft{});

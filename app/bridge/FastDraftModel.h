@@ -3,7 +3,6 @@
 
 #include <QtQml/qqmlregistration.h>
 
-#include <optional>
 #include <utility>
 #include <vector>
 
@@ -34,8 +33,6 @@ class FastDraftModel : public mivo::app::FastSheetRecord {
 
  private:
   AppLink app;
-  std::optional<host::FastDraft> draft;
-  List<host::FastRecord> fasts;
   std::vector<Stamp> seen;
 };
 

@@ -21,8 +21,7 @@ void FastingModel::follow(const host::AppFeature::State& state) {
   draft->follow(state);
   std::vector<Stamp> read{state.fasts.stamp(), state.nextGoalSeconds.stamp(), state.now.stamp()};
   if (std::exchange(seen, read) == read) return;
-  fasts = *state.fasts;
-  facts = host::fastingPageFacts(fasts, state.nextGoalSeconds, state.now);
+  facts = host::fastingPageFacts(*state.fasts, state.nextGoalSeconds, state.now);
   tick();
 }
 
@@ -51,7 +50,7 @@ void FastingModel::start() { app.send(AppAction::didTapStart{app.clients().now, 
 void FastingModel::press() { isRunning ? app.send(AppAction::didTapStop{app.clients().now}) : start(); }
 
 QString FastingModel::startProblem(double instant) const {
-  return qString(host::startProblem(fasts, dateSince1970(instant), app.clients()));
+  return qString(host::startProblem(*app.state().fasts, dateSince1970(instant), app.clients()));
 }
 
 void FastingModel::changeStart(double instant) { app.send(AppAction::didChangeStart{dateSince1970(instant)}); }

@@ -54,7 +54,6 @@ class FastingModel : public mivo::app::FastingPageRecord {
   void tick();
 
   AppLink app;
-  List<host::FastRecord> fasts;
   host::FastingPageFacts facts;
   std::vector<Stamp> seen;
   bool watched = false;

@@ -3,18 +3,17 @@
 
 #include <QtQml/qqmlregistration.h>
 
-#include <functional>
-#include <memory>
 #include <optional>
 #include <string>
+#include <utility>
+#include <vector>
 
-#include "app/bridge/Appearance.h"
-#include "app/bridge/RemindersModel.h"
+#include "app/bridge/AppLink.h"
 #include "app/records/Records.h"
-#include "host/app/AppFeature.h"
-#include "host/place/WeekCalendar.h"
 
 namespace mivo::app {
+
+using Chosen = host::SettingsFeature::Action;
 
 /// A `host::CardSettingsPage`.
 class CardSettingsModel : public mivo::app::CardSettingsPageRecord {
@@ -23,31 +22,50 @@ class CardSettingsModel : public mivo::app::CardSettingsPageRecord {
   QML_UNCREATABLE("the settings have it")
 
  public:
-  /// `changed` is called once something was written to the user's defaults, of which the app's extensions see `shared`.
-  CardSettingsModel(Client<UserDefaults> sharedDefaults, std::function<void()> changed, QObject* parent)
-      : mivo::app::CardSettingsPageRecord{parent}, shared{std::move(sharedDefaults)}, told{std::move(changed)} {}
+  CardSettingsModel(AppLink to, QObject* parent) : mivo::app::CardSettingsPageRecord{parent}, app{std::move(to)} {}
 
-  void follow(const StatisticsFeature::State& state, const PageClients& clients);
+  void follow(const StatisticsFeature::State& state);
 
   Q_INVOKABLE void toggleCard(int row) { toggle(host::CardGroup::cards, row); }
   Q_INVOKABLE void toggleChart(int row) { toggle(host::CardGroup::charts, row); }
   Q_INVOKABLE void toggleTrend(int row) { toggle(host::CardGroup::trends, row); }
-  Q_INVOKABLE void count(int place);
-  Q_INVOKABLE void toggleBelowGoal();
-  Q_INVOKABLE void changeLongestBreak(int hours);
+  Q_INVOKABLE void count(int place) { choose(Chosen::didChooseCountingEntity{host::countingEntityAt(place)}); }
+  Q_INVOKABLE void toggleBelowGoal() { choose(Chosen::didToggleBelowGoal{}); }
+  Q_INVOKABLE void changeLongestBreak(int hours) { choose(Chosen::didChooseLongestBreak{hours}); }
 
  private:
+  void choose(Chosen chosen) { app.send(AppAction::settings{std::move(chosen)}); }
   void toggle(host::CardGroup group, int row);
-  void keep(const StreakSettings& settings);
 
-  Client<UserDefaults> shared;
-  std::function<void()> told;
-  DashboardSettingsFeature::State flags;
-  StreakSettings streaks;
-  bool isShown = false;
+  AppLink app;
+  std::vector<Stamp> seen;
 };
 
-/// A `host::SettingsPage`, and the pages that it leads to. What is chosen is kept in the user's defaults.
+/// A `host::RemindersPage`.
+class RemindersModel : public mivo::app::RemindersPageRecord {
+  Q_OBJECT
+  QML_ELEMENT
+  QML_UNCREATABLE("the settings have it")
+
+ public:
+  RemindersModel(AppLink to, QObject* parent) : mivo::app::RemindersPageRecord{parent}, app{std::move(to)} {}
+
+  void follow(const AppState& state);
+
+  Q_INVOKABLE void toggleGoal() { choose(Chosen::didToggleGoalReminder{}); }
+  Q_INVOKABLE void toggleEatingWindow() { choose(Chosen::didToggleEatingWindowReminder{}); }
+  Q_INVOKABLE void chooseEatingWindow(int place) {
+    choose(Chosen::didChooseEatingWindow{host::eatingWindowHoursAt(place)});
+  }
+
+ private:
+  void choose(Chosen chosen) { app.send(AppAction::settings{std::move(chosen)}); }
+
+  AppLink app;
+  Stamp seen = 0;
+};
+
+/// A `host::SettingsPage`, and the pages that it leads to.
 class SettingsModel : public mivo::app::SettingsPageRecord {
   Q_OBJECT
   QML_ELEMENT
@@ -57,42 +75,37 @@ class SettingsModel : public mivo::app::SettingsPageRecord {
   Q_PROPERTY(mivo::app::AboutPageRecord* about MEMBER about CONSTANT)
 
  public:
-  /// `changed` is called once something was written that the statistics read, `remindersChanged` once something was of
-  /// what the user wants to be told of.
-  SettingsModel(std::function<PageClients()> clients, const Dependencies& all,
-                std::shared_ptr<host::WeekCalendar> calendar, Appearance& look, const host::AboutFacts& aboutFacts,
-                std::function<void()> changed, std::function<void()> remindersChanged, QObject* parent);
+  SettingsModel(AppLink to, const host::AboutFacts& aboutFacts, int usualFirstWeekday, QObject* parent);
 
-  void follow(const host::AppFeature::State& state);
+  void follow(const AppState& state);
 
   Q_INVOKABLE void chooseGoal(double seconds);
-  Q_INVOKABLE void chooseWeightUnit(int place);
-  Q_INVOKABLE void chooseFirstWeekday(int place);
+  Q_INVOKABLE void chooseWeightUnit(int place) { choose(Chosen::didChooseWeightUnit{host::weightUnitAt(place)}); }
+  Q_INVOKABLE void chooseFirstWeekday(int place) { choose(Chosen::didChooseFirstWeekday{host::weekdayAt(place)}); }
   Q_INVOKABLE void chooseLanguage(int place);
-  Q_INVOKABLE void chooseAppearance(int place);
-  Q_INVOKABLE void changeTextSize(int percent);
-  Q_INVOKABLE void toggleReducedMotion();
+  Q_INVOKABLE void chooseAppearance(int place) {
+    choose(Chosen::didChooseAppearanceMode{host::appearanceModeAt(place)});
+  }
+  Q_INVOKABLE void changeTextSize(int percent) { choose(Chosen::didChooseTextScale{percent / 100.0}); }
+  Q_INVOKABLE void toggleReducedMotion() { choose(Chosen::didToggleReducedMotion{}); }
 
   /// "24h", "115%" in the user's language.
-  Q_INVOKABLE QString hoursText(int hours) const;
-  Q_INVOKABLE QString percentText(int percent) const;
+  Q_INVOKABLE QString hoursText(int hours) const { return qString(host::hoursText(hours, app.clients())); }
+  Q_INVOKABLE QString percentText(int percent) const { return qString(host::percentText(percent, app.clients())); }
 
  Q_SIGNALS:
   /// It holds from the next start of the program.
   void languageChosen();
 
  private:
-  void compose();
+  void choose(Chosen chosen) { app.send(AppAction::settings{std::move(chosen)}); }
 
-  std::function<PageClients()> clients;
-  Client<UserDefaults> defaults;
-  std::shared_ptr<host::WeekCalendar> calendar;
-  Appearance& look;
-  std::function<void()> told;
+  AppLink app;
+  std::string version;
+  int usualWeekday;
   CardSettingsModel* const cards;
   RemindersModel* const reminders;
   AboutPageRecord* const about = new AboutPageRecord{this};
-  host::SettingsFacts facts;
   std::optional<host::SettingsFacts> composed;
 };
 

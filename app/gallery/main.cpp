@@ -186,7 +186,7 @@ bool isWanted(const QString& name, const Wanted& wanted) { return name.contains(
 void drawScreens(AppWindow& app, Gallery& gallery, const Language& language, const History& history) {
   QQuickWindow& window = *app.window();
   inEachLook(gallery.wanted, language, [&](const Size& size, const Look& shown) {
-    app.appearance().setOverride({.mode = shown.mode, .textScale = shown.textScale, .still = true});
+    app.overrideAppearance({.mode = shown.mode, .textScale = shown.textScale, .still = true});
     for (const host::Screen wanted : host::allScreens()) {
       const std::string screen{rawValue(wanted)};
       const QString name = nameOf(screen, size, shown, language, history.name);
@@ -215,7 +215,7 @@ void drawFault(Gallery& gallery, const Language& language) {
     for (const bool isDamaged : {false, true}) {
       const QString name = nameOf(isDamaged ? "fault-damaged" : "fault", size, shown, language, "none");
       if (!isWanted(name, gallery.wanted)) continue;
-      fault.appearance().setOverride({.mode = shown.mode, .textScale = shown.textScale, .still = true});
+      fault.appearance().show({.mode = shown.mode, .textScale = shown.textScale, .reducesMotion = true});
       fault.window()->setProperty("isDamaged", isDamaged);
       fault.window()->resize(size.size);
       drawAndMeasure(*fault.window(), name, false, gallery);
@@ -239,7 +239,7 @@ void drawImports(AppWindow& app, Gallery& gallery, const Language& language, con
   QQuickWindow& window = *app.window();
   ImportModel& sheet = *app.model().importing;
   inEachLook(gallery.wanted, language, [&](const Size& size, const Look& shown) {
-    app.appearance().setOverride({.mode = shown.mode, .textScale = shown.textScale, .still = true});
+    app.overrideAppearance({.mode = shown.mode, .textScale = shown.textScale, .still = true});
     for (const auto& [kind, fileName, content] : broughtFiles) {
       const QString name = nameOf(kind, size, shown, language, history.name);
       if (!isWanted(name, gallery.wanted)) continue;
@@ -262,7 +262,7 @@ void drawTypedFasts(AppWindow& app, Gallery& gallery, const Language& language, 
   inEachLook(gallery.wanted, language, [&](const Size& size, const Look& shown) {
     const QString name = nameOf("severalFasts-preview", size, shown, language, history.name);
     if (!isWanted(name, gallery.wanted)) return;
-    app.appearance().setOverride({.mode = shown.mode, .textScale = shown.textScale, .still = true});
+    app.overrideAppearance({.mode = shown.mode, .textScale = shown.textScale, .still = true});
     window.resize(size.size);
     app.model().present({});
     app.model().present(QStringLiteral("severalFasts"));

@@ -74,10 +74,11 @@ std::function<std::optional<std::string>()> following(std::shared_ptr<SystemZone
 }
 
 // A sample is told of nowhere.
-std::function<std::optional<std::string>()> keepingReminders(const Environment& environment, const Options& options) {
+std::function<std::optional<std::string>(const host::ReminderSettings&)> keepingReminders(
+    const Environment& environment, const Options& options) {
   if (environment.sampleFolder) return {};
-  return [clients = environment.dependencies, database = options.database] {
-    return keepReminding(host::reminderSettings(*clients->userDefaults), database, *clients->texts);
+  return [clients = environment.dependencies, database = options.database](const host::ReminderSettings& settings) {
+    return keepReminding(settings, database, *clients->texts);
   };
 }
 
@@ -122,7 +123,7 @@ std::optional<QSize> openingSize(const Options& options, const UserDefaults& def
 AppWindow::AppWindow(const Environment& environment, const Options& options, QSize size)
     : isPicture{!options.picture.empty()},
       defaults{environment.dependencies->userDefaults},
-      look{defaults},
+      look{host::appearance(*defaults)},
       words{*environment.dependencies->texts},
       app{{.dependencies = environment.dependencies,
            .history = environment.history,
@@ -139,7 +140,7 @@ AppWindow::AppWindow(const Environment& environment, const Options& options, QSi
            .followZone = following(environment.systemZone),
            .keepReminding = keepingReminders(environment, options)}},
       faults{environment.faults.subscribe([this](const std::string& fault) { app.say(fault); })} {
-  look.setOverride({.mode = modeOf(options), .textScale = options.textScale, .still = !options.picture.empty()});
+  overrideAppearance({.mode = modeOf(options), .textScale = options.textScale, .still = !options.picture.empty()});
   app.say(environment.notice);
   app.appear();
   app.present(QString::fromStdString(openingTabOf(app, *defaults, options)));
@@ -159,9 +160,13 @@ AppWindow::AppWindow(const Environment& environment, const Options& options, QSi
   // The first frame need not wait for these.
   QTimer::singleShot(0, &app, [this] {
     window()->setIcon(windowIcon());
-    if (!isPicture && host::reminderSettings(*defaults).isAny()) app.keepReminding();
+    if (!isPicture) app.send(AppModel::Action::didStart{});
   });
   end.emplace(*window());
+}
+
+void AppWindow::overrideAppearance(host::AppearanceOverride given) {
+  app.send(AppModel::Action::settings{host::SettingsFeature::Action::didOverrideAppearance{given}});
 }
 
 AppWindow::~AppWindow() { keepState(); }
@@ -181,7 +186,7 @@ QQuickWindow* AppWindow::window() const {
 }
 
 FaultWindow::FaultWindow(const Obstacle& obstacle, Attempts ways)
-    : look{dependency(&Dependencies::userDefaults)},
+    : look{host::appearance(*dependency(&Dependencies::userDefaults))},
       words{*dependency(&Dependencies::texts)},
       attempts{std::move(ways)} {
   giveModel(engine, look);

@@ -42,7 +42,8 @@ class AppWindow {
   /// Nothing where the window could not be made; Qt has then said why.
   QQuickWindow* window() const;
   AppModel& model() { return app; }
-  Appearance& appearance() { return look; }
+  const Appearance& appearance() const { return look; }
+  void overrideAppearance(host::AppearanceOverride given);
 
  private:
   void keepState() const;

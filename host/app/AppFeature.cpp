@@ -53,7 +53,8 @@ auto AppFeature::reduce(State& state, const Action& action) const -> Effect<Acti
   return combine(scope<Action::statistics>(&State::statistics, statistics),
                  presenting<Action::editedWeight>(&State::editedWeight, entry),
                  presenting<Action::importing>(&State::importing, importFeature),
-                 scope<Action::backups>(&State::backups, backupsFeature), [this](State& s, const Action& a) {
+                 scope<Action::backups>(&State::backups, backupsFeature),
+                 scope<Action::settings>(&State::settings, settingsFeature), [this](State& s, const Action& a) {
                    return std::visit([&](const auto& sent) { return on(s, sent); }, a);
                  })(state, action);
 }
@@ -83,6 +84,27 @@ auto AppFeature::on(State& state, const Action::statistics& sent) const -> Effec
   return {};
 }
 
+auto AppFeature::on(State& state, const Action::load&) const -> Effect<Action> {
+  takeSettings(state);
+  try {
+    state.version = history->version();
+    return on(state, Action::didLoad{history->load()});
+  } catch (const std::exception& error) {
+    return on(state, Action::didFail{faultText(error, *texts)});
+  }
+}
+
+auto AppFeature::on(State& state, const Action::lookForChanges&) const -> Effect<Action> {
+  try {
+    const std::int64_t now = history->version();
+    if (now == *state.version) return {};
+    state.version = now;
+    return on(state, Action::reload{});
+  } catch (const std::exception& error) {
+    return on(state, Action::didFail{faultText(error, *texts)});
+  }
+}
+
 auto AppFeature::on(State&, const Action::reload&) const -> Effect<Action> {
   return Effect<Action>::run(
       [](const Send<Action>& send, std::stop_token, const Client<HistoryClient>& client,
@@ -109,9 +131,15 @@ auto AppFeature::on(State& state, const Action::didFail& failed) const -> Effect
   return {};
 }
 
-// As when the statistics come on screen, where they read their settings.
-auto AppFeature::on(State& state, const Action::didChangeSettings&) const -> Effect<Action> {
-  return reduce(state, Action::statistics{StatisticsFeature::Action::onAppear{}});
+auto AppFeature::on(State& state, const Action::didStart&) const -> Effect<Action> {
+  if (state.settings.reminders->isAny()) remind(state);
+  return {};
+}
+
+auto AppFeature::on(State& state, const Action::settings& chosen) const -> Effect<Action> {
+  if (isOfReminders(chosen.action)) remind(state);
+  if (!isReadByStatistics(chosen.action)) return {};
+  return reduce(state, Action::statistics{StatisticsFeature::Action::onAppear{}});  // where they read their settings
 }
 
 auto AppFeature::on(State& state, const Action::recompute&) const -> Effect<Action> {
@@ -295,6 +323,7 @@ auto AppFeature::on(State& state, const Action::didFailToWrite& failed) const ->
 void AppFeature::takeSettings(State& state) const {
   auto& goal = state.statistics.goalWeightCardState;
   auto& entry = state.statistics.addWeightLogState;
+  settingsFeature.reduce(state.settings, SettingsFeature::Action::onAppear{});
   state.nextGoalSeconds = goalSeconds(*userDefaults);
   goal.goalInKg = goalWeight(*userDefaults);
   const auto unit = weightUnit(*userDefaults);
@@ -356,6 +385,10 @@ auto AppFeature::write(State& state, Step step, HistoryChange change) const -> E
         send(Action::didWrite{done, written});
       },
       history, texts, step, std::move(change));
+}
+
+void AppFeature::remind(State& state) const {
+  if (const auto fault = keepReminding ? keepReminding(state.settings.reminders) : std::nullopt) state.failure = *fault;
 }
 
 void AppFeature::recompute(State& state) const {

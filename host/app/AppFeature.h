@@ -2,11 +2,13 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 #include <variant>
 
 #include "host/app/Screens.h"
+#include "host/app/SettingsFeature.h"
 #include "host/data/BackupsFeature.h"
 #include "host/data/ImportFeature.h"
 #include "host/fasting/FastDraft.h"
@@ -61,8 +63,9 @@ struct AppFeature {
     StatisticsFeature::State statistics;
     Observed<List<FastRecord>> fasts = List<FastRecord>{};                ///< by start
     Observed<List<BodyWeightSample>> weights = List<BodyWeightSample>{};  ///< by date
-    Observed<Date> now;                                                   ///< of the last recomputation
-    Observed<std::int64_t> nextGoalSeconds = defaultGoalSeconds;          ///< what the next fast is meant to last
+    Observed<std::int64_t> version = std::int64_t{0};             ///< of the history, when it was looked at last
+    Observed<Date> now;                                           ///< of the last recomputation
+    Observed<std::int64_t> nextGoalSeconds = defaultGoalSeconds;  ///< what the next fast is meant to last
     Observed<std::optional<FastDraft>> draft = std::optional<FastDraft>{};
     Presentation<EditedWeight> editedWeight = {};
     Observed<bool> printsWeights = false;  ///< where the statistics are exported
@@ -70,6 +73,7 @@ struct AppFeature {
     Presentation<ImportFeature::State> importing = {};
     BackupsFeature::State backups = {};
     HealthFeature::State health = {};
+    SettingsFeature::State settings = {};
     Observed<std::optional<UndoOffer>> undo = std::optional<UndoOffer>{};
     Observed<std::string> failure = std::string{};  ///< one sentence, until dismissed
     /// The innermost that is open of those that nothing else here tells of; `openScreen` knows them all.
@@ -86,7 +90,14 @@ struct AppFeature {
       StatisticsFeature::Action action;
       bool operator==(const statistics&) const = default;
     };
-    /// The app is on screen, or another program has changed the database: reads everything anew.
+    /// Reads settings and history before it returns, so that the first frame is complete.
+    struct load {
+      bool operator==(const load&) const = default;
+    };
+    /// Reads everything anew where another program has changed the history since it was looked at last.
+    struct lookForChanges {
+      bool operator==(const lookForChanges&) const = default;
+    };
     struct reload {
       bool operator==(const reload&) const = default;
     };
@@ -98,9 +109,9 @@ struct AppFeature {
       std::string sentence;
       bool operator==(const didFail&) const = default;
     };
-    /// A setting was changed in the user's defaults: reads them all anew.
-    struct didChangeSettings {
-      bool operator==(const didChangeSettings&) const = default;
+    /// The app has started, and can be seen.
+    struct didStart {
+      bool operator==(const didStart&) const = default;
     };
     /// Time has passed.
     struct recompute {
@@ -231,6 +242,10 @@ struct AppFeature {
       HealthFeature::Action action;
       bool operator==(const health&) const = default;
     };
+    struct settings {
+      SettingsFeature::Action action;
+      bool operator==(const settings&) const = default;
+    };
     /// Has read what failed; without a failure, takes the offer to undo.
     struct didTapMessage {
       bool operator==(const didTapMessage&) const = default;
@@ -253,22 +268,25 @@ struct AppFeature {
   };
   struct Action
       : Cases,
-        std::variant<Cases::statistics, Cases::reload, Cases::didLoad, Cases::didFail, Cases::didChangeSettings,
-                     Cases::recompute, Cases::didChangeZone, Cases::didOpen, Cases::didClose, Cases::didGoBack,
-                     Cases::didTapStart, Cases::didTapStop, Cases::didChangeStart, Cases::didChangeGoal,
-                     Cases::didTapEditFast, Cases::didTapAddFast, Cases::didChangeDraftStart, Cases::didChangeDraftEnd,
-                     Cases::didChangeDraftGoal, Cases::didChangeDraftNote, Cases::didTapSaveDraft,
-                     Cases::didDismissDraft, Cases::didDeleteFast, Cases::didTapEditWeight, Cases::editedWeight,
-                     Cases::didDeleteWeight, Cases::didConfirmOverlapRepair, Cases::didCancelOverlapRepair,
-                     Cases::didChooseFiles, Cases::didTypeFasts, Cases::importing, Cases::didSwitchPrintedWeights,
-                     Cases::didExport, Cases::backups, Cases::health, Cases::didTapMessage, Cases::didDismissMessages,
-                     Cases::didWrite, Cases::didFailToWrite> {
+        std::variant<Cases::statistics, Cases::load, Cases::lookForChanges, Cases::reload, Cases::didLoad,
+                     Cases::didFail, Cases::didStart, Cases::recompute, Cases::didChangeZone, Cases::didOpen,
+                     Cases::didClose, Cases::didGoBack, Cases::didTapStart, Cases::didTapStop, Cases::didChangeStart,
+                     Cases::didChangeGoal, Cases::didTapEditFast, Cases::didTapAddFast, Cases::didChangeDraftStart,
+                     Cases::didChangeDraftEnd, Cases::didChangeDraftGoal, Cases::didChangeDraftNote,
+                     Cases::didTapSaveDraft, Cases::didDismissDraft, Cases::didDeleteFast, Cases::didTapEditWeight,
+                     Cases::editedWeight, Cases::didDeleteWeight, Cases::didConfirmOverlapRepair,
+                     Cases::didCancelOverlapRepair, Cases::didChooseFiles, Cases::didTypeFasts, Cases::importing,
+                     Cases::didSwitchPrintedWeights, Cases::didExport, Cases::backups, Cases::health, Cases::settings,
+                     Cases::didTapMessage, Cases::didDismissMessages, Cases::didWrite, Cases::didFailToWrite> {
     using variant::variant;
   };
 
   Client<HistoryClient> history;
   Client<DataFiles> files = {};
   Client<LinkedHealthClient> linkedHealth = {};  ///< none: no health data at all
+  std::function<void(std::optional<int>)> chooseFirstWeekday = {};
+  /// Has the user told of what they want to be told of while nobody looks at the app; a sentence where that fails.
+  std::function<std::optional<std::string>(const ReminderSettings&)> keepReminding = {};
   Client<DateGenerator> date = dependency(&Dependencies::date);
   Client<UUIDGenerator> uuid = dependency(&Dependencies::uuid);
   Client<UserDefaults> userDefaults = dependency(&Dependencies::userDefaults);
@@ -280,15 +298,18 @@ struct AppFeature {
   ImportFeature importFeature = {files, history, texts};
   BackupsFeature backupsFeature = {files, history, texts, date};
   HealthFeature healthFeature = {linkedHealth, files, history, texts};
+  SettingsFeature settingsFeature = {userDefaults, dependency(&Dependencies::appGroupUserDefaults), chooseFirstWeekday};
 
   Effect<Action> reduce(State& state, const Action& action) const;
 
  private:
   Effect<Action> on(State& state, const Action::statistics& sent) const;
+  Effect<Action> on(State& state, const Action::load& sent) const;
+  Effect<Action> on(State& state, const Action::lookForChanges& sent) const;
   Effect<Action> on(State& state, const Action::reload& sent) const;
   Effect<Action> on(State& state, const Action::didLoad& sent) const;
   Effect<Action> on(State& state, const Action::didFail& sent) const;
-  Effect<Action> on(State& state, const Action::didChangeSettings& sent) const;
+  Effect<Action> on(State& state, const Action::didStart& sent) const;
   Effect<Action> on(State& state, const Action::recompute& sent) const;
   Effect<Action> on(State& state, const Action::didChangeZone& sent) const;
   Effect<Action> on(State& state, const Action::didOpen& sent) const;
@@ -320,6 +341,7 @@ struct AppFeature {
   Effect<Action> print(const State& state, const std::string& file) const;
   Effect<Action> on(State& state, const Action::backups& sent) const;
   Effect<Action> on(State& state, const Action::health& sent) const;
+  Effect<Action> on(State& state, const Action::settings& sent) const;
   Effect<Action> on(State& state, const Action::didTapMessage& sent) const;
   Effect<Action> on(State& state, const Action::didDismissMessages& sent) const;
   Effect<Action> on(State& state, const Action::didWrite& sent) const;
@@ -329,6 +351,7 @@ struct AppFeature {
   Effect<Action> leave(State& state, Screen screen) const;
   Effect<Action> backTo(State& state, Screen screen) const;
   void takeSettings(State& state) const;
+  void remind(State& state) const;
   void recompute(State& state) const;
   Effect<Action> saveWeight(State& state, const BodyWeightSample& sample) const;
   Effect<Action> saveEditedWeight(State& state, const BodyWeightSample& accepted) const;
@@ -361,11 +384,12 @@ void fields(Listed& record, Visit&& visit) {
 
 template <RecordOf<AppFeature::State> Listed, class Visit>
 void fields(Listed& record, Visit&& visit) {
-  auto& [statistics, fasts, weights, now, nextGoalSeconds, draft, editedWeight, printsWeights, overlapRepair, importing,
-         backups, health, undo, failure, screen] = record;
+  auto& [statistics, fasts, weights, version, now, nextGoalSeconds, draft, editedWeight, printsWeights, overlapRepair,
+         importing, backups, health, settings, undo, failure, screen] = record;
   visit("statistics", statistics);
   visit("fasts", fasts);
   visit("weights", weights);
+  visit("version", version);
   visit("now", now);
   visit("nextGoalSeconds", nextGoalSeconds);
   visit("draft", draft);
@@ -375,6 +399,7 @@ void fields(Listed& record, Visit&& visit) {
   visit("importing", importing);
   visit("backups", backups);
   visit("health", health);
+  visit("settings", settings);
   visit("undo", undo);
   visit("failure", failure);
   visit("screen", screen);

@@ -70,6 +70,12 @@ Appearance appearance(const UserDefaults& defaults) {
       .reducesMotion = defaults.boolean(reducedMotionKey, false)};
 }
 
+Appearance overridden(Appearance chosen, const AppearanceOverride& given) {
+  return {.mode = given.mode.value_or(chosen.mode),
+          .textScale = withinTextScales(given.textScale.value_or(chosen.textScale)),
+          .reducesMotion = chosen.reducesMotion || given.still};
+}
+
 double withinTextScales(double scale) { return std::clamp(scale, smallestTextScale, largestTextScale); }
 
 void setAppearanceMode(const UserDefaults& defaults, AppearanceMode mode) {

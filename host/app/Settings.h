@@ -58,6 +58,17 @@ inline constexpr double smallestTextScale = 0.85, largestTextScale = 2;
 double withinTextScales(double scale);
 
 Appearance appearance(const UserDefaults& defaults);
+
+/// What holds for this run instead of what was chosen; mode and scale until another is.
+struct AppearanceOverride {
+  std::optional<AppearanceMode> mode = {};
+  std::optional<double> textScale = {};
+  bool still = false;  ///< nothing moves
+  bool operator==(const AppearanceOverride&) const = default;
+};
+
+Appearance overridden(Appearance chosen, const AppearanceOverride& given);
+
 void setAppearanceMode(const UserDefaults& defaults, AppearanceMode mode);
 void setTextScale(const UserDefaults& defaults, double scale);
 void setReducedMotion(const UserDefaults& defaults, bool reduced);

@@ -5,7 +5,10 @@
 #include <array>
 #include <cmath>
 #include <string_view>
+#include <utility>
 
+#include "host/pages/BackupsPage.h"
+#include "host/pages/HealthSheet.h"
 #include "mivo/fasting/GoalTime.h"
 #include "mivo/weights/WeightUnits.h"
 
@@ -83,6 +86,19 @@ Choice appearanceChoice(const SettingsFacts& facts, const TextLookup& texts) {
 }
 
 }  // namespace
+
+SettingsFacts settingsFacts(const AppFeature::State& state, int usualWeekday, std::string version,
+                            const PageClients& clients) {
+  return {.goalSeconds = state.nextGoalSeconds,
+          .weightUnit = state.statistics.goalWeightCardState.weightUnit,
+          .chosenWeekday = state.settings.firstWeekday,
+          .usualWeekday = usualWeekday,
+          .language = state.settings.language,
+          .appearance = state.settings.appearance,
+          .linkedHealth = linkedFileText(state.health, clients.texts),
+          .newestBackup = newestBackupText(state.backups, clients),
+          .version = std::move(version)};
+}
 
 SettingsPage composeSettings(const SettingsFacts& facts, const PageClients& clients) {
   const auto& texts = clients.texts;

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "host/app/Settings.h"
+#include "host/app/AppFeature.h"
 #include "mivo/model/Record.h"
 #include "mivo/pages/PageClients.h"
 
@@ -114,6 +114,9 @@ void fields(Listed& record, Visit&& visit) {
   visit("aboutLabel", aboutLabel);
   visit("version", version);
 }
+
+SettingsFacts settingsFacts(const AppFeature::State& state, int usualWeekday, std::string version,
+                            const PageClients& clients);
 
 SettingsPage composeSettings(const SettingsFacts& facts, const PageClients& clients);
 

@@ -252,7 +252,7 @@ TEST(Screens, openAgainAndAfterEachOther) {
 TEST(Screens, growWithTheTextSizeWhileTheyAreOpen) {
   ShownApp app{ShownApp::optionsFor(threeWeeks)};
   const auto scaleTo = [&](double scale) {
-    app.app.appearance().setOverride({.mode = host::AppearanceMode::light, .textScale = scale, .still = true});
+    app.app.overrideAppearance({.mode = host::AppearanceMode::light, .textScale = scale, .still = true});
     settle(app.window());
   };
   for (const host::Screen one : host::allScreens()) {

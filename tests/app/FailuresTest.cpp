@@ -80,7 +80,7 @@ TEST_F(Failures, aFullDiskIsSaidAndTheFastCanBeStartedLater) {
 TEST_F(Failures, settingsThatCannotBeSavedAreSaidAndHoldUntilTheEnd) {
   open("de-DE");
   const tests::FullDisk full;
-  app->app.appearance().changeTextScale(1.5);
+  app->model().settings->changeTextSize(150);
   EXPECT_TRUE(eventuallySays("Einstellungen können nicht in " + (folder.path / "mivo" / "app.json").string() +
                              " gespeichert werden: " + std::generic_category().message(EFBIG)));
   EXPECT_EQ(app->app.appearance().textScale(), 1.5);

@@ -53,8 +53,18 @@ class AppFeatureTest : public tests::StatisticsTest {
   tests::TemporaryFolder folder;
   std::filesystem::path file = folder.path / "mivo.sqlite";
   std::shared_ptr<const DatabaseHistory> history = std::make_shared<DatabaseHistory>(Database{file});
-  Store<AppFeature> app{AppFeature::State::make(TimeRange::week), AppFeature{.history = history}, world.queue,
-                        world.tasks};
+  std::vector<std::optional<int>> weekdays;  // that weeks were to begin on
+  std::vector<ReminderSettings> reminded;
+  std::optional<std::string> reminderFault;
+  Store<AppFeature> app{AppFeature::State::make(TimeRange::week),
+                        AppFeature{.history = history,
+                                   .chooseFirstWeekday = [this](auto weekday) { weekdays.push_back(weekday); },
+                                   .keepReminding =
+                                       [this](const ReminderSettings& settings) {
+                                         reminded.push_back(settings);
+                                         return reminderFault;
+                                       }},
+                        world.queue, world.tasks};
 };
 
 TEST_F(AppFeatureTest, showsAFastOnlyOnceItIsOnDisk) {
@@ -240,8 +250,7 @@ TEST_F(WeightEdits, sayInTheirSheetWhyNothingWasSaved) {
 }
 
 TEST_F(AppFeatureTest, savesADraftAndForgetsIt) {
-  setGoalSeconds(*world.dependencies.userDefaults, 72000);
-  send(Action::didChangeSettings{});
+  send(Action::settings{SettingsFeature::Action::didChooseGoal{72000}});
   send(Action::didTapAddFast{});
   ASSERT_TRUE(state().draft->has_value());
   EXPECT_EQ((*state().draft)->record.fast.goalSeconds, 72000);
@@ -446,22 +455,109 @@ TEST_F(AppFeatureTest, remembersTheGoal) {
   EXPECT_EQ(goalWeight(*world.dependencies.userDefaults), std::nullopt);
 }
 
-TEST_F(AppFeatureTest, readsChangedSettingsAtOnce) {
+class ChosenSettings : public AppFeatureTest {
+ protected:
+  using Chosen = SettingsFeature::Action;
+  void choose(Chosen chosen) { send(Action::settings{std::move(chosen)}); }
+  const UserDefaults& defaults() const { return *world.dependencies.userDefaults; }
+};
+
+TEST_F(ChosenSettings, holdInTheStatisticsAtOnce) {
   const auto& card = state().statistics.addWeightLogState;
-  const auto& defaults = *world.dependencies.userDefaults;
   send(Action::statistics{Sent::addWeightLogAction{AddWeightLogFeature::Action::didChangeText{"72.4"}}});
-  defaults.setValue("showBadges", false);
-  world.dependencies.appGroupUserDefaults->setStreakSettings({.maxBreakHours = 30});
-  send(Action::didChangeSettings{});
-  EXPECT_FALSE(*state().statistics.dashboardSettings.showBadges);
-  EXPECT_EQ(state().statistics.streakSettings->maxBreakHours, 30);
+  DashboardSettingsFeature::State cards;
+  cards.showBadges = false;
+  choose(Chosen::didChooseCards{cards});
+  EXPECT_EQ(state().statistics.dashboardSettings, cards);
+  EXPECT_FALSE(defaults().boolean("showBadges", true));
+  choose(Chosen::didChooseLongestBreak{30});
+  choose(Chosen::didToggleBelowGoal{});
+  choose(Chosen::didChooseCountingEntity{StreakSettings::CountingEntity::fasts});
+  EXPECT_EQ(*state().statistics.streakSettings, (StreakSettings{StreakSettings::CountingEntity::fasts, true, 30}));
+  choose(Chosen::didToggleBelowGoal{});
+  EXPECT_FALSE(state().statistics.streakSettings->ignoreFastGoal);
   EXPECT_EQ(*card.typedText, "72.4") << "no other unit";
 
-  setWeightUnit(defaults, WeightUnit::pounds);
-  send(Action::didChangeSettings{});
+  choose(Chosen::didChooseWeightUnit{WeightUnit::pounds});
   EXPECT_EQ(*card.weightUnit, WeightUnit::pounds);
   EXPECT_EQ(*state().statistics.goalWeightCardState.weightUnit, WeightUnit::pounds);
   EXPECT_EQ(*card.typedText, std::nullopt) << "72.4 was meant in kilograms";
+
+  setGoalSeconds(defaults(), 64800);  // by another program
+  send(Action::statistics{Sent::onAppear{}});
+  EXPECT_EQ(*state().nextGoalSeconds, 64800);
+}
+
+TEST_F(ChosenSettings, beginTheWeeksOnAnotherDay) {
+  choose(Chosen::didChooseFirstWeekday{7});
+  choose(Chosen::didChooseFirstWeekday{std::nullopt});
+  choose(Chosen::didChooseFirstWeekday{1});
+  EXPECT_THAT(weekdays, ElementsAre(7, std::nullopt, 1));
+  EXPECT_EQ(firstWeekday(defaults()), 1);
+  EXPECT_EQ(*state().settings.firstWeekday, 1);
+}
+
+TEST_F(ChosenSettings, takeOnlyAnotherLanguage) {
+  const Stamp before = state().settings.language.stamp();
+  choose(Chosen::didChooseLanguage{""});
+  EXPECT_EQ(state().settings.language.stamp(), before);
+  choose(Chosen::didChooseLanguage{"fr"});
+  EXPECT_EQ(language(defaults()), "fr");
+  EXPECT_EQ(*state().settings.language, "fr");
+}
+
+TEST_F(ChosenSettings, giveWayToWhatWasGivenForThisRunUntilTheyAreChosenAnew) {
+  const auto& look = state().settings.appearance;
+  setAppearanceMode(defaults(), AppearanceMode::dark);
+  choose(Chosen::didOverrideAppearance{{.mode = AppearanceMode::light, .textScale = 9, .still = true}});
+  EXPECT_EQ(look, (Appearance{AppearanceMode::light, 2, true}));
+  EXPECT_EQ(appearance(defaults()), (Appearance{AppearanceMode::dark, 1, false})) << "nothing is kept";
+  send(Action::statistics{Sent::onAppear{}});
+  EXPECT_EQ(look->mode, AppearanceMode::light);
+  choose(Chosen::didChooseAppearanceMode{AppearanceMode::dark});
+  EXPECT_EQ(look, (Appearance{AppearanceMode::dark, 2, true}));
+  choose(Chosen::didChooseTextScale{1.1});
+  EXPECT_EQ(look, (Appearance{AppearanceMode::dark, 1.1, true}));
+
+  choose(Chosen::didOverrideAppearance{});
+  choose(Chosen::didToggleReducedMotion{});
+  EXPECT_TRUE(look->reducesMotion);
+  choose(Chosen::didToggleReducedMotion{});
+  EXPECT_EQ(look, (Appearance{AppearanceMode::dark, 1.1, false}));
+}
+
+TEST_F(ChosenSettings, tellOfWhatIsWantedAndWhyTheyCannot) {
+  send(Action::didStart{});
+  EXPECT_THAT(reminded, IsEmpty()) << "nothing is wanted yet";
+  choose(Chosen::didToggleGoalReminder{});
+  choose(Chosen::didToggleEatingWindowReminder{});
+  choose(Chosen::didToggleGoalReminder{});
+  reminderFault = "Reminders will not come.";
+  choose(Chosen::didChooseEatingWindow{8});
+  EXPECT_THAT(reminded, ElementsAre(ReminderSettings{.tellsGoal = true},
+                                    ReminderSettings{.tellsGoal = true, .tellsEatingWindow = true},
+                                    ReminderSettings{.tellsEatingWindow = true},
+                                    ReminderSettings{.tellsEatingWindow = true, .eatingWindowHours = 8}));
+  EXPECT_EQ(reminderSettings(defaults()), reminded.back());
+  EXPECT_EQ(*state().failure, "Reminders will not come.");
+  send(Action::didStart{});
+  EXPECT_THAT(reminded, SizeIs(5));
+  choose(Chosen::didChooseLongestBreak{30});
+  EXPECT_THAT(reminded, SizeIs(5));
+}
+
+TEST_F(AppFeatureTest, readsTheHistoryAnewOnlyWhereAnotherProgramChangedIt) {
+  send(Action::load{});
+  send(Action::didTapStart{at(-3), 57600});
+  app.send(Action::lookForChanges{});
+  EXPECT_EQ(world.tasks->count(), 0U) << "its own changes it knows";
+  Database{file}.apply(adding(fast(1, -40, -24)));
+  app.send(Action::lookForChanges{});
+  EXPECT_EQ(world.tasks->count(), 1U);
+  app.send(Action::lookForChanges{});
+  EXPECT_EQ(world.tasks->count(), 1U);
+  settle();
+  EXPECT_EQ(state().fasts->elements(), onDisk());
 }
 
 }  // namespace
