@@ -2,6 +2,7 @@
 // writeRecords FILE: the types in QML of composed records, each field as a property of its name. Qt's own tools read
 // the file like any header, so QML is checked against the fields.
 #include <fstream>
+#include <iterator>
 #include <sstream>
 #include <string>
 #include <string_view>
@@ -110,7 +111,11 @@ void writeAll(std::ostream& out, RecordList<Values...>, RecordList<Objects...>) 
 
 int main(int count, char** arguments) {
   if (count != 2) return 2;
+  std::ostringstream text;
+  mivo::app::writeAll(text, mivo::app::ValueRecords{}, mivo::app::ObjectRecords{});
+  std::ifstream before{arguments[1]};
+  if (std::string{std::istreambuf_iterator<char>{before}, {}} == text.str()) return 0;  // what it made need not be new
   std::ofstream file{arguments[1]};
-  mivo::app::writeAll(file, mivo::app::ValueRecords{}, mivo::app::ObjectRecords{});
+  file << text.str();
   return file.flush() ? 0 : 1;
 }
