@@ -17,7 +17,7 @@ const std::vector<std::string>& calendarIdentifiers();
 
 /// A calendar in a zone.
 ///
-///     const auto calendar = makeCalendar("hebrew", TimeZone::load("Asia/Jerusalem").value(), 1);
+///     const auto calendar = makeCalendar("hebrew", loadTimeZone("Asia/Jerusalem").value(), 1);
 ///
 /// firstWeekday  1 = Sunday to 7 = Saturday
 /// Errors        an unknown identifier or a weekday out of range, each with what would have been accepted

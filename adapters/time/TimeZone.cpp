@@ -1,13 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "adapters/time/TimeZone.h"
 
-#include <cctz/civil_time.h>
-#include <cctz/time_zone.h>
-
 #include <algorithm>
+#include <array>
+#include <optional>
 #include <utility>
-
-#include "adapters/time/TimeZoneNames.h"
 
 namespace mivo::adapters {
 
@@ -16,36 +13,81 @@ using namespace std::chrono;
 namespace {
 
 // The Gregorian calendar repeats after 400 years, weekdays included, and so does every rule for clock changes.
+constexpr years yearsOfACycle{400};
 constexpr seconds cycle = days{146097};
 
-// A zone whose rule goes on for ever is listed by cctz for 400 years past the last change that its file names; every
-// other zone has seen its last change by then.
-constexpr sys_seconds endlessIfChangedAfter = sys_days{year{2300} / 1 / 1};
+std::optional<std::string> faultOf(const Transitions& known) {
+  const auto isOffset = [](seconds offset) { return abs(offset) < days{1}; };
+  if (known.lastYear < year{1} || known.lastYear > year{9999}) return "expected a last year from 1 to 9999";
+  if (!isOffset(known.firstOffset)) return "expected a first offset of less than a day";
+  const sys_seconds end = sys_days{(known.lastYear + years{1}) / 1 / 1};
+  sys_seconds before = sys_seconds{sys_days{year{1} / 1 / 1}} - seconds{1};
+  for (std::size_t place = 0; place < known.list.size(); ++place) {
+    const auto& [instant, offset] = known.list[place];
+    const std::string which = "transition " + std::to_string(place + 1) + ": ";
+    if (instant <= before) return which + "expected a later instant than before it, from the year 1 on";
+    if (instant >= end) return which + "expected an instant up to the end of the last year";
+    if (!isOffset(offset)) return which + "expected an offset of less than a day";
+    before = instant;
+  }
+  return std::nullopt;
+}
 
-seconds sinceEpoch(const cctz::civil_second& wall) { return seconds{wall - cctz::civil_second{1970, 1, 1, 0, 0, 0}}; }
+sys_days newYear(year which) { return sys_days{which / 1 / 1}; }
+
+// By what its dates fall on: the weekday that a year begins with, and its length.
+std::size_t kindOf(year which) { return weekday{newYear(which)}.c_encoding() + (which.is_leap() ? 7 : 0); }
+
+// The places in a list of the transitions of one year.
+struct ListedYear {
+  year which{};
+  std::size_t begin = 0, end = 0;
+};
+
+ListedYear listedYear(const std::vector<Transition>& list, year which) {
+  const auto placeOf = [&list](sys_seconds instant) {
+    return static_cast<std::size_t>(std::ranges::lower_bound(list, instant, {}, &Transition::instant) - list.begin());
+  };
+  return {which, placeOf(newYear(which)), placeOf(newYear(which + years{1}))};
+}
+
+// For a cycle beyond the list; false where it shows no rule.
+bool carryOn(Transitions& known) {
+  std::array<ListedYear, 14> latest;
+  for (year which = known.lastYear - Transitions::yearsThatShowARule + years{1}; which <= known.lastYear; ++which) {
+    const ListedYear listed = listedYear(known.list, which);
+    if (listed.begin == listed.end) return false;
+    latest[kindOf(which)] = listed;
+  }
+  for (year which = known.lastYear + years{1}; which <= known.lastYear + yearsOfACycle; ++which) {
+    const ListedYear& alike = latest[kindOf(which)];
+    const days later = newYear(which) - newYear(alike.which);
+    for (std::size_t place = alike.begin; place < alike.end; ++place) {
+      const Transition transition = known.list[place];
+      known.list.push_back({transition.instant + later, transition.offset});
+    }
+  }
+  return true;
+}
 
 }  // namespace
 
-tl::expected<std::shared_ptr<const TimeZone>, std::string> TimeZone::load(const std::string& name) {
-  cctz::time_zone zone;
-  if (!isTimeZoneName(name) || !cctz::load_time_zone(name, &zone)) return tl::unexpected{unknownTimeZone(name)};
-
-  const auto beginningOfTime = cctz::time_point<cctz::seconds>::min();
-  Changes changes{{sys_seconds::min(), duration<std::int32_t>{zone.lookup(beginningOfTime).offset}, {}}};
-  cctz::time_zone::civil_transition change;
-  for (auto at = beginningOfTime; zone.next_transition(at, &change);) {
-    const seconds before = changes.back().offset;
-    at = cctz::time_point<cctz::seconds>{sinceEpoch(change.from) - before};
-    const auto after = static_cast<std::int32_t>((before + sinceEpoch(change.to) - sinceEpoch(change.from)).count());
-    changes.push_back({at, duration<std::int32_t>{after}, {}});
-  }
-  return std::shared_ptr<const TimeZone>{new TimeZone{name, std::move(changes)}};
+tl::expected<std::shared_ptr<const TimeZone>, std::string> TimeZone::fromTransitions(std::string name,
+                                                                                     Transitions known) {
+  if (const auto fault = faultOf(known)) return tl::unexpected{"time zone \"" + name + "\": " + *fault};
+  const bool goesOn = carryOn(known);
+  using Offset = decltype(Span::offset);
+  Changes changes;
+  changes.reserve(known.list.size() + 2);
+  changes.push_back({sys_seconds::min(), duration_cast<Offset>(known.firstOffset), {}});
+  for (const auto& [instant, offset] : known.list) changes.push_back({instant, duration_cast<Offset>(offset), {}});
+  return std::shared_ptr<const TimeZone>{new TimeZone{std::move(name), std::move(changes), goesOn}};
 }
 
-TimeZone::TimeZone(std::string name, Changes changes)
+TimeZone::TimeZone(std::string name, Changes changes, bool goesOn)
     : zoneName{std::move(name)}, spans{std::move(changes)}, repeatFrom{sys_seconds::max()} {
   // Two days past the last change, so that a wall time near a change finds what came before it.
-  if (spans.back().begin > endlessIfChangedAfter) repeatFrom = spans.back().begin + days{2};
+  if (goesOn) repeatFrom = spans.back().begin + days{2};
   largestOffset = std::ranges::max_element(spans, {}, &Span::offset)->offset;
 
   spans.front().begun = decltype(Span::begun)::min();

@@ -24,7 +24,34 @@ struct WallTimeInstants {
   std::chrono::sys_seconds first, second;
 };
 
-/// A time zone of the system's database, with its rules carried on without end.
+/// A change of a zone's clocks: from `instant` on they show UTC plus `offset`, which is less than a day either way.
+struct Transition {
+  std::chrono::sys_seconds instant;
+  std::chrono::seconds offset;  ///< east of UTC
+  bool operator==(const Transition&) const = default;
+};
+
+/// What is known of a zone: every change of its clocks up to the end of a year, in UTC.
+///
+/// Where each of the last 40 years has a change the rule behind them is carried on without end: such rules go by month,
+/// day and weekday, so that a year has the changes of the latest listed one that begins on the same weekday and is as
+/// long; all fourteen kinds of years come within 40. Where one of them has none, the last offset stays for ever. So a
+/// list that ends while a zone still follows its moon ("Africa/Casablanca" up to 2087) is to go on beyond that.
+struct Transitions {
+  static constexpr std::chrono::years yearsThatShowARule{40};
+  static constexpr std::chrono::year noYearLeft{9999};  ///< as the last year: there are no further changes
+
+  std::chrono::seconds firstOffset{};  ///< before the first of the list
+  std::vector<Transition> list = {};   ///< ascending; within the years 1 to `lastYear`
+  std::chrono::year lastYear = noYearLeft;
+};
+
+/// A time zone, with its rules carried on without end.
+///
+///     // Berlin, for whoever asks about 1945 to 1979 only
+///     TimeZone::fromTransitions("Europe/Berlin", {.firstOffset = 1h, .list = {{sys_days{1945y / 4 / 2} + 1h, 2h},
+///     ...},
+///                                                 .lastYear = 1979y});
 ///
 /// A day is the half-open span between the first instants of two consecutive dates; a date's first instant is the first
 /// one at which the clocks show its 00:00 or later. So a date that the zone skipped is empty, and an instant belongs to
@@ -34,8 +61,10 @@ struct WallTimeInstants {
 /// Thread: any. Cost: 2 to 4 ns where the offset is that of the last question or the next one, a binary search else.
 class TimeZone {
  public:
-  /// "Europe/Berlin"; an error says what was expected. Reads a file the first time, and takes about 0.1 ms.
-  static tl::expected<std::shared_ptr<const TimeZone>, std::string> load(const std::string& name);
+  /// An error names the zone and the transition, counted from 1, and says what was expected: instants that ascend
+  /// within the years, offsets of less than a day, a last year from 1 to 9999. Cost: 10 us where a rule is carried on.
+  static tl::expected<std::shared_ptr<const TimeZone>, std::string> fromTransitions(std::string name,
+                                                                                    Transitions known);
 
   std::string_view name() const { return zoneName; }
 
@@ -72,7 +101,7 @@ class TimeZone {
   };
   using Changes = std::vector<Span>;
 
-  TimeZone(std::string name, Changes changes);
+  TimeZone(std::string name, Changes changes, bool goesOn);
 
   std::chrono::seconds cyclesPast(std::chrono::sys_seconds instant) const;
   Place place(std::chrono::sys_seconds instant) const;

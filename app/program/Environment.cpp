@@ -34,7 +34,7 @@
 #include "host/database/FaultText.h"
 #include "host/donations/DonationList.h"
 #include "host/history/Snapshot.h"
-#include "host/place/PlaceOptions.h"
+#include "host/options/PlaceOptions.h"
 #include "host/text/TextFile.h"
 
 namespace mivo::app {

@@ -7,8 +7,9 @@
 
 #include "adapters/icu/DateFormatters.h"
 #include "adapters/time/TimeZone.h"
-#include "adapters/time/TimeZoneNames.h"
 #include "adapters/time/ZonedCalendar.h"
+#include "adapters/zoneinfo/LoadTimeZone.h"
+#include "adapters/zoneinfo/TimeZoneNames.h"
 
 namespace mivo::app {
 
@@ -69,7 +70,7 @@ void SystemZone::fill(Dependencies& clients) const {
 std::optional<std::string> SystemZone::follow() {
   const auto name = adapters::systemTimeZoneName();
   if (!name || *name == calendar->timeZone()) return std::nullopt;
-  auto zone = adapters::TimeZone::load(*name);
+  auto zone = adapters::loadTimeZone(*name);
   if (!zone) return std::nullopt;
   calendar->moveTo(std::move(*zone));
   texts->take(locale, calendar->present());

@@ -12,7 +12,7 @@
 #include "adapters/time/ZonedCalendar.h"
 #include "host/app/Settings.h"
 #include "host/database/Database.h"
-#include "host/place/PlaceOptions.h"
+#include "host/options/PlaceOptions.h"
 
 namespace mivo::app {
 namespace {

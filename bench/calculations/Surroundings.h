@@ -10,6 +10,7 @@
 #include "adapters/system/LocalUUIDGenerator.h"
 #include "adapters/time/TimeZone.h"
 #include "adapters/time/ZonedCalendar.h"
+#include "adapters/zoneinfo/LoadTimeZone.h"
 #include "bench/support/Floor.h"
 #include "bench/support/Histories.h"
 #include "mivo/platform/Dependencies.h"
@@ -23,7 +24,7 @@ struct FixedClock : mivo::DateGenerator {
 /// What the app runs with, in New York, and a clock that stands still.
 inline std::shared_ptr<const mivo::Dependencies> surroundings() {
   using namespace mivo::adapters;
-  const auto calendar = ZonedCalendar::gregorian(TimeZone::load("America/New_York").value(), 1);
+  const auto calendar = ZonedCalendar::gregorian(loadTimeZone("America/New_York").value(), 1);
   auto clients = std::make_shared<mivo::Dependencies>();
   clients->date = std::make_shared<FixedClock>();
   clients->uuid = std::make_shared<LocalUUIDGenerator>();

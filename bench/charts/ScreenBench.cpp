@@ -5,6 +5,7 @@
 #include "adapters/icu/LocaleFormatters.h"
 #include "adapters/icu/UserLocale.h"
 #include "adapters/locale/MessageCatalogue.h"
+#include "adapters/zoneinfo/LoadTimeZone.h"
 #include "mivo/statistics/ComposeScreen.h"
 
 namespace bench {
@@ -44,7 +45,7 @@ void wholeScreen(benchmark::State& state, const char* language) {
                                 .showHealthKitCard = true,
                                 .daysOfThisRange = 3.5,
                                 .goalWeightInKg = 69};
-  const auto zone = mivo::adapters::TimeZone::load("Europe/Berlin").value();
+  const auto zone = mivo::adapters::loadTimeZone("Europe/Berlin").value();
   const auto calendar = mivo::adapters::makeCalendar("gregorian", zone, 2).value();
   const auto formatters =
       mivo::adapters::makeFormatters(mivo::adapters::UserLocale::parse(language).value(), *calendar);

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "adapters/system/LocalUUIDGenerator.h"
+#include "adapters/zoneinfo/LoadTimeZone.h"
 #include "bench/support/Floor.h"
 #include "bench/support/Histories.h"
 #include "host/dates/DateText.h"
@@ -19,7 +20,7 @@ using namespace mivo::host;
 const mivo::adapters::LocalUUIDGenerator ids;
 
 std::shared_ptr<const mivo::adapters::TimeZone> berlin() {
-  return mivo::adapters::TimeZone::load("Europe/Berlin").value();
+  return mivo::adapters::loadTimeZone("Europe/Berlin").value();
 }
 
 History history(std::int64_t count) {

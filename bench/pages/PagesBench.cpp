@@ -5,6 +5,7 @@
 #include "adapters/icu/LocaleFormatters.h"
 #include "adapters/icu/UserLocale.h"
 #include "adapters/locale/MessageCatalogue.h"
+#include "adapters/zoneinfo/LoadTimeZone.h"
 #include "bench/support/Floor.h"
 #include "bench/support/Histories.h"
 #include "host/pages/FastingPage.h"
@@ -23,7 +24,7 @@ struct Surroundings {
 
   mivo::adapters::UserLocale locale = mivo::adapters::UserLocale::parse("en-GB").value();
   std::shared_ptr<const mivo::adapters::ZonedCalendar> calendar =
-      mivo::adapters::makeCalendar("gregorian", mivo::adapters::TimeZone::load("Europe/Berlin").value(), 2).value();
+      mivo::adapters::makeCalendar("gregorian", mivo::adapters::loadTimeZone("Europe/Berlin").value(), 2).value();
   mivo::adapters::LocaleFormatters formatters = mivo::adapters::makeFormatters(locale, *calendar);
   mivo::adapters::MessageCatalogue texts{"en-GB"};
 };

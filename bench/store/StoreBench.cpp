@@ -9,6 +9,7 @@
 #include "adapters/icu/Calendars.h"
 #include "adapters/system/LocalUUIDGenerator.h"
 #include "adapters/system/SystemClock.h"
+#include "adapters/zoneinfo/LoadTimeZone.h"
 #include "bench/support/Floor.h"
 #include "bench/support/Histories.h"
 #include "mivo/statistics/StatisticsFeature.h"
@@ -48,7 +49,7 @@ std::shared_ptr<const mivo::Dependencies> dependencies() {
   auto own = std::make_shared<mivo::Dependencies>();
   own->date = std::make_shared<mivo::adapters::SystemClock>();
   own->uuid = std::make_shared<mivo::adapters::LocalUUIDGenerator>();
-  const auto zone = *mivo::adapters::TimeZone::load("Europe/Berlin");
+  const auto zone = *mivo::adapters::loadTimeZone("Europe/Berlin");
   own->calendar = own->currentCalendar = *mivo::adapters::makeCalendar("gregorian", zone, 2);
   own->healthKitClient = std::make_shared<NoHealth>();
   own->tips = std::make_shared<NoTips>();

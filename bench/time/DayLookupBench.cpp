@@ -7,6 +7,7 @@
 #include "adapters/icu/Calendars.h"
 #include "adapters/time/TimeZone.h"
 #include "adapters/time/ZonedCalendar.h"
+#include "adapters/zoneinfo/LoadTimeZone.h"
 #include "bench/support/Floor.h"
 #include "bench/support/Histories.h"
 
@@ -16,7 +17,7 @@ namespace {
 using mivo::adapters::TimeZone;
 using mivo::adapters::ZonedCalendar;
 
-std::shared_ptr<const TimeZone> berlin() { return TimeZone::load("Europe/Berlin").value(); }
+std::shared_ptr<const TimeZone> berlin() { return loadTimeZone("Europe/Berlin").value(); }
 
 std::int64_t seconds(mivo::Date date) { return mivo::adapters::wholeSecond(date).time_since_epoch().count(); }
 

@@ -11,7 +11,8 @@
 #include "adapters/json/NlohmannDecoder.h"
 #include "adapters/system/UserDirectories.h"
 #include "adapters/time/TimeZone.h"
-#include "adapters/time/TimeZoneNames.h"
+#include "adapters/zoneinfo/LoadTimeZone.h"
+#include "adapters/zoneinfo/TimeZoneNames.h"
 #include "host/backup/BackupPlace.h"
 #include "host/database/Database.h"
 #include "host/dates/DateText.h"
@@ -116,7 +117,7 @@ Finding healthData(const fs::path& settings) {
 Finding timeZone() {
   const auto name = adapters::systemTimeZoneName();
   if (!name) return {"time zone", name.error(), true};
-  const auto zone = adapters::TimeZone::load(*name);
+  const auto zone = adapters::loadTimeZone(*name);
   return zone ? Finding{"time zone", *name} : Finding{"time zone", zone.error(), true};
 }
 

@@ -12,7 +12,7 @@
 #include "cli/usage/Choices.h"
 #include "host/dates/WrittenDate.h"
 #include "host/import/ImportedFile.h"
-#include "host/place/PlaceOptions.h"
+#include "host/options/PlaceOptions.h"
 #include "mivo/platform/Formatters.h"
 
 namespace mivo::cli {

@@ -5,6 +5,8 @@
 #include <array>
 #include <utility>
 
+#include "adapters/zoneinfo/LoadTimeZone.h"
+
 namespace mivo::data {
 namespace {
 
@@ -32,7 +34,7 @@ Eater::Eater(std::vector<Habit> habitsByDate, std::uint64_t seed) : habits{std::
 
 void Eater::enter(std::size_t habit) {
   current = habit;
-  zone = adapters::TimeZone::load(habits[habit].zone).value();
+  zone = adapters::loadTimeZone(habits[habit].zone).value();
   isFirstOfHabit = true;
 }
 

@@ -3,6 +3,8 @@
 
 #include <algorithm>
 
+#include "adapters/zoneinfo/LoadTimeZone.h"
+
 namespace mivo::data {
 namespace {
 
@@ -31,7 +33,7 @@ std::vector<BodyWeightSample> weighings(std::span<const Milestone> milestones, s
   std::shared_ptr<const adapters::TimeZone> zone;
   for (local_days day = milestones.front().day;; day += days{1}) {
     const std::string& zoneName = habitOn(habits, day).zone;
-    if (!zone || zone->name() != zoneName) zone = adapters::TimeZone::load(zoneName).value();
+    if (!zone || zone->name() != zoneName) zone = adapters::loadTimeZone(zoneName).value();
     const seconds timeOfDay = hours{7} + minutes{8} + seconds{dice.bell(seconds{minutes{14}}.count())};
     const Date when{zone->firstInstant(day + timeOfDay)};
     if (when > until) return samples;

@@ -6,13 +6,15 @@
 #include <cstdint>
 #include <optional>
 
-#include "adapters/time/TimeZone.h"
 #include "host/dates/DateText.h"
 #include "host/fasting/Fasting.h"
 #include "mivo/fasting/GoalTime.h"
 #include "mivo/pages/DateTimeText.h"
 
 namespace mivo::host {
+
+using namespace std::chrono;
+
 namespace {
 
 constexpr int yearsBack = 100, daysAhead = 1, dayTotal = yearsBack * 366 + daysAhead + 1, lastDay = dayTotal - 1;
@@ -29,13 +31,26 @@ DateTimeEntry withTime(DateTimeEntry entry, double secondsOfDay) {
   return entry;
 }
 
-/// "2026-06-09 13:24": as the zone's clocks show it, in the common calendar; nothing where the zone has no rules.
-std::string typedText(Date date, const Calendar& calendar) {
-  const auto zone = adapters::TimeZone::load(std::string{calendar.timeZone()});
-  if (!zone) return {};
-  const auto since = std::chrono::floor<std::chrono::seconds>(std::chrono::duration<double>{secondsSince1970(date)});
-  const auto wall = (*zone)->wallTime(std::chrono::sys_seconds{since});
-  const std::string text = rfc3339(dateSince1970(static_cast<double>(wall.time_since_epoch().count())));
+/// The date of an instant in the common calendar, as the zone of `calendar` counts it: from the last New Year, which
+/// begins within a day of 00:00 UTC. Nothing outside the years that a calendar has.
+std::optional<local_days> commonDay(Date date, const Calendar& calendar) {
+  const auto common = calendar.gregorian();
+  const auto end = common->endOfDay(date);
+  const auto newYear = end ? common->lastMatch({.month = 1, .day = 1}, *end) : std::nullopt;
+  const auto count = newYear ? common->calendarDatesBetween(*newYear, date) : std::nullopt;
+  if (!count) return std::nullopt;
+  constexpr Duration halfAYear{183 * secondsPerDay};
+  const year_month_day summer{floor<days>(*newYear + halfAYear)};
+  return local_days{summer.year() / 1 / 1} + days{*count - 1};
+}
+
+/// "2026-06-09 13:24": as the zone's clocks show it, in the common calendar.
+std::string typedText(Date date, const PageClients& clients) {
+  const auto day = commonDay(date, clients.calendar);
+  if (!day) return {};
+  const DateTimeEntry shown = dateTimeEntry(date, clients);
+  const auto wall = *day + hours{shown.hour} + minutes{shown.minute};
+  const std::string text = rfc3339(dateSince1970(static_cast<double>(seconds{wall.time_since_epoch()}.count())));
   return text.substr(0, 10) + " " + text.substr(11, 5);
 }
 
@@ -43,6 +58,13 @@ std::optional<DateTimeEntry> withTypedTime(const DateTimeEntry& entry, std::stri
   const auto seconds = text.find(':') == std::string_view::npos ? std::nullopt : parseGoal(text);
   if (!seconds || static_cast<double>(*seconds) >= secondsPerDay) return std::nullopt;
   return withTime(entry, static_cast<double>(*seconds));
+}
+
+std::optional<DateTimeEntry> withInstant(std::optional<Date> date, const PageClients& clients) {
+  if (!date) return std::nullopt;
+  const DateTimeEntry typed = dateTimeEntry(*date, clients);
+  const bool isOfTheList = clients.calendar.calendarDatesBetween(*date, instantOf(typed, clients.calendar)) == 1;
+  return isOfTheList ? std::optional{typed} : std::nullopt;
 }
 
 }  // namespace
@@ -90,12 +112,15 @@ Date instantOf(const DateTimeEntry& entry, const Calendar& calendar) {
 std::optional<DateTimeEntry> withTyped(const DateTimeEntry& entry, std::string_view text, const PageClients& clients) {
   if (const auto ofThatDay = withTypedTime(entry, text)) return ofThatDay;
   const auto read = parseDateText(text);
-  const auto zone = adapters::TimeZone::load(std::string{clients.calendar.timeZone()});
-  const auto date = read && zone ? instant(*read, **zone) : std::nullopt;
-  if (!date) return std::nullopt;
-  DateTimeEntry typed = dateTimeEntry(*date, clients);
-  if (clients.calendar.calendarDatesBetween(*date, instantOf(typed, clients.calendar)) != 1) return std::nullopt;
-  return read->hasTime ? typed : withMinute(withHour(typed, entry.hour), entry.minute);
+  if (!read) return std::nullopt;
+  if (read->offset) return withInstant(instant(*read), clients);
+  const Date now = dateTimeEntry(clients.now, clients).today;
+  const auto today = commonDay(now, clients.calendar);
+  const auto typedDay = floor<days>(read->wallTime);
+  const std::int64_t place = today ? lastDay - daysAhead + (typedDay - *today).count() : -1;
+  if (place < 0 || place > lastDay) return std::nullopt;
+  const DateTimeEntry typed{.today = now, .day = static_cast<int>(place), .hour = entry.hour, .minute = entry.minute};
+  return read->hasTime ? withTime(typed, static_cast<double>((read->wallTime - typedDay).count())) : typed;
 }
 
 std::string dayTextOf(const DateTimeEntry& entry, int day, const PageClients& clients) {
@@ -131,7 +156,7 @@ DateTimeChoice composeDateTimeChoice(const DateTimeEntry& entry, const PageClien
   choice.minuteSpoken = texts.text("Minute") + ", " + twoDigits(entry.minute, clients.numbers);
   choice.doneLabel = texts.text("Done");
   choice.typeLabel = texts.text("Type the date");
-  choice.typed = typedText(choice.instant, clients.calendar);
+  choice.typed = typedText(choice.instant, clients);
   choice.typedProblem = filledIn(texts.text("Type a day up to tomorrow and a time, such as {1}."), {choice.typed});
   return choice;
 }

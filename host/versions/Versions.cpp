@@ -9,7 +9,7 @@
 #include <boost/version.hpp>
 #include <nlohmann/json.hpp>
 
-#include "adapters/time/TimeZoneNames.h"
+#include "adapters/zoneinfo/TimeZoneNames.h"
 
 namespace mivo::host {
 namespace {

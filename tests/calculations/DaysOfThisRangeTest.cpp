@@ -3,6 +3,7 @@
 
 #include "adapters/time/TimeZone.h"
 #include "adapters/time/ZonedCalendar.h"
+#include "adapters/zoneinfo/LoadTimeZone.h"
 #include "mivo/calculations/RangeStarts.h"
 
 namespace mivo {
@@ -19,7 +20,7 @@ void PrintTo(const DaysRow& row, std::ostream* out) { *out << row.name; }
 class DaysOfThisRange : public testing::TestWithParam<DaysRow> {};
 
 TEST_P(DaysOfThisRange, countsTodayWhole) {
-  const auto calendar = adapters::ZonedCalendar::gregorian(adapters::TimeZone::load("Europe/Berlin").value(), 2);
+  const auto calendar = adapters::ZonedCalendar::gregorian(adapters::loadTimeZone("Europe/Berlin").value(), 2);
   EXPECT_EQ(daysOfThisRange(GetParam().range, *calendar, dateSince1970(GetParam().now)), GetParam().days);
 }
 
@@ -33,7 +34,7 @@ INSTANTIATE_TEST_SUITE_P(Rows, DaysOfThisRange,
                          [](const auto& row) { return std::string{row.param.name}; });
 
 TEST(DaysOfThisRange, areNotKnownWhereTheCalendarEnds) {
-  const auto calendar = adapters::ZonedCalendar::gregorian(adapters::TimeZone::load("UTC").value(), 2);
+  const auto calendar = adapters::ZonedCalendar::gregorian(adapters::loadTimeZone("UTC").value(), 2);
   EXPECT_EQ(daysOfThisRange(TimeRange::year, *calendar, firstDate), std::nullopt);
 }
 

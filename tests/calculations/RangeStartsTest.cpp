@@ -6,6 +6,7 @@
 #include <string>
 
 #include "adapters/icu/Calendars.h"
+#include "adapters/zoneinfo/LoadTimeZone.h"
 #include "mivo/calculations/ChartPeriods.h"
 #include "mivo/store/Print.h"
 #include "tests/histories/ZoneRows.h"
@@ -23,7 +24,7 @@ void PrintTo(const DateInterval& interval, std::ostream* out) {
 namespace {
 
 std::shared_ptr<const Calendar> calendar(const char* identifier, const char* zone, int firstWeekday) {
-  return adapters::makeCalendar(identifier, adapters::TimeZone::load(zone).value(), firstWeekday).value();
+  return adapters::makeCalendar(identifier, adapters::loadTimeZone(zone).value(), firstWeekday).value();
 }
 
 constexpr Date utc(int year, unsigned month, unsigned day, double hours = 0) {

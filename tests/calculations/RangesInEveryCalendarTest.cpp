@@ -9,6 +9,7 @@
 #include <tuple>
 
 #include "adapters/icu/Calendars.h"
+#include "adapters/zoneinfo/LoadTimeZone.h"
 #include "mivo/calculations/ChartPeriods.h"
 #include "mivo/calculations/RangeStarts.h"
 #include "tests/histories/ZoneRows.h"
@@ -28,7 +29,7 @@ constexpr int firstWeekday = 7;
 class RangesIn : public testing::TestWithParam<std::tuple<tests::ZoneRow, std::string>> {
  protected:
   const std::shared_ptr<const adapters::ZonedCalendar> calendar =
-      adapters::makeCalendar(std::get<1>(GetParam()), adapters::TimeZone::load(std::get<0>(GetParam()).zone).value(),
+      adapters::makeCalendar(std::get<1>(GetParam()), adapters::loadTimeZone(std::get<0>(GetParam()).zone).value(),
                              firstWeekday)
           .value();
   const CLibraryZone clocks{std::get<0>(GetParam()).zone};

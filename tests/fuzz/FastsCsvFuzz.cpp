@@ -4,11 +4,12 @@
 #include <cstdlib>
 #include <string_view>
 
+#include "adapters/zoneinfo/LoadTimeZone.h"
 #include "host/history/FastsCsv.h"
 #include "tests/support/FixedClients.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  static const auto zone = mivo::adapters::TimeZone::load("America/Sao_Paulo").value();
+  static const auto zone = mivo::adapters::loadTimeZone("America/Sao_Paulo").value();
   const mivo::tests::CountingUUIDs ids;
   const auto table = mivo::host::readFastsCsv({reinterpret_cast<const char*>(data), size}, "f.csv", *zone, ids);
   if (!table) {

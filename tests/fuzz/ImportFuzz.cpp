@@ -4,6 +4,7 @@
 #include <cstdlib>
 #include <string_view>
 
+#include "adapters/zoneinfo/LoadTimeZone.h"
 #include "host/import/ImportReader.h"
 #include "host/import/SaidFasts.h"
 #include "mivo/weights/WeightUnits.h"
@@ -16,7 +17,7 @@ using namespace mivo;
 using Outcome = tl::expected<host::ImportedFile, host::ImportFault>;
 
 Outcome readInPieces(std::string_view bytes, std::size_t piece) {
-  static const auto zone = adapters::TimeZone::load("America/Sao_Paulo").value();
+  static const auto zone = adapters::loadTimeZone("America/Sao_Paulo").value();
   const tests::CountingUUIDs ids;
   host::ImportReader reader{"f", {.zone = zone, .weightUnit = {}, .dateOrder = {}}, ids};
   for (; !bytes.empty() && reader.wantsMore(); bytes.remove_prefix(std::min(piece, bytes.size())))
@@ -39,7 +40,7 @@ void check(const host::ImportedFile& file) {
 }
 
 host::ImportedFile readSaid(std::string_view bytes) {
-  static const auto zone = adapters::TimeZone::load("America/Sao_Paulo").value();
+  static const auto zone = adapters::loadTimeZone("America/Sao_Paulo").value();
   const tests::CountingUUIDs ids;
   const host::SpokenFrame dates{dateSince1970(1795613420), *zone, host::DateOrder::monthFirst};
   return host::readSaidFasts("f", bytes, {host::englishDateNames(), dates, 57600}, ids);

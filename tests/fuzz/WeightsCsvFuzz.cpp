@@ -5,11 +5,12 @@
 #include <cstdlib>
 #include <string_view>
 
+#include "adapters/zoneinfo/LoadTimeZone.h"
 #include "host/history/WeightsCsv.h"
 #include "tests/support/FixedClients.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  static const auto zone = mivo::adapters::TimeZone::load("Australia/Lord_Howe").value();
+  static const auto zone = mivo::adapters::loadTimeZone("Australia/Lord_Howe").value();
   const mivo::tests::CountingUUIDs ids;
   const auto samples =
       mivo::host::readWeightsCsv({reinterpret_cast<const char*>(data), size}, "w.csv", *zone, std::nullopt, ids);

@@ -4,12 +4,13 @@
 #include <cstdlib>
 #include <string_view>
 
+#include "adapters/zoneinfo/LoadTimeZone.h"
 #include "host/dates/SpokenDate.h"
 #include "host/dates/WrittenDate.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   using namespace mivo::host;
-  static const auto zone = mivo::adapters::TimeZone::load("Pacific/Apia").value();
+  static const auto zone = mivo::adapters::loadTimeZone("Pacific/Apia").value();
   const std::string_view bytes{reinterpret_cast<const char*>(data), size};
   if (const auto time = readWrittenTime(bytes); time && time->sinceMidnight >= std::chrono::days{1}) std::abort();
   const SpokenFrame frame{mivo::dateSince1970(1795613420), *zone, DateOrder::monthFirst};

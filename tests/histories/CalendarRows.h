@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "adapters/icu/Calendars.h"
+#include "adapters/zoneinfo/LoadTimeZone.h"
 #include "tests/histories/ZoneRows.h"
 
 namespace mivo::tests {
@@ -17,7 +18,7 @@ struct CalendarRow {
   ZoneRow zone;
 
   std::shared_ptr<const adapters::ZonedCalendar> calendar() const {
-    return adapters::makeCalendar(identifier, adapters::TimeZone::load(zone.zone).value(), 2).value();
+    return adapters::makeCalendar(identifier, adapters::loadTimeZone(zone.zone).value(), 2).value();
   }
 };
 

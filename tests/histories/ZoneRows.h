@@ -10,6 +10,7 @@
 
 #include "adapters/time/TimeZone.h"
 #include "adapters/time/ZonedCalendar.h"
+#include "adapters/zoneinfo/LoadTimeZone.h"
 #include "mivo/platform/Calendar.h"
 
 namespace mivo::tests {
@@ -35,7 +36,7 @@ inline constexpr std::array zoneRows{
 inline std::string rowName(const testing::TestParamInfo<ZoneRow>& row) { return row.param.name; }
 
 inline std::shared_ptr<const Calendar> gregorianCalendar(const char* zone, int firstWeekday = 2) {
-  return adapters::ZonedCalendar::gregorian(adapters::TimeZone::load(zone).value(), firstWeekday);
+  return adapters::ZonedCalendar::gregorian(adapters::loadTimeZone(zone).value(), firstWeekday);
 }
 
 }  // namespace mivo::tests

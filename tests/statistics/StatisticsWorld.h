@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "adapters/icu/Calendars.h"
+#include "adapters/zoneinfo/LoadTimeZone.h"
 #include "mivo/statistics/StatisticsFeature.h"
 #include "tests/support/TestStore.h"
 
@@ -51,7 +52,7 @@ struct LinksDouble : LinkOpener {
 class StatisticsTest : public testing::Test {
  protected:
   StatisticsTest() {
-    const auto zone = adapters::TimeZone::load("UTC");
+    const auto zone = adapters::loadTimeZone("UTC");
     world.dependencies.calendar = *adapters::makeCalendar("gregorian", *zone, 2);
     world.dependencies.currentCalendar = world.dependencies.calendar;
     world.dependencies.healthKitClient = health;

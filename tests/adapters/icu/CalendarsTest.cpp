@@ -8,6 +8,7 @@
 #include <thread>
 #include <vector>
 
+#include "adapters/zoneinfo/LoadTimeZone.h"
 #include "tests/support/Instants.h"
 
 namespace mivo::adapters {
@@ -18,7 +19,7 @@ using tests::utc;
 using enum CalendarComponent;
 
 std::shared_ptr<const ZonedCalendar> calendarIn(const char* zone, const char* identifier, int firstWeekday = 1) {
-  return makeCalendar(identifier, TimeZone::load(zone).value(), firstWeekday).value();
+  return makeCalendar(identifier, loadTimeZone(zone).value(), firstWeekday).value();
 }
 
 template <class Row>
@@ -108,7 +109,7 @@ TEST(Calendars, searchStrictlyBackInOtherMonths) {
 }
 
 TEST(Calendars, refuseUnknownIdentifiersAndWeekdays) {
-  const auto zone = TimeZone::load("UTC").value();
+  const auto zone = loadTimeZone("UTC").value();
   EXPECT_THAT(makeCalendar("gregory", zone, 1).error(),
               testing::StartsWith("unknown calendar \"gregory\": expected one of buddhist, chinese, coptic, "));
   EXPECT_THAT(makeCalendar("", zone, 1).error(), testing::StartsWith("unknown calendar \"\": expected one of "));

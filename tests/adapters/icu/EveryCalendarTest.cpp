@@ -6,6 +6,7 @@
 #include <string>
 
 #include "adapters/icu/Calendars.h"
+#include "adapters/zoneinfo/LoadTimeZone.h"
 
 namespace mivo::adapters {
 namespace {
@@ -28,7 +29,7 @@ DateFields fieldsOf(icu::Calendar& calendar, local_days day) {
 }
 
 std::shared_ptr<const DateSystem> datesOf(const std::string& identifier) {
-  return makeCalendar(identifier, TimeZone::load("UTC").value(), 1).value()->dates();
+  return makeCalendar(identifier, loadTimeZone("UTC").value(), 1).value()->dates();
 }
 
 class EveryCalendar : public testing::TestWithParam<std::string> {};

@@ -10,6 +10,7 @@
 
 #include "adapters/icu/Calendars.h"
 #include "adapters/icu/LocaleFormatters.h"
+#include "adapters/zoneinfo/LoadTimeZone.h"
 #include "tests/support/Instants.h"
 
 namespace mivo::adapters {
@@ -20,7 +21,7 @@ using tests::utc;
 LocaleFormatters formattersOf(const char* locale, const char* zone = "Europe/Berlin",
                               const char* calendar = "gregorian") {
   return makeFormatters(UserLocale::parse(locale).value(),
-                        *makeCalendar(calendar, TimeZone::load(zone).value(), 2).value());
+                        *makeCalendar(calendar, loadTimeZone(zone).value(), 2).value());
 }
 
 template <class Row>

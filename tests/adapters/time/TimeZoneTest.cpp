@@ -8,6 +8,7 @@
 #include <thread>
 #include <vector>
 
+#include "adapters/zoneinfo/LoadTimeZone.h"
 #include "tests/support/Instants.h"
 
 namespace mivo::adapters {
@@ -28,7 +29,7 @@ void PrintTo(const OffsetRow& row, std::ostream* out) { *out << row.name; }
 class OffsetInForce : public testing::TestWithParam<OffsetRow> {};
 
 TEST_P(OffsetInForce, isThatOfTheLaw) {
-  const auto zone = TimeZone::load(GetParam().zone).value();
+  const auto zone = loadTimeZone(GetParam().zone).value();
   EXPECT_EQ(duration<double>{zone->offset(second(GetParam().instant))}.count() / 3600, GetParam().hours);
 }
 
@@ -53,7 +54,7 @@ class WallTime : public testing::TestWithParam<WallTimeRow> {};
 
 TEST_P(WallTime, isUniqueRepeatedOrSkipped) {
   const WallTimeRow& row = GetParam();
-  const auto zone = TimeZone::load(row.zone).value();
+  const auto zone = loadTimeZone(row.zone).value();
   const WallTimeInstants found = zone->instants(wall(row.wall));
   EXPECT_EQ(found.kind, row.kind);
   EXPECT_EQ(text(found.first), row.first);
@@ -82,7 +83,7 @@ INSTANTIATE_TEST_SUITE_P(
     [](const auto& row) { return std::string{row.param.name}; });
 
 TEST(TimeZone, answersTheSameFromManyThreads) {
-  const auto zone = TimeZone::load("Europe/London").value();
+  const auto zone = loadTimeZone("Europe/London").value();
   const auto sumOfDays = [&zone](hours begin) {
     std::int64_t sum = 0;
     for (sys_seconds at = sys_seconds{begin}; at < sys_days{2026y / 1 / 1}; at += hours{1001})

@@ -8,6 +8,7 @@
 #include <ostream>
 #include <string>
 
+#include "adapters/zoneinfo/LoadTimeZone.h"
 #include "tests/support/Instants.h"
 
 namespace mivo::adapters {
@@ -18,7 +19,7 @@ using tests::utc;
 using enum CalendarComponent;
 
 std::shared_ptr<const ZonedCalendar> calendarIn(const char* zone, int firstWeekday = 2) {
-  return ZonedCalendar::gregorian(TimeZone::load(zone).value(), firstWeekday);
+  return ZonedCalendar::gregorian(loadTimeZone(zone).value(), firstWeekday);
 }
 
 template <class Row>

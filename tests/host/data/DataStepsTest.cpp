@@ -7,6 +7,7 @@
 #include <fstream>
 
 #include "adapters/system/LocalUUIDGenerator.h"
+#include "adapters/zoneinfo/LoadTimeZone.h"
 #include "host/database/DatabaseHistory.h"
 #include "host/pages/BackupsPage.h"
 #include "host/pages/ExportSheet.h"
@@ -66,7 +67,7 @@ class DataSteps : public tests::StatisticsTest {
   std::shared_ptr<const DatabaseHistory> history = std::make_shared<DatabaseHistory>(Database{file});
   std::shared_ptr<const DataFiles> data = std::make_shared<DataFiles>(DataFiles::Place{
       .database = file,
-      .zone = [] { return adapters::TimeZone::load("UTC").value(); },
+      .zone = [] { return adapters::loadTimeZone("UTC").value(); },
       .settings = [] { return std::vector<Setting>{{"weightUnit", std::string{"kg"}}}; },
       .ids = std::make_shared<adapters::LocalUUIDGenerator>(),
       .words =

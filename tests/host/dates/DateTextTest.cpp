@@ -10,12 +10,14 @@
 #include <ostream>
 #include <string>
 
+#include "adapters/zoneinfo/LoadTimeZone.h"
+
 namespace mivo::host {
 namespace {
 
 std::optional<double> secondsIn(std::string_view text, const std::string& zone) {
   const auto date = parseDateText(text);
-  const auto instantOfIt = date ? instant(*date, *adapters::TimeZone::load(zone).value()) : std::nullopt;
+  const auto instantOfIt = date ? instant(*date, *adapters::loadTimeZone(zone).value()) : std::nullopt;
   return instantOfIt ? std::optional{secondsSince1970(*instantOfIt)} : std::nullopt;
 }
 

@@ -6,6 +6,8 @@
 #include <ostream>
 #include <string>
 
+#include "adapters/zoneinfo/LoadTimeZone.h"
+
 namespace mivo::host {
 namespace {
 
@@ -14,7 +16,7 @@ std::string text(Date date) { return rfc3339(date).substr(0, 16); }
 /// What is understood on a Wednesday afternoon in Berlin, 25 November 2026, 14:30; "a or b" where it is either.
 std::string understood(std::string_view typed, std::optional<std::string> after = {},
                        std::string_view now = "2026-11-25T13:30:20Z", DateOrder order = DateOrder::dayFirst) {
-  static const auto zone = adapters::TimeZone::load("Europe/Berlin").value();
+  static const auto zone = adapters::loadTimeZone("Europe/Berlin").value();
   const auto at = [](std::string_view iso) { return instant(parseDateText(iso).value()).value(); };
   const SpokenFrame frame{at(now), *zone, order, after ? std::optional{at(*after)} : std::nullopt};
   const auto date = readSpokenDate(typed, englishDateNames(), frame);
@@ -91,7 +93,7 @@ INSTANTIATE_TEST_SUITE_P(Refused, SpokenDates,
                          nameOf);
 
 TEST(TypedDates, nameTheOffsetOfADoubledHour) {
-  const auto zone = adapters::TimeZone::load("Europe/Berlin").value();
+  const auto zone = adapters::loadTimeZone("Europe/Berlin").value();
   EXPECT_EQ(typedDate(dateSince1970(1792888200), *zone), "2026-10-25 02:30+02:00");
   EXPECT_EQ(typedDate(dateSince1970(1792891800), *zone), "2026-10-25 02:30+01:00");
   EXPECT_EQ(typedDate(dateSince1970(1792895400), *zone), "2026-10-25 03:30");

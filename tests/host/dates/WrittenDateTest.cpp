@@ -6,11 +6,13 @@
 #include <ostream>
 #include <string>
 
+#include "adapters/zoneinfo/LoadTimeZone.h"
+
 namespace mivo::host {
 namespace {
 
 std::string inOrder(const WrittenDate& date, DateOrder order) {
-  static const auto zone = adapters::TimeZone::load("Europe/Berlin").value();
+  static const auto zone = adapters::loadTimeZone("Europe/Berlin").value();
   const auto text = ordered(date, order);
   const auto when = text ? instant(*text, *zone) : std::nullopt;
   if (!when) return "none";

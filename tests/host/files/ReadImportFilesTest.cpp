@@ -7,6 +7,7 @@
 #include <fstream>
 #include <ostream>
 
+#include "adapters/zoneinfo/LoadTimeZone.h"
 #include "host/database/Database.h"
 #include "tests/support/FixedClients.h"
 #include "tests/support/TemporaryFolder.h"
@@ -46,7 +47,7 @@ class ReadFiles : public testing::Test {
     std::vector<std::string> paths;
     for (const std::string& name : names) paths.push_back(folder.file(name));
     const tests::CountingUUIDs ids;
-    const auto files = readImportFiles(paths, {.zone = adapters::TimeZone::load("UTC").value()}, ids, watch);
+    const auto files = readImportFiles(paths, {.zone = adapters::loadTimeZone("UTC").value()}, ids, watch);
     std::string text;
     if (!files) text = describe(files.error().bad);
     for (const auto& file : files.value_or(std::vector<ImportedFile>{}))

@@ -13,6 +13,7 @@
 #include <sstream>
 
 #include "adapters/system/LocalUUIDGenerator.h"
+#include "adapters/zoneinfo/LoadTimeZone.h"
 #include "host/database/DatabaseHistory.h"
 #include "mivo/store/Store.h"
 #include "tests/support/FullDisk.h"
@@ -97,7 +98,7 @@ class Linked {
       std::make_shared<LinkedHealthClient>(world.dependencies.userDefaults);
   std::shared_ptr<const DataFiles> files =
       std::make_shared<DataFiles>(DataFiles::Place{.database = database,
-                                                   .zone = [] { return adapters::TimeZone::load("UTC").value(); },
+                                                   .zone = [] { return adapters::loadTimeZone("UTC").value(); },
                                                    .settings = [] { return std::vector<Setting>{}; },
                                                    .ids = std::make_shared<adapters::LocalUUIDGenerator>(),
                                                    .defaults = world.dependencies.userDefaults});

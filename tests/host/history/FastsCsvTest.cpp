@@ -5,6 +5,7 @@
 
 #include <ostream>
 
+#include "adapters/zoneinfo/LoadTimeZone.h"
 #include "host/dates/DateText.h"
 #include "tests/support/FixedClients.h"
 
@@ -13,7 +14,7 @@ namespace {
 
 tl::expected<FastTable, BadRecord> read(std::string_view text) {
   const tests::CountingUUIDs ids;
-  return readFastsCsv(text, "fasts.csv", *adapters::TimeZone::load("Europe/Berlin").value(), ids);
+  return readFastsCsv(text, "fasts.csv", *adapters::loadTimeZone("Europe/Berlin").value(), ids);
 }
 
 /// "start/end/goal/note; ...", or the fault.

@@ -7,6 +7,7 @@
 #include <charconv>
 #include <ostream>
 
+#include "adapters/zoneinfo/LoadTimeZone.h"
 #include "host/dates/DateText.h"
 #include "tests/support/FixedClients.h"
 
@@ -21,8 +22,7 @@ std::string shortest(double number) {
 /// "date weight; ...", or the fault.
 std::string outcome(std::string_view text, std::optional<WeightUnit> unit) {
   const tests::CountingUUIDs ids;
-  const auto samples =
-      readWeightsCsv(text, "weights.csv", *adapters::TimeZone::load("Europe/Berlin").value(), unit, ids);
+  const auto samples = readWeightsCsv(text, "weights.csv", *adapters::loadTimeZone("Europe/Berlin").value(), unit, ids);
   if (!samples) return describe(samples.error());
   std::string result;
   for (const auto& sample : *samples)

@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 
+#include "adapters/zoneinfo/LoadTimeZone.h"
 #include "host/dates/DateText.h"
 #include "host/import/ImportReader.h"
 #include "host/import/ImportText.h"
@@ -20,7 +21,7 @@ inline std::string shortest(double number) {
 }
 
 inline host::ImportSettings berlin(std::optional<WeightUnit> unit = {}, std::optional<host::DateOrder> order = {}) {
-  static const auto zone = adapters::TimeZone::load("Europe/Berlin").value();
+  static const auto zone = adapters::loadTimeZone("Europe/Berlin").value();
   return {.zone = zone, .weightUnit = unit, .dateOrder = order};
 }
 

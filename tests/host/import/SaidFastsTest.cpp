@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "adapters/zoneinfo/LoadTimeZone.h"
 #include "tests/support/FixedClients.h"
 
 namespace mivo::host {
@@ -27,7 +28,7 @@ DateNames names() {
 }
 
 ImportedFile read(std::string_view text, DateOrder order = DateOrder::dayFirst) {
-  static const auto zone = adapters::TimeZone::load("Europe/Berlin").value();
+  static const auto zone = adapters::loadTimeZone("Europe/Berlin").value();
   static const DateNames words = names();
   static const Date now = instant(parseDateText("2026-11-25T13:30:20Z").value()).value();  // a Wednesday, 14:30
   const tests::CountingUUIDs ids;

@@ -134,6 +134,10 @@ INSTANTIATE_TEST_SUITE_P(
                     TypedRow{"midnight", "UTC", "0:00", "2026-10-24 00:00:00"}, TypedRow{"noTime", "UTC", "24:00", ""},
                     TypedRow{"aNumber", "UTC", "12", ""},
                     TypedRow{"tomorrow", "UTC", "2026-10-26 23:59", "2026-10-26 23:59:00"},
+                    TypedRow{"skipped", "Europe/Berlin", "2026-03-29 02:30", "2026-03-29 01:00:00"},
+                    TypedRow{"shownTwice", "Europe/Berlin", "2026-10-25 02:30", "2026-10-25 00:30:00"},
+                    TypedRow{"aheadOfUTC", "Pacific/Kiritimati", "2026-01-01 00:30", "2025-12-31 10:30:00"},
+                    TypedRow{"behindUTC", "Pacific/Pago_Pago", "2025-12-31 23:30", "2026-01-01 10:30:00"},
                     TypedRow{"tooLate", "UTC", "2026-10-27", ""}, TypedRow{"tooEarly", "UTC", "1900-01-01 12:00", ""},
                     TypedRow{"noDate", "UTC", "2026-02-30 12:00", ""}, TypedRow{"words", "UTC", "yesterday", ""}),
     [](const auto& row) { return std::string{row.param.name}; });
@@ -158,6 +162,19 @@ TEST(DateTimeEntry, namesHoursAsTheRegionsClockDoes) {
                              pages.hourMin, pages.hour,     pages.numbers, pages.masses};
   EXPECT_EQ(hourTextOf(entry, 0, american), "12 AM");
   EXPECT_EQ(hourTextOf(entry, 19, american), "7 PM");
+}
+
+TEST(DateTimeChoice, canBeTypedAsItIsWritten) {
+  for (const char* name : {"Europe/Berlin", "Pacific/Kiritimati", "Pacific/Pago_Pago", "Pacific/Apia"}) {
+    const Zone zone{name, utc("2026-12-31 12:00")};
+    const PageClients clients = zone.clients();
+    const DateTimeEntry other = dateTimeEntry(utc("2020-05-05 05:05"), clients);
+    for (Date date = utc("2010-12-25 00:07"); date < utc("2026-12-31 00:00"); date += Duration{37 * 3600 + 480}) {
+      const DateTimeEntry entry = dateTimeEntry(date, clients);
+      const std::string written = composeDateTimeChoice(entry, clients).typed;
+      ASSERT_EQ(withTyped(other, written, clients), entry) << name << ' ' << written;
+    }
+  }
 }
 
 TEST(DateTimeChoice, saysWhatIsChosen) {

@@ -8,6 +8,7 @@
 
 #include "adapters/icu/LocaleFormatters.h"
 #include "adapters/time/ZonedCalendar.h"
+#include "adapters/zoneinfo/LoadTimeZone.h"
 
 namespace mivo::host {
 namespace {
@@ -18,7 +19,7 @@ struct Place {
         formatters{adapters::makeFormatters(locale, *adapters::ZonedCalendar::gregorian(zone(), 2))} {}
 
   static std::shared_ptr<const adapters::TimeZone> zone() {
-    static const auto berlin = adapters::TimeZone::load("Europe/Berlin").value();
+    static const auto berlin = adapters::loadTimeZone("Europe/Berlin").value();
     return berlin;
   }
 

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "host/place/PlaceOptions.h"
+#include "host/options/PlaceOptions.h"
 
 #include <utility>
 
-#include "adapters/time/TimeZoneNames.h"
+#include "adapters/zoneinfo/LoadTimeZone.h"
+#include "adapters/zoneinfo/TimeZoneNames.h"
 #include "host/dates/DateText.h"
 #include "host/history/FieldRules.h"
 #include "host/text/BadRecord.h"
@@ -20,12 +21,12 @@ tl::unexpected<std::string> wrong(std::string_view option, const std::string& se
 
 Read<std::shared_ptr<const adapters::TimeZone>> readTimeZone(const std::string& name) {
   if (!name.empty()) {
-    auto zone = adapters::TimeZone::load(name);
+    auto zone = adapters::loadTimeZone(name);
     return zone ? std::move(zone) : wrong("--time-zone", zone.error());
   }
   const auto systems = adapters::systemTimeZoneName();
   if (!systems) return tl::unexpected{systems.error()};
-  return adapters::TimeZone::load(*systems);
+  return adapters::loadTimeZone(*systems);
 }
 
 Read<adapters::UserLocale> readLocale(const std::string& tag) {

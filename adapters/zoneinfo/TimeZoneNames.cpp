@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "adapters/time/TimeZoneNames.h"
+#include "adapters/zoneinfo/TimeZoneNames.h"
 
 #include <algorithm>
 #include <array>

@@ -4,10 +4,13 @@
 #include <fstream>
 #include <iterator>
 #include <map>
+#include <string>
+#include <utility>
 #include <vector>
 
 #include "adapters/time/TimeZone.h"
-#include "adapters/time/TimeZoneNames.h"
+#include "adapters/zoneinfo/LoadTimeZone.h"
+#include "adapters/zoneinfo/TimeZoneNames.h"
 #include "tests/support/CLibraryZone.h"
 
 namespace mivo::adapters {
@@ -80,12 +83,44 @@ TEST(EveryZone, offsetsAndDayBordersAreThoseOfTheCLibrary) {
   ASSERT_GT(names.size(), 300U) << "is the time-zone database installed?";
   for (const std::string& name : names) {
     SCOPED_TRACE(name);
-    const auto zone = TimeZone::load(name);
+    const auto zone = loadTimeZone(name);
     ASSERT_TRUE(zone) << zone.error();
     const CLibraryZone expected{name};
     compareAllYears(**zone, expected);
     compareFarYears(**zone, expected);
     if (HasFatalFailure()) return;
+  }
+}
+
+/// The changes that somebody finds between two years who can only ask for offsets.
+std::vector<Transition> foundByAsking(const TimeZone& zone, year from, year to) {
+  constexpr days step{6};
+  std::vector<Transition> found;
+  seconds before = zone.offset(sys_days{from / 1 / 1});
+  for (sys_seconds at = sys_days{from / 1 / 1} + step; at < sys_days{to / 1 / 1}; at += step) {
+    const auto hasChanged = [&](sys_seconds moment) { return zone.offset(moment) != before; };
+    if (!hasChanged(at)) continue;
+    const sys_seconds change = firstThat(at - step, at, hasChanged);
+    before = zone.offset(change);
+    found.push_back({change, before});
+  }
+  return found;
+}
+
+// The years after 2087, when the last list of Ramadans ends, show the rules that go on.
+TEST(EveryZone, isTheSameMadeOfTheTransitionsThatAskingFinds) {
+  constexpr year firstYear{1800}, lastYear{2130};
+  for (const std::string& name : distinctZones()) {
+    SCOPED_TRACE(name);
+    const auto expected = loadTimeZone(name).value();
+    const auto zone = TimeZone::fromTransitions(name, {.firstOffset = expected->offset(sys_days{firstYear / 1 / 1}),
+                                                       .list = foundByAsking(*expected, firstYear, lastYear),
+                                                       .lastYear = lastYear - years{1}});
+    ASSERT_TRUE(zone) << zone.error();
+    for (const auto& [from, to] : {std::pair{lastYear, 2172y}, {2396y, 2440y}})
+      ASSERT_EQ(foundByAsking(**zone, from, to), foundByAsking(*expected, from, to)) << "from " << int{from};
+    for (sys_seconds at = sys_days{firstYear / 1 / 1}; at < sys_days{lastYear / 1 / 1}; at += days{50})
+      ASSERT_EQ((*zone)->startOfDay(at), expected->startOfDay(at)) << at.time_since_epoch().count();
   }
 }
 

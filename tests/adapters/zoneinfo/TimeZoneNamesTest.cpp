@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "adapters/time/TimeZoneNames.h"
+#include "adapters/zoneinfo/TimeZoneNames.h"
 
 #include <gmock/gmock.h>
 
@@ -9,6 +9,7 @@
 #include <string>
 
 #include "adapters/time/TimeZone.h"
+#include "adapters/zoneinfo/LoadTimeZone.h"
 
 namespace mivo::adapters {
 namespace {
@@ -32,7 +33,7 @@ void PrintTo(const RefusedRow& row, std::ostream* out) { *out << row.name; }
 class RefusedZone : public testing::TestWithParam<RefusedRow> {};
 
 TEST_P(RefusedZone, saysWhatWasExpected) {
-  const auto zone = TimeZone::load(GetParam().zone);
+  const auto zone = loadTimeZone(GetParam().zone);
   ASSERT_FALSE(zone);
   EXPECT_EQ(zone.error(), "unknown time zone \"" + std::string{GetParam().zone} + "\": " + GetParam().advice);
 }
@@ -53,7 +54,7 @@ TEST(TimeZoneNames, refusesPathsAndZonesThatCountLeapSeconds) {
   for (const char* name : {"/usr/share/zoneinfo/Europe/Berlin", "Europe/../Europe/Berlin", "right/Europe/Berlin",
                            "Europe", "tzdata.zi", "localtime"}) {
     EXPECT_FALSE(isTimeZoneName(name)) << name;
-    EXPECT_FALSE(TimeZone::load(name)) << name;
+    EXPECT_FALSE(loadTimeZone(name)) << name;
   }
 }
 
