@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "adapters/curl/CurlURLSession.h"
+#include "adapters/icu/LanguageWords.h"
 #include "adapters/icu/LocaleFormatters.h"
 #include "adapters/icu/UserLocale.h"
 #include "adapters/json/NlohmannDecoder.h"
@@ -103,7 +104,7 @@ std::shared_ptr<const TaskRunner> finishedWhenLetGo(const std::shared_ptr<adapte
 // Made when they are first asked for.
 auto wordsIn(adapters::UserLocale locale) {
   return [locale = std::move(locale), words = std::shared_ptr<const host::TypedDateWords>{}]() mutable {
-    if (!words) words = std::make_shared<const host::TypedDateWords>(host::typedDateWords(locale));
+    if (!words) words = std::make_shared<const host::TypedDateWords>(host::typedDateWords(adapters::dateWords(locale)));
     return words;
   };
 }

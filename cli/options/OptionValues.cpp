@@ -4,6 +4,7 @@
 #include <charconv>
 #include <vector>
 
+#include "adapters/icu/LanguageWords.h"
 #include "host/dates/SpokenDate.h"
 #include "host/place/TypedDates.h"
 #include "mivo/platform/TextLookup.h"
@@ -59,7 +60,7 @@ std::string answeringOption(host::ImportFault::Asks asks) {
 
 Read<Date> readTypedDate(std::string_view option, std::string_view text, const adapters::UserLocale& locale,
                          const adapters::TimeZone& zone, Date now, std::optional<Date> after) {
-  const auto date = host::readTypedDate(text, locale, zone, now, after);
+  const auto date = host::readTypedDate(text, [&] { return adapters::dateWords(locale); }, zone, now, after);
   if (date) return *date;
   const auto& readings = date.error().readings;
   if (!readings)

@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "adapters/icu/LanguageWords.h"
 #include "adapters/system/FileUserDefaults.h"
 #include "adapters/system/LocalUUIDGenerator.h"
 #include "adapters/system/UserDirectories.h"
@@ -93,7 +94,7 @@ std::string addLines(const RecordRun& run, std::int64_t goalSeconds) {
   const std::string name = host::inputName("-");
   const auto text = host::readTextInput("-");
   if (!text) throw Refused{atFault, describe(text.error())};
-  const auto [names, order] = host::typedDateWords(run.locale);
+  const auto [names, order] = host::typedDateWords(adapters::dateWords(run.locale));
   const adapters::LocalUUIDGenerator ids;
   const Files files{host::readSaidFasts(name, *text, {names, {run.now, *run.zone, order}, goalSeconds}, ids)};
   if (!files.front().fasts.empty()) return report(run, files, ids);

@@ -1,75 +1,51 @@
 // SPDX-License-Identifier: MIT
 #include "drawing/text/NumberLayout.h"
 
-#include <unicode/uchar.h>
-#include <unicode/unistr.h>
-
 #include <algorithm>
-#include <cstdint>
 
 namespace mivo::drawing {
 namespace {
 
 constexpr double gapBeforeOneLetter = 0.08, gapBeforeWord = 0.26, gapBeforeNumber = 0.22;
 
-std::string utf8(UChar32 character) {
-  std::string text;
-  return icu::UnicodeString{character}.toUTF8String(text);
-}
-
-/// Calls `visit` with each character; a byte that is none counts as U+FFFD.
-template <class Visit>
-void forEachCharacter(std::string_view text, Visit visit) {
-  const auto all = icu::UnicodeString::fromUTF8({text.data(), static_cast<std::int32_t>(text.size())});
-  for (std::int32_t at = 0; at < all.length(); at = all.moveIndex32(at, 1)) visit(all.char32At(at));
-}
-
-bool isLetter(UChar32 character) {
-  return u_isalpha(character) || u_charType(character) == U_NON_SPACING_MARK ||
-         u_charType(character) == U_COMBINING_SPACING_MARK || u_charType(character) == U_ENCLOSING_MARK;
-}
-
 // A blank ends a run; the gap that it stands for comes from the type, not from the blank.
-std::vector<NumberRun> split(std::string_view text) {
+std::vector<NumberRun> split(const std::vector<Character>& characters) {
   std::vector<NumberRun> runs;
   bool isFresh = true;
-  forEachCharacter(text, [&](UChar32 character) {
-    if (u_isUWhiteSpace(character)) {
+  for (const Character& character : characters) {
+    if (character.kind == CharacterKind::blank) {
       isFresh = true;
-      return;
+      continue;
     }
     // A point or comma behind letters is theirs: "16 Std., 38 Min."
-    const bool isUnit = isLetter(character) || (!isFresh && u_ispunct(character) && runs.back().isUnit);
+    const bool isOfUnit = !isFresh && character.kind == CharacterKind::punctuation && runs.back().isUnit;
+    const bool isUnit = character.kind == CharacterKind::letter || isOfUnit;
     if (isFresh || runs.back().isUnit != isUnit) runs.push_back({{}, isUnit, 0, 0});
-    runs.back().text += utf8(character);
+    runs.back().text += character.text;
     isFresh = false;
-  });
+  }
   return runs;
 }
 
-UChar32 zeroOf(std::string_view text) {
-  UChar32 zero = 0;
-  forEachCharacter(text, [&](UChar32 character) {
-    if (zero == 0 && u_isdigit(character)) zero = character - u_charDigitValue(character);
-  });
-  return zero == 0 ? U'0' : zero;
+// The ten digits of a script follow each other, and their UTF-8 differs in the last byte alone.
+std::string digitLike(const Character& character, int digit) {
+  std::string text = character.text;
+  text.back() = static_cast<char>(text.back() - character.digit + digit);
+  return text;
 }
 
-double digitCell(UChar32 zero, const TextWidth& digitWidth) {
+double digitCell(const std::vector<Character>& characters, const TextWidth& digitWidth) {
+  const auto found = std::ranges::find(characters, CharacterKind::digit, &Character::kind);
+  const Character like = found == characters.end() ? Character{"0", CharacterKind::digit, 0} : *found;
   double widest = 0;
-  for (UChar32 digit = 0; digit < 10; ++digit) widest = std::max(widest, digitWidth(utf8(zero + digit)));
+  for (int digit = 0; digit < 10; ++digit) widest = std::max(widest, digitWidth(digitLike(like, digit)));
   return widest;
 }
 
-std::size_t characterCount(std::string_view text) {
-  std::size_t count = 0;
-  forEachCharacter(text, [&](UChar32) { ++count; });
-  return count;
-}
-
-double gapBefore(const NumberRun& run, double unitSize) {
-  if (!run.isUnit) return gapBeforeNumber * unitSize;
-  return (characterCount(run.text) == 1 ? gapBeforeOneLetter : gapBeforeWord) * unitSize;
+double gapBefore(const NumberRun& run, const NumberStyle& style) {
+  if (!run.isUnit) return gapBeforeNumber * style.unitSize;
+  const bool isOneLetter = style.number.characters(run.text).size() == 1;
+  return (isOneLetter ? gapBeforeOneLetter : gapBeforeWord) * style.unitSize;
 }
 
 double widthOf(const NumberRun& run, const NumberStyle& style) {
@@ -81,17 +57,18 @@ double widthOf(const NumberRun& run, const NumberStyle& style) {
 
 EvenDigits evenDigits(std::string_view text, const NumberFace& face) {
   EvenDigits set;
-  const double cell = digitCell(zeroOf(text), face.digit);
+  const std::vector<Character> characters = face.characters(text);
+  const double cell = digitCell(characters, face.digit);
   std::vector<bool> areDigits;
-  forEachCharacter(text, [&](UChar32 character) {
-    const bool isDigit = u_isdigit(character);
+  for (const Character& character : characters) {
+    const bool isDigit = character.kind == CharacterKind::digit;
     if (areDigits.empty() || isDigit || areDigits.back()) {
-      set.parts.push_back({utf8(character), 0});
+      set.parts.push_back({character.text, 0});
       areDigits.push_back(isDigit);
     } else {
-      set.parts.back().text += utf8(character);
+      set.parts.back().text += character.text;
     }
-  });
+  }
   for (std::size_t part = 0; part < set.parts.size(); ++part) {
     const double advance = face.text(set.parts[part].text);
     const double room = areDigits[part] ? cell : advance;
@@ -102,10 +79,10 @@ EvenDigits evenDigits(std::string_view text, const NumberFace& face) {
 }
 
 NumberLayout layOut(std::string_view text, const NumberStyle& style) {
-  NumberLayout layout{split(text), 0};
+  NumberLayout layout{split(style.number.characters(text)), 0};
   bool isFirst = true;
   for (NumberRun& run : layout.runs) {
-    if (!isFirst) layout.width += gapBefore(run, style.unitSize);
+    if (!isFirst) layout.width += gapBefore(run, style);
     isFirst = false;
     run.x = layout.width;
     run.width = widthOf(run, style);

@@ -4,6 +4,8 @@
 #include <functional>
 #include <string_view>
 
+#include "drawing/text/Characters.h"
+
 namespace mivo::drawing {
 
 /// How wide a text is in one font, in points, as the front-end that paints it measures it.
@@ -13,6 +15,7 @@ using TextWidth = std::function<double(std::string_view)>;
 struct NumberFace {
   TextWidth text;
   TextWidth digit;  ///< of one digit, without the letter spacing that `text` has
+  Characters characters;
 };
 
 }  // namespace mivo::drawing

@@ -259,6 +259,7 @@ DateNames namesOf(const std::array<const char*, 12>& months, const std::array<co
   names.now = {"now"};
   names.links = {"at"};
   names.untils = {"to", "until", "till"};
+  names.inSmallLetters = [](std::string_view text) { return lowerCase(text); };
   return names;
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <chrono>
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -16,7 +17,8 @@ enum class DateOrder { dayFirst, monthFirst };
 
 /// The names that a language gives to months (1 to 12), days of the week (0 = Sunday), the halves of the day (0 = AM,
 /// 1 = PM), today and yesterday (0 and 1 days ago) and now, in small letters and without points, full and short; the
-/// words that may stand between a day and its time, and those between a start and its end.
+/// words that may stand between a day and its time, and those between a start and its end; and how a text comes into
+/// small letters, of those scripts that the language is written in.
 struct DateNames {
   struct Name {
     std::string text;
@@ -24,6 +26,7 @@ struct DateNames {
   };
   std::vector<Name> months, weekdays, halves, daysAgo;
   std::vector<std::string> now, links, untils;
+  std::function<std::string(std::string_view)> inSmallLetters;
 };
 
 /// The number of a name, whatever its ASCII case and its points.

@@ -7,7 +7,7 @@
 #include "host/database/ReadDatabaseBytes.h"
 #include "host/history/Snapshot.h"
 #include "host/import/JsonLists.h"
-#include "host/text/TextFile.h"
+#include "host/text/DecodedText.h"
 
 namespace mivo::host {
 namespace {

@@ -7,7 +7,6 @@
 #include <utility>
 #include <vector>
 
-#include "adapters/icu/DateWords.h"
 #include "host/dates/NamedLength.h"
 #include "host/history/FieldRules.h"
 #include "host/history/RecordFault.h"
@@ -76,7 +75,7 @@ std::vector<Cut> cutsOf(std::string_view line, const DateNames& names) {
       cuts.push_back({at, 1, true});
     } else if (at > 0 && line[at - 1] == ' ') {
       const std::string_view word = rest.substr(0, rest.find(' '));
-      if (std::ranges::find(names.untils, adapters::inSmallLetters(word)) != names.untils.end())
+      if (std::ranges::find(names.untils, names.inSmallLetters(word)) != names.untils.end())
         cuts.push_back({at, word.size()});
     }
   }
@@ -100,7 +99,7 @@ class Lines {
   tl::expected<Date, SpokenFault> date(std::string_view text, std::optional<Date> after) const {
     SpokenFrame dates = frame.dates;
     dates.after = after;
-    return readSpokenDate(adapters::inSmallLetters(text), frame.names, dates);
+    return readSpokenDate(frame.names.inSmallLetters(text), frame.names, dates);
   }
   BadRecord refused(std::string_view reason, std::string_view value) const {
     return {.file = file.name, .value = quotable(value), .reason = std::string{reason}};
@@ -140,7 +139,7 @@ Lines::Answer Lines::cut(std::string_view line) const {
     }
     const auto end = date(behind, *start);
     if (end) return past(line, {*start, *end});
-    if (const auto seconds = cut.takesLength ? readNamedLength(adapters::inSmallLetters(behind)) : std::nullopt)
+    if (const auto seconds = cut.takesLength ? readNamedLength(frame.names.inSmallLetters(behind)) : std::nullopt)
       return past(line, {*start, *start + Duration{*seconds}});
     bad = refused(expectedEnd, behind, end.error());
   }

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "host/place/TypedDates.h"
 
+#include <array>
 #include <string>
-
-#include "adapters/icu/DateWords.h"
+#include <vector>
 
 namespace mivo::host {
 namespace {
@@ -42,6 +42,7 @@ DateNames namesIn(const adapters::DateWords& words) {
   add(names.daysAgo, words.today, 0);
   add(names.daysAgo, words.yesterday, 1);
   names.now = words.now;
+  names.inSmallLetters = words.inSmallLetters;
   const DateNames& english = englishDateNames();
   const auto append = [](auto& list, const auto& more) { list.insert(list.end(), more.begin(), more.end()); };
   append(names.months, english.months);
@@ -58,18 +59,17 @@ DateNames namesIn(const adapters::DateWords& words) {
 
 }  // namespace
 
-TypedDateWords typedDateWords(const adapters::UserLocale& locale) {
-  const adapters::DateWords words = adapters::dateWords(locale);
+TypedDateWords typedDateWords(const adapters::DateWords& words) {
   return {.names = namesIn(words), .order = words.isDayFirst ? DateOrder::dayFirst : DateOrder::monthFirst};
 }
 
-tl::expected<Date, SpokenFault> readTypedDate(std::string_view text, const adapters::UserLocale& locale,
+tl::expected<Date, SpokenFault> readTypedDate(std::string_view text, const std::function<adapters::DateWords()>& words,
                                               const adapters::TimeZone& zone, Date now, std::optional<Date> after) {
   if (const auto written = parseDateText(text); written && written->offset)
     if (const auto date = instant(*written)) return *date;
-  const auto [names, order] = typedDateWords(locale);
+  const auto [names, order] = typedDateWords(words());
   const SpokenFrame frame{.now = now, .zone = zone, .order = order, .after = after};
-  return readSpokenDate(adapters::inSmallLetters(text), names, frame);
+  return readSpokenDate(names.inSmallLetters(text), names, frame);
 }
 
 }  // namespace mivo::host

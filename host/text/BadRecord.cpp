@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "host/text/BadRecord.h"
 
-#include <unicode/uchar.h>
+#include <algorithm>
+#include <array>
 
 #include "host/text/Utf8.h"
 #include "mivo/platform/TextLookup.h"
@@ -18,11 +19,23 @@ void appendHex(std::string& result, unsigned char byte) {
   result += digits[byte & 15];
 }
 
-/// Letters that reorder or hide their neighbours on a terminal are as unfit as control characters.
+/// Letters that reorder or hide their neighbours on a terminal are as unfit as control characters: those that Unicode
+/// calls controls, format characters, and separators of lines and paragraphs.
+struct Unfit {
+  std::int32_t first, last;
+};
+constexpr std::array unfit{
+    Unfit{0x00, 0x1F},       Unfit{0x7F, 0x9F},       Unfit{0xAD, 0xAD},       Unfit{0x600, 0x605},
+    Unfit{0x61C, 0x61C},     Unfit{0x6DD, 0x6DD},     Unfit{0x70F, 0x70F},     Unfit{0x890, 0x891},
+    Unfit{0x8E2, 0x8E2},     Unfit{0x180E, 0x180E},   Unfit{0x200B, 0x200F},   Unfit{0x2028, 0x202E},
+    Unfit{0x2060, 0x2064},   Unfit{0x2066, 0x206F},   Unfit{0xFEFF, 0xFEFF},   Unfit{0xFFF9, 0xFFFB},
+    Unfit{0x110BD, 0x110BD}, Unfit{0x110CD, 0x110CD}, Unfit{0x13430, 0x1343F}, Unfit{0x1BCA0, 0x1BCA3},
+    Unfit{0x1D173, 0x1D17A}, Unfit{0xE0001, 0xE0001}, Unfit{0xE0020, 0xE007F}};
+
 bool isPlain(std::int32_t character) {
   if (character < 0) return false;
-  const auto type = u_charType(character);
-  return type != U_CONTROL_CHAR && type != U_FORMAT_CHAR && type != U_LINE_SEPARATOR && type != U_PARAGRAPH_SEPARATOR;
+  const auto reached = std::ranges::lower_bound(unfit, character, {}, &Unfit::last);
+  return reached == unfit.end() || character < reached->first;
 }
 
 }  // namespace

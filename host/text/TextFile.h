@@ -6,21 +6,15 @@
 #include <tl/expected.hpp>
 
 #include "host/text/BadRecord.h"
+#include "host/text/DecodedText.h"
 
 namespace mivo::host {
 
-/// Larger files are refused, so that none takes the machine's memory; a million fasts take half of it.
-inline constexpr std::size_t largestFileInBytes = std::size_t{1} << 28;
-
-/// The contents of a file as UTF-8 without byte-order mark. UTF-16 is read where a byte-order mark announces it.
-/// Whether the rest is UTF-8 is checked by whoever reads the text, who can name the line.
+/// The contents of a file as `decodedText` has them.
 tl::expected<std::string, BadRecord> readTextFile(const std::string& path, std::size_t largest = largestFileInBytes);
 
 /// The same of a file, or of standard input where the path is "-"; and what a sentence calls it.
 tl::expected<std::string, BadRecord> readTextInput(const std::string& path);
 std::string inputName(const std::string& path);
-
-/// The same for bytes that are in memory already; `file` is the name for sentences.
-tl::expected<std::string, BadRecord> decodedText(std::string bytes, const std::string& file);
 
 }  // namespace mivo::host

@@ -1,25 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "host/text/Utf8Pieces.h"
 
-#include <unicode/utf16.h>
-#include <unicode/utf8.h>
-
-#include <array>
 #include <utility>
+
+#include "host/text/Utf8.h"
 
 namespace mivo::host {
 namespace {
 
-void append(std::string& text, std::uint32_t character) {
-  std::array<char, 4> bytes;
-  std::size_t count = 0;
-#pragma GCC diagnostic push
-#pragma GCC diagnostic ignored "-Wconversion"  // inside ICU's macro
-#pragma GCC diagnostic ignored "-Wsign-conversion"
-  U8_APPEND_UNSAFE(bytes.data(), count, character);
-#pragma GCC diagnostic pop
-  text.append(bytes.data(), count);
-}
+// A character beyond U+FFFF is two units.
+constexpr bool isLead(std::uint32_t unit) { return (unit & 0xFC00) == 0xD800; }
+constexpr bool isTrail(std::uint32_t unit) { return (unit & 0xFC00) == 0xDC00; }
 
 std::uint32_t supplementary(std::uint32_t lead, std::uint32_t trail) {
   return 0x10000 + ((lead & 0x3FF) << 10 | (trail & 0x3FF));
@@ -68,14 +59,14 @@ bool Utf8Pieces::decode(std::string_view bytes) {
     const std::uint32_t unit = form == Form::littleEndian ? first | unsigned{byte} << 8 : first << 8 | byte;
     const std::uint32_t before = std::exchange(lead, 0);
     if (before != 0) {
-      if (!U16_IS_TRAIL(unit)) return false;
-      append(held, supplementary(before, unit));
-    } else if (U16_IS_LEAD(unit)) {
+      if (!isTrail(unit)) return false;
+      appendCharacter(held, supplementary(before, unit));
+    } else if (isLead(unit)) {
       lead = unit;
-    } else if (U16_IS_TRAIL(unit)) {
+    } else if (isTrail(unit)) {
       return false;
     } else {
-      append(held, unit);
+      appendCharacter(held, unit);
     }
   }
   return true;

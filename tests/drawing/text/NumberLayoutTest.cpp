@@ -3,6 +3,8 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <unicode/uchar.h>
+#include <unicode/unistr.h>
 
 namespace mivo::drawing {
 namespace {
@@ -16,7 +18,28 @@ double measured(std::string_view text) {
   for (const char byte : text) width += byte == '1' ? 0.5 : 1;
   return width;
 }
-const NumberFace face{measured, measured};
+
+CharacterKind kindOf(UChar32 character) {
+  const auto category = U_GET_GC_MASK(character);
+  if (u_isUWhiteSpace(character)) return CharacterKind::blank;
+  if (category & (U_GC_L_MASK | U_GC_M_MASK)) return CharacterKind::letter;
+  if (category & U_GC_ND_MASK) return CharacterKind::digit;
+  return category & U_GC_P_MASK ? CharacterKind::punctuation : CharacterKind::other;
+}
+
+std::vector<Character> charactersOf(std::string_view text) {
+  std::vector<Character> characters;
+  const auto all = icu::UnicodeString::fromUTF8({text.data(), static_cast<std::int32_t>(text.size())});
+  for (std::int32_t at = 0; at < all.length(); at = all.moveIndex32(at, 1)) {
+    const UChar32 character = all.char32At(at);
+    std::string bytes;
+    icu::UnicodeString{character}.toUTF8String(bytes);
+    characters.push_back({bytes, kindOf(character), std::max(u_charDigitValue(character), 0)});
+  }
+  return characters;
+}
+
+const NumberFace face{measured, measured, charactersOf};
 double measuredUnit(std::string_view text) { return static_cast<double>(text.size()) / 2; }
 
 NumberLayout laidOut(std::string_view text, bool hasEvenDigits = false) {
@@ -69,14 +92,26 @@ TEST(EvenDigits, centreEachDigitInTheCellOfTheWidest) {
 
 TEST(EvenDigits, standInACellWithoutTheLetterSpacing) {
   const auto spaced = [](std::string_view text) { return static_cast<double>(text.size()) / 2; };
-  EXPECT_EQ(evenDigits("42", {spaced, measured}), (EvenDigits{{{"4", 0.25}, {"2", 1.25}}, 2}));
+  EXPECT_EQ(evenDigits("42", {spaced, measured, charactersOf}), (EvenDigits{{{"4", 0.25}, {"2", 1.25}}, 2}));
 }
 
 TEST(EvenDigits, takeTheCellOfTheDigitsOfTheText) {
   const auto script = [](std::string_view text) { return text == "\u0669" ? 5.0 : text == "9" ? 7.0 : 1.0; };
-  EXPECT_EQ(evenDigits("\u0663", {measured, script}).width, 5)
+  EXPECT_EQ(evenDigits("\u0663", {measured, script, charactersOf}).width, 5)
       << "an Arabic three stands in the cell of an Arabic nine";
-  EXPECT_EQ(evenDigits("3", {measured, script}).width, 7);
+  EXPECT_EQ(evenDigits("3", {measured, script, charactersOf}).width, 7);
+}
+
+TEST(EvenDigits, findTheDigitsOfEveryScript) {
+  for (UChar32 zero = 0; zero < 0x110000; ++zero) {
+    if (!u_isdigit(zero) || u_charDigitValue(zero) != 0) continue;
+    std::string digits, nine, asked;
+    for (UChar32 digit = 0; digit < 10; ++digit) icu::UnicodeString{zero + digit}.toUTF8String(digits);
+    icu::UnicodeString{zero + 9}.toUTF8String(nine);
+    const auto note = [&asked](std::string_view digit) { return asked += digit, 1.0; };
+    evenDigits(nine, {measured, note, charactersOf});
+    EXPECT_EQ(asked, digits) << std::hex << zero;
+  }
 }
 
 }  // namespace

@@ -6,6 +6,7 @@
 
 #include <fstream>
 
+#include "adapters/icu/LanguageWords.h"
 #include "adapters/system/LocalUUIDGenerator.h"
 #include "adapters/zoneinfo/LoadTimeZone.h"
 #include "host/database/DatabaseHistory.h"
@@ -65,22 +66,23 @@ class DataSteps : public tests::StatisticsTest {
   tests::TemporaryFolder folder;
   std::filesystem::path file = folder.path / "mivo" / "mivo.sqlite";
   std::shared_ptr<const DatabaseHistory> history = std::make_shared<DatabaseHistory>(Database{file});
-  std::shared_ptr<const DataFiles> data = std::make_shared<DataFiles>(DataFiles::Place{
-      .database = file,
-      .zone = [] { return adapters::loadTimeZone("UTC").value(); },
-      .settings = [] { return std::vector<Setting>{{"weightUnit", std::string{"kg"}}}; },
-      .ids = std::make_shared<adapters::LocalUUIDGenerator>(),
-      .words =
-          [] {
-            return std::make_shared<const TypedDateWords>(typedDateWords(adapters::UserLocale::parse("en-GB").value()));
-          },
-      .defaults = world.dependencies.userDefaults,
-      .print =
-          [this](const std::filesystem::path& to, TimeRange range, PrintedWeights weights) {
-            if (to == "full.pdf") throw std::runtime_error{"full.pdf: the disk is full"};
-            printed.push_back(to.string() + " " + std::string{rawValue(range)} +
-                              (weights == PrintedWeights::shown ? " with weights" : ""));
-          }});
+  std::shared_ptr<const DataFiles> data = std::make_shared<DataFiles>(
+      DataFiles::Place{.database = file,
+                       .zone = [] { return adapters::loadTimeZone("UTC").value(); },
+                       .settings = [] { return std::vector<Setting>{{"weightUnit", std::string{"kg"}}}; },
+                       .ids = std::make_shared<adapters::LocalUUIDGenerator>(),
+                       .words =
+                           [] {
+                             return std::make_shared<const TypedDateWords>(
+                                 typedDateWords(adapters::dateWords(adapters::UserLocale::parse("en-GB").value())));
+                           },
+                       .defaults = world.dependencies.userDefaults,
+                       .print =
+                           [this](const std::filesystem::path& to, TimeRange range, PrintedWeights weights) {
+                             if (to == "full.pdf") throw std::runtime_error{"full.pdf: the disk is full"};
+                             printed.push_back(to.string() + " " + std::string{rawValue(range)} +
+                                               (weights == PrintedWeights::shown ? " with weights" : ""));
+                           }});
   mutable std::vector<std::string> printed;
   tests::Pages pages;
   std::shared_ptr<const LinkedHealthClient> linked = [this] {

@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "adapters/icu/LanguageWords.h"
 #include "adapters/zoneinfo/LoadTimeZone.h"
 #include "tests/support/FixedClients.h"
 
@@ -18,6 +19,7 @@ using Lines = std::vector<std::string>;
 /// English, and some words of other languages.
 DateNames names() {
   DateNames all = englishDateNames();
+  all.inSmallLetters = adapters::dateWords(adapters::UserLocale::parse("en").value()).inSmallLetters;
   for (const auto& [name, ago] : {std::pair{"gestern", 1U}, {"heute", 0U}, {"hier", 1U}})
     all.daysAgo.push_back({name, ago});
   all.weekdays.push_back({"sa", 6});

@@ -6,6 +6,7 @@
 #include <ostream>
 #include <string>
 
+#include "adapters/icu/LanguageWords.h"
 #include "adapters/icu/LocaleFormatters.h"
 #include "adapters/time/ZonedCalendar.h"
 #include "adapters/zoneinfo/LoadTimeZone.h"
@@ -21,6 +22,10 @@ struct Place {
   static std::shared_ptr<const adapters::TimeZone> zone() {
     static const auto berlin = adapters::loadTimeZone("Europe/Berlin").value();
     return berlin;
+  }
+
+  auto words() const {
+    return [this] { return adapters::dateWords(locale); };
   }
 
   adapters::UserLocale locale;
@@ -40,11 +45,11 @@ TEST_P(EveryLanguage, readsWhatItPrints) {
       const std::string offset = offsetIfDoubled(date, *Place::zone());
       const std::string text =
           place.formatters.dateFormatter->string(date, skeleton).value() + (offset.empty() ? "" : ' ' + offset);
-      const auto read = readTypedDate(text, place.locale, *Place::zone(), now);
+      const auto read = readTypedDate(text, place.words(), *Place::zone(), now);
       ASSERT_TRUE(read) << text;
       ASSERT_EQ(*read, date) << text;
     }
-    const auto read = readTypedDate(typedDate(date, *Place::zone()), place.locale, *Place::zone(), now);
+    const auto read = readTypedDate(typedDate(date, *Place::zone()), place.words(), *Place::zone(), now);
     ASSERT_EQ(read, date);
   };
   for (int month = 0; month < 24; ++month) check(dateSince1970(1767225600 + month * (30.4 * 1440 + 77) * minute));
@@ -53,7 +58,7 @@ TEST_P(EveryLanguage, readsWhatItPrints) {
 
 TEST_P(EveryLanguage, understandsEnglishToo) {
   const Place place{GetParam()};
-  const auto read = [&](std::string_view text) { return readTypedDate(text, place.locale, *Place::zone(), now); };
+  const auto read = [&](std::string_view text) { return readTypedDate(text, place.words(), *Place::zone(), now); };
   EXPECT_EQ(read("Yesterday 8 PM"), dateSince1970(1795546800));
   EXPECT_EQ(read("2h ago"), now - Duration{7200});
   EXPECT_EQ(read("Sat 7am"), dateSince1970(1795240800));
@@ -81,7 +86,7 @@ class OwnWords : public testing::TestWithParam<Row> {};
 TEST_P(OwnWords, areUnderstood) {
   const auto& [name, tag, text, unixSeconds] = GetParam();
   const Place place{tag};
-  EXPECT_EQ(readTypedDate(text, place.locale, *Place::zone(), now), dateSince1970(unixSeconds));
+  EXPECT_EQ(readTypedDate(text, place.words(), *Place::zone(), now), dateSince1970(unixSeconds));
 }
 
 INSTANTIATE_TEST_SUITE_P(Rows, OwnWords,

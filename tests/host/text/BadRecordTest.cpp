@@ -2,8 +2,14 @@
 #include "host/text/BadRecord.h"
 
 #include <gtest/gtest.h>
+#include <unicode/uchar.h>
+#include <unicode/utf.h>
 
+#include <cstdint>
 #include <ostream>
+#include <string>
+
+#include "host/text/Utf8.h"
 
 namespace mivo::host {
 namespace {
@@ -39,6 +45,17 @@ INSTANTIATE_TEST_SUITE_P(Rows, Quotable,
                                          QuotableRow{"cutShort", "\xE2\x82", "\\xE2\\x82"},
                                          QuotableRow{"rightToLeftOverride", "a\u202Eb", "a\\xE2\\x80\\xAEb"}),
                          [](const auto& row) { return std::string{row.param.name}; });
+
+// Every character is held against Unicode's own list.
+TEST(Quotable, writesOutWhatATerminalWouldNotShow) {
+  for (UChar32 character = 0; character < 0x110000; ++character) {
+    if (U_IS_SURROGATE(character)) continue;
+    std::string text;
+    appendCharacter(text, static_cast<std::uint32_t>(character));
+    const auto unfit = U_GC_CC_MASK | U_GC_CF_MASK | U_GC_ZL_MASK | U_GC_ZP_MASK;
+    ASSERT_EQ(quotable(text) == text, (U_GET_GC_MASK(character) & unfit) == 0) << std::hex << character;
+  }
+}
 
 }  // namespace
 }  // namespace mivo::host

@@ -33,6 +33,10 @@ TEST(TextFile, readsUtf16ThatAMarkAnnounces) {
   EXPECT_EQ(decoded("\xFF\xFE"
                     "\x3D\xD8"sv),
             "a.csv: expected UTF-16 text, as its first two bytes announce");
+  EXPECT_EQ(decoded("\xFF\xFE"
+                    "\x00\xDE"
+                    "a\0"sv),
+            "a.csv: expected UTF-16 text, as its first two bytes announce");
 }
 
 TEST(TextFile, saysWhyAFileCannotBeRead) {

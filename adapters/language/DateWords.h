@@ -2,11 +2,10 @@
 #pragma once
 
 #include <array>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
-
-#include "adapters/icu/UserLocale.h"
 
 namespace mivo::adapters {
 
@@ -20,12 +19,8 @@ struct DateWords {
   std::array<Forms, 2> halves;    ///< AM and PM
   Forms today, yesterday, now;
   bool isDayFirst = true;  ///< whether a date in digits has its day before its month
+  /// A text in small letters, of any script; may be called from any thread.
+  std::function<std::string(std::string_view)> inSmallLetters;
 };
-
-/// Cost: a millisecond or two. Thread: any.
-DateWords dateWords(const UserLocale& locale);
-
-/// A text in small letters, of any script.
-std::string inSmallLetters(std::string_view text);
 
 }  // namespace mivo::adapters

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "adapters/icu/DateWords.h"
+#include "adapters/icu/LanguageWords.h"
 
 #include <unicode/dtfmtsym.h>
 #include <unicode/dtptngen.h>
@@ -17,6 +17,10 @@ std::string smallUtf8(icu::UnicodeString text) {
   std::string result;
   text.toLower(icu::Locale::getRoot()).toUTF8String(result);
   return result;
+}
+
+std::string inSmallLetters(std::string_view text) {
+  return smallUtf8(icu::UnicodeString::fromUTF8({text.data(), static_cast<std::int32_t>(text.size())}));
 }
 
 void add(DateWords::Forms& forms, const icu::UnicodeString& text) {
@@ -66,6 +70,7 @@ DateWords dateWords(const UserLocale& userLocale) {
   UErrorCode status = U_ZERO_ERROR;
   const icu::Locale locale = icu::Locale::forLanguageTag(userLocale.tag(), status);
   DateWords words;
+  words.inSmallLetters = inSmallLetters;
   const Symbols symbols{locale, "gregorian", status};
   if (U_FAILURE(status)) return words;
   // The forms of months have no shorter width than the abbreviated one that is a name.
@@ -78,10 +83,6 @@ DateWords dateWords(const UserLocale& userLocale) {
   addRelative(words, locale);
   words.isDayFirst = hasDayFirst(locale);
   return words;
-}
-
-std::string inSmallLetters(std::string_view text) {
-  return smallUtf8(icu::UnicodeString::fromUTF8({text.data(), static_cast<std::int32_t>(text.size())}));
 }
 
 }  // namespace mivo::adapters
