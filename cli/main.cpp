@@ -18,7 +18,7 @@
 #include "cli/terminal/StandardOutput.h"
 #include "cli/usage/BecomeProgram.h"
 #include "cli/usage/Usage.h"
-#include "host/database/Database.h"
+#include "host/disk/DatabaseFile.h"
 #include "host/versions/Versions.h"
 
 namespace mivo::cli {

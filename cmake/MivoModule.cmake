@@ -10,10 +10,11 @@ function(mivo_module room)
   install(FILES ${arg_HEADERS} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/mivo/${room})
 endfunction()
 
-# mivo_room(<house> <room> [TYPE OBJECT] [HEADERS ...] [SOURCES ...] [LINKS <target>...] [PRIVATE_LINKS <target>...]): target
-# <house>::<room>, whose headers are included as "<house>/<room>/Name.h".
+# mivo_room(<house> <room> [NATIVE] [TYPE OBJECT] [HEADERS ...] [SOURCES ...] [LINKS <target>...] [PRIVATE_LINKS <target>...]): target
+# <house>::<room>, whose headers are included as "<house>/<room>/Name.h". NATIVE is for what takes something from the
+# machine that a page in a browser has not: files, threads, processes, or a library of the system's.
 function(mivo_room house room)
-  cmake_parse_arguments(PARSE_ARGV 2 arg "" "TYPE" "HEADERS;SOURCES;LINKS;PRIVATE_LINKS")
+  cmake_parse_arguments(PARSE_ARGV 2 arg "NATIVE" "TYPE" "HEADERS;SOURCES;LINKS;PRIVATE_LINKS")
   set(target ${house}_${room})
   set(root ${PROJECT_BINARY_DIR}/rooms/${house}-${room})
   file(MAKE_DIRECTORY ${root}/${house})
@@ -35,5 +36,5 @@ function(mivo_room house room)
     target_link_libraries(${target} INTERFACE ${arg_LINKS})
   endif()
   add_library(${house}::${room} ALIAS ${target})
-  set_target_properties(${target} PROPERTIES EXPORT_NAME ${room})
+  set_target_properties(${target} PROPERTIES EXPORT_NAME ${room} MIVO_NATIVE ${arg_NATIVE})
 endfunction()

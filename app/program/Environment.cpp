@@ -29,14 +29,17 @@
 #include "app/program/SystemZone.h"
 #include "host/app/CarriedSettings.h"
 #include "host/app/Settings.h"
-#include "host/backup/DamagedText.h"
-#include "host/data/DailyBackup.h"
 #include "host/database/DatabaseHistory.h"
 #include "host/database/FaultText.h"
+#include "host/disk/DailyBackup.h"
+#include "host/disk/DamagedText.h"
+#include "host/disk/DatabaseFile.h"
+#include "host/disk/FindBackupPlace.h"
+#include "host/disk/TextFile.h"
 #include "host/donations/DonationList.h"
+#include "host/files/FilesOnDisk.h"
 #include "host/history/Snapshot.h"
 #include "host/options/PlaceOptions.h"
-#include "host/text/TextFile.h"
 
 namespace mivo::app {
 namespace {
@@ -173,7 +176,7 @@ host::Database openToRead(const fs::path& file, const host::DatabaseError& fault
   using Kind = host::DatabaseError::Kind;
   if (fault.kind != Kind::readOnly && fault.kind != Kind::unavailable) throw fault;
   try {
-    return host::Database{file, host::Database::Access::readOnly};
+    return host::openDatabase(file, host::Database::Access::readOnly);
   } catch (const host::DatabaseError&) {
     throw fault;
   }
@@ -181,7 +184,7 @@ host::Database openToRead(const fs::path& file, const host::DatabaseError& fault
 
 bool hasBackups(const host::DataFiles& files) {
   try {
-    return !files.backupPlace().folderToRestore().backups().empty();
+    return !folderToRestore(files.backupPlace()).backups().empty();
   } catch (const std::system_error&) {
     return false;
   }
@@ -200,7 +203,7 @@ host::Database open(const Environment& environment, std::string& notice) {
   const fs::path& file = environment.databaseFile;
   const TextLookup& texts = *environment.dependencies->texts;
   try {
-    return host::Database{file};
+    return host::openDatabase(file);
   } catch (const host::DatabaseError& fault) {
     if (fault.kind == host::DatabaseError::Kind::damaged) {
       if (hasBackups(*environment.files)) throw;
@@ -243,14 +246,14 @@ auto printOf(const Environment& environment, const Options& options) {
 }
 
 Client<host::DataFiles> filesAround(const Environment& environment, const Options& options) {
-  return std::make_shared<host::DataFiles>(
-      host::DataFiles::Place{.database = environment.databaseFile,
-                             .zone = [calendar = environment.calendar] { return calendar->present().zone(); },
-                             .settings = settingsOf(environment),
-                             .ids = environment.dependencies->uuid,
-                             .words = environment.typedDateWords,
-                             .defaults = environment.dependencies->userDefaults,
-                             .print = printOf(environment, options)});
+  return std::make_shared<host::FilesOnDisk>(
+      host::FilesOnDisk::Place{.database = environment.databaseFile,
+                               .zone = [calendar = environment.calendar] { return calendar->present().zone(); },
+                               .settings = settingsOf(environment),
+                               .ids = environment.dependencies->uuid,
+                               .words = environment.typedDateWords,
+                               .defaults = environment.dependencies->userDefaults,
+                               .print = printOf(environment, options)});
 }
 
 // Only the app's own is backed up by itself, as on the command line.
@@ -263,7 +266,7 @@ Client<host::HistoryClient> clientOf(host::Database database, const Environment&
           .place = [files = environment.files] { return files->backupPlace(); },
           .history =
               [file = environment.databaseFile] {
-                return host::Database{file, host::Database::Access::readOnly}.history();
+                return host::openDatabase(file, host::Database::Access::readOnly).history();
               },
           .settings = settingsOf(environment),
           .now = [date = environment.dependencies->date] { return date->now(); },
@@ -283,13 +286,13 @@ Client<host::HistoryClient> clientOf(host::Database database, const Environment&
 std::string noticeOf(const host::DatabaseError& error, const Environment& environment) {
   const Dependencies& clients = *environment.dependencies;
   if (!environment.isDamaged) return host::faultText(error, *clients.texts);
-  return damagedText(environment.databaseFile, environment.files->backupPlace().folderToRestore(), *clients.texts,
+  return damagedText(environment.databaseFile, folderToRestore(environment.files->backupPlace()), *clients.texts,
                      *clients.dateFormatter);
 }
 
 // Which of the backups can be read is seen only when it is.
 std::optional<host::Backup> restoreNewestReadable(const host::DataFiles& files, Date now, fs::path& setAside) {
-  for (host::Backup& backup : files.backupPlace().folderToRestore().backups()) {
+  for (host::Backup& backup : folderToRestore(files.backupPlace()).backups()) {
     const auto restored = files.restore(backup.file, now);
     if (!restored) continue;
     setAside = restored->setAside.value_or(fs::path{});

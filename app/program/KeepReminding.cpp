@@ -7,7 +7,7 @@
 #include <filesystem>
 #include <system_error>
 
-#include "host/reminders/Autostart.h"
+#include "host/autostart/Autostart.h"
 
 namespace mivo::app {
 namespace {

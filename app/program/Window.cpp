@@ -21,7 +21,7 @@
 #include "app/program/Print.h"
 #include "app/program/SystemZone.h"
 #include "host/app/Settings.h"
-#include "host/database/Database.h"
+#include "host/disk/DatabaseFile.h"
 #include "host/reminders/ReminderSettings.h"
 
 Q_IMPORT_QML_PLUGIN(MivoPlugin)

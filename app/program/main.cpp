@@ -18,7 +18,7 @@
 #include "app/program/Options.h"
 #include "app/program/Restart.h"
 #include "app/program/Window.h"
-#include "host/database/Database.h"
+#include "host/disk/DatabaseFile.h"
 #include "host/versions/Versions.h"
 #include "mivo/platform/TextLookup.h"
 

@@ -11,7 +11,7 @@
 #include "adapters/system/UserDirectories.h"
 #include "adapters/time/ZonedCalendar.h"
 #include "host/app/Settings.h"
-#include "host/database/Database.h"
+#include "host/disk/DatabaseFile.h"
 #include "host/options/PlaceOptions.h"
 
 namespace mivo::app {
@@ -61,7 +61,7 @@ void Reminding::look() {
 std::optional<host::History> Reminding::history() {
   try {
     if (!fs::exists(database)) return host::History{};
-    return host::Database{database, host::Database::Access::readOnly}.history();
+    return host::openDatabase(database, host::Database::Access::readOnly).history();
   } catch (const std::exception& error) {
     complain(error.what());
     return std::nullopt;

@@ -11,8 +11,8 @@
 #include "adapters/system/FileUserDefaults.h"
 #include "adapters/system/UserDirectories.h"
 #include "app/reminder/Reminding.h"
-#include "host/database/Database.h"
-#include "host/reminders/Autostart.h"
+#include "host/autostart/Autostart.h"
+#include "host/disk/DatabaseFile.h"
 #include "host/versions/Versions.h"
 
 namespace mivo::app {

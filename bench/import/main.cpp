@@ -23,8 +23,8 @@
 #include <vector>
 
 #include "adapters/system/LocalUUIDGenerator.h"
-#include "host/database/Database.h"
 #include "host/dates/DateText.h"
+#include "host/disk/DatabaseFile.h"
 
 namespace {
 
@@ -68,7 +68,7 @@ int insertAlone(const fs::path& table, const fs::path& file, std::int64_t rows) 
   std::ifstream in{table};
   for (std::array<char, 1 << 16> piece{}; in.read(piece.data(), piece.size());) {
   }
-  host::Database{file};
+  host::openDatabase(file);
   SQLite::Database database{file.string(), SQLite::OPEN_READWRITE};
   SQLite::Transaction transaction{database};
   SQLite::Statement insert{database,

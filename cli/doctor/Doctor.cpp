@@ -13,13 +13,14 @@
 #include "adapters/time/TimeZone.h"
 #include "adapters/zoneinfo/LoadTimeZone.h"
 #include "adapters/zoneinfo/TimeZoneNames.h"
-#include "host/backup/BackupPlace.h"
-#include "host/database/Database.h"
 #include "host/dates/DateText.h"
+#include "host/disk/DatabaseFile.h"
+#include "host/disk/FindBackupPlace.h"
+#include "host/disk/TextFile.h"
+#include "host/files/FilesOnDisk.h"
 #include "host/health/LinkedHealthClient.h"
 #include "host/health/ReadLinkedHealth.h"
 #include "host/json/JsonWriter.h"
-#include "host/text/TextFile.h"
 
 namespace mivo::cli {
 namespace {
@@ -50,7 +51,7 @@ std::string counts(const host::History& history) {
 Finding database(const fs::path& file, bool isNamed) {
   if (!isThere(file)) return {"database", file.string() + (isNamed ? ": no such file" : ": none yet"), isNamed};
   try {
-    const host::History history = host::Database{file, host::Database::Access::readOnly}.history();
+    const host::History history = host::openDatabase(file, host::Database::Access::readOnly).history();
     return {"database", file.string() + ": sound, " + counts(history)};
   } catch (const host::DatabaseError& error) {
     return {"database", error.what(), true};
@@ -109,7 +110,7 @@ std::string setting(const fs::path& settings, std::string_view key) {
 Finding healthData(const fs::path& settings) {
   const std::string path = setting(settings, host::linkedHealthFileKey);
   if (path.empty()) return {"health data", "no file linked"};
-  const auto state = host::linkedFileState(path);
+  const auto state = host::fileState(path);
   return state ? Finding{"health data", path + ": can be read"}
                : Finding{"health data", describe(state.error().bad), true};
 }
@@ -147,7 +148,7 @@ std::vector<Finding> examine(const DoctorOptions& options, const URLSession& net
   addSetAside(findings, file);
   const host::BackupPlace place =
       host::backupPlace(file, fs::path{setting(adapters::appDefaultsFile(), host::backupFolderKey)});
-  findings.push_back(backups(place.folder()));
+  findings.push_back(backups(host::BackupFolder{place.folder()}));
   addChosenFolder(findings, place);
   findings.push_back(healthData(adapters::appDefaultsFile()));
   findings.push_back(timeZone());

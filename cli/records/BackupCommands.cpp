@@ -15,8 +15,8 @@
 #include "cli/terminal/StandardOutput.h"
 #include "cli/usage/Usage.h"
 #include "host/backup/BackupName.h"
-#include "host/backup/BackupPlace.h"
-#include "host/backup/Restore.h"
+#include "host/disk/FindBackupPlace.h"
+#include "host/disk/Restore.h"
 #include "host/json/JsonWriter.h"
 #include "host/json/RecordJson.h"
 
@@ -30,7 +30,7 @@ host::BackupFolder folderOf(const RecordRun& run) {
   if (!run.options.folder.empty()) return host::BackupFolder{run.options.folder};
   const host::BackupPlace place = run.backupPlace();
   if (place.fault) complain(backupFaultText(place, *run.texts));
-  return place.folder();
+  return host::BackupFolder{place.folder()};
 }
 
 std::string backUp(const RecordRun& run) {
@@ -80,7 +80,7 @@ std::string list(const RecordRun& run) {
 /// The newest backup, or the newest of those that begin as was typed, or the file of that name.
 fs::path chosen(const RecordRun& run, const host::BackupFolder& inForce) {
   const std::string& which = run.options.which;
-  const host::BackupFolder folder = run.options.folder.empty() ? run.backupPlace().folderToRestore() : inForce;
+  const host::BackupFolder folder = run.options.folder.empty() ? folderToRestore(run.backupPlace()) : inForce;
   for (const host::Backup& backup : folder.backups())
     if (host::backupKey(backup.date).starts_with(which) || backup.file.filename() == which) return backup.file;
   std::error_code unknown;

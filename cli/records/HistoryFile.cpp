@@ -3,15 +3,17 @@
 
 #include <utility>
 
+#include "host/disk/DatabaseFile.h"
+
 namespace mivo::cli {
 
 HistoryFile::HistoryFile(std::filesystem::path path, std::function<void(const host::Database&)> beforeChange)
     : file{std::move(path)}, prepare{std::move(beforeChange)} {
-  if (std::filesystem::exists(file)) database.emplace(file);
+  if (std::filesystem::exists(file)) database.emplace(host::openDatabase(file));
 }
 
 host::Database& HistoryFile::forChange() {
-  if (!database) database.emplace(file);
+  if (!database) database.emplace(host::openDatabase(file));
   if (prepare) prepare(*database);
   return *database;
 }

@@ -14,12 +14,12 @@
 #include "cli/terminal/StandardOutput.h"
 #include "cli/usage/Usage.h"
 #include "host/app/CarriedSettings.h"
+#include "host/disk/TextFile.h"
 #include "host/files/ReadImportFiles.h"
 #include "host/import/ImportText.h"
 #include "host/import/PlanImport.h"
 #include "host/import/SaidFasts.h"
 #include "host/place/TypedDates.h"
-#include "host/text/TextFile.h"
 #include "mivo/weights/WeightUnits.h"
 
 namespace mivo::cli {

@@ -14,8 +14,10 @@
 #include "cli/usage/Usage.h"
 #include "host/app/CarriedSettings.h"
 #include "host/app/Settings.h"
-#include "host/data/DailyBackup.h"
 #include "host/dates/SpokenDate.h"
+#include "host/disk/DailyBackup.h"
+#include "host/disk/DatabaseFile.h"
+#include "host/disk/FindBackupPlace.h"
 #include "host/history/FieldRules.h"
 #include "host/text/BadRecord.h"
 #include "mivo/fasting/GoalTime.h"
@@ -118,7 +120,7 @@ std::vector<host::Setting> RecordRun::settings() const {
 }
 
 host::History RecordRun::history() const {
-  if (std::filesystem::is_regular_file(file())) return host::Database{file()}.history();
+  if (std::filesystem::is_regular_file(file())) return host::openDatabase(file()).history();
   if (options.database.empty()) return {};
   throw Refused{atFault, host::describe({.file = file().string(), .reason = "expected a database of the app"})};
 }

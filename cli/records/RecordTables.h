@@ -8,7 +8,7 @@
 
 #include "cli/records/RecordRun.h"
 #include "cli/records/ShortIDs.h"
-#include "host/backup/BackupFolder.h"
+#include "host/disk/BackupFolder.h"
 #include "host/history/History.h"
 #include "host/text/BadRecord.h"
 

@@ -16,12 +16,12 @@
 #include "cli/terminal/Paint.h"
 #include "cli/terminal/StandardOutput.h"
 #include "cli/usage/Usage.h"
-#include "host/database/Database.h"
+#include "host/disk/DatabaseFile.h"
+#include "host/disk/TextFile.h"
 #include "host/files/ReadImportFiles.h"
 #include "host/history/FastsCsv.h"
 #include "host/history/WeightsCsv.h"
 #include "host/import/PlanImport.h"
-#include "host/text/TextFile.h"
 
 namespace mivo::cli {
 namespace {
@@ -74,7 +74,7 @@ tl::expected<History, BadRecord> readTables(const ReportOptions& options, const 
 tl::expected<History, BadRecord> readDatabase(const std::filesystem::path& file) {
   if (!std::filesystem::is_regular_file(file))
     return tl::unexpected{BadRecord{.file = file.string(), .reason = "expected a database of the app"}};
-  return host::Database{file}.history();
+  return host::openDatabase(file).history();
 }
 
 bool isOwn(const host::ImportedFile& file) {

@@ -5,11 +5,8 @@
 #include <string>
 #include <string_view>
 #include <system_error>
-#include <tl/expected.hpp>
 
-#include "host/backup/BackupFolder.h"
 #include "mivo/platform/TextLookup.h"
-#include "mivo/platform/UserDefaults.h"
 
 namespace mivo::host {
 
@@ -27,23 +24,9 @@ struct BackupPlace {
   bool isOffered = false;             ///< whether one can be chosen: for the app's own history alone
   bool operator==(const BackupPlace&) const = default;
 
-  /// The one in force.
-  BackupFolder folder() const;
-
-  /// The one to go back to a backup from: the one in force, or the usual one while that has none yet. Throws
-  /// std::system_error.
-  BackupFolder folderToRestore() const;
+  /// The folder in force.
+  std::filesystem::path folder() const { return chosen.empty() || fault ? usual : chosen / usual.filename(); }
 };
-
-/// `setting` is what the user defaults hold under `backupFolderKey`. Costs two looks at the chosen folder. Thread: any.
-BackupPlace backupPlace(const std::filesystem::path& database, const std::filesystem::path& setting);
-BackupPlace backupPlace(const std::filesystem::path& database, const UserDefaults& defaults);
-
-/// Has the backups of the app's own history go into a folder from now on, or into the usual one where that is empty.
-/// What was made before stays where it is. A folder that is not there or may not be written is refused in one sentence
-/// in the user's language, and nothing was changed.
-tl::expected<BackupPlace, std::string> chooseBackupFolder(const std::filesystem::path& folder,
-                                                          const UserDefaults& defaults, const TextLookup& texts);
 
 /// "Backups cannot go to /media/stick at the moment (No such file or directory). They go to ... meanwhile.": where the
 /// chosen folder cannot be used; empty where it can, or none was chosen.

@@ -6,51 +6,29 @@
 #include <functional>
 #include <memory>
 #include <optional>
-#include <stdexcept>
-#include <string>
-#include <utility>
 
+#include "host/database/DatabaseError.h"
 #include "host/fasting/HistoryChange.h"
 #include "host/fasting/WeightSync.h"
 #include "host/history/History.h"
 
+namespace SQLite {
+class Database;
+}
+
 namespace mivo::host {
 
-/// What went wrong with the user's database; `what()` is a sentence that names the file.
-class DatabaseError : public std::runtime_error {
- public:
-  enum class Kind {
-    damaged,      ///< it is not a database, or its contents do not hold together
-    tooNew,       ///< a later version of the program has written it
-    conflict,     ///< a record is not, or no longer, as the change takes it to be
-    fastRunning,  ///< a second running fast was to be added
-    diskFull,     ///< or the user's share of it
-    locked,       ///< another program keeps it locked
-    readOnly,     ///< it may be read, but not written
-    noFolder,     ///< its folder cannot be made
-    unavailable,  ///< it cannot be read or written for another reason
-  };
-
-  DatabaseError(Kind what, std::filesystem::path where, const std::string& why)
-      : std::runtime_error{where.string() + ": " + why}, kind{what}, file{std::move(where)}, reason{why} {}
-
-  const Kind kind;
-  const std::filesystem::path file;  ///< or its folder, where that is what is wrong
-  const std::string reason;          ///< in English, without the file
-};
-
-/// The user's fasts and weights on disk. Several programs may have it open at once and see each other's changes.
+/// The user's fasts and weights. Several programs may have them open at once and see each other's changes.
 ///
-/// What was written is on disk when the call returns, so that a program may be killed at any moment and start again
-/// without repair. Thread: one at a time.
+/// What was written is where SQLite keeps it when the call returns, so that a program may be killed at any moment and
+/// start again without repair. Thread: one at a time.
 class Database {
  public:
   enum class Access { readAndWrite, readOnly };
 
-  /// Opens the database, makes it and its folder where they are missing, brings an older one up to date, and lets
-  /// nobody but its owner read it; one that is only to be read must be there, and is left as it is. Throws
-  /// DatabaseError.
-  explicit Database(const std::filesystem::path& file, Access access = Access::readAndWrite);
+  /// Takes over what `open` connects to, and brings an older database up to date; one that is only to be read is left
+  /// as it is. `file` is what sentences call it. Throws DatabaseError, also for what `open` throws of SQLite's.
+  Database(std::filesystem::path file, Access access, const std::function<SQLite::Database()>& open);
   ~Database();
   Database(Database&&) noexcept;
   Database& operator=(Database&&) noexcept;
@@ -92,26 +70,5 @@ class Database {
   struct Connection;
   std::unique_ptr<Connection> connection;
 };
-
-/// Opens the database like the constructor, but moves a damaged one aside and starts an empty one in its place.
-/// `setAside` is then the path under which the damaged one is kept.
-struct OpenedDatabase {
-  Database database;
-  std::optional<std::filesystem::path> setAside = {};
-};
-OpenedDatabase openOrSetAside(const std::filesystem::path& file);
-
-/// Puts a new database with these records in the place of a damaged one, in one step, so that at no time there is none,
-/// and returns the path under which the damaged one is kept. Throws DatabaseError; the damaged one then stands as it
-/// was.
-std::filesystem::path replaceDamaged(const std::filesystem::path& file, const History& records);
-
-/// What writes all of a database into a file, typed into a terminal: "mivo export --to copy.json".
-std::string exportCommand(const std::filesystem::path& database);
-/// What puts the newest backup into a database: "mivo backup restore".
-std::string restoreCommand(const std::filesystem::path& database);
-
-/// Where the app and the command line keep a user's database: "mivo/mivo.sqlite" in the user's data folder.
-std::filesystem::path ownDatabaseFile();
 
 }  // namespace mivo::host

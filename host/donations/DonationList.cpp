@@ -7,7 +7,7 @@
 #include <utility>
 #include <vector>
 
-#include "host/text/TextFile.h"
+#include "host/disk/TextFile.h"
 #include "mivo/platform/LocalizedText.h"
 
 namespace mivo::host {

@@ -15,8 +15,8 @@
 #include "adapters/archive/ZipArchive.h"
 #include "adapters/system/FileDescriptor.h"
 #include "host/database/ReadDatabaseBytes.h"
+#include "host/disk/TextFile.h"
 #include "host/import/ImportReader.h"
-#include "host/text/TextFile.h"
 
 namespace mivo::host {
 namespace {

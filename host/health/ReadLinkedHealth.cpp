@@ -1,12 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "host/health/ReadLinkedHealth.h"
 
-#include <sys/stat.h>
-#include <unistd.h>
-
-#include <cerrno>
 #include <iterator>
-#include <system_error>
 #include <utility>
 
 #include "host/history/History.h"
@@ -14,46 +9,24 @@
 namespace mivo::host {
 namespace {
 
-constexpr std::int64_t nanosecondsPerSecond = 1'000'000'000;
-
-LinkedHealthFault faultOf(const std::string& path, std::string reason) {
-  return {{.file = path, .reason = std::move(reason)}};
-}
-
-LinkedHealthFault unreadable(const std::string& path, int error) {
-  LinkedHealthFault fault =
-      faultOf(path, "expected a file that can be read: " + std::generic_category().message(error));
-  fault.isGone = error == ENOENT || error == ENOTDIR;
-  return fault;
-}
-
-LinkedHealthFault noHealthExport(const std::string& path) {
-  return faultOf(path, "expected a health export, as XML or in its zip");
+FileFault noHealthExport(const std::string& path) {
+  return {{.file = path, .reason = "expected a health export, as XML or in its zip"}};
 }
 
 }  // namespace
 
-// A pipe would be waited for.
-tl::expected<FileState, LinkedHealthFault> linkedFileState(const std::string& path) {
-  struct stat status{};
-  if (::stat(path.c_str(), &status) != 0 || ::access(path.c_str(), R_OK) != 0)
-    return tl::unexpected{unreadable(path, errno)};
-  if (!S_ISREG(status.st_mode)) return tl::unexpected{faultOf(path, "expected a file")};
-  return FileState{.inode = static_cast<std::int64_t>(status.st_ino),
-                   .sizeInBytes = status.st_size,
-                   .modifiedAt = status.st_mtim.tv_sec * nanosecondsPerSecond + status.st_mtim.tv_nsec};
-}
-
-tl::expected<std::optional<LinkedHealth>, LinkedHealthFault> readLinkedHealth(
-    const std::string& path, const std::optional<FileState>& before, const DataFiles& files,
-    const std::function<void(double)>& progress, const std::stop_token& stop) {
-  const auto state = linkedFileState(path);
+tl::expected<std::optional<LinkedHealth>, FileFault> readLinkedHealth(const std::string& path,
+                                                                      const std::optional<FileState>& before,
+                                                                      const DataFiles& files,
+                                                                      const std::function<void(double)>& progress,
+                                                                      const std::stop_token& stop) {
+  const auto state = files.state(path);
   if (!state) return tl::unexpected{state.error()};
   if (before == *state) return std::nullopt;
   auto read = files.read({path}, {}, progress, stop);
   if (!read && (read.error().isUnknown || read.error().asks != ImportFault::Asks::nothing))
     return tl::unexpected{noHealthExport(path)};
-  if (!read) return tl::unexpected{LinkedHealthFault{std::move(read.error().bad)}};
+  if (!read) return tl::unexpected{FileFault{std::move(read.error().bad)}};
   LinkedHealth found{.path = path, .sync = {.file = *state, .weights = {}}, .refused = {}};
   bool isHealth = false;
   for (ImportedFile& file : *read) {
@@ -67,7 +40,7 @@ tl::expected<std::optional<LinkedHealth>, LinkedHealthFault> readLinkedHealth(
   return found;
 }
 
-std::string faultText(const LinkedHealthFault& fault, const TextLookup& texts) {
+std::string faultText(const FileFault& fault, const TextLookup& texts) {
   if (fault.isGone) return filledIn(texts.text("The linked health file is no longer there: {1}"), {fault.bad.file});
   return filledIn(texts.text("The linked health file cannot be read: {1}"), {describe(fault.bad)});
 }

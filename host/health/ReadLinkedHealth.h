@@ -9,7 +9,6 @@
 
 #include "host/data/DataFiles.h"
 #include "host/fasting/WeightSync.h"
-#include "host/text/BadRecord.h"
 #include "mivo/platform/TextLookup.h"
 
 namespace mivo::host {
@@ -22,26 +21,18 @@ struct LinkedHealth {
   bool operator==(const LinkedHealth&) const = default;
 };
 
-/// Why nothing of a linked file was taken in.
-struct LinkedHealthFault {
-  BadRecord bad;
-  bool isGone = false;  ///< no file has its name any more
-  bool operator==(const LinkedHealthFault&) const = default;
-};
-
-/// The state of a linked file, or why it cannot be read: it is gone, is no file, or belongs to others.
-tl::expected<FileState, LinkedHealthFault> linkedFileState(const std::string& path);
-
 /// Reads the body masses of a health export, as XML or its zip, unless its state is that of `before`: then it costs one
 /// look at the file, and the answer is nothing. A file that is written while it is read counts as it was before, so
 /// that it is read once more. Any other kind of file is a fault. `progress` gets from 0 to 1; after `stop` was
 /// requested the answer means nothing. Throws what `DataFiles::read` does.
-tl::expected<std::optional<LinkedHealth>, LinkedHealthFault> readLinkedHealth(
-    const std::string& path, const std::optional<FileState>& before, const DataFiles& files,
-    const std::function<void(double)>& progress, const std::stop_token& stop);
+tl::expected<std::optional<LinkedHealth>, FileFault> readLinkedHealth(const std::string& path,
+                                                                      const std::optional<FileState>& before,
+                                                                      const DataFiles& files,
+                                                                      const std::function<void(double)>& progress,
+                                                                      const std::stop_token& stop);
 
 /// One sentence in the user's language.
-std::string faultText(const LinkedHealthFault& fault, const TextLookup& texts);
+std::string faultText(const FileFault& fault, const TextLookup& texts);
 
 /// What there is to say of a file that was read: that it holds no weight, or that some were refused, and why; empty
 /// where there is nothing.

@@ -28,7 +28,7 @@ BackupsPage composeBackupsPage(const BackupsFeature::State& state, const PageCli
                    .listTitle = state.backups->empty() ? "" : texts.text("Choose one to go back to"),
                    .rows = {},
                    .folderLabel = texts.text("Folder"),
-                   .folder = place.folder().path().string(),
+                   .folder = place.folder().string(),
                    .changeLabel = place.isOffered ? texts.text("Change folder") : "",
                    .usualLabel = place.chosen.empty() ? "" : texts.text("Use the usual folder"),
                    .fault = backupFaultText(place, texts),

@@ -12,8 +12,8 @@
 #include <sstream>
 #include <system_error>
 
-#include "host/backup/BackupPlace.h"
-#include "host/database/Database.h"
+#include "host/disk/BackupFolder.h"
+#include "host/disk/DatabaseFile.h"
 #include "tests/app/ShownApp.h"
 #include "tests/support/TemporaryFolder.h"
 
@@ -96,7 +96,7 @@ class Data : public testing::Test {
     return eventually([&] { return app->text(text) != nullptr; });
   }
   host::History onDisk() const {
-    return host::Database{app->environment.databaseFile, host::Database::Access::readOnly}.history();
+    return host::openDatabase(app->environment.databaseFile, host::Database::Access::readOnly).history();
   }
   std::vector<host::Backup> backups() const {
     return host::BackupFolder{host::backupFolder(app->environment.databaseFile)}.backups();

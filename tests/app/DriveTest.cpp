@@ -9,7 +9,7 @@
 #include <QtTest/QTest>
 
 #include "app/items/DayBars.h"
-#include "host/database/Database.h"
+#include "host/disk/DatabaseFile.h"
 #include "tests/app/ShownApp.h"
 #include "tests/app/VirtualDisplay.h"
 #include "tests/app/Warnings.h"
@@ -53,7 +53,7 @@ class Drive : public testing::Test {
     host::HistoryChange past;
     for (std::uint64_t day = 2; day <= 20; ++day) past.addedFasts.push_back(fastOf(day, 0));
     past.addedFasts.push_back(fastOf(30, 18 * secondsPerDay + 8 * secondsPerHour));  // over the one of day 12
-    host::Database{file}.apply(past);
+    host::openDatabase(file).apply(past);
   }
 
   // 16 hours, so many days ago, and as much later.
@@ -150,7 +150,7 @@ class Drive : public testing::Test {
     return app->find([](const QQuickItem* item) { return dynamic_cast<const DayBars*>(item) != nullptr; });
   }
 
-  host::History onDisk() const { return host::Database{file, host::Database::Access::readOnly}.history(); }
+  host::History onDisk() const { return host::openDatabase(file, host::Database::Access::readOnly).history(); }
   std::int64_t votesOnTheServer() {
     return tally::test::countOf(tally::test::HttpClient{server.port()}.get("/get/mivo/feature2"));
   }

@@ -7,7 +7,7 @@
 #include <fstream>
 #include <system_error>
 
-#include "host/database/Database.h"
+#include "host/disk/DatabaseFile.h"
 #include "tests/app/ShownApp.h"
 #include "tests/support/FullDisk.h"
 #include "tests/support/OrdinaryUser.h"
@@ -46,7 +46,7 @@ class Failures : public testing::Test {
 
   /// As another program sees it.
   std::vector<host::FastRecord> onDisk() const {
-    return host::Database{file, host::Database::Access::readOnly}.history().fasts;
+    return host::openDatabase(file, host::Database::Access::readOnly).history().fasts;
   }
 
   static host::FastRecord fastOf(std::uint64_t id, double day) {
@@ -89,7 +89,7 @@ TEST_F(Failures, settingsThatCannotBeSavedAreSaidAndHoldUntilTheEnd) {
 TEST_F(Failures, aReadOnlyFolderShowsTheHistoryAndSavesNothing) {
   tests::becomeOrdinaryUser();
   open();
-  host::Database{file}.apply(host::adding(fastOf(1, 0)));
+  host::openDatabase(file).apply(host::adding(fastOf(1, 0)));
   app.reset();
   fs::permissions(data, fs::perms::owner_read | fs::perms::owner_exec);
   fs::permissions(file, fs::perms::owner_read);
@@ -160,7 +160,7 @@ TEST_F(Failures, aDamagedDatabaseOffersItsNewestBackup) {
     environment->history->apply(host::adding(fastOf(1, 0)));
     environment->files->backUp(environment->history->load(), dateSince1970(1.7722e9));
     environment->history->apply(host::adding(fastOf(2, 1)));
-    std::ofstream{environment->files->backupPlace().folder().path() / "mivo-2026-03-01T030000Z.json"} << "{";
+    std::ofstream{environment->files->backupPlace().folder() / "mivo-2026-03-01T030000Z.json"} << "{";
   }
   const auto damage = [&] {
     fs::remove(file);
@@ -203,7 +203,7 @@ TEST_F(Failures, aZoneThatChangesMovesEveryTimeAndNoRecord) {
   qputenv("TZ", QByteArray::fromStdString(link.string()));
   inSystemZone = true;
   open();
-  host::Database{file}.apply(host::adding(fastOf(1, 0)));
+  host::openDatabase(file).apply(host::adding(fastOf(1, 0)));
   click("Start fast");
   ASSERT_TRUE(eventually([&] { return app->state().fasts->size() == 2; }));
   const auto before = onDisk();
@@ -230,7 +230,7 @@ TEST_F(Failures, aZoneThatChangesMovesEveryTimeAndNoRecord) {
 
 TEST_F(Failures, aClockThatIsSetBackLosesNothing) {
   open();
-  host::Database{file}.apply(host::adding({mivo::ongoingFast({1, 1}, dateSince1970(1772370000), 57600), ""}));
+  host::openDatabase(file).apply(host::adding({mivo::ongoingFast({1, 1}, dateSince1970(1772370000), 57600), ""}));
   ASSERT_TRUE(eventually([&] { return app->state().runningFast() != nullptr; }));
   EXPECT_TRUE(eventuallySays("This fast begins in the future. Check the clock, or change when it started."));
   click("Stop fast");

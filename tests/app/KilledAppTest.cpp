@@ -12,7 +12,7 @@
 #include <map>
 #include <sstream>
 
-#include "host/database/Database.h"
+#include "host/disk/DatabaseFile.h"
 #include "host/fasting/Fasting.h"
 #include "tests/app/ShownApp.h"
 #include "tests/support/TemporaryFolder.h"
@@ -105,7 +105,7 @@ TEST(KilledApp, losesNothingThatWasShown) {
   EXPECT_GE(confirmed.size(), static_cast<std::size_t>(rounds() / 2));
 
   std::map<std::string, bool> kept;
-  for (const auto& record : host::Database{database}.history().fasts)
+  for (const auto& record : host::openDatabase(database).history().fasts)
     kept[text(record.fast.id)] = record.fast.finished.has_value();
   for (const auto& [id, hasEnded] : confirmed) {
     EXPECT_TRUE(kept.contains(id)) << id << " is lost";

@@ -6,7 +6,7 @@
 #include <filesystem>
 
 #include "adapters/system/SystemClock.h"
-#include "host/database/Database.h"
+#include "host/disk/DatabaseFile.h"
 #include "tests/app/ShownApp.h"
 #include "tests/app/reminder/SessionBus.h"
 #include "tests/support/TemporaryFolder.h"
@@ -29,7 +29,7 @@ class Reminders : public testing::Test {
   /// A fast that began so long ago runs alone.
   void begin(std::uint64_t id, double hours) {
     const Date start = adapters::SystemClock{}.now() - Duration{hours * secondsPerHour};
-    host::Database database{file};
+    host::Database database = host::openDatabase(file);
     host::HistoryChange change;
     change.removedFasts = database.history().fasts;
     change.addedFasts = {{ongoingFast({1, id}, start, sixteenHours), ""}};

@@ -6,8 +6,8 @@
 #include <algorithm>
 #include <string>
 
+#include "host/disk/TextFile.h"
 #include "host/history/Snapshot.h"
-#include "host/text/TextFile.h"
 #include "tests/support/FixedClients.h"
 
 namespace mivo::data {

@@ -11,7 +11,7 @@
 #include "adapters/system/FileUserDefaults.h"
 #include "adapters/system/SystemClock.h"
 #include "host/app/Settings.h"
-#include "host/database/Database.h"
+#include "host/disk/DatabaseFile.h"
 #include "host/reminders/ReminderSettings.h"
 #include "tests/app/reminder/SessionBus.h"
 #include "tests/support/TemporaryFolder.h"
@@ -93,7 +93,7 @@ class Machine : public testing::Test {
 
   SessionBus bus;
   tests::TemporaryFolder folder;
-  host::Database database{folder.path / "data/mivo/mivo.sqlite"};
+  host::Database database = host::openDatabase(folder.path / "data/mivo/mivo.sqlite");
   adapters::FileUserDefaults settings{folder.path / "config/mivo/app.json"};
   QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
 };
@@ -196,7 +196,7 @@ TEST_F(Machine, saysWhatIsWrongWithTheHistoryAndGoesOn) {
   std::filesystem::remove(file);
   host::HistoryChange change;
   change.addedFasts = {running(1, 17)};
-  host::Database{file}.apply(change);
+  host::openDatabase(file).apply(change);
   EXPECT_TRUE(desktop.awaits(1));
 }
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "host/backup/BackupFolder.h"
+#include "host/disk/BackupFolder.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -11,7 +11,7 @@
 #include <fstream>
 #include <string>
 
-#include "host/database/Database.h"
+#include "host/disk/DatabaseFile.h"
 #include "tests/cli_support/MivoProcess.h"
 #include "tests/tally_support/ChildProcess.h"
 
@@ -36,9 +36,9 @@ host::History weighing(int count) {
 
 class BackupCommands : public testing::Test {
  protected:
-  host::History own() const { return host::Database{database}.history(); }
+  host::History own() const { return host::openDatabase(database).history(); }
   void put(const host::History& history) const {
-    host::Database{database}.replace(history, [](const host::History&) {});
+    host::openDatabase(database).replace(history, [](const host::History&) {});
   }
   Ran done(const std::string& arguments) const {
     Ran ran = place.run(arguments + " --locale en-DE --time-zone UTC");

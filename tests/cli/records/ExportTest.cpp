@@ -5,9 +5,9 @@
 #include <filesystem>
 
 #include "adapters/system/LocalUUIDGenerator.h"
-#include "host/database/Database.h"
+#include "host/disk/DatabaseFile.h"
+#include "host/disk/TextFile.h"
 #include "host/history/Snapshot.h"
-#include "host/text/TextFile.h"
 #include "tests/cli_support/MivoProcess.h"
 
 namespace mivo::cli {
@@ -27,7 +27,7 @@ class Export : public testing::Test {
     records.addedFasts = {{finishedFast({1, 1}, start, start + Duration{57600}, 57600), "tea"},
                           {ongoingFast({1, 2}, start + Duration{86400}, 59400), ""}};
     records.addedWeights = {{{2, 3}, start, 81.4}};
-    host::Database{place.file("d")}.apply(records);
+    host::openDatabase(place.file("d")).apply(records);
   }
 
   std::string contents(const char* file) const { return host::readTextFile(place.file(file).string()).value(); }
@@ -47,7 +47,7 @@ TEST_F(Export, writesAllThatReadsBackForItsOwnerOnly) {
   EXPECT_EQ(ran.status, 0) << ran.errors;
   EXPECT_EQ(ran.output, "Exported to backup.json: 2 fasts, 1 weight\n");
   const auto read = host::readSnapshot(contents("backup.json"), "backup.json", adapters::LocalUUIDGenerator{});
-  EXPECT_EQ(read.value(), host::Database{place.file("d")}.history());
+  EXPECT_EQ(read.value(), host::openDatabase(place.file("d")).history());
   EXPECT_EQ(fs::status(place.file("backup.json")).permissions(), fs::perms::owner_read | fs::perms::owner_write);
   EXPECT_EQ(place.run("export --to - --database d").output, contents("backup.json"));
 }

@@ -4,7 +4,7 @@
 
 #include <filesystem>
 
-#include "host/database/Database.h"
+#include "host/disk/DatabaseFile.h"
 #include "tests/cli_support/MivoProcess.h"
 
 namespace mivo::cli {
@@ -20,7 +20,7 @@ class Import : public testing::Test {
     place.write("weights", "date,weight\n2026-03-01T07:00Z,81.4 kg\n2026-03-02T07:00Z,0\n");
   }
 
-  host::History history() const { return host::Database{place.file("d")}.history(); }
+  host::History history() const { return host::openDatabase(place.file("d")).history(); }
 
   Workplace place;
 };
@@ -59,7 +59,7 @@ TEST_F(Import, takesADatabaseAndASnapshotAsTheyAre) {
   for (const std::string source : {"d", "all.json"}) {
     EXPECT_EQ(place.run("import " + source + " --database of-" + source).output,
               source + ": 2 fasts and 1 weight added, 0 there already, 0 refused\n");
-    const host::History copy = host::Database{place.file("of-" + source)}.history();
+    const host::History copy = host::openDatabase(place.file("of-" + source)).history();
     EXPECT_EQ(copy.fasts, history().fasts);
     EXPECT_EQ(copy.weights, history().weights);
   }

@@ -8,7 +8,7 @@
 #include <set>
 #include <string>
 
-#include "host/database/Database.h"
+#include "host/disk/DatabaseFile.h"
 #include "tests/support/TemporaryFolder.h"
 #include "tests/tally_support/ChildProcess.h"
 
@@ -39,7 +39,7 @@ TEST(KilledCommand, losesNothingThatWasConfirmed) {
     if (isConfirmed(database, round, tally::test::killTime(round, usual))) confirmed.insert(round);
   EXPECT_LT(confirmed.size(), std::size_t{rounds}) << "no run was killed";
 
-  for (const BodyWeightSample& sample : host::Database{database}.history().weights)
+  for (const BodyWeightSample& sample : host::openDatabase(database).history().weights)
     confirmed.erase(static_cast<int>(std::lround(sample.weightInKg - 50)));
   EXPECT_TRUE(confirmed.empty()) << confirmed.size() << " lost";
   int files = 0;
@@ -72,7 +72,7 @@ TEST(KilledCommand, importsAFileAsAWholeOrNotAtAll) {
   constexpr int rounds = 40;
   for (int round = 1; round <= rounds; ++round) {
     confirmed += isConfirmed(round, tally::test::killTime(round, usual)) ? 1 : 0;
-    const std::size_t there = host::Database{database}.history().weights.size();
+    const std::size_t there = host::openDatabase(database).history().weights.size();
     ASSERT_EQ(there % weightsInAFile, 0u) << "a part of a file";
     ASSERT_GE(there / weightsInAFile, confirmed) << "lost";
   }

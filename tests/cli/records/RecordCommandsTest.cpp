@@ -4,7 +4,7 @@
 
 #include <cmath>
 
-#include "host/database/Database.h"
+#include "host/disk/DatabaseFile.h"
 #include "tests/cli_support/MivoProcess.h"
 
 namespace mivo::cli {
@@ -32,7 +32,7 @@ std::string idIn(const std::string& answer) {
   return answer.substr(begin, end - begin);
 }
 
-host::History own(const Workplace& place) { return host::Database{place.file("mivo/mivo.sqlite")}.history(); }
+host::History own(const Workplace& place) { return host::openDatabase(place.file("mivo/mivo.sqlite")).history(); }
 
 double secondsInDay(Date date) { return std::fmod(secondsSince1970(date), secondsPerDay); }
 
@@ -188,7 +188,7 @@ TEST(RecordCommands, keepAWeightOnce) {
 TEST(RecordCommands, seeTheDatabaseThatTheyAreToldOf) {
   const Workplace place;
   said(place, "start --at '2026-02-28 20:00' --database other.sqlite");
-  EXPECT_EQ(host::Database{place.file("other.sqlite")}.history().fasts.size(), 1u);
+  EXPECT_EQ(host::openDatabase(place.file("other.sqlite")).history().fasts.size(), 1u);
   EXPECT_EQ(said(place, "list"), "No fasts yet.");
   EXPECT_FALSE(std::filesystem::exists(place.file("mivo/mivo.sqlite"))) << "a list has made a database";
 }

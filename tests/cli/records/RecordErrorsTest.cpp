@@ -4,7 +4,7 @@
 
 #include <filesystem>
 
-#include "host/database/Database.h"
+#include "host/disk/DatabaseFile.h"
 #include "tests/cli_support/MivoProcess.h"
 
 namespace mivo::cli {
@@ -32,13 +32,13 @@ class RecordErrors : public testing::TestWithParam<ErrorRow> {};
 
 TEST_P(RecordErrors, areOneSentenceAndChangeNothing) {
   const Workplace place;
-  host::Database{place.file("d")}.apply(someRecords());
-  const auto before = host::Database{place.file("d")}.history();
+  host::openDatabase(place.file("d")).apply(someRecords());
+  const auto before = host::openDatabase(place.file("d")).history();
   const Ran ran = place.run(GetParam().arguments + " --database d");
   EXPECT_THAT(ran.errors, testing::MatchesRegex("mivo: " + GetParam().errors + "\n"));
   EXPECT_EQ(ran.status, GetParam().status);
   EXPECT_EQ(ran.output, "");
-  EXPECT_EQ(host::Database{place.file("d")}.history(), before);
+  EXPECT_EQ(host::openDatabase(place.file("d")).history(), before);
 }
 
 const std::string now = "2[0-9-]+ [0-9:]+";
@@ -112,14 +112,14 @@ TEST(RecordErrors, aClockThatWasSetBackLosesNothing) {
   const Workplace place;
   host::HistoryChange change;
   change.addedFasts = {{ongoingFast({1, 1}, dateSince1970(16e9), 57600), ""}};  // of the year 2477
-  host::Database{place.file("d")}.apply(change);
+  host::openDatabase(place.file("d")).apply(change);
   const Ran ran = place.run("stop --database d");
   EXPECT_EQ(ran.status, badData);
   EXPECT_THAT(ran.errors, testing::MatchesRegex("mivo: The start is in the future. Is the clock right\\? "
                                                 "\\(it is " +
                                                 now + "; the fast is running since 2477-.*\\)\n"));
   EXPECT_EQ(place.run("edit 0000 --note 'clock was wrong' --database d").status, 0);
-  EXPECT_EQ(host::Database{place.file("d")}.history().fasts[0].fast.start, dateSince1970(16e9));
+  EXPECT_EQ(host::openDatabase(place.file("d")).history().fasts[0].fast.start, dateSince1970(16e9));
 }
 
 TEST(RecordErrors, leaveNoDatabaseBehindWhereThereWasNone) {

@@ -4,7 +4,7 @@
 #include <sstream>
 
 #include "cli/terminal/TextWidth.h"
-#include "host/database/Database.h"
+#include "host/disk/DatabaseFile.h"
 #include "tests/cli_support/MivoProcess.h"
 
 namespace mivo::cli {
@@ -24,7 +24,7 @@ host::HistoryChange someRecords() {
 
 Ran list(const std::string& arguments, const host::HistoryChange& records = someRecords()) {
   const Workplace place;
-  host::Database{place.file("d")}.apply(records);
+  host::openDatabase(place.file("d")).apply(records);
   return place.run(arguments + " --database d");
 }
 
@@ -48,7 +48,7 @@ Ran listOnTerminal(const std::string& arguments, int width) {
   auto records = someRecords();
   records.addedFasts[0].note = longNote;
   const Workplace place;
-  host::Database{place.file("d")}.apply(records);
+  host::openDatabase(place.file("d")).apply(records);
   return place.runOnTerminal(arguments + " --time-zone Europe/Berlin --database d", width);
 }
 

@@ -3,7 +3,7 @@
 
 #include <filesystem>
 
-#include "host/database/Database.h"
+#include "host/disk/DatabaseFile.h"
 #include "tests/cli_support/MivoProcess.h"
 
 namespace mivo::cli {
@@ -20,11 +20,11 @@ class Repair : public testing::Test {
   Repair() {
     host::HistoryChange change;
     change.addedFasts = {fast(1, 0, 16), fast(3, 15, 30), fast(4, 40, 50)};
-    host::Database{place.file("d")}.apply(change);
+    host::openDatabase(place.file("d")).apply(change);
   }
 
   Ran run(const std::string& arguments) const { return place.run(arguments + " --database d --locale en-DE"); }
-  std::vector<host::FastRecord> fasts() const { return host::Database{place.file("d")}.history().fasts; }
+  std::vector<host::FastRecord> fasts() const { return host::openDatabase(place.file("d")).history().fasts; }
 
   Workplace place;
 };
@@ -48,7 +48,7 @@ TEST_F(Repair, saysWhatItWouldChangeAndThenDoesIt) {
 }
 
 TEST_F(Repair, makesOneOfTwoThatShareHalfOfTheirTime) {
-  host::Database{place.file("d")}.apply(host::adding(fast(5, 42, 52)));
+  host::openDatabase(place.file("d")).apply(host::adding(fast(5, 42, 52)));
   EXPECT_EQ(run("repair --dry-run").output, trimmed +
                                                 "- 4000  1 Mar 2026, 12:00 to 1 Mar 2026, 22:00, 10h 0m, goal 16h\n"
                                                 "+ 4000  1 Mar 2026, 12:00 to 2 Mar 2026, 00:00, 12h 0m, goal 16h\n"

@@ -5,7 +5,7 @@
 
 #include <filesystem>
 
-#include "host/database/Database.h"
+#include "host/disk/DatabaseFile.h"
 #include "tests/cli_support/MivoProcess.h"
 
 namespace mivo::cli {
@@ -22,7 +22,7 @@ class Undo : public testing::Test {
     return ran.output;
   }
 
-  host::History history() const { return host::Database{place.file("d")}.history(); }
+  host::History history() const { return host::openDatabase(place.file("d")).history(); }
 
   Workplace place;
 };
@@ -62,7 +62,7 @@ TEST_F(Undo, saysWhatIsThereNow) {
 
 TEST_F(Undo, takesBackWhatTheAppDid) {
   const Date start = dateSince1970(1772222400);
-  host::Database{place.file("d")}.apply(host::adding({ongoingFast({1, 1}, start, 57600), "tea"}));
+  host::openDatabase(place.file("d")).apply(host::adding({ongoingFast({1, 1}, start, 57600), "tea"}));
   EXPECT_THAT(said("undo"), HasSubstr("Gone again: 0000  since"));
   EXPECT_TRUE(history().fasts.empty());
 }

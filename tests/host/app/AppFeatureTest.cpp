@@ -7,6 +7,7 @@
 #include "host/app/Settings.h"
 #include "host/app/Stamps.h"
 #include "host/database/DatabaseHistory.h"
+#include "host/disk/DatabaseFile.h"
 #include "mivo/statistics/AddWeightForm.h"
 #include "tests/statistics/StatisticsWorld.h"
 #include "tests/support/TemporaryFolder.h"
@@ -36,7 +37,7 @@ class AppFeatureTest : public tests::StatisticsTest {
 
   /// Another program adds a fast.
   void keep(const FastRecord& record) {
-    Database{file}.apply(adding(record));
+    openDatabase(file).apply(adding(record));
     send(Action::reload{});
   }
 
@@ -47,12 +48,12 @@ class AppFeatureTest : public tests::StatisticsTest {
     } while (world.tasks->count() > 0);
   }
 
-  std::vector<FastRecord> onDisk() const { return Database{file}.history().fasts; }
+  std::vector<FastRecord> onDisk() const { return openDatabase(file).history().fasts; }
   const AppFeature::State& state() const { return app.state(); }
 
   tests::TemporaryFolder folder;
   std::filesystem::path file = folder.path / "mivo.sqlite";
-  std::shared_ptr<const DatabaseHistory> history = std::make_shared<DatabaseHistory>(Database{file});
+  std::shared_ptr<const DatabaseHistory> history = std::make_shared<DatabaseHistory>(openDatabase(file));
   std::vector<std::optional<int>> weekdays;  // that weeks were to begin on
   std::vector<ReminderSettings> reminded;
   std::optional<std::string> reminderFault;
@@ -146,7 +147,7 @@ TEST_F(AppFeatureTest, savesAWeightAndTellsItsCard) {
   send(Action::statistics{Sent::addWeightLogAction{AddWeightLogFeature::Action::didTapSave{}}});
   EXPECT_EQ(state().statistics.addWeightLogState.savingState, AddWeightLogFeature::SavingState::saved);
   ASSERT_THAT(*state().weights, SizeIs(1));
-  EXPECT_EQ(Database{file}.history().weights, state().weights->elements());
+  EXPECT_EQ(openDatabase(file).history().weights, state().weights->elements());
   EXPECT_EQ(*state().statistics.stats.currentWeightInKg, 72.4);
 
   send(Action::didDeleteWeight{(*state().weights)[0].id});
@@ -163,10 +164,10 @@ TEST_F(AppFeatureTest, offersToTakeASavedWeightBackAndWritesItOnce) {
   send(save);
   EXPECT_EQ(*state().failure, "This weight is saved already.");
   EXPECT_EQ(state().statistics.addWeightLogState.savingState, AddWeightLogFeature::SavingState::saved);
-  EXPECT_THAT(Database{file}.history().weights, SizeIs(1));
+  EXPECT_THAT(openDatabase(file).history().weights, SizeIs(1));
   send(Action::didDismissMessages{});
   send(Action::didTapMessage{});
-  EXPECT_THAT(Database{file}.history().weights, IsEmpty());
+  EXPECT_THAT(openDatabase(file).history().weights, IsEmpty());
   EXPECT_THAT(*state().weights, IsEmpty());
 }
 
@@ -192,13 +193,13 @@ class WeightEdits : public AppFeatureTest {
   using Entry = AddWeightLogFeature::Action;
 
   WeightEdits() {
-    for (const auto& sample : {kept, other}) Database{file}.apply(adding(sample));
+    for (const auto& sample : {kept, other}) openDatabase(file).apply(adding(sample));
     send(Action::reload{});
     send(Action::didTapEditWeight{kept.id});
   }
 
   void enter(Entry action) { send(Action::editedWeight{PresentationAction<Entry>::presented{std::move(action)}}); }
-  std::vector<BodyWeightSample> weightsOnDisk() const { return Database{file}.history().weights; }
+  std::vector<BodyWeightSample> weightsOnDisk() const { return openDatabase(file).history().weights; }
 
   BodyWeightSample kept{{7, 1}, at(-3) + Duration{30}, 72.43}, other{{7, 2}, at(-2), 90};
 };
@@ -239,7 +240,7 @@ TEST_F(WeightEdits, sayInTheirSheetWhyNothingWasSaved) {
   enter(Entry::didTapSave{});
   EXPECT_EQ(problem(), "Type up to 700 kg or 1543 lb, such as 81.4.");
   enter(Entry::didChangeText{"72"});
-  Database{file}.apply(removing(kept));  // by another program
+  openDatabase(file).apply(removing(kept));  // by another program
   enter(Entry::didTapSave{});
   EXPECT_EQ(problem(), "Nothing was saved: the record was changed by another program. Look at it and try again.");
   send(Action::reload{});
@@ -287,7 +288,7 @@ TEST_F(AppFeatureTest, saysInTheDraftWhyItWasNotSaved) {
   keep(fast(1, -40, -24));
   send(Action::didTapEditFast{{7, 1}});
   send(Action::didChangeDraftEnd{at(-25)});
-  Database{file}.apply(removing(fast(1, -40, -24)));  // by another program
+  openDatabase(file).apply(removing(fast(1, -40, -24)));  // by another program
   send(Action::didTapSaveDraft{});
   EXPECT_EQ((*state().draft)->failure,
             "Nothing was saved: the record was changed by another program. Look at it and try again.");
@@ -312,7 +313,7 @@ TEST_F(AppFeatureTest, writesAWeightOnceHoweverOftenSaveIsTapped) {
   settle();
   EXPECT_EQ(state().statistics.addWeightLogState.savingState, AddWeightLogFeature::SavingState::saved);
   EXPECT_THAT(*state().weights, SizeIs(2));
-  EXPECT_EQ(Database{file}.history().weights, state().weights->elements());
+  EXPECT_EQ(openDatabase(file).history().weights, state().weights->elements());
 }
 
 struct RefusedRow {
@@ -362,7 +363,7 @@ TEST_F(AppFeatureTest, keepsTheOfferWhereUndoingFails) {
   keep(fast(1, -40, -24));
   send(Action::didDeleteFast{{7, 1}});
   const auto offer = *state().undo;
-  Database{file}.apply(adding(fast(1, -30, -20)));  // another program took the id
+  openDatabase(file).apply(adding(fast(1, -30, -20)));  // another program took the id
   send(Action::didTapMessage{});
   EXPECT_EQ(*state().failure,
             "Nothing was saved: the record was changed by another program. Look at it and try again.");
@@ -371,7 +372,7 @@ TEST_F(AppFeatureTest, keepsTheOfferWhereUndoingFails) {
   EXPECT_THAT(*state().failure, IsEmpty());
   EXPECT_EQ(*state().undo, offer);
 
-  Database{file}.apply(removing(fast(1, -30, -20)));
+  openDatabase(file).apply(removing(fast(1, -30, -20)));
   send(Action::didTapMessage{});
   EXPECT_THAT(onDisk(), ElementsAre(fast(1, -40, -24)));
   EXPECT_EQ(*state().undo, std::nullopt);
@@ -387,7 +388,7 @@ TEST_F(AppFeatureTest, keepsWhatIsSaidWhileAChangeIsWritten) {
 }
 
 TEST_F(AppFeatureTest, changesNothingWhereWritingFails) {
-  Database{file}.apply(adding({mivo::ongoingFast({7, 9}, at(-3), 57600), ""}));  // by another program
+  openDatabase(file).apply(adding({mivo::ongoingFast({7, 9}, at(-3), 57600), ""}));  // by another program
   const AppFeature::State before = state();
   send(Action::didTapStart{at(-2), 57600});
   EXPECT_EQ(*state().failure, "A fast is running already.");
@@ -401,7 +402,7 @@ TEST_F(AppFeatureTest, readsWhatAnotherProgramWrote) {
   const auto version = history->version();
   HistoryChange change;
   change.addedFasts = {fast(9, -20, -4)};
-  Database{file}.apply(change);
+  openDatabase(file).apply(change);
   EXPECT_NE(history->version(), version);
   send(Action::reload{});
   EXPECT_THAT(*state().fasts, ElementsAre(fast(9, -20, -4)));
@@ -551,7 +552,7 @@ TEST_F(AppFeatureTest, readsTheHistoryAnewOnlyWhereAnotherProgramChangedIt) {
   send(Action::didTapStart{at(-3), 57600});
   app.send(Action::lookForChanges{});
   EXPECT_EQ(world.tasks->count(), 0U) << "its own changes it knows";
-  Database{file}.apply(adding(fast(1, -40, -24)));
+  openDatabase(file).apply(adding(fast(1, -40, -24)));
   app.send(Action::lookForChanges{});
   EXPECT_EQ(world.tasks->count(), 1U);
   app.send(Action::lookForChanges{});

@@ -10,6 +10,9 @@
 #include "adapters/system/LocalUUIDGenerator.h"
 #include "adapters/zoneinfo/LoadTimeZone.h"
 #include "host/database/DatabaseHistory.h"
+#include "host/disk/BackupFolder.h"
+#include "host/disk/DatabaseFile.h"
+#include "host/files/FilesOnDisk.h"
 #include "host/pages/BackupsPage.h"
 #include "host/pages/ExportSheet.h"
 #include "host/pages/HealthSheet.h"
@@ -60,29 +63,29 @@ class DataSteps : public tests::StatisticsTest {
   ImportSheet sheet() const { return composeImportSheet(state(), pages.at(world.clock->now())); }
   BackupsPage backupsPage() const { return composeBackupsPage(state().backups, pages.at(world.clock->now())); }
   Message message() const { return composeMessage(state(), pages.texts, pages.numbers); }
-  History onDisk() const { return Database{file}.history(); }
+  History onDisk() const { return openDatabase(file).history(); }
   const AppFeature::State& state() const { return app.state(); }
 
   tests::TemporaryFolder folder;
   std::filesystem::path file = folder.path / "mivo" / "mivo.sqlite";
-  std::shared_ptr<const DatabaseHistory> history = std::make_shared<DatabaseHistory>(Database{file});
-  std::shared_ptr<const DataFiles> data = std::make_shared<DataFiles>(
-      DataFiles::Place{.database = file,
-                       .zone = [] { return adapters::loadTimeZone("UTC").value(); },
-                       .settings = [] { return std::vector<Setting>{{"weightUnit", std::string{"kg"}}}; },
-                       .ids = std::make_shared<adapters::LocalUUIDGenerator>(),
-                       .words =
-                           [] {
-                             return std::make_shared<const TypedDateWords>(
-                                 typedDateWords(adapters::dateWords(adapters::UserLocale::parse("en-GB").value())));
-                           },
-                       .defaults = world.dependencies.userDefaults,
-                       .print =
-                           [this](const std::filesystem::path& to, TimeRange range, PrintedWeights weights) {
-                             if (to == "full.pdf") throw std::runtime_error{"full.pdf: the disk is full"};
-                             printed.push_back(to.string() + " " + std::string{rawValue(range)} +
-                                               (weights == PrintedWeights::shown ? " with weights" : ""));
-                           }});
+  std::shared_ptr<const DatabaseHistory> history = std::make_shared<DatabaseHistory>(openDatabase(file));
+  std::shared_ptr<const DataFiles> data = std::make_shared<FilesOnDisk>(
+      FilesOnDisk::Place{.database = file,
+                         .zone = [] { return adapters::loadTimeZone("UTC").value(); },
+                         .settings = [] { return std::vector<Setting>{{"weightUnit", std::string{"kg"}}}; },
+                         .ids = std::make_shared<adapters::LocalUUIDGenerator>(),
+                         .words =
+                             [] {
+                               return std::make_shared<const TypedDateWords>(
+                                   typedDateWords(adapters::dateWords(adapters::UserLocale::parse("en-GB").value())));
+                             },
+                         .defaults = world.dependencies.userDefaults,
+                         .print =
+                             [this](const std::filesystem::path& to, TimeRange range, PrintedWeights weights) {
+                               if (to == "full.pdf") throw std::runtime_error{"full.pdf: the disk is full"};
+                               printed.push_back(to.string() + " " + std::string{rawValue(range)} +
+                                                 (weights == PrintedWeights::shown ? " with weights" : ""));
+                             }});
   mutable std::vector<std::string> printed;
   tests::Pages pages;
   std::shared_ptr<const LinkedHealthClient> linked = [this] {
@@ -278,7 +281,7 @@ TEST_F(DataSteps, writeWhatIsStillNewWhereAnotherProgramWasQuicker) {
   const std::string path = made("a.csv", twoFasts);
   choose({path});
   const auto quicker = data->plan({}, data->read({path}, {}, [](double) {}, {}).value());
-  Database{file}.apply(quicker.change);
+  openDatabase(file).apply(quicker.change);
   sendImport(Import::didTapImport{});
   EXPECT_THAT(onDisk().fasts, SizeIs(2));
   EXPECT_EQ(message().text, "All of it is there already.");
@@ -479,7 +482,7 @@ class BackupSteps : public DataSteps {
     send(Action::didOpen{Screen::backups});
   }
   void add(std::uint64_t id) const {
-    Database{file}.apply(
+    openDatabase(file).apply(
         adding(BodyWeightSample{{1, id}, world.clock->now() - Duration{3600.0 * static_cast<double>(id)}, 80}));
   }
   std::vector<std::string> rows() const {
@@ -496,7 +499,7 @@ TEST_F(BackupSteps, areMadeAtOnceAndListed) {
   EXPECT_EQ(message().text, "The backup is made.");
   sendBackups(Backups::didTapBackUp{});
   EXPECT_EQ(message().text, "Nothing has changed since the newest backup.");
-  std::ofstream{data->backupPlace().folder().path() / "mivo-2026-06-01T030000Z.json"} << "{";
+  std::ofstream{data->backupPlace().folder() / "mivo-2026-06-01T030000Z.json"} << "{";
   send(Action::didOpen{Screen::statistics});
   send(Action::didOpen{Screen::settings});
   EXPECT_THAT(rows(), ElementsAre("Today, 12:00, 0 fasts, 2 weights", "06-01 03:00")) << "of a new one only the date";

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "host/database/Database.h"
+#include "host/disk/DatabaseFile.h"
 
 #include <SQLiteCpp/Database.h>
 #include <gmock/gmock.h>
@@ -37,7 +37,7 @@ HistoryChange adding(std::vector<FastRecord> fasts) {
 
 class DatabaseTest : public testing::Test {
  protected:
-  Database open() const { return Database{file}; }
+  Database open() const { return openDatabase(file); }
 
   DatabaseError failure(Database& database, const HistoryChange& change) const {
     try {
@@ -170,7 +170,7 @@ TEST_F(DatabaseTest, bringsAnOlderFileUpToDateWhereItMayWrite) {
   std::filesystem::create_directories(file.parent_path());
   SQLite::Database{file.string(), SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE}.exec(firstLayout);
   const FastRecord kept = fast(1, 0, 16, "tea");
-  EXPECT_THAT((Database{file, Database::Access::readOnly}.history().fasts), ElementsAre(kept));
+  EXPECT_THAT((openDatabase(file, Database::Access::readOnly).history().fasts), ElementsAre(kept));
   EXPECT_TRUE(open().undo().isEmpty());
   EXPECT_THAT(open().history().fasts, ElementsAre(kept));
   open().apply(adding({fast(2, 20, 30)}));
@@ -236,7 +236,7 @@ TEST_F(DatabaseTest, isItsOwnersAlone) {
     EXPECT_EQ(permissions(part), owners) << part;
     fs::permissions(file.string() + part, fs::perms::group_read | fs::perms::others_read, fs::perm_options::add);
   }
-  Database{file, Database::Access::readOnly}.history();
+  openDatabase(file, Database::Access::readOnly).history();
   EXPECT_NE(permissions(""), owners) << "changed by a reader";
   open();
   for (const char* part : {"", "-wal", "-shm"}) EXPECT_EQ(permissions(part), owners) << part;
@@ -280,10 +280,10 @@ TEST_F(DatabaseTest, leavesALaterVersionsFileAlone) {
 
 // Read as it was left, whether or not its last changes still stand in the log beside it.
 TEST_F(DatabaseTest, canBeReadWhereItMayNotBeWritten) {
-  auto writer = std::make_unique<Database>(file);
+  auto writer = std::make_unique<Database>(openDatabase(file));
   writer->apply(adding({fast(1, 0, 16)}));
   for (const char* name : {"with a log", "alone"}) {
-    Database reader{file, Database::Access::readOnly};
+    Database reader = openDatabase(file, Database::Access::readOnly);
     EXPECT_THAT(reader.history().fasts, ElementsAre(fast(1, 0, 16))) << name;
     EXPECT_EQ(failure(reader, adding({fast(2, 20, 30)})).kind, Kind::readOnly) << name;
     writer.reset();

@@ -7,7 +7,7 @@
 
 #include <set>
 
-#include "host/database/Database.h"
+#include "host/disk/DatabaseFile.h"
 #include "tests/support/TemporaryFolder.h"
 
 namespace mivo::host {
@@ -22,7 +22,7 @@ HistoryChange adding(std::uint64_t id, std::string note = "") {
 
 // Adds fasts until it is killed, and confirms each one as the app would: after the call has returned.
 [[noreturn]] void recordForever(const std::filesystem::path& file, std::uint64_t id, int confirmations) {
-  Database database{file};
+  Database database = openDatabase(file);
   for (;; ++id) {
     database.apply(adding(id));
     if (::write(confirmations, &id, sizeof id) != sizeof id) ::_exit(1);
@@ -49,7 +49,7 @@ TEST(KilledWriter, losesNothingThatWasConfirmed) {
     ::close(ends[0]);
   }
   ASSERT_GE(confirmed.size(), 40u);
-  for (const auto& record : Database{file}.history().fasts) confirmed.erase(record.fast.id.low);
+  for (const auto& record : openDatabase(file).history().fasts) confirmed.erase(record.fast.id.low);
   EXPECT_TRUE(confirmed.empty()) << confirmed.size() << " lost";
 }
 
@@ -57,11 +57,11 @@ TEST(KilledWriter, losesNothingThatWasConfirmed) {
 TEST(FullDisk, isSaidAndLosesNothing) {
   tests::TemporaryFolder folder;
   const auto file = folder.path / "mivo.sqlite";
-  Database{file}.apply(adding(1));
+  openDatabase(file).apply(adding(1));
   const pid_t writer = ::fork();
   if (writer == 0) {
     ::signal(SIGXFSZ, SIG_IGN);
-    Database database{file};
+    Database database = openDatabase(file);
     const rlimit limit{64 * 1024, 64 * 1024};
     ::setrlimit(RLIMIT_FSIZE, &limit);
     try {
@@ -75,7 +75,7 @@ TEST(FullDisk, isSaidAndLosesNothing) {
   ::waitpid(writer, &status, 0);
   ASSERT_TRUE(WIFEXITED(status));
   EXPECT_EQ(WEXITSTATUS(status), 42);
-  const auto fasts = Database{file}.history().fasts;
+  const auto fasts = openDatabase(file).history().fasts;
   ASSERT_EQ(fasts.size(), 1u);
   EXPECT_EQ(fasts[0].fast.id, (UUID{1, 1}));
 }

@@ -8,7 +8,7 @@
 #include <iterator>
 #include <ostream>
 
-#include "host/database/Database.h"
+#include "host/disk/DatabaseFile.h"
 #include "tests/support/TemporaryFolder.h"
 
 namespace mivo::host {
@@ -35,7 +35,7 @@ struct Reading {
 Reading readingAfter(const char* statements) {
   const tests::TemporaryFolder folder;
   const std::string path = folder.file("d");
-  Database{path}.apply(records);
+  openDatabase(path).apply(records);
   {
     SQLite::Database database{path, SQLite::OPEN_READWRITE};
     database.exec(statements);
@@ -105,7 +105,7 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST(DatabaseBytes, survivesWhatIsCutOrChanged) {
   const tests::TemporaryFolder folder;
-  Database{folder.file("d")}.apply(records);
+  openDatabase(folder.file("d")).apply(records);
   const std::string whole = contents(folder.file("d"));
   const auto read = [](std::string bytes) { return readDatabaseBytes(std::move(bytes), "d", [](const BadRecord&) {}); };
   for (std::size_t length = 16; length < whole.size(); length += 509) {

@@ -8,7 +8,7 @@
 #include <ostream>
 
 #include "adapters/zoneinfo/LoadTimeZone.h"
-#include "host/database/Database.h"
+#include "host/disk/DatabaseFile.h"
 #include "tests/support/FixedClients.h"
 #include "tests/support/TemporaryFolder.h"
 
@@ -103,13 +103,13 @@ TEST_F(ReadFiles, refusesArchivesThatAreCutOrLocked) {
 }
 
 TEST_F(ReadFiles, refusesADatabaseWhoseLatestChangesLieBesideIt) {
-  const Database open{folder.file("d")};
+  const Database open = openDatabase(folder.file("d"));
   EXPECT_EQ(read({"d"}), "d: expected a database that no program has open; its latest changes are in d-wal");
 }
 
 TEST_F(ReadFiles, readsADatabaseThatIsClosed) {
   {
-    const Database begun{folder.file("d")};
+    const Database begun = openDatabase(folder.file("d"));
   }
   EXPECT_EQ(read({"d"}), "d: 0 fasts, 0 weights, 0 refused; ");
 }

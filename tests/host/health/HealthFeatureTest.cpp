@@ -15,6 +15,8 @@
 #include "adapters/system/LocalUUIDGenerator.h"
 #include "adapters/zoneinfo/LoadTimeZone.h"
 #include "host/database/DatabaseHistory.h"
+#include "host/disk/DatabaseFile.h"
+#include "host/files/FilesOnDisk.h"
 #include "mivo/store/Store.h"
 #include "tests/support/FullDisk.h"
 #include "tests/support/Instants.h"
@@ -93,15 +95,15 @@ class Linked {
   tests::TestWorld world;
   DependencyScope scope = world.enter();
   fs::path database = folder.path / "mivo.sqlite";
-  std::shared_ptr<const DatabaseHistory> history = std::make_shared<DatabaseHistory>(Database{database});
+  std::shared_ptr<const DatabaseHistory> history = std::make_shared<DatabaseHistory>(openDatabase(database));
   std::shared_ptr<const LinkedHealthClient> client =
       std::make_shared<LinkedHealthClient>(world.dependencies.userDefaults);
   std::shared_ptr<const DataFiles> files =
-      std::make_shared<DataFiles>(DataFiles::Place{.database = database,
-                                                   .zone = [] { return adapters::loadTimeZone("UTC").value(); },
-                                                   .settings = [] { return std::vector<Setting>{}; },
-                                                   .ids = std::make_shared<adapters::LocalUUIDGenerator>(),
-                                                   .defaults = world.dependencies.userDefaults});
+      std::make_shared<FilesOnDisk>(FilesOnDisk::Place{.database = database,
+                                                       .zone = [] { return adapters::loadTimeZone("UTC").value(); },
+                                                       .settings = [] { return std::vector<Setting>{}; },
+                                                       .ids = std::make_shared<adapters::LocalUUIDGenerator>(),
+                                                       .defaults = world.dependencies.userDefaults});
   Store<HealthFeature> app{HealthFeature::State{}, HealthFeature{client, files, history, world.dependencies.texts},
                            world.queue, world.tasks};
 };
@@ -272,7 +274,7 @@ TEST(HealthFeature, leavesTheUsersLastStepToBeUndone) {
   Linked linked;
   linked.apply(adding(BodyWeightSample{{5, 5}, tests::utc("2026-03-01 05:00"), 82}));
   linked.link("export.xml");
-  Database{linked.database}.undo();
+  openDatabase(linked.database).undo();
   EXPECT_EQ(linked.weights(), "07:00 80, 08:00 81");
 }
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "host/backup/Restore.h"
+#include "host/disk/Restore.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -7,7 +7,7 @@
 #include <fstream>
 #include <system_error>
 
-#include "host/database/Database.h"
+#include "host/disk/DatabaseFile.h"
 #include "tests/support/TemporaryFolder.h"
 
 namespace mivo::host {
@@ -34,7 +34,7 @@ class RestoreTest : public testing::Test {
   }
 
   Restored restored() const { return restore(file, backup, folder, {}, noon); }
-  History history() const { return Database{file}.history(); }
+  History history() const { return openDatabase(file).history(); }
 
   tests::TemporaryFolder place;
   const std::filesystem::path file = place.path / "d";
@@ -43,8 +43,8 @@ class RestoreTest : public testing::Test {
 };
 
 TEST_F(RestoreTest, isExactSeenByOthersAndUndone) {
-  Database{file}.apply(adding(present));
-  Database open{file};  // as the app has it
+  openDatabase(file).apply(adding(present));
+  Database open = openDatabase(file);  // as the app has it
   const auto before = open.version();
   const Restored done = restored();
   EXPECT_TRUE(done.isChanged);
@@ -57,7 +57,7 @@ TEST_F(RestoreTest, isExactSeenByOthersAndUndone) {
 }
 
 TEST_F(RestoreTest, changesNothingWhereThePresentStateCannotBeKept) {
-  Database{file}.apply(adding(present));
+  openDatabase(file).apply(adding(present));
   std::ofstream{folder.path()} << "no folder";
   EXPECT_THROW(restored(), std::system_error);
   EXPECT_EQ(history(), present);
@@ -67,9 +67,9 @@ TEST_F(RestoreTest, changesNothingWhereThePresentStateCannotBeKept) {
 // that.
 TEST_F(RestoreTest, putsADamagedDatabaseAside) {
   const std::string damaged(5000, 'x');
-  Database{file}.apply(adding({{}, std::vector<BodyWeightSample>{{{4, 1}, noon, 80}}, {}}));
+  openDatabase(file).apply(adding({{}, std::vector<BodyWeightSample>{{{4, 1}, noon, 80}}, {}}));
   {
-    Database open{file};
+    Database open = openDatabase(file);
     present.fasts[1].note.assign(100'000, 'x');
     open.apply(adding(present));
     std::ofstream{file} << damaged;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "host/backup/BackupFolder.h"
+#include "host/disk/BackupFolder.h"
 
 #include <sys/stat.h>
 
@@ -14,8 +14,8 @@
 #include "adapters/system/LocalUUIDGenerator.h"
 #include "host/backup/BackupName.h"
 #include "host/backup/BackupRotation.h"
+#include "host/disk/TextFile.h"
 #include "host/history/Snapshot.h"
-#include "host/text/TextFile.h"
 
 namespace mivo::host {
 namespace {

@@ -2,24 +2,14 @@
 #pragma once
 
 #include <filesystem>
-#include <optional>
 #include <span>
 
-#include "host/backup/BackupFolder.h"
-#include "host/fasting/HistoryChange.h"
+#include "host/disk/BackupFolder.h"
 #include "host/history/History.h"
 #include "host/history/Setting.h"
 #include "mivo/model/Date.h"
 
 namespace mivo::host {
-
-/// What has become of the state before.
-struct Restored {
-  std::optional<KeptBackup> before = {};               ///< the backup that holds it; nothing where it had no records
-  std::optional<std::filesystem::path> setAside = {};  ///< where the database is kept that was damaged
-  HistoryChange change = {};                           ///< what was done; nothing of a database that was damaged
-  bool isChanged = true;                               ///< false where the database had these records already
-};
 
 /// Makes a database hold these records and no others. What it holds is backed up first, and the database is changed in
 /// place and in one transaction, so that programs that have it open see it, and the last change is this one, to be

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "host/text/TextFile.h"
+#include "host/disk/TextFile.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>

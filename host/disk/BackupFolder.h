@@ -8,26 +8,13 @@
 #include <utility>
 #include <vector>
 
+#include "host/backup/Backup.h"
 #include "host/history/History.h"
 #include "host/history/Setting.h"
 #include "host/text/BadRecord.h"
 #include "mivo/model/Date.h"
 
 namespace mivo::host {
-
-/// A backup, by its file; `date` is what the name says.
-struct Backup {
-  std::filesystem::path file;
-  Date date;
-  bool operator==(const Backup&) const = default;
-};
-
-/// The backup that holds a state of the history, and whether it was made for that.
-struct KeptBackup {
-  Backup backup;
-  bool isNew = false;
-  bool operator==(const KeptBackup&) const = default;
-};
 
 /// A folder of backups: snapshots that carry the settings too, which only their owner may read. Other files in it are
 /// left alone. It is made with the first backup.

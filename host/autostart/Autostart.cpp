@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "host/reminders/Autostart.h"
+#include "host/autostart/Autostart.h"
 
 #include <algorithm>
 #include <fstream>

@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "host/data/DailyBackup.h"
+#include "host/disk/DailyBackup.h"
 
 #include <exception>
 #include <system_error>
+#include <utility>
+
+#include "host/disk/BackupFolder.h"
 
 namespace mivo::host {
 
@@ -22,12 +25,12 @@ bool isMade(const BackupFolder& folder, const std::function<History()>& history,
 std::optional<BackupPlace> backUpWhereDue(BackupPlace place, const std::function<History()>& history,
                                           const std::function<std::vector<Setting>()>& settings, Date now) {
   if (!place.chosen.empty() && !place.fault) try {
-      isMade(place.folder(), history, settings, now);
+      isMade(BackupFolder{place.folder()}, history, settings, now);
       return std::nullopt;
     } catch (const std::system_error& error) {
       place.fault = error.code();
     }
-  const bool isMadeHere = isMade(place.folder(), history, settings, now);
+  const bool isMadeHere = isMade(BackupFolder{place.folder()}, history, settings, now);
   return isMadeHere && place.fault ? std::optional{std::move(place)} : std::nullopt;
 }
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "host/backup/DamagedText.h"
+#include "host/disk/DamagedText.h"
 
 namespace mivo::host {
 

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include "host/backup/BackupPlace.h"
+#include "host/disk/FindBackupPlace.h"
 
 #include <gtest/gtest.h>
 
 #include <fstream>
 
 #include "adapters/system/FileUserDefaults.h"
-#include "host/database/Database.h"
+#include "host/disk/DatabaseFile.h"
 #include "tests/support/FixedClients.h"
 #include "tests/support/OrdinaryUser.h"
 #include "tests/support/TemporaryFolder.h"
@@ -47,7 +47,7 @@ TEST_P(BackupPlaceOf, isTheChosenFolderOfTheOwnHistoryWhileItCanBeWritten) {
   const auto& [name, database, setting, folder, chosen, fault] = GetParam();
   const Machine machine;
   const BackupPlace place = backupPlace(machine.path(database), machine.path(setting));
-  EXPECT_EQ(place.folder().path(), machine.path(folder));
+  EXPECT_EQ(place.folder(), machine.path(folder));
   EXPECT_EQ(place.usual, machine.path(std::string{database} + ".backups"));
   EXPECT_EQ(place.chosen, machine.path(chosen));
   EXPECT_EQ(place.fault, fault == std::errc{} ? std::error_code{} : std::make_error_code(fault));
@@ -93,9 +93,9 @@ TEST(BackupPlace, goesBackToTheUsualFolderWhileTheChosenOneHoldsNone) {
   History history;
   history.weights = {{{1, 2}, dateSince1970(1772366400), 80}};
   BackupFolder{place.usual}.keep(history, {}, dateSince1970(1772366400));
-  EXPECT_EQ(place.folderToRestore().path(), place.usual);
-  place.folder().keep(history, {}, dateSince1970(0));
-  EXPECT_EQ(place.folderToRestore().path(), place.folder().path());
+  EXPECT_EQ(folderToRestore(place).path(), place.usual);
+  BackupFolder{place.folder()}.keep(history, {}, dateSince1970(0));
+  EXPECT_EQ(folderToRestore(place).path(), place.folder());
 }
 
 }  // namespace

@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: MIT
-#include "host/data/DailyBackup.h"
+#include "host/disk/DailyBackup.h"
 
 #include <gtest/gtest.h>
 
 #include <fstream>
 
 #include "host/database/DatabaseHistory.h"
+#include "host/disk/BackupFolder.h"
+#include "host/disk/DatabaseFile.h"
+#include "host/disk/FindBackupPlace.h"
 #include "tests/support/Instants.h"
 #include "tests/support/TemporaryFolder.h"
 
@@ -41,9 +44,9 @@ class DailyBackup : public testing::Test {
   std::string failure;
   std::vector<std::string> told;
   const BackedUpHistory history{
-      std::make_shared<DatabaseHistory>(Database{file}),
+      std::make_shared<DatabaseHistory>(openDatabase(file)),
       {.place = [this] { return backupPlace(file, setting); },
-       .history = [this] { return Database{file, Database::Access::readOnly}.history(); },
+       .history = [this] { return openDatabase(file, Database::Access::readOnly).history(); },
        .settings = [] { return std::vector<Setting>{}; },
        .now = [this] { return present; },
        .failed = [this](const std::exception& why) { failure = why.what(); },

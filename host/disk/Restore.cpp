@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "host/backup/Restore.h"
+#include "host/disk/Restore.h"
 
-#include "host/database/Database.h"
+#include "host/disk/DatabaseFile.h"
 
 namespace mivo::host {
 
@@ -10,7 +10,7 @@ Restored restore(const std::filesystem::path& database, const History& records, 
   Restored restored;
   try {
     const auto keep = [&](const History& present) { restored.before = folder.keep(present, settings, now); };
-    restored.change = Database{database}.replace(records, keep);
+    restored.change = openDatabase(database).replace(records, keep);
     restored.isChanged = !restored.change.isEmpty();
   } catch (const DatabaseError& error) {
     if (error.kind != DatabaseError::Kind::damaged) throw;

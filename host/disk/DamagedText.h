@@ -4,7 +4,7 @@
 #include <filesystem>
 #include <string>
 
-#include "host/backup/BackupFolder.h"
+#include "host/disk/BackupFolder.h"
 #include "mivo/platform/Formatters.h"
 #include "mivo/platform/TextLookup.h"
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "host/backup/BackupFolder.h"
+#include "host/disk/BackupFolder.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
