@@ -126,15 +126,16 @@ CurlURLSession::CurlURLSession(Options options) : pool{std::make_unique<Pool>()}
 
 CurlURLSession::~CurlURLSession() = default;
 
-std::string CurlURLSession::data(std::string_view url, std::stop_token stop) const {
-  return answerOf(url, stop, false);
+void CurlURLSession::data(std::string_view url, std::stop_token stop, Completion<std::string> completion) const {
+  completion(answerOf([&] { return body(url, stop, false); }));
 }
 
-std::string CurlURLSession::dataSentOnce(std::string_view url, std::stop_token stop) const {
-  return answerOf(url, stop, true);
+void CurlURLSession::dataSentOnce(std::string_view url, std::stop_token stop,
+                                  Completion<std::string> completion) const {
+  completion(answerOf([&] { return body(url, stop, true); }));
 }
 
-std::string CurlURLSession::answerOf(std::string_view url, const std::stop_token& stop, bool isSentOnce) const {
+std::string CurlURLSession::body(std::string_view url, const std::stop_token& stop, bool isSentOnce) const {
   const std::string address{url};
   if (stop.stop_requested()) throw URLError{address + ": the request was stopped"};
   std::array<char, CURL_ERROR_SIZE> details{};

@@ -23,8 +23,8 @@ using State = StatisticsFeature::State;
 using Action = StatisticsFeature::Action;
 
 struct NoHealth final : mivo::HealthKitClient {
-  bool shouldRequestAuthorization() const override { return false; }
-  void requestAuthorization() const override {}
+  void shouldRequestAuthorization(std::function<void(bool)> completion) const override { completion(false); }
+  void requestAuthorization(std::function<void()> completion) const override { completion(); }
 };
 
 struct NoTips final : mivo::TipCatalogue {

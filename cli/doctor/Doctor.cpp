@@ -9,6 +9,7 @@
 
 #include "adapters/icu/UserLocale.h"
 #include "adapters/json/NlohmannDecoder.h"
+#include "adapters/system/Awaited.h"
 #include "adapters/system/UserDirectories.h"
 #include "adapters/time/TimeZone.h"
 #include "adapters/zoneinfo/LoadTimeZone.h"
@@ -131,7 +132,9 @@ Finding voteServer(std::string address, const URLSession& network) {
   if (address.empty()) return {"vote server", "none named"};
   address.resize(address.find_last_not_of('/') + 1);
   try {
-    network.data(address + "/health", {});
+    adapters::awaited<Answer<std::string>>([&](auto completion) {
+      network.data(address + "/health", {}, completion);
+    }).value();
     return {"vote server", address + ": reachable"};
   } catch (const URLError& error) {
     return {"vote server", error.what(), true};

@@ -2,6 +2,7 @@
 #include "cli/roadmap/RoadmapCommands.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <exception>
 #include <functional>
 #include <iomanip>
@@ -15,6 +16,7 @@
 #include "adapters/icu/UserLocale.h"
 #include "adapters/json/NlohmannDecoder.h"
 #include "adapters/locale/MessageCatalogue.h"
+#include "adapters/system/Awaited.h"
 #include "adapters/system/FileUserDefaults.h"
 #include "adapters/system/ThreadPool.h"
 #include "adapters/system/UserDirectories.h"
@@ -57,8 +59,10 @@ void fetchCounts(std::vector<RoadmapRow>& rows, const FeatureVoter& voter) {
   for (RoadmapRow& asked : rows)
     threads.run([&, context = currentContext()] {
       const DependencyScope scope{context};
-      asked.count = voter.fetch(asked.feature, {});
-      remaining.count_down();
+      voter.fetch(asked.feature, {}, [&](std::int64_t count) {
+        asked.count = count;
+        remaining.count_down();
+      });
     });
   remaining.wait();
   sortByVotes(rows);
@@ -98,7 +102,9 @@ std::string asJson(const std::vector<RoadmapRow>& rows, bool hasVotes) {
 
 std::vector<RoadmapFeature> loadedFeatures() {
   const auto url = RoadmapFeedbackView::configuration().roadmapJSONURL;
-  return JSONDataFetcher::loadJSON<RoadmapFile>(url).features(currentDependencies().languageTag);
+  const auto file = adapters::awaited<Answer<RoadmapFile>>(
+      [&url](auto completion) { JSONDataFetcher::loadJSON<RoadmapFile>(url, {}, completion); });
+  return file.value().features(currentDependencies().languageTag);
 }
 
 std::string idsOf(const std::vector<RoadmapFeature>& features) {
@@ -129,7 +135,9 @@ Outcome send(bool isVote, const RoadmapFeature& feature, const std::string& name
     if (*refusal == VoteRefusal::closed) return {failed, "", std::move(sentence)};
     return {0, std::move(sentence) + '\n', std::nullopt};  // all is as it was wanted
   }
-  const auto count = own.send(isVote, feature, FeatureVoterTallyAPI{namespaceName});
+  const FeatureVoterTallyAPI voter{namespaceName};
+  const auto count = adapters::awaited<std::optional<std::int64_t>>(
+      [&](auto completion) { own.send(isVote, feature, voter, completion); });
   if (!count) return {failed, "", log.line().value_or("the tally service gave no count")};
   return {
       0,

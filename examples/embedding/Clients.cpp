@@ -47,8 +47,8 @@ struct BarLabels final : mivo::DateFormatter {
 };
 
 struct Health final : mivo::HealthKitClient {
-  bool shouldRequestAuthorization() const override { return true; }
-  void requestAuthorization() const override {}
+  void shouldRequestAuthorization(std::function<void(bool)> completion) const override { completion(true); }
+  void requestAuthorization(std::function<void()> completion) const override { completion(); }
 };
 
 struct Tips final : mivo::TipCatalogue {

@@ -56,21 +56,29 @@ DonationProducts decodedList(const JSONValue& list, std::string_view languageTag
 
 DonationList::DonationList(std::string from, Tools with) : source{std::move(from)}, tools{std::move(with)} {}
 
-DonationProducts DonationList::products(std::stop_token stop) const {
-  try {
-    const std::string json = text(std::move(stop));
-    return decodedAt(source, [&] { return decodedList(tools.decoder->decoded(json), tools.languageTag); });
-  } catch (const std::exception& error) {
-    throw std::runtime_error{
-        filledIn(tools.texts->text("The ways to donate could not be loaded ({1})."), {error.what()})};
-  }
+void DonationList::products(std::stop_token stop, Completion<DonationProducts> completion) const {
+  text(std::move(stop),
+       [from = source, with = tools, completion = std::move(completion)](const Answer<std::string>& json) {
+         completion(answerOf([&]() -> DonationProducts {
+           try {
+             const std::string& read = json.value();
+             return decodedAt(from, [&] { return decodedList(with.decoder->decoded(read), with.languageTag); });
+           } catch (const std::exception& error) {
+             throw std::runtime_error{
+                 filledIn(with.texts->text("The ways to donate could not be loaded ({1})."), {error.what()})};
+           }
+         }));
+       });
 }
 
-std::string DonationList::text(std::stop_token stop) const {
-  if (source.find("://") != std::string::npos) return tools.session->data(source, std::move(stop));
-  auto content = readTextFile(source, largestListInBytes);
-  if (!content) throw std::runtime_error{describe(content.error())};
-  return *std::move(content);
+void DonationList::text(std::stop_token stop, Completion<std::string> completion) const {
+  if (source.find("://") != std::string::npos)
+    return tools.session->data(source, std::move(stop), std::move(completion));
+  completion(answerOf([this] {
+    auto content = readTextFile(source, largestListInBytes);
+    if (!content) throw std::runtime_error{describe(content.error())};
+    return *std::move(content);
+  }));
 }
 
 }  // namespace mivo::host

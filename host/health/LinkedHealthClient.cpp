@@ -22,6 +22,8 @@ void LinkedHealthClient::unlink() const {
   defaults->setHealthKitSync(false);
 }
 
-bool LinkedHealthClient::shouldRequestAuthorization() const { return offered && file().empty(); }
+void LinkedHealthClient::shouldRequestAuthorization(std::function<void(bool)> completion) const {
+  completion(offered && file().empty());
+}
 
 }  // namespace mivo::host

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -26,9 +27,9 @@ class LinkedHealthClient final : public HealthKitClient {
   void link(const std::string& path) const;
   void unlink() const;
 
-  bool shouldRequestAuthorization() const override;
+  void shouldRequestAuthorization(std::function<void(bool)> completion) const override;
   /// The user allowed it by choosing the file, which was linked before: there is no further question.
-  void requestAuthorization() const override {}
+  void requestAuthorization(std::function<void()> completion) const override { completion(); }
 
  private:
   Client<UserDefaults> defaults;

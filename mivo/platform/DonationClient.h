@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "mivo/model/Record.h"
+#include "mivo/platform/Answer.h"
 
 namespace mivo {
 
@@ -36,12 +37,13 @@ void fields(Record& record, Visit&& visit) {
   visit("recurring", recurring);
 }
 
-/// Where the ways to give are listed. Thread: any; blocks, so it is called from tasks only.
+/// Where the ways to give are listed. Thread: any; it may take its time before it returns, so it is called from tasks
+/// only.
 class DonationClient {
  public:
   virtual ~DonationClient() = default;
-  /// Throws a std::exception whose `what()` is one sentence for the user, also once `stop` is requested.
-  virtual DonationProducts products(std::stop_token stop) const = 0;
+  /// The error is a std::exception whose `what()` is one sentence for the user, also once `stop` is requested.
+  virtual void products(std::stop_token stop, Completion<DonationProducts> completion) const = 0;
 };
 
 }  // namespace mivo

@@ -7,6 +7,8 @@
 #include <string_view>
 #include <utility>
 
+#include "mivo/platform/Answer.h"
+
 namespace mivo {
 
 /// A request that got no answer; `what()` is a sentence for the user's log.
@@ -15,17 +17,17 @@ class URLError : public std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
-/// Plain GET requests. Thread: any; blocks until the answer is there, so it is called from tasks only.
+/// Plain GET requests. Thread: any; it may take its time before it returns, so it is called from tasks only.
 class URLSession {
  public:
   virtual ~URLSession() = default;
-  /// The body of the answer. Throws URLError for a dead network, a refused certificate, a time-out, a status that is
-  /// not a success, or once `stop` is requested.
-  virtual std::string data(std::string_view url, std::stop_token stop) const = 0;
+  /// Asks for the body of an answer. The error is a URLError: for a dead network, a refused certificate, a time-out, a
+  /// status that is not a success, or once `stop` is requested.
+  virtual void data(std::string_view url, std::stop_token stop, Completion<std::string> completion) const = 0;
   /// The same for a request that changes something: it leaves this machine once, or not at all. A session that may
   /// repeat a request on its own (when a kept connection breaks before the answer, say) must override this.
-  virtual std::string dataSentOnce(std::string_view url, std::stop_token stop) const {
-    return data(url, std::move(stop));
+  virtual void dataSentOnce(std::string_view url, std::stop_token stop, Completion<std::string> completion) const {
+    data(url, std::move(stop), std::move(completion));
   }
 };
 

@@ -3,6 +3,7 @@
 
 #include <exception>
 #include <string_view>
+#include <utility>
 
 #include "mivo/platform/Dependencies.h"
 #include "mivo/platform/LogOutput.h"
@@ -46,12 +47,11 @@ std::string debugText(const std::optional<std::int64_t>& count) {
   return count ? "Optional(" + std::to_string(*count) + ")" : "nil";
 }
 
-}  // namespace
+using VotingCount = Answer<RoadmapFeatureVotingCount>;
 
-std::int64_t FeatureVoterTallyAPI::fetch(const RoadmapFeature& feature, std::stop_token stop) const {
+std::int64_t fetched(const VotingCount& answer) {
   try {
-    const auto url = address("/get/", feature);
-    return JSONDataFetcher::loadJSON<RoadmapFeatureVotingCount>(url, std::move(stop)).value.value_or(0);
+    return answer.value().value.value_or(0);
   } catch (const std::exception& error) {
     // In one piece, because several features are fetched beside each other.
     logLine(escaped(debugText(error) + "\nFetching voting count failed with error: " + error.what()));
@@ -59,22 +59,37 @@ std::int64_t FeatureVoterTallyAPI::fetch(const RoadmapFeature& feature, std::sto
   }
 }
 
-std::optional<std::int64_t> FeatureVoterTallyAPI::vote(const RoadmapFeature& feature) const { return add(1, feature); }
-
-std::optional<std::int64_t> FeatureVoterTallyAPI::unvote(const RoadmapFeature& feature) const {
-  return add(-1, feature);
-}
-
-std::optional<std::int64_t> FeatureVoterTallyAPI::add(int delta, const RoadmapFeature& feature) const {
+std::optional<std::int64_t> voted(const VotingCount& answer) {
   try {
-    const auto url = address("/add/", feature) + "?delta=" + std::to_string(delta);
-    const auto count = JSONDataFetcher::loadJSONOnce<RoadmapFeatureVotingCount>(url).value;
+    const auto count = answer.value().value;
     logLine("Successfully voted, count is now: " + debugText(count));
     return count;
   } catch (const std::exception& error) {
     logLine(escaped(std::string{"Voting failed: "} + error.what()));
     return std::nullopt;
   }
+}
+
+}  // namespace
+
+void FeatureVoterTallyAPI::fetch(const RoadmapFeature& feature, std::stop_token stop, Count completion) const {
+  JSONDataFetcher::loadJSON<RoadmapFeatureVotingCount>(
+      address("/get/", feature), std::move(stop),
+      [completion = std::move(completion)](const VotingCount& answer) { completion(fetched(answer)); });
+}
+
+void FeatureVoterTallyAPI::vote(const RoadmapFeature& feature, VoteCount completion) const {
+  add(1, feature, std::move(completion));
+}
+
+void FeatureVoterTallyAPI::unvote(const RoadmapFeature& feature, VoteCount completion) const {
+  add(-1, feature, std::move(completion));
+}
+
+void FeatureVoterTallyAPI::add(int delta, const RoadmapFeature& feature, VoteCount completion) const {
+  JSONDataFetcher::loadJSONOnce<RoadmapFeatureVotingCount>(
+      address("/add/", feature) + "?delta=" + std::to_string(delta),
+      [completion = std::move(completion)](const VotingCount& answer) { completion(voted(answer)); });
 }
 
 std::string FeatureVoterTallyAPI::address(const char* operation, const RoadmapFeature& feature) const {

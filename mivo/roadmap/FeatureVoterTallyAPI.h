@@ -21,12 +21,12 @@ struct FeatureVoterTallyAPI final : FeatureVoter {
 
   explicit FeatureVoterTallyAPI(std::string ownNamespace) : namespaceName{std::move(ownNamespace)} {}
 
-  std::int64_t fetch(const RoadmapFeature& feature, std::stop_token stop) const override;
-  std::optional<std::int64_t> vote(const RoadmapFeature& feature) const override;
-  std::optional<std::int64_t> unvote(const RoadmapFeature& feature) const override;
+  void fetch(const RoadmapFeature& feature, std::stop_token stop, Count completion) const override;
+  void vote(const RoadmapFeature& feature, VoteCount completion) const override;
+  void unvote(const RoadmapFeature& feature, VoteCount completion) const override;
 
  private:
-  std::optional<std::int64_t> add(int delta, const RoadmapFeature& feature) const;
+  void add(int delta, const RoadmapFeature& feature, VoteCount completion) const;
   std::string address(const char* operation, const RoadmapFeature& feature) const;
 };
 

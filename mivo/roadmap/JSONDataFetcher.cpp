@@ -2,6 +2,7 @@
 #include "mivo/roadmap/JSONDataFetcher.h"
 
 #include <algorithm>
+#include <exception>
 #include <utility>
 
 #include "mivo/platform/Dependencies.h"
@@ -51,10 +52,16 @@ bool isAbsoluteURL(std::string_view url) {
 JSONDataFetcher::Error::Error(Case error, std::string_view url)
     : std::runtime_error{"The address \"" + std::string{url} + "\" is not valid."}, errorCase{error} {}
 
-JSONValue JSONDataFetcher::load(std::string_view url, std::stop_token stop, Request request) {
-  if (!isAbsoluteURL(url)) throw Error{Error::invalidURL, url};
+void JSONDataFetcher::load(std::string_view url, std::stop_token stop, Request request,
+                           Completion<JSONValue> completion) {
+  if (!isAbsoluteURL(url)) return completion(std::make_exception_ptr(Error{Error::invalidURL, url}));
   const auto& session = dependency(&Dependencies::urlSession);
-  return dependency(&Dependencies::jsonDecoder)->decoded(((*session).*request)(url, std::move(stop)));
+  ((*session).*request)(url, std::move(stop),
+                        [context = currentContext(), decoder = dependency(&Dependencies::jsonDecoder),
+                         completion = std::move(completion)](const Answer<std::string>& answer) {
+                          const DependencyScope dependencies{context};
+                          completion(answerOf([&] { return decoder->decoded(answer.value()); }));
+                        });
 }
 
 }  // namespace mivo

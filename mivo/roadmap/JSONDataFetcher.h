@@ -6,7 +6,9 @@
 #include <stop_token>
 #include <string>
 #include <string_view>
+#include <utility>
 
+#include "mivo/platform/Answer.h"
 #include "mivo/platform/JSONValue.h"
 #include "mivo/platform/URLSession.h"
 
@@ -28,23 +30,30 @@ struct JSONDataFetcher {
     Case errorCase;
   };
 
-  /// With the URL session and the JSON decoder of the current dependencies. Throws Error for what is no absolute URL
-  /// (RFC 3986: a space or a letter outside ASCII makes it none), URLError where there is no answer, DecodingError
-  /// where the answer is not what was expected. Blocks.
+  /// With the URL session and the JSON decoder of the current dependencies, which are in force in `completion` too.
+  /// The error is Error for what is no absolute URL (RFC 3986: a space or a letter outside ASCII makes it none),
+  /// URLError where there is no answer, DecodingError where the answer is not what was expected.
   template <JSONDecodable Type>
-  static Type loadJSON(std::string_view url, std::stop_token stop = {}) {
-    return Type::decoded(load(url, std::move(stop), &URLSession::data));
+  static void loadJSON(std::string_view url, std::stop_token stop, Completion<Type> completion) {
+    load(url, std::move(stop), &URLSession::data, decoding(std::move(completion)));
   }
 
   /// The same for an address that changes something: the request goes out once at most.
   template <JSONDecodable Type>
-  static Type loadJSONOnce(std::string_view url) {
-    return Type::decoded(load(url, {}, &URLSession::dataSentOnce));
+  static void loadJSONOnce(std::string_view url, Completion<Type> completion) {
+    load(url, {}, &URLSession::dataSentOnce, decoding(std::move(completion)));
   }
 
  private:
-  using Request = std::string (URLSession::*)(std::string_view, std::stop_token) const;
-  static JSONValue load(std::string_view url, std::stop_token stop, Request request);
+  using Request = void (URLSession::*)(std::string_view, std::stop_token, Completion<std::string>) const;
+
+  template <JSONDecodable Type>
+  static Completion<JSONValue> decoding(Completion<Type> completion) {
+    return [completion = std::move(completion)](const Answer<JSONValue>& answer) {
+      completion(answerOf([&answer] { return Type::decoded(answer.value()); }));
+    };
+  }
+  static void load(std::string_view url, std::stop_token stop, Request request, Completion<JSONValue> completion);
 };
 
 }  // namespace mivo

@@ -27,11 +27,6 @@ std::vector<RoadmapFeature> inOrder(std::vector<RoadmapFeature> features, const 
   return features;
 }
 
-RoadmapFile loadedFile(const RoadmapConfiguration& configuration, std::stop_token stop) {
-  const std::string& url = configuration.request.value_or(configuration.roadmapJSONURL);
-  return JSONDataFetcher::loadJSON<RoadmapFile>(url, std::move(stop));
-}
-
 // One that cannot be read is none: what is said then is that the other could not be loaded.
 RoadmapFile shippedFile(const RoadmapConfiguration& configuration) {
   if (configuration.shippedRoadmap.empty()) return {};
@@ -95,14 +90,18 @@ Effect<Action> RoadmapListFeature::load(State& state) const {
   return Effect<Action>::run(
       [](const Send<Action>& send, std::stop_token stop, const RoadmapConfiguration& how, const RoadmapVotes& cast,
          const Client<RandomNumberGenerator>& generator, const std::string& language) {
-        const auto rows = [&](const RoadmapFile& file) {
-          return rowsOf(inOrder(file.features(language), how, *generator), cast);
-        };
-        try {
-          send(Action::didLoad{rows(loadedFile(how, std::move(stop)))});
-        } catch (const std::exception& error) {
-          send(Action::didFailToLoad{{error.what(), rows(shippedFile(how))}});
-        }
+        JSONDataFetcher::loadJSON<RoadmapFile>(
+            how.request.value_or(how.roadmapJSONURL), std::move(stop),
+            [send, how, cast, generator, language](const Answer<RoadmapFile>& answer) {
+              const auto rows = [&](const RoadmapFile& file) {
+                return rowsOf(inOrder(file.features(language), how, *generator), cast);
+              };
+              try {
+                send(Action::didLoad{rows(answer.value())});
+              } catch (const std::exception& error) {
+                send(Action::didFailToLoad{{error.what(), rows(shippedFile(how))}});
+              }
+            });
       },
       configuration, votes, random, languageTag);
 }
@@ -120,7 +119,8 @@ Effect<Action> RoadmapListFeature::fetchCount(const RoadmapFeature& feature) con
   return Effect<Action>::run(
       [](const Send<Action>& send, std::stop_token stop, const Client<FeatureVoter>& voter,
          const RoadmapFeature& asked) {
-        send(Action::didReceiveCount{{asked.id, voter->fetch(asked, std::move(stop))}});
+        voter->fetch(asked, std::move(stop),
+                     [send, id = asked.id](std::int64_t count) { send(Action::didReceiveCount{{id, count}}); });
       },
       configuration.voter, feature);
 }
@@ -140,7 +140,9 @@ Effect<Action> RoadmapListFeature::didTapVote(State& state, const std::string& i
   return Effect<Action>::run(
       [](const Send<Action>& send, std::stop_token, bool adds, const RoadmapFeature& voted, const RoadmapVotes& cast,
          const Client<FeatureVoter>& voter) {
-        send(Action::didReceiveVoteAnswer{{voted.id, cast.send(adds, voted, *voter)}});
+        cast.send(adds, voted, *voter, [send, id = voted.id](std::optional<std::int64_t> count) {
+          send(Action::didReceiveVoteAnswer{{id, count}});
+        });
       },
       isVote, feature, votes, configuration.voter);
 }

@@ -22,8 +22,9 @@ struct RoadmapVotes {
   bool hasVoted() const;
 
   /// Sends a vote, or takes it back, and remembers it: before it is sent, so that a program that ends in between cannot
-  /// vote twice, and no longer where it did not get through. Blocks.
-  std::optional<std::int64_t> send(bool isVote, const RoadmapFeature& feature, const FeatureVoter& voter) const;
+  /// vote twice, and no longer where it did not get through. `completion` gets what the voter says.
+  void send(bool isVote, const RoadmapFeature& feature, const FeatureVoter& voter,
+            FeatureVoter::VoteCount completion) const;
 
  private:
   std::string key(std::string_view featureID) const;

@@ -27,11 +27,13 @@ Effect<Action> load(const Feature& feature, State& state) {
   state.loadingState = Feature::LoadingState::loading;
   return Effect<Action>::run(
       [](const Send<Action>& send, std::stop_token stop, const Client<DonationClient>& donations) {
-        try {
-          send(Action::didLoad{donations->products(stop)});
-        } catch (const std::exception& error) {
-          send(Action::didFailToLoad{error.what()});
-        }
+        donations->products(std::move(stop), [send](const Answer<DonationProducts>& answer) {
+          try {
+            send(Action::didLoad{answer.value()});
+          } catch (const std::exception& error) {
+            send(Action::didFailToLoad{error.what()});
+          }
+        });
       },
       feature.donations);
 }

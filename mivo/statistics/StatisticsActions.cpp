@@ -24,7 +24,8 @@ void refreshStreaks(State& state, const StreakSettings& settings) {
 }
 
 constexpr auto askHealthKit = [](const Send<Action>& send, std::stop_token, const Client<HealthKitClient>& health) {
-  send(Action::shouldRequestHealthKitAuthorizationResponse{health->shouldRequestAuthorization()});
+  health->shouldRequestAuthorization(
+      [send](bool should) { send(Action::shouldRequestHealthKitAuthorizationResponse{should}); });
 };
 
 /// A tip that may still be shown stays; otherwise the most important one that may be takes its place.
@@ -60,7 +61,7 @@ auto StatisticsFeature::requestHealthKitAccess(State& state) const -> Effect<Act
       [](const Send<Action>&, std::stop_token, const Client<UserDefaults>& defaults,
          const Client<HealthKitClient>& health) {
         defaults->setHealthKitSync(true);
-        health->requestAuthorization();
+        health->requestAuthorization([] {});
       },
       userDefaults, healthKitClient);
 }

@@ -65,10 +65,11 @@ class Effect {
   /// A task and copies of what it needs, called as `task(send, stop, values...)` where the store's tasks run:
   ///
   ///     Effect<Action>::run([](Send<Action> send, std::stop_token, const Client<HealthKitClient>& health) {
-  ///       send(Action::didAnswer{health->shouldRequestAuthorization()});
+  ///       health->shouldRequestAuthorization([send](bool should) { send(Action::didAnswer{should}); });
   ///     }, healthKitClient);
   ///
-  /// It may block; it should return soon after `stop` was requested.
+  /// It may block, and should return soon after `stop` was requested; or leave `send` with whoever answers later, and
+  /// is under way for as long as a copy of it is left.
   template <class Task, class... Values>
   static Effect run(Task task, Values... values) {
     static_assert(std::is_empty_v<Task>, "a task captures nothing: pass what it needs by value");

@@ -21,10 +21,10 @@ using testing::ElementsAre;
 
 /// Answers every address with the same text.
 struct OneAnswer : URLSession {
-  std::string data(std::string_view url, std::stop_token) const override {
+  void data(std::string_view url, std::stop_token, Completion<std::string> completion) const override {
     asked.emplace_back(url);
-    if (isOffline) throw URLError{std::string{url} + ": no connection"};
-    return body;
+    if (isOffline) return completion(std::make_exception_ptr(URLError{std::string{url} + ": no connection"}));
+    completion(body);
   }
   std::string body;
   bool isOffline = false;
@@ -33,11 +33,11 @@ struct OneAnswer : URLSession {
 
 /// Counts in memory.
 struct MemoryVoter : FeatureVoter {
-  std::int64_t fetch(const RoadmapFeature& feature, std::stop_token) const override {
-    return isGone ? 0 : counts[feature.id];
+  void fetch(const RoadmapFeature& feature, std::stop_token, Count completion) const override {
+    completion(isGone ? 0 : counts[feature.id]);
   }
-  std::optional<std::int64_t> vote(const RoadmapFeature& feature) const override { return add(1, feature); }
-  std::optional<std::int64_t> unvote(const RoadmapFeature& feature) const override { return add(-1, feature); }
+  void vote(const RoadmapFeature& feature, VoteCount completion) const override { completion(add(1, feature)); }
+  void unvote(const RoadmapFeature& feature, VoteCount completion) const override { completion(add(-1, feature)); }
 
   std::optional<std::int64_t> add(int delta, const RoadmapFeature& feature) const {
     rememberedWhenAsked = defaults->boolean("roadmap.vote." + feature.id, false);
@@ -129,6 +129,46 @@ TEST_F(RoadmapList, loadsShufflesAndFetchesTheCounts) {
   store.receive(Action::didReceiveCount{{"2", 20}}, changeOf(2, [](RoadmapRow& row) { row.count = 20; }));
   EXPECT_THAT(session->asked, ElementsAre("https://mivo.example/data/roadmap-mivo.json"));
   store.send(Action::onAppear{});
+}
+
+/// Answers when the test says so, long after the task has ended that asked.
+struct LateAnswer : URLSession {
+  void data(std::string_view, std::stop_token asker, Completion<std::string> completion) const override {
+    stop = std::move(asker);
+    answer = std::move(completion);
+  }
+  mutable std::stop_token stop;
+  mutable Completion<std::string> answer;
+};
+
+TEST_F(RoadmapList, loadsWhatIsAnsweredOnceItsTaskHasEnded) {
+  const auto late = std::make_shared<const LateAnswer>();
+  world.dependencies.urlSession = late;
+  enter();
+  Store<RoadmapListFeature> store{State{}, feature(), world.queue, world.tasks};
+  store.send(Action::onAppear{});
+  world.tasks->runAll();
+  world.queue->runAll();
+  EXPECT_EQ(store.state().phase, RoadmapPhase::loading);
+  scope.reset();
+  std::exchange(late->answer, {})(std::string{threeFeatures});
+  world.queue->runAll();
+  EXPECT_EQ(store.state().phase, RoadmapPhase::loaded);
+  EXPECT_EQ(store.state().rows->size(), 3u);
+}
+
+TEST_F(RoadmapList, stopsWhatIsAskedForWhenItGoes) {
+  const auto late = std::make_shared<const LateAnswer>();
+  world.dependencies.urlSession = late;
+  enter();
+  auto store = std::make_unique<Store<RoadmapListFeature>>(State{}, feature(), world.queue, world.tasks);
+  store->send(Action::onAppear{});
+  world.tasks->runAll();
+  EXPECT_FALSE(late->stop.stop_requested());
+  store.reset();
+  EXPECT_TRUE(late->stop.stop_requested());
+  std::exchange(late->answer, {})(std::string{threeFeatures});
+  EXPECT_EQ(world.queue->count(), 0u) << "nobody is left to be told";
 }
 
 TEST_F(RoadmapList, titlesAreInTheUsersLanguage) {

@@ -12,6 +12,7 @@
 
 #include "adapters/curl/CurlURLSession.h"
 #include "adapters/json/NlohmannDecoder.h"
+#include "adapters/system/Awaited.h"
 #include "mivo/roadmap/FeatureVoterTallyAPI.h"
 #include "mivo/roadmap/JSONDataFetcher.h"
 #include "mivo/roadmap/RoadmapFeatureVotingCount.h"
@@ -41,6 +42,18 @@ struct RecordedLog : LogOutput {
   mutable std::string lines;
   mutable std::mutex mutex;
 };
+
+std::int64_t fetched(const FeatureVoter& voter, const RoadmapFeature& feature) {
+  return adapters::awaited<std::int64_t>([&](auto completion) { voter.fetch(feature, {}, completion); });
+}
+
+std::optional<std::int64_t> voted(const FeatureVoter& voter, const RoadmapFeature& feature) {
+  return adapters::awaited<std::optional<std::int64_t>>([&](auto completion) { voter.vote(feature, completion); });
+}
+
+std::optional<std::int64_t> unvoted(const FeatureVoter& voter, const RoadmapFeature& feature) {
+  return adapters::awaited<std::optional<std::int64_t>>([&](auto completion) { voter.unvote(feature, completion); });
+}
 
 class VoteClient : public testing::Test {
  protected:
@@ -73,9 +86,9 @@ class VoteClient : public testing::Test {
 
 TEST_F(VoteClient, composesAddressesByPlainConcatenation) {
   serve([](const std::string&) { return tests::ok(R"({"value": 7})"); });
-  EXPECT_EQ(voter.fetch(feature, {}), 7);
-  EXPECT_EQ(voter.vote(feature), 7);
-  EXPECT_EQ(voter.unvote(feature), 7);
+  EXPECT_EQ(fetched(voter, feature), 7);
+  EXPECT_EQ(voted(voter, feature), 7);
+  EXPECT_EQ(unvoted(voter, feature), 7);
   EXPECT_THAT(server->targets(), ElementsAre("/get/app.example/feature12", "/add/app.example/feature12?delta=1",
                                              "/add/app.example/feature12?delta=-1"));
   EXPECT_EQ(server->connectionCount(), 3) << "each vote on its own, where nothing is sent twice";
@@ -102,9 +115,9 @@ std::string replaced(std::string text, const std::string& address) {
 TEST_P(VoteAnswer, isACountOrItsNeutralResultAndALine) {
   const AnswerRow& row = GetParam();
   serve([&row](const std::string&) { return row.reply; });
-  EXPECT_EQ(voter.fetch(feature, {}), row.fetched);
+  EXPECT_EQ(fetched(voter, feature), row.fetched);
   EXPECT_EQ(log->taken(), replaced(row.fetchLog, server->address() + "/get/app.example/feature12"));
-  EXPECT_EQ(voter.vote(feature), row.voted);
+  EXPECT_EQ(voted(voter, feature), row.voted);
   EXPECT_EQ(log->taken(), replaced(row.voteLog, server->address() + "/add/app.example/feature12?delta=1"));
 }
 
@@ -154,9 +167,9 @@ class VoteFailure : public VoteClient, public testing::WithParamInterface<Failur
 TEST_P(VoteFailure, isSaidAndNeutral) {
   serve([](const std::string&) { return GetParam().reply; });
   useSession({.timeLimit = GetParam().reply.then == tests::HttpReply::Then::hangs ? Duration{50ms} : Duration{10s}});
-  EXPECT_EQ(voter.fetch(feature, {}), 0);
+  EXPECT_EQ(fetched(voter, feature), 0);
   EXPECT_THAT(log->taken(), HasSubstr("\nFetching voting count failed with error: "));
-  EXPECT_EQ(voter.unvote(feature), std::nullopt);
+  EXPECT_EQ(unvoted(voter, feature), std::nullopt);
   EXPECT_THAT(log->taken(), StartsWith("Voting failed: "));
 }
 
@@ -169,16 +182,42 @@ INSTANTIATE_TEST_SUITE_P(Rows, VoteFailure,
                          [](const auto& row) { return std::string{row.param.name}; });
 
 struct HostileAnswer final : URLSession {
-  std::string data(std::string_view, std::stop_token) const override {
-    throw URLError{"\x1B[2J\x7F\xC2\x80\xC2\x9F\xC2\xA0\xC3\x9F\nfound"};
+  void data(std::string_view, std::stop_token, Completion<std::string> completion) const override {
+    completion(std::make_exception_ptr(URLError{"\x1B[2J\x7F\xC2\x80\xC2\x9F\xC2\xA0\xC3\x9F\nfound"}));
   }
 };
 
 TEST_F(VoteClient, whatOthersSayDoesNotCommandTheTerminal) {
   dependencies->servers.tally = "https://tally.example";
   dependencies->urlSession = std::make_shared<HostileAnswer>();
-  EXPECT_EQ(voter.vote(feature), std::nullopt);
+  EXPECT_EQ(voted(voter, feature), std::nullopt);
   EXPECT_EQ(log->taken(), "Voting failed: \\x1b[2J\\x7f\\x80\\x9f\xC2\xA0\xC3\x9F\nfound\n");
+}
+
+/// Answers when the test says so.
+struct LateAnswer final : URLSession {
+  void data(std::string_view, std::stop_token, Completion<std::string> completion) const override {
+    asked.push_back(std::move(completion));
+  }
+  mutable std::vector<Completion<std::string>> asked;
+};
+
+TEST_F(VoteClient, isAnsweredLaterOnAThreadThatKnowsNoDependencies) {
+  const auto late = std::make_shared<const LateAnswer>();
+  dependencies->servers.tally = "https://tally.example";
+  dependencies->urlSession = late;
+  std::vector<std::optional<std::int64_t>> counts;
+  voter.vote(feature, [&counts](std::optional<std::int64_t> count) { counts.push_back(count); });
+  voter.fetch(feature, {}, [&counts](std::int64_t count) { counts.emplace_back(count); });
+  EXPECT_THAT(counts, IsEmpty());
+  std::jthread{[&late] {
+    late->asked[0](std::string{R"({"value": 7})"});
+    late->asked[1](std::make_exception_ptr(URLError{"no connection"}));
+  }}.join();
+  EXPECT_THAT(counts, ElementsAre(7, 0));
+  EXPECT_EQ(log->taken(),
+            "Successfully voted, count is now: Optional(7)\n"
+            "URLError(\"no connection\")\nFetching voting count failed with error: no connection\n");
 }
 
 TEST_F(VoteClient, anExpiredCertificateIsRefused) {
@@ -189,7 +228,7 @@ TEST_F(VoteClient, anExpiredCertificateIsRefused) {
   const tests::HttpServer expired{[](const std::string&) { return tests::ok(R"({"value": 7})"); }, identity};
   dependencies->servers.tally = expired.address();
   useSession({.timeLimit = 10s, .certificateAuthorities = authorities});
-  EXPECT_EQ(voter.vote(feature), std::nullopt);
+  EXPECT_EQ(voted(voter, feature), std::nullopt);
   EXPECT_THAT(log->taken(), AllOf(StartsWith("Voting failed: " + expired.address()), HasSubstr("expired")));
   EXPECT_THAT(expired.targets(), IsEmpty());
 }
@@ -197,8 +236,8 @@ TEST_F(VoteClient, anExpiredCertificateIsRefused) {
 TEST_F(VoteClient, nobodyListens) {
   serve([](const std::string&) { return tests::ok(""); });
   server.reset();
-  EXPECT_EQ(voter.fetch(feature, {}), 0);
-  EXPECT_EQ(voter.vote(feature), std::nullopt);
+  EXPECT_EQ(fetched(voter, feature), 0);
+  EXPECT_EQ(voted(voter, feature), std::nullopt);
   EXPECT_THAT(log->taken(), HasSubstr("Voting failed: " + dependencies->servers.tally + "/add/app.example/feature12"));
 }
 
@@ -214,10 +253,10 @@ TEST_P(InvalidAddress, asksNobody) {
   const FeatureVoterTallyAPI odd{row.namespaceName};
   const RoadmapFeature asked{row.id, "", "", ""};
   const std::string counter = std::string{row.namespaceName} + "/feature" + row.id;
-  EXPECT_EQ(odd.fetch(asked, {}), 0);
+  EXPECT_EQ(fetched(odd, asked), 0);
   EXPECT_EQ(log->taken(), "invalidURL\nFetching voting count failed with error: The address \"" +
                               std::string{row.tally} + "/get/" + counter + "\" is not valid.\n");
-  EXPECT_EQ(odd.vote(asked), std::nullopt);
+  EXPECT_EQ(voted(odd, asked), std::nullopt);
   EXPECT_EQ(log->taken(), "Voting failed: The address \"" + std::string{row.tally} + "/add/" + counter +
                               "?delta=1\" is not valid.\n");
 }
@@ -237,7 +276,7 @@ INSTANTIATE_TEST_SUITE_P(Rows, InvalidAddress,
 TEST_F(VoteClient, oddButValidNamesAreSentAsTheyAre) {
   serve([](const std::string&) { return tests::ok(R"({"value": 1})"); });
   for (const char* name : {"a.b-c_d~e", "%C3%A4pp", "%9fpp", "%FApp", "a/b", "a+b;c=d,e!f"})
-    FeatureVoterTallyAPI{name}.fetch(feature, {});
+    fetched(FeatureVoterTallyAPI{name}, feature);
   EXPECT_THAT(server->targets(),
               ElementsAre("/get/a.b-c_d~e/feature12", "/get/%C3%A4pp/feature12", "/get/%9fpp/feature12",
                           "/get/%FApp/feature12", "/get/a/b/feature12", "/get/a+b;c=d,e!f/feature12"));
@@ -252,7 +291,7 @@ TEST_F(VoteClient, featuresAreAskedBesideEachOther) {
     for (std::size_t number = 0; number < count; ++number)
       threads.emplace_back([&, number] {
         const DependencyScope own{dependencies};
-        counts[number] = voter.fetch({std::to_string(number), "", "", ""}, {});
+        counts[number] = fetched(voter, {std::to_string(number), "", "", ""});
       });
   }
   EXPECT_THAT(counts, ElementsAre(0, 1, 2, 3, 4, 5));

@@ -18,9 +18,10 @@
 namespace mivo::tests {
 
 struct HealthDouble : HealthKitClient {
-  bool shouldRequestAuthorization() const override { return shouldRequest; }
-  void requestAuthorization() const override {
+  void shouldRequestAuthorization(std::function<void(bool)> completion) const override { completion(shouldRequest); }
+  void requestAuthorization(std::function<void()> completion) const override {
     if (atRequest) atRequest();
+    completion();
   }
   bool shouldRequest = false;
   std::function<void()> atRequest;
@@ -35,9 +36,9 @@ struct TipsDouble : TipCatalogue {
 };
 
 struct DonationsDouble : DonationClient {
-  DonationProducts products(std::stop_token) const override {
-    if (!failure.empty()) throw URLError{failure};
-    return answer;
+  void products(std::stop_token, Completion<DonationProducts> completion) const override {
+    if (!failure.empty()) return completion(std::make_exception_ptr(URLError{failure}));
+    completion(answer);
   }
   DonationProducts answer{{{"coffee", "A coffee", "3 €", "https://example.org/coffee"}}, {}};
   std::string failure;

@@ -82,12 +82,12 @@ TEST_F(Workers, everyAnswerArrivesWhileScreensComeAndGo) {
 }
 
 struct SlowHealth final : HealthKitClient {
-  bool shouldRequestAuthorization() const override {
+  void shouldRequestAuthorization(std::function<void(bool)> completion) const override {
     begun.count_down();
     storeIsGone.wait();
-    return true;
+    completion(true);
   }
-  void requestAuthorization() const override {}
+  void requestAuthorization(std::function<void()> completion) const override { completion(); }
   mutable std::latch begun{1}, storeIsGone{1};
 };
 

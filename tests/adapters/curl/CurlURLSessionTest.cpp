@@ -11,6 +11,7 @@
 #include <thread>
 #include <vector>
 
+#include "adapters/system/Awaited.h"
 #include "tests/http/HttpServer.h"
 
 namespace mivo::adapters {
@@ -24,10 +25,15 @@ using testing::StartsWith;
 using tests::HttpReply;
 using tests::HttpServer;
 
+/// The body of the answer; throws its error.
+std::string dataOf(const URLSession& session, const std::string& url, const std::stop_token& stop = {}) {
+  return awaited<Answer<std::string>>([&](auto completion) { session.data(url, stop, completion); }).value();
+}
+
 /// The sentence of the error, or the answer where there was none.
 std::string failureOf(const URLSession& session, const std::string& url) {
   try {
-    return "no failure: " + session.data(url, {});
+    return "no failure: " + dataOf(session, url);
   } catch (const URLError& error) {
     return error.what();
   }
@@ -52,9 +58,8 @@ class CurlURLSessionTest : public testing::Test {
 };
 
 TEST_F(CurlURLSessionTest, returnsTheBodyAndKeepsTheConnection) {
-  EXPECT_EQ(session.data(server.address() + "/get/a/feature1?delta=-1", {}),
-            R"({"asked": "/get/a/feature1?delta=-1"})");
-  EXPECT_EQ(session.data(server.address() + "/fits", {}), std::string(1000, 'x'));
+  EXPECT_EQ(dataOf(session, server.address() + "/get/a/feature1?delta=-1"), R"({"asked": "/get/a/feature1?delta=-1"})");
+  EXPECT_EQ(dataOf(session, server.address() + "/fits"), std::string(1000, 'x'));
   EXPECT_THAT(server.targets(), ElementsAre("/get/a/feature1?delta=-1", "/fits"));
   EXPECT_EQ(server.connectionCount(), 1);
 }
@@ -65,8 +70,10 @@ TEST(CurlURLSession, sendsWhatCountsOnceWhereTheAnswerIsLost) {
     return target == "/get" ? tests::ok("7") : HttpReply{"", HttpReply::Then::closes};
   }};
   const CurlURLSession own{{.timeLimit = 10s}};
-  EXPECT_EQ(own.data(dying.address() + "/get", {}), "7");  // leaves a connection open
-  EXPECT_THROW(own.dataSentOnce(dying.address() + "/add?delta=1", {}), URLError);
+  EXPECT_EQ(dataOf(own, dying.address() + "/get"), "7");  // leaves a connection open
+  const auto answer = awaited<Answer<std::string>>(
+      [&](auto completion) { own.dataSentOnce(dying.address() + "/add?delta=1", {}, completion); });
+  EXPECT_THROW(answer.value(), URLError);
   EXPECT_THAT(dying.targets(), ElementsAre("/get", "/add?delta=1"));
 }
 
@@ -79,7 +86,7 @@ class CurlFailure : public CurlURLSessionTest, public testing::WithParamInterfac
 TEST_P(CurlFailure, isOneSentenceThatBeginsWithTheAddress) {
   const std::string url = server.address() + GetParam().path;
   EXPECT_THAT(failureOf(session, url), AllOf(StartsWith(url + ": "), HasSubstr(GetParam().reason)));
-  EXPECT_EQ(session.data(server.address() + "/fits", {}).size(), 1000u) << "the session goes on";
+  EXPECT_EQ(dataOf(session, server.address() + "/fits").size(), 1000u) << "the session goes on";
 }
 
 INSTANTIATE_TEST_SUITE_P(Rows, CurlFailure,
@@ -133,12 +140,12 @@ TEST_F(CurlURLSessionTest, stopsWhileItWaits) {
     stop.request_stop();
   }};
   try {
-    patient.data(hanging.address(), stop.get_token());
+    dataOf(patient, hanging.address(), stop.get_token());
     FAIL();
   } catch (const URLError& error) {
     EXPECT_EQ(error.what(), hanging.address() + ": the request was stopped");
   }
-  EXPECT_THROW(patient.data(server.address() + "/fits", stop.get_token()), URLError) << "stopped before it began";
+  EXPECT_THROW(dataOf(patient, server.address() + "/fits", stop.get_token()), URLError) << "stopped before it began";
 }
 
 TEST_F(CurlURLSessionTest, threadsAskBesideEachOther) {
@@ -154,7 +161,7 @@ TEST_F(CurlURLSessionTest, threadsAskBesideEachOther) {
     std::vector<std::jthread> threads;
     for (std::size_t thread = 0; thread < count; ++thread)
       threads.emplace_back(
-          [&, thread] { answers[thread] = patient.data(meeting.address() + "/" + std::to_string(thread), {}); });
+          [&, thread] { answers[thread] = dataOf(patient, meeting.address() + "/" + std::to_string(thread)); });
     threads.clear();
   }
   for (std::size_t thread = 0; thread < count; ++thread) EXPECT_EQ(answers[thread], "/" + std::to_string(thread));

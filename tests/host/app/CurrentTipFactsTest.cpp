@@ -12,9 +12,9 @@ namespace {
 class CurrentTipFacts : public tests::StatisticsTest {
  protected:
   struct Voter : FeatureVoter {
-    std::int64_t fetch(const RoadmapFeature&, std::stop_token) const override { return 0; }
-    std::optional<std::int64_t> vote(const RoadmapFeature&) const override { return count; }
-    std::optional<std::int64_t> unvote(const RoadmapFeature&) const override { return count; }
+    void fetch(const RoadmapFeature&, std::stop_token, Count completion) const override { completion(0); }
+    void vote(const RoadmapFeature&, VoteCount completion) const override { completion(count); }
+    void unvote(const RoadmapFeature&, VoteCount completion) const override { completion(count); }
     std::optional<std::int64_t> count;
   };
 
@@ -39,12 +39,12 @@ TEST_F(CurrentTipFacts, offerNoTipToVoteToWhoHasVoted) {
     shipped.setFacts(currentTipFacts(state, votes));
     return shipped.canDisplay("voteOnRoadmap");
   };
-  votes.send(true, feature, voter);
+  votes.send(true, feature, voter, [](std::optional<std::int64_t>) {});
   EXPECT_TRUE(isOffered()) << "the vote did not get through";
   voter.count = 1;
-  votes.send(true, feature, voter);
+  votes.send(true, feature, voter, [](std::optional<std::int64_t>) {});
   EXPECT_FALSE(isOffered());
-  votes.send(false, feature, voter);
+  votes.send(false, feature, voter, [](std::optional<std::int64_t>) {});
   EXPECT_FALSE(isOffered()) << "who took it back knows how";
 }
 

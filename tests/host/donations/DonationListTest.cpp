@@ -10,6 +10,7 @@
 #include <string>
 
 #include "adapters/json/NlohmannDecoder.h"
+#include "adapters/system/Awaited.h"
 #include "tests/support/FixedClients.h"
 
 namespace mivo::host {
@@ -21,13 +22,17 @@ using testing::IsEmpty;
 using testing::SizeIs;
 
 struct OneAnswer : URLSession {
-  std::string data(std::string_view url, std::stop_token) const override {
-    if (isAway) throw URLError{std::string{url} + ": no connection"};
-    return body;
+  void data(std::string_view url, std::stop_token, Completion<std::string> completion) const override {
+    if (isAway) return completion(std::make_exception_ptr(URLError{std::string{url} + ": no connection"}));
+    completion(body);
   }
   std::string body;
   bool isAway = false;
 };
+
+DonationProducts productsOf(const DonationList& list) {
+  return adapters::awaited<Answer<DonationProducts>>([&](auto completion) { list.products({}, completion); }).value();
+}
 
 class DonationListTest : public testing::Test {
  protected:
@@ -41,7 +46,7 @@ class DonationListTest : public testing::Test {
   std::string refusalOf(const char* json) const {
     session->body = json;
     try {
-      listFrom("https://mivo.example/d.json").products({});
+      productsOf(listFrom("https://mivo.example/d.json"));
       return "taken";
     } catch (const std::exception& error) {
       return error.what();
@@ -56,21 +61,21 @@ TEST_F(DonationListTest, readsBothKindsInTheUsersLanguage) {
                                    "url": "https://donate.example/once"}],
                       "recurring": [{"id": "monthly", "title": "Monthly", "price": {"en": "€2", "de": "2 €"},
                                      "url": "https://donate.example/monthly", "more": true}]})";
-  const DonationProducts products = listFrom("https://mivo.example/d.json").products({});
+  const DonationProducts products = productsOf(listFrom("https://mivo.example/d.json"));
   EXPECT_THAT(products.oneTime,
               ElementsAre(DonationProduct{"once", "Ein Kaffee", "3 €", "https://donate.example/once"}));
   EXPECT_THAT(products.recurring,
               ElementsAre(DonationProduct{"monthly", "Monthly", "2 €", "https://donate.example/monthly"}));
   session->body = "{}";
-  EXPECT_THAT(listFrom("https://mivo.example/d.json").products({}).oneTime, IsEmpty());
+  EXPECT_THAT(productsOf(listFrom("https://mivo.example/d.json")).oneTime, IsEmpty());
 }
 
 TEST_F(DonationListTest, readsFilesAndTheShippedOne) {
-  EXPECT_THAT(listFrom(MIVO_SHIPPED_DONATIONS, "fr").products({}).oneTime, SizeIs(3));
-  EXPECT_THAT(listFrom(MIVO_SHIPPED_DONATIONS, "fr").products({}).recurring, SizeIs(3));
+  EXPECT_THAT(productsOf(listFrom(MIVO_SHIPPED_DONATIONS, "fr")).oneTime, SizeIs(3));
+  EXPECT_THAT(productsOf(listFrom(MIVO_SHIPPED_DONATIONS, "fr")).recurring, SizeIs(3));
   const auto missing = std::filesystem::path{testing::TempDir()} / "no-such-donations.json";
   try {
-    listFrom(missing.string()).products({});
+    productsOf(listFrom(missing.string()));
     FAIL();
   } catch (const std::exception& error) {
     EXPECT_THAT(error.what(), HasSubstr("The ways to donate could not be loaded (" + missing.string() + ":"));
@@ -83,7 +88,7 @@ TEST_F(DonationListTest, canBeTriedAgain) {
   const DonationList list = listFrom("https://mivo.example/d.json");
   EXPECT_EQ(refusalOf("{}"), "The ways to donate could not be loaded (https://mivo.example/d.json: no connection).");
   session->isAway = false;
-  EXPECT_EQ(list.products({}), DonationProducts{});
+  EXPECT_EQ(productsOf(list), DonationProducts{});
 }
 
 struct RefusedRow {
