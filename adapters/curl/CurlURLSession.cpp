@@ -60,12 +60,12 @@ std::string reasonOf(CURLcode result, const char* details) {
 }
 
 /// Runs a prepared transfer to its end.
-CURLcode perform(const Connection& connection, const std::stop_token& stop) {
+CURLcode perform(const Connection& connection, const StopToken& stop) {
   CURLM* const driver = connection.driver.get();
-  const std::stop_callback wake{stop, [driver] { curl_multi_wakeup(driver); }};
+  const StopCallback wake{stop, [driver] { curl_multi_wakeup(driver); }};
   curl_multi_add_handle(driver, connection.transfer.get());
   CURLcode result = CURLE_ABORTED_BY_CALLBACK;
-  for (int running = 1; running && !stop.stop_requested();) {
+  for (int running = 1; running && !stop.stopRequested();) {
     if (curl_multi_perform(driver, &running) != CURLM_OK) break;
     if (running) curl_multi_poll(driver, nullptr, 0, longestWaitInMilliseconds, nullptr);
   }
@@ -126,18 +126,17 @@ CurlURLSession::CurlURLSession(Options options) : pool{std::make_unique<Pool>()}
 
 CurlURLSession::~CurlURLSession() = default;
 
-void CurlURLSession::data(std::string_view url, std::stop_token stop, Completion<std::string> completion) const {
+void CurlURLSession::data(std::string_view url, StopToken stop, Completion<std::string> completion) const {
   completion(answerOf([&] { return body(url, stop, false); }));
 }
 
-void CurlURLSession::dataSentOnce(std::string_view url, std::stop_token stop,
-                                  Completion<std::string> completion) const {
+void CurlURLSession::dataSentOnce(std::string_view url, StopToken stop, Completion<std::string> completion) const {
   completion(answerOf([&] { return body(url, stop, true); }));
 }
 
-std::string CurlURLSession::body(std::string_view url, const std::stop_token& stop, bool isSentOnce) const {
+std::string CurlURLSession::body(std::string_view url, const StopToken& stop, bool isSentOnce) const {
   const std::string address{url};
-  if (stop.stop_requested()) throw URLError{address + ": the request was stopped"};
+  if (stop.stopRequested()) throw URLError{address + ": the request was stopped"};
   std::array<char, CURL_ERROR_SIZE> details{};
   Answer answer{{}, pool->options.sizeLimit};
   Connection connection = pool->taken();
@@ -151,7 +150,7 @@ std::string CurlURLSession::body(std::string_view url, const std::stop_token& st
 
   if (answer.isTooLarge)
     throw URLError{address + ": the answer is larger than " + std::to_string(answer.sizeLimit) + " bytes"};
-  if (stop.stop_requested() && result != CURLE_OK) throw URLError{address + ": the request was stopped"};
+  if (stop.stopRequested() && result != CURLE_OK) throw URLError{address + ": the request was stopped"};
   if (result != CURLE_OK) throw URLError{address + ": " + reasonOf(result, details.data())};
   if (status < 200 || status > 299) throw URLError{address + ": the server answered " + std::to_string(status)};
   return std::move(answer.body);

@@ -29,12 +29,12 @@ class CurlURLSession final : public URLSession {
 
   /// The request is made on the calling thread, and answered before this returns. The sentences of the errors begin
   /// with the address. A request ends within a moment of `stop`.
-  void data(std::string_view url, std::stop_token stop, Completion<std::string> completion) const override;
+  void data(std::string_view url, StopToken stop, Completion<std::string> completion) const override;
   /// On a connection of its own, which ends with the answer.
-  void dataSentOnce(std::string_view url, std::stop_token stop, Completion<std::string> completion) const override;
+  void dataSentOnce(std::string_view url, StopToken stop, Completion<std::string> completion) const override;
 
  private:
-  std::string body(std::string_view url, const std::stop_token& stop, bool isSentOnce) const;
+  std::string body(std::string_view url, const StopToken& stop, bool isSentOnce) const;
 
   struct Pool;
   std::unique_ptr<Pool> pool;

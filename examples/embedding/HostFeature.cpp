@@ -33,7 +33,7 @@ Effect<Action> saveWeight(State& state, const BodyWeightSample& sample) {
   weights.insert(std::ranges::upper_bound(weights, sample.date, {}, &BodyWeightSample::date), sample);
   state.statistics.updateWeightChart(StatsContainer::update(weights));
   state.weights = std::move(weights);
-  return Effect<Action>::run([](const Send<Action>& send, std::stop_token) {
+  return Effect<Action>::run([](const Send<Action>& send, StopToken) {
     send(Action::statistics{Screen::addWeightLogAction{AddWeightLogFeature::Action::didSave{}}});
   });
 }

@@ -107,8 +107,7 @@ auto AppFeature::on(State& state, const Action::lookForChanges&) const -> Effect
 
 auto AppFeature::on(State&, const Action::reload&) const -> Effect<Action> {
   return Effect<Action>::run(
-      [](const Send<Action>& send, std::stop_token, const Client<HistoryClient>& client,
-         const Client<TextLookup>& lookup) {
+      [](const Send<Action>& send, StopToken, const Client<HistoryClient>& client, const Client<TextLookup>& lookup) {
         try {
           send(Action::didLoad{client->load()});
         } catch (const std::exception& error) {
@@ -375,8 +374,8 @@ auto AppFeature::writeOrSay(State& state, Step step, Outcome outcome) const -> E
 auto AppFeature::write(State& state, Step step, HistoryChange change) const -> Effect<Action> {
   state.failure = std::string{};
   return Effect<Action>::run(
-      [](const Send<Action>& send, std::stop_token, const Client<HistoryClient>& client,
-         const Client<TextLookup>& lookup, Step done, const HistoryChange& written) {
+      [](const Send<Action>& send, StopToken, const Client<HistoryClient>& client, const Client<TextLookup>& lookup,
+         Step done, const HistoryChange& written) {
         try {
           client->apply(written);
         } catch (const std::exception& error) {

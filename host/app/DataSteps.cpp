@@ -94,9 +94,8 @@ auto AppFeature::writeImport(State& state) const -> Effect<Action> {
   state.importing->failure = std::string{};
   state.failure = std::string{};
   return Effect<Action>::run(
-      [](const Send<Action>& send, const std::stop_token&, const Client<HistoryClient>& client,
-         const Client<DataFiles>& data, const Client<TextLookup>& lookup,
-         const std::shared_ptr<const ImportPreview>& preview, Step step) {
+      [](const Send<Action>& send, const StopToken&, const Client<HistoryClient>& client, const Client<DataFiles>& data,
+         const Client<TextLookup>& lookup, const std::shared_ptr<const ImportPreview>& preview, Step step) {
         HistoryChange change;
         try {
           change = data->plan(client->load(), preview->files).change;
@@ -121,9 +120,9 @@ auto AppFeature::on(State& state, const Action::didExport& asked) const -> Effec
     return effect;
   }
   effect.add(Effect<Action>::run(
-      [](const Send<Action>& send, const std::stop_token&, const Client<HistoryClient>& client,
-         const Client<DataFiles>& data, const Client<TextLookup>& lookup, const Client<NumberFormatter>& counts,
-         ExportedPart part, const std::string& path) {
+      [](const Send<Action>& send, const StopToken&, const Client<HistoryClient>& client, const Client<DataFiles>& data,
+         const Client<TextLookup>& lookup, const Client<NumberFormatter>& counts, ExportedPart part,
+         const std::string& path) {
         try {
           const History records = client->load();
           data->write(part, records, path);
@@ -138,8 +137,8 @@ auto AppFeature::on(State& state, const Action::didExport& asked) const -> Effec
 
 auto AppFeature::print(const State& state, const std::string& file) const -> Effect<Action> {
   return Effect<Action>::run(
-      [](const Send<Action>& send, const std::stop_token&, const Client<DataFiles>& data,
-         const Client<TextLookup>& lookup, const std::string& path, TimeRange range, PrintedWeights weights) {
+      [](const Send<Action>& send, const StopToken&, const Client<DataFiles>& data, const Client<TextLookup>& lookup,
+         const std::string& path, TimeRange range, PrintedWeights weights) {
         try {
           data->print(path, range, weights);
           send(Action::didFail{filledIn(lookup->text("Exported to {1}"), {path})});
@@ -169,8 +168,8 @@ auto AppFeature::restore(State& state) const -> Effect<Action> {
   state.backups.failure = std::string{};
   state.failure = std::string{};
   return Effect<Action>::run(
-      [](const Send<Action>& send, const std::stop_token&, const Client<DataFiles>& data,
-         const Client<TextLookup>& lookup, const std::filesystem::path& file, Date now) {
+      [](const Send<Action>& send, const StopToken&, const Client<DataFiles>& data, const Client<TextLookup>& lookup,
+         const std::filesystem::path& file, Date now) {
         try {
           auto restored = data->restore(file, now);
           if (!restored) return send(Action::didFailToWrite{Step::restore, {}, describe(restored.error())});

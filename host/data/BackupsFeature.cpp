@@ -27,8 +27,8 @@ auto BackupsFeature::reduce(State& state, const Action& action) const -> Effect<
 
 auto BackupsFeature::on(State&, const Action::list& asked) const -> Effect<Action> {
   return Effect<Action>::run(
-      [](const Send<Action>& send, const std::stop_token&, const Client<DataFiles>& data,
-         const Client<TextLookup>& lookup, bool areCounted) {
+      [](const Send<Action>& send, const StopToken&, const Client<DataFiles>& data, const Client<TextLookup>& lookup,
+         bool areCounted) {
         try {
           BackupPlace place = data->backupPlace();
           auto listed = data->backups(place.folder(), areCounted);
@@ -56,7 +56,7 @@ auto BackupsFeature::on(State& state, const Action::didTapBackUp&) const -> Effe
   if (*state.isWorking) return {};
   state.isWorking = true;
   return Effect<Action>::run(
-      [](const Send<Action>& send, const std::stop_token&, const Client<DataFiles>& data,
+      [](const Send<Action>& send, const StopToken&, const Client<DataFiles>& data,
          const Client<HistoryClient>& records, const Client<TextLookup>& lookup, Date now) {
         try {
           send(Action::didBackUp{outcomeOf(data->backUp(records->load(), now))});
@@ -77,8 +77,8 @@ auto BackupsFeature::on(State& state, const Action::didChooseFolder& chosen) con
   if (*state.isWorking) return {};
   state.isWorking = true;
   return Effect<Action>::run(
-      [](const Send<Action>& send, const std::stop_token&, const Client<DataFiles>& data,
-         const Client<TextLookup>& lookup, const std::string& path) {
+      [](const Send<Action>& send, const StopToken&, const Client<DataFiles>& data, const Client<TextLookup>& lookup,
+         const std::string& path) {
         try {
           const BackupPlace before = data->backupPlace();
           const auto now = data->chooseBackupFolder(path, *lookup);

@@ -6,7 +6,6 @@
 #include <functional>
 #include <memory>
 #include <optional>
-#include <stop_token>
 #include <string>
 #include <string_view>
 #include <tl/expected.hpp>
@@ -27,6 +26,7 @@
 #include "host/place/TypedDates.h"
 #include "host/text/BadRecord.h"
 #include "mivo/model/TimeRange.h"
+#include "mivo/platform/StopToken.h"
 #include "mivo/platform/TextLookup.h"
 #include "mivo/platform/UUIDGenerator.h"
 
@@ -79,7 +79,7 @@ class DataFiles {
   /// What files hold that a person names; `progress` gets from 0 to 1 over all of them. The first one that cannot be
   /// read is the answer instead.
   virtual Read read(const std::vector<std::string>& paths, const ImportAnswers& answers,
-                    const std::function<void(double)>& progress, const std::stop_token& stop) const = 0;
+                    const std::function<void(double)>& progress, const StopToken& stop) const = 0;
   /// How a file is now, or why it cannot be read: it is gone, is no file, or belongs to others.
   virtual tl::expected<FileState, FileFault> state(const std::string& path) const = 0;
 

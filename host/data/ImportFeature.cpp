@@ -15,8 +15,8 @@ using Phase = ImportFeature::Phase;
 
 constexpr double leastProgress = 0.01;  // that is worth telling
 
-void readAndPlan(const Send<Action>& send, const std::stop_token& stop, const DataFiles& files,
-                 const HistoryClient& history, const std::vector<std::string>& paths, const ImportAnswers& answers) {
+void readAndPlan(const Send<Action>& send, const StopToken& stop, const DataFiles& files, const HistoryClient& history,
+                 const std::vector<std::string>& paths, const ImportAnswers& answers) {
   double told = 0;
   const auto tell = [&](double fraction) {
     if (fraction < told + leastProgress) return;
@@ -93,7 +93,7 @@ auto ImportFeature::read(State& state) const -> Effect<Action> {
   state.fault = std::nullopt;
   state.failure = std::string{};
   return Effect<Action>::run(
-      [](const Send<Action>& send, const std::stop_token& stop, const Client<DataFiles>& data,
+      [](const Send<Action>& send, const StopToken& stop, const Client<DataFiles>& data,
          const Client<HistoryClient>& records, const Client<TextLookup>& lookup, const std::vector<std::string>& paths,
          const ImportAnswers& answers) {
         try {

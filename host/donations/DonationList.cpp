@@ -56,7 +56,7 @@ DonationProducts decodedList(const JSONValue& list, std::string_view languageTag
 
 DonationList::DonationList(std::string from, Tools with) : source{std::move(from)}, tools{std::move(with)} {}
 
-void DonationList::products(std::stop_token stop, Completion<DonationProducts> completion) const {
+void DonationList::products(StopToken stop, Completion<DonationProducts> completion) const {
   text(std::move(stop),
        [from = source, with = tools, completion = std::move(completion)](const Answer<std::string>& json) {
          completion(answerOf([&]() -> DonationProducts {
@@ -71,7 +71,7 @@ void DonationList::products(std::stop_token stop, Completion<DonationProducts> c
        });
 }
 
-void DonationList::text(std::stop_token stop, Completion<std::string> completion) const {
+void DonationList::text(StopToken stop, Completion<std::string> completion) const {
   if (source.find("://") != std::string::npos)
     return tools.session->data(source, std::move(stop), std::move(completion));
   completion(answerOf([this] {

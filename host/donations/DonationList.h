@@ -25,10 +25,10 @@ class DonationList final : public DonationClient {
 
   /// `source` is an address if it begins with a scheme ("https://"), else a file.
   DonationList(std::string source, Tools tools);
-  void products(std::stop_token stop, Completion<DonationProducts> completion) const override;
+  void products(StopToken stop, Completion<DonationProducts> completion) const override;
 
  private:
-  void text(std::stop_token stop, Completion<std::string> completion) const;
+  void text(StopToken stop, Completion<std::string> completion) const;
 
   std::string source;
   Tools tools;

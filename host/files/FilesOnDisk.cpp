@@ -40,7 +40,7 @@ FilesOnDisk::FilesOnDisk(Place where)
     : DataFiles{{.zone = where.zone, .ids = where.ids, .words = where.words}}, place{std::move(where)} {}
 
 DataFiles::Read FilesOnDisk::read(const std::vector<std::string>& paths, const ImportAnswers& answers,
-                                  const std::function<void(double)>& progress, const std::stop_token& stop) const {
+                                  const std::function<void(double)>& progress, const StopToken& stop) const {
   const ImportSettings settings = settingsFor(answers);
   const auto all = static_cast<double>(paths.size());
   std::vector<ImportedFile> files;

@@ -32,7 +32,7 @@ class FilesOnDisk final : public DataFiles {
 
   /// See `readImportFiles`.
   Read read(const std::vector<std::string>& paths, const ImportAnswers& answers,
-            const std::function<void(double)>& progress, const std::stop_token& stop) const override;
+            const std::function<void(double)>& progress, const StopToken& stop) const override;
   tl::expected<FileState, FileFault> state(const std::string& path) const override;
   void write(ExportedPart part, const History& history, const std::filesystem::path& file) const override;
   void print(const std::filesystem::path& file, TimeRange range, PrintedWeights weights) const override;

@@ -47,7 +47,7 @@ class Files {
     done += bytes;
     if (watch.progress && total > 0)
       watch.progress(std::min(1.0, static_cast<double>(done) / static_cast<double>(total)));
-    return !watch.stop.stop_requested();
+    return !watch.stop.stopRequested();
   }
   std::optional<ImportFault> taken(tl::expected<ImportedFile, ImportFault> file) {
     if (!file) return std::move(file.error());

@@ -3,13 +3,13 @@
 
 #include <functional>
 #include <span>
-#include <stop_token>
 #include <string>
 #include <tl/expected.hpp>
 #include <vector>
 
 #include "host/import/ImportSettings.h"
 #include "host/import/ImportedFile.h"
+#include "mivo/platform/StopToken.h"
 #include "mivo/platform/UUIDGenerator.h"
 
 namespace mivo::host {
@@ -17,7 +17,7 @@ namespace mivo::host {
 /// How far reading has come, and how it is stopped.
 struct ImportWatch {
   std::function<void(double)> progress = {};  ///< called with 0 to 1 of the present file, for each piece
-  std::stop_token stop = {};
+  StopToken stop = {};
 };
 
 /// What files hold that a person brings along, "-" for standard input; see `ImportReader`. Of a zip archive, which must

@@ -25,7 +25,7 @@ void forget(State& state) {
   set(state.notice, std::string{});
 }
 
-void lookAt(const Send<Action>& send, const std::stop_token& stop, const DataFiles& files, const HistoryClient& history,
+void lookAt(const Send<Action>& send, const StopToken& stop, const DataFiles& files, const HistoryClient& history,
             const TextLookup& texts, const std::string& path) {
   double told = 0;
   const auto tell = [&](double fraction) {
@@ -34,7 +34,7 @@ void lookAt(const Send<Action>& send, const std::stop_token& stop, const DataFil
     send(Action::didProgress{fraction});
   };
   auto found = readLinkedHealth(path, history.lastSynced(), files, tell, stop);
-  if (stop.stop_requested()) return;
+  if (stop.stopRequested()) return;
   if (!found) return send(Action::didFail{faultText(found.error(), texts)});
   if (!*found) return send(Action::didFindUnchanged{});
   send(Action::didRead{std::make_shared<const LinkedHealth>(std::move(**found))});
@@ -56,7 +56,7 @@ auto HealthFeature::on(State& state, const Action::onAppear&) const -> Effect<Ac
   if (state.file->empty() || state.reading || *state.isWriting) return {};
   state.reading = Reading{};
   return Effect<Action>::run(
-             [](const Send<Action>& send, const std::stop_token& stop, const Client<DataFiles>& data,
+             [](const Send<Action>& send, const StopToken& stop, const Client<DataFiles>& data,
                 const Client<HistoryClient>& records, const Client<TextLookup>& lookup, const std::string& path) {
                try {
                  lookAt(send, stop, *data, *records, *lookup, path);
@@ -97,7 +97,7 @@ auto HealthFeature::on(State& state, const Action::didRead& done) const -> Effec
   set(state.fault, std::string{});
   set(state.notice, noticeText(*done.read, *texts));
   return Effect<Action>::run(
-      [](const Send<Action>& send, const std::stop_token&, const Client<HistoryClient>& records,
+      [](const Send<Action>& send, const StopToken&, const Client<HistoryClient>& records,
          const Client<TextLookup>& lookup, const std::shared_ptr<const LinkedHealth>& read) {
         try {
           send(Action::didSync{read->path, records->sync(read->sync)});

@@ -19,7 +19,7 @@ tl::expected<std::optional<LinkedHealth>, FileFault> readLinkedHealth(const std:
                                                                       const std::optional<FileState>& before,
                                                                       const DataFiles& files,
                                                                       const std::function<void(double)>& progress,
-                                                                      const std::stop_token& stop) {
+                                                                      const StopToken& stop) {
   const auto state = files.state(path);
   if (!state) return tl::unexpected{state.error()};
   if (before == *state) return std::nullopt;

@@ -3,12 +3,12 @@
 
 #include <functional>
 #include <optional>
-#include <stop_token>
 #include <string>
 #include <tl/expected.hpp>
 
 #include "host/data/DataFiles.h"
 #include "host/fasting/WeightSync.h"
+#include "mivo/platform/StopToken.h"
 #include "mivo/platform/TextLookup.h"
 
 namespace mivo::host {
@@ -29,7 +29,7 @@ tl::expected<std::optional<LinkedHealth>, FileFault> readLinkedHealth(const std:
                                                                       const std::optional<FileState>& before,
                                                                       const DataFiles& files,
                                                                       const std::function<void(double)>& progress,
-                                                                      const std::stop_token& stop);
+                                                                      const StopToken& stop);
 
 /// One sentence in the user's language.
 std::string faultText(const FileFault& fault, const TextLookup& texts);

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <stop_token>
 #include <string>
 #include <vector>
 
 #include "mivo/model/Record.h"
 #include "mivo/platform/Answer.h"
+#include "mivo/platform/StopToken.h"
 
 namespace mivo {
 
@@ -43,7 +43,7 @@ class DonationClient {
  public:
   virtual ~DonationClient() = default;
   /// The error is a std::exception whose `what()` is one sentence for the user, also once `stop` is requested.
-  virtual void products(std::stop_token stop, Completion<DonationProducts> completion) const = 0;
+  virtual void products(StopToken stop, Completion<DonationProducts> completion) const = 0;
 };
 
 }  // namespace mivo

@@ -2,12 +2,12 @@
 #pragma once
 
 #include <stdexcept>
-#include <stop_token>
 #include <string>
 #include <string_view>
 #include <utility>
 
 #include "mivo/platform/Answer.h"
+#include "mivo/platform/StopToken.h"
 
 namespace mivo {
 
@@ -23,10 +23,10 @@ class URLSession {
   virtual ~URLSession() = default;
   /// Asks for the body of an answer. The error is a URLError: for a dead network, a refused certificate, a time-out, a
   /// status that is not a success, or once `stop` is requested.
-  virtual void data(std::string_view url, std::stop_token stop, Completion<std::string> completion) const = 0;
+  virtual void data(std::string_view url, StopToken stop, Completion<std::string> completion) const = 0;
   /// The same for a request that changes something: it leaves this machine once, or not at all. A session that may
   /// repeat a request on its own (when a kept connection breaks before the answer, say) must override this.
-  virtual void dataSentOnce(std::string_view url, std::stop_token stop, Completion<std::string> completion) const {
+  virtual void dataSentOnce(std::string_view url, StopToken stop, Completion<std::string> completion) const {
     data(url, std::move(stop), std::move(completion));
   }
 };

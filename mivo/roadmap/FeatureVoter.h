@@ -4,8 +4,8 @@
 #include <cstdint>
 #include <functional>
 #include <optional>
-#include <stop_token>
 
+#include "mivo/platform/StopToken.h"
 #include "mivo/roadmap/RoadmapFeature.h"
 
 namespace mivo {
@@ -20,7 +20,7 @@ class FeatureVoter {
 
   virtual ~FeatureVoter() = default;
   /// The votes so far; 0 where they are not known.
-  virtual void fetch(const RoadmapFeature& feature, std::stop_token stop, Count completion) const = 0;
+  virtual void fetch(const RoadmapFeature& feature, StopToken stop, Count completion) const = 0;
   /// Adds a vote, or takes one back: the count after it, or nothing where the vote did not get through. There is no way
   /// to stop it, since nobody would know then whether it counted.
   virtual void vote(const RoadmapFeature& feature, VoteCount completion) const = 0;

@@ -72,7 +72,7 @@ std::optional<std::int64_t> voted(const VotingCount& answer) {
 
 }  // namespace
 
-void FeatureVoterTallyAPI::fetch(const RoadmapFeature& feature, std::stop_token stop, Count completion) const {
+void FeatureVoterTallyAPI::fetch(const RoadmapFeature& feature, StopToken stop, Count completion) const {
   JSONDataFetcher::loadJSON<RoadmapFeatureVotingCount>(
       address("/get/", feature), std::move(stop),
       [completion = std::move(completion)](const VotingCount& answer) { completion(fetched(answer)); });

@@ -21,7 +21,7 @@ struct FeatureVoterTallyAPI final : FeatureVoter {
 
   explicit FeatureVoterTallyAPI(std::string ownNamespace) : namespaceName{std::move(ownNamespace)} {}
 
-  void fetch(const RoadmapFeature& feature, std::stop_token stop, Count completion) const override;
+  void fetch(const RoadmapFeature& feature, StopToken stop, Count completion) const override;
   void vote(const RoadmapFeature& feature, VoteCount completion) const override;
   void unvote(const RoadmapFeature& feature, VoteCount completion) const override;
 

@@ -52,8 +52,7 @@ bool isAbsoluteURL(std::string_view url) {
 JSONDataFetcher::Error::Error(Case error, std::string_view url)
     : std::runtime_error{"The address \"" + std::string{url} + "\" is not valid."}, errorCase{error} {}
 
-void JSONDataFetcher::load(std::string_view url, std::stop_token stop, Request request,
-                           Completion<JSONValue> completion) {
+void JSONDataFetcher::load(std::string_view url, StopToken stop, Request request, Completion<JSONValue> completion) {
   if (!isAbsoluteURL(url)) return completion(std::make_exception_ptr(Error{Error::invalidURL, url}));
   const auto& session = dependency(&Dependencies::urlSession);
   ((*session).*request)(url, std::move(stop),

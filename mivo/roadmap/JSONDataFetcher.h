@@ -3,13 +3,13 @@
 
 #include <concepts>
 #include <stdexcept>
-#include <stop_token>
 #include <string>
 #include <string_view>
 #include <utility>
 
 #include "mivo/platform/Answer.h"
 #include "mivo/platform/JSONValue.h"
+#include "mivo/platform/StopToken.h"
 #include "mivo/platform/URLSession.h"
 
 namespace mivo {
@@ -34,7 +34,7 @@ struct JSONDataFetcher {
   /// The error is Error for what is no absolute URL (RFC 3986: a space or a letter outside ASCII makes it none),
   /// URLError where there is no answer, DecodingError where the answer is not what was expected.
   template <JSONDecodable Type>
-  static void loadJSON(std::string_view url, std::stop_token stop, Completion<Type> completion) {
+  static void loadJSON(std::string_view url, StopToken stop, Completion<Type> completion) {
     load(url, std::move(stop), &URLSession::data, decoding(std::move(completion)));
   }
 
@@ -45,7 +45,7 @@ struct JSONDataFetcher {
   }
 
  private:
-  using Request = void (URLSession::*)(std::string_view, std::stop_token, Completion<std::string>) const;
+  using Request = void (URLSession::*)(std::string_view, StopToken, Completion<std::string>) const;
 
   template <JSONDecodable Type>
   static Completion<JSONValue> decoding(Completion<Type> completion) {
@@ -53,7 +53,7 @@ struct JSONDataFetcher {
       completion(answerOf([&answer] { return Type::decoded(answer.value()); }));
     };
   }
-  static void load(std::string_view url, std::stop_token stop, Request request, Completion<JSONValue> completion);
+  static void load(std::string_view url, StopToken stop, Request request, Completion<JSONValue> completion);
 };
 
 }  // namespace mivo

@@ -88,7 +88,7 @@ Effect<Action> RoadmapListFeature::load(State& state) const {
   state.failure = std::string{};
   state.unsentVote = std::nullopt;
   return Effect<Action>::run(
-      [](const Send<Action>& send, std::stop_token stop, const RoadmapConfiguration& how, const RoadmapVotes& cast,
+      [](const Send<Action>& send, StopToken stop, const RoadmapConfiguration& how, const RoadmapVotes& cast,
          const Client<RandomNumberGenerator>& generator, const std::string& language) {
         JSONDataFetcher::loadJSON<RoadmapFile>(
             how.request.value_or(how.roadmapJSONURL), std::move(stop),
@@ -117,8 +117,7 @@ Effect<Action> RoadmapListFeature::didLoad(State& state, const Action::didLoad& 
 
 Effect<Action> RoadmapListFeature::fetchCount(const RoadmapFeature& feature) const {
   return Effect<Action>::run(
-      [](const Send<Action>& send, std::stop_token stop, const Client<FeatureVoter>& voter,
-         const RoadmapFeature& asked) {
+      [](const Send<Action>& send, StopToken stop, const Client<FeatureVoter>& voter, const RoadmapFeature& asked) {
         voter->fetch(asked, std::move(stop),
                      [send, id = asked.id](std::int64_t count) { send(Action::didReceiveCount{{id, count}}); });
       },
@@ -138,7 +137,7 @@ Effect<Action> RoadmapListFeature::didTapVote(State& state, const std::string& i
     tapped.isSending = true;
   });
   return Effect<Action>::run(
-      [](const Send<Action>& send, std::stop_token, bool adds, const RoadmapFeature& voted, const RoadmapVotes& cast,
+      [](const Send<Action>& send, StopToken, bool adds, const RoadmapFeature& voted, const RoadmapVotes& cast,
          const Client<FeatureVoter>& voter) {
         cast.send(adds, voted, *voter, [send, id = voted.id](std::optional<std::int64_t> count) {
           send(Action::didReceiveVoteAnswer{{id, count}});

@@ -54,7 +54,7 @@ Effect<Action> didTapSave(const Feature& feature, State& state) {
   state.problem = problemOf(state, now);
   if (state.problem->has_value()) return {};
   state.savingState = Feature::SavingState::saving;
-  return Effect<Action>::run([](const Send<Action>& send, std::stop_token,
+  return Effect<Action>::run([](const Send<Action>& send, StopToken,
                                 const BodyWeightSample& sample) { send(Action::didAcceptSample{sample}); },
                              BodyWeightSample{feature.uuid->next(), state.logDate, state.weightInKg});
 }

@@ -26,7 +26,7 @@ Effect<Action> load(const Feature& feature, State& state) {
   }
   state.loadingState = Feature::LoadingState::loading;
   return Effect<Action>::run(
-      [](const Send<Action>& send, std::stop_token stop, const Client<DonationClient>& donations) {
+      [](const Send<Action>& send, StopToken stop, const Client<DonationClient>& donations) {
         donations->products(std::move(stop), [send](const Answer<DonationProducts>& answer) {
           try {
             send(Action::didLoad{answer.value()});
@@ -61,9 +61,9 @@ void didLoad(State& state, const DonationProducts& products) {
 Effect<Action> open(const Feature& feature, const State& state, const std::string& id) {
   const DonationProduct* tapped = product(state, id);
   if (!tapped || !feature.links) return {};
-  return Effect<Action>::run([](const Send<Action>&, std::stop_token, const Client<LinkOpener>& links,
-                                const std::string& url) { links->open(url); },
-                             feature.links, tapped->url);
+  return Effect<Action>::run(
+      [](const Send<Action>&, StopToken, const Client<LinkOpener>& links, const std::string& url) { links->open(url); },
+      feature.links, tapped->url);
 }
 
 }  // namespace

@@ -23,13 +23,13 @@ void refreshStreaks(State& state, const StreakSettings& settings) {
   state.stats.maxStreak = lengths.max;
 }
 
-constexpr auto askHealthKit = [](const Send<Action>& send, std::stop_token, const Client<HealthKitClient>& health) {
+constexpr auto askHealthKit = [](const Send<Action>& send, StopToken, const Client<HealthKitClient>& health) {
   health->shouldRequestAuthorization(
       [send](bool should) { send(Action::shouldRequestHealthKitAuthorizationResponse{should}); });
 };
 
 /// A tip that may still be shown stays; otherwise the most important one that may be takes its place.
-constexpr auto findTip = [](const Send<Action>& send, std::stop_token, const Client<TipCatalogue>& tips,
+constexpr auto findTip = [](const Send<Action>& send, StopToken, const Client<TipCatalogue>& tips,
                             const std::optional<std::string>& current, int platformVersion) {
   if (platformVersion < firstVersionWithTips) return;
   if (current && tips->tip(*current) && tips->canDisplay(*current)) return;
@@ -58,8 +58,7 @@ auto StatisticsFeature::onAppear(State& state) const -> Effect<Action> {
 auto StatisticsFeature::requestHealthKitAccess(State& state) const -> Effect<Action> {
   state.showHealthKitCard = false;
   return Effect<Action>::run(
-      [](const Send<Action>&, std::stop_token, const Client<UserDefaults>& defaults,
-         const Client<HealthKitClient>& health) {
+      [](const Send<Action>&, StopToken, const Client<UserDefaults>& defaults, const Client<HealthKitClient>& health) {
         defaults->setHealthKitSync(true);
         health->requestAuthorization([] {});
       },

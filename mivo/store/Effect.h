@@ -5,12 +5,12 @@
 #include <iterator>
 #include <memory>
 #include <ranges>
-#include <stop_token>
 #include <string_view>
 #include <type_traits>
 #include <utility>
 #include <vector>
 
+#include "mivo/platform/StopToken.h"
 #include "mivo/store/Observed.h"
 
 namespace mivo {
@@ -56,7 +56,7 @@ template <class Action>
 class Effect {
  public:
   struct Operation {
-    std::function<void(const Send<Action>&, std::stop_token)> run;
+    std::function<void(const Send<Action>&, StopToken)> run;
     std::vector<Stamp> owners;  ///< identities of the presentations that it ends with
   };
 
@@ -64,7 +64,7 @@ class Effect {
 
   /// A task and copies of what it needs, called as `task(send, stop, values...)` where the store's tasks run:
   ///
-  ///     Effect<Action>::run([](Send<Action> send, std::stop_token, const Client<HealthKitClient>& health) {
+  ///     Effect<Action>::run([](Send<Action> send, StopToken, const Client<HealthKitClient>& health) {
   ///       health->shouldRequestAuthorization([send](bool should) { send(Action::didAnswer{should}); });
   ///     }, healthKitClient);
   ///
@@ -77,7 +77,7 @@ class Effect {
                   "a task gets copies of values: no pointer, reference, view or observed field");
     ((void)refuseState<Values>, ...);
     Effect effect;
-    effect.all.push_back({[task, ... values = std::move(values)](const Send<Action>& send, std::stop_token stop) {
+    effect.all.push_back({[task, ... values = std::move(values)](const Send<Action>& send, StopToken stop) {
                             task(send, std::move(stop), values...);
                           },
                           {}});
@@ -105,7 +105,7 @@ class Effect {
     using Parent = std::invoke_result_t<Embed, Action>;
     Effect<Parent> mapped;
     for (Operation& operation : all)
-      mapped.add({[run = std::move(operation.run), embed](const Send<Parent>& send, std::stop_token stop) {
+      mapped.add({[run = std::move(operation.run), embed](const Send<Parent>& send, StopToken stop) {
                     run(Send<Action>{[send, embed](Action action) { send(embed(std::move(action))); }},
                         std::move(stop));
                   },

@@ -7,7 +7,6 @@
 #include <exception>
 #include <functional>
 #include <memory>
-#include <stop_token>
 #include <string>
 #include <thread>
 #include <utility>
@@ -17,6 +16,7 @@
 #include "mivo/platform/DependencyContext.h"
 #include "mivo/platform/IssueReporting.h"
 #include "mivo/platform/MainQueue.h"
+#include "mivo/platform/StopToken.h"
 #include "mivo/platform/Subscription.h"
 #include "mivo/platform/TaskRunner.h"
 #include "mivo/store/Effect.h"
@@ -76,7 +76,7 @@ class Store {
  private:
   // A task that was asked for; shared by all that may still send for it.
   struct Running {
-    std::stop_source stop;
+    StopSource stop;
     std::vector<Stamp> owners;
   };
 
@@ -121,7 +121,7 @@ class Store {
     }
 
     void process(const Received& received) {
-      if (received.sender && received.sender->stop.stop_requested()) return;
+      if (received.sender && received.sender->stop.stopRequested()) return;
       const Effect<Action> effect = reduce(received.action);
       std::vector<std::shared_ptr<Running>> started;
       for (const auto& operation : effect.operations()) started.push_back(registered(operation));
@@ -129,7 +129,7 @@ class Store {
       notifyObservers();
       if (isClosed) return;
       for (std::size_t index = 0; index < started.size(); ++index)
-        if (!started[index]->stop.stop_requested()) start(effect.operations()[index], started[index]);
+        if (!started[index]->stop.stopRequested()) start(effect.operations()[index], started[index]);
     }
 
     Effect<Action> reduce(const Action& action) {
@@ -153,26 +153,26 @@ class Store {
       forEachPresented(state, [&presented](Stamp identity) { presented.push_back(identity); });
       const auto isGone = [&presented](Stamp owner) { return std::ranges::find(presented, owner) == presented.end(); };
       for (const auto& task : tasks)
-        if (std::ranges::any_of(task->owners, isGone)) task->stop.request_stop();
+        if (std::ranges::any_of(task->owners, isGone)) task->stop.requestStop();
     }
 
     void start(const typename Effect<Action>::Operation& operation, const std::shared_ptr<Running>& task) {
       taskRunner->run([run = operation.run, send = sendOf(task), task, dependencies = context] {
         const DependencyScope scope{dependencies};
-        if (!task->stop.stop_requested()) runGuarded(run, send, task->stop.get_token());
+        if (!task->stop.stopRequested()) runGuarded(run, send, task->stop.token());
       });
     }
 
     Send<Action> sendOf(const std::shared_ptr<Running>& task) {
       return Send<Action>{[mailbox = this->weak_from_this(), queue = mainQueue, task](Action action) {
-        if (task->stop.stop_requested()) return;
+        if (task->stop.stopRequested()) return;
         queue->post([mailbox, task, action = std::move(action)]() mutable {
           if (const auto core = mailbox.lock()) core->receive({std::move(action), std::move(task)});
         });
       }};
     }
 
-    static void runGuarded(const auto& run, const Send<Action>& send, std::stop_token stop) {
+    static void runGuarded(const auto& run, const Send<Action>& send, StopToken stop) {
       try {
         run(send, std::move(stop));
       } catch (const std::exception& error) {
@@ -182,7 +182,7 @@ class Store {
 
     void close() {
       isClosed = true;
-      for (const auto& task : tasks) task->stop.request_stop();
+      for (const auto& task : tasks) task->stop.requestStop();
       observers.clear();
     }
   };

@@ -9,10 +9,10 @@
 #include <mutex>
 #include <optional>
 #include <stdexcept>
-#include <thread>
 #include <utility>
 
 #include "tests/http/TlsContext.h"
+#include "tests/support/Threads.h"
 
 namespace mivo::tests {
 namespace {
@@ -84,7 +84,7 @@ struct HttpServer::Listener {
   bool isClosing = false;
   std::vector<std::string> targets;
   std::vector<int> connections;
-  std::vector<std::jthread> threads;
+  Threads threads;
 
   void listen() {
     sockaddr_in address{};
@@ -96,7 +96,7 @@ struct HttpServer::Listener {
         ::getsockname(descriptor, generic, &size) != 0)
       throw std::runtime_error{"the test's server cannot listen"};
     port = ntohs(address.sin_port);
-    threads.emplace_back([this] { accept(); });
+    threads.start([this] { accept(); });
   }
 
   void accept() {
@@ -108,7 +108,7 @@ struct HttpServer::Listener {
         return;
       }
       connections.push_back(accepted);
-      threads.emplace_back([this, accepted] { serve(accepted); });
+      threads.start([this, accepted] { serve(accepted); });
     }
   }
 
@@ -129,7 +129,7 @@ struct HttpServer::Listener {
   }
 
   ~Listener() {
-    std::vector<std::jthread> running;
+    Threads running;
     {
       const std::scoped_lock lock{mutex};
       isClosing = true;
@@ -137,7 +137,7 @@ struct HttpServer::Listener {
       for (const int connection : connections) ::shutdown(connection, SHUT_RDWR);
       running = std::move(threads);
     }
-    running.clear();
+    running.join();
     for (const int connection : connections) ::close(connection);
     ::close(descriptor);
   }

@@ -10,9 +10,9 @@ struct Action {
 
 mivo::Effect<Action> effect(const std::string& id) {
 #ifdef FAULT
-  return mivo::Effect<Action>::run([id](const mivo::Send<Action>& send, std::stop_token) { send(Action{id}); });
+  return mivo::Effect<Action>::run([id](const mivo::Send<Action>& send, mivo::StopToken) { send(Action{id}); });
 #else
   return mivo::Effect<Action>::run(
-      [](const mivo::Send<Action>& send, std::stop_token, const std::string& own) { send(Action{own}); }, id);
+      [](const mivo::Send<Action>& send, mivo::StopToken, const std::string& own) { send(Action{own}); }, id);
 #endif
 }

@@ -21,7 +21,7 @@ using testing::ElementsAre;
 
 /// Answers every address with the same text.
 struct OneAnswer : URLSession {
-  void data(std::string_view url, std::stop_token, Completion<std::string> completion) const override {
+  void data(std::string_view url, StopToken, Completion<std::string> completion) const override {
     asked.emplace_back(url);
     if (isOffline) return completion(std::make_exception_ptr(URLError{std::string{url} + ": no connection"}));
     completion(body);
@@ -33,7 +33,7 @@ struct OneAnswer : URLSession {
 
 /// Counts in memory.
 struct MemoryVoter : FeatureVoter {
-  void fetch(const RoadmapFeature& feature, std::stop_token, Count completion) const override {
+  void fetch(const RoadmapFeature& feature, StopToken, Count completion) const override {
     completion(isGone ? 0 : counts[feature.id]);
   }
   void vote(const RoadmapFeature& feature, VoteCount completion) const override { completion(add(1, feature)); }
@@ -133,11 +133,11 @@ TEST_F(RoadmapList, loadsShufflesAndFetchesTheCounts) {
 
 /// Answers when the test says so, long after the task has ended that asked.
 struct LateAnswer : URLSession {
-  void data(std::string_view, std::stop_token asker, Completion<std::string> completion) const override {
+  void data(std::string_view, StopToken asker, Completion<std::string> completion) const override {
     stop = std::move(asker);
     answer = std::move(completion);
   }
-  mutable std::stop_token stop;
+  mutable StopToken stop;
   mutable Completion<std::string> answer;
 };
 
@@ -164,9 +164,9 @@ TEST_F(RoadmapList, stopsWhatIsAskedForWhenItGoes) {
   auto store = std::make_unique<Store<RoadmapListFeature>>(State{}, feature(), world.queue, world.tasks);
   store->send(Action::onAppear{});
   world.tasks->runAll();
-  EXPECT_FALSE(late->stop.stop_requested());
+  EXPECT_FALSE(late->stop.stopRequested());
   store.reset();
-  EXPECT_TRUE(late->stop.stop_requested());
+  EXPECT_TRUE(late->stop.stopRequested());
   std::exchange(late->answer, {})(std::string{threeFeatures});
   EXPECT_EQ(world.queue->count(), 0u) << "nobody is left to be told";
 }

@@ -18,6 +18,7 @@
 #include "mivo/roadmap/RoadmapFeatureVotingCount.h"
 #include "tests/http/HttpServer.h"
 #include "tests/support/FixedClients.h"
+#include "tests/support/Threads.h"
 
 namespace mivo {
 namespace {
@@ -182,7 +183,7 @@ INSTANTIATE_TEST_SUITE_P(Rows, VoteFailure,
                          [](const auto& row) { return std::string{row.param.name}; });
 
 struct HostileAnswer final : URLSession {
-  void data(std::string_view, std::stop_token, Completion<std::string> completion) const override {
+  void data(std::string_view, StopToken, Completion<std::string> completion) const override {
     completion(std::make_exception_ptr(URLError{"\x1B[2J\x7F\xC2\x80\xC2\x9F\xC2\xA0\xC3\x9F\nfound"}));
   }
 };
@@ -196,7 +197,7 @@ TEST_F(VoteClient, whatOthersSayDoesNotCommandTheTerminal) {
 
 /// Answers when the test says so.
 struct LateAnswer final : URLSession {
-  void data(std::string_view, std::stop_token, Completion<std::string> completion) const override {
+  void data(std::string_view, StopToken, Completion<std::string> completion) const override {
     asked.push_back(std::move(completion));
   }
   mutable std::vector<Completion<std::string>> asked;
@@ -210,7 +211,7 @@ TEST_F(VoteClient, isAnsweredLaterOnAThreadThatKnowsNoDependencies) {
   voter.vote(feature, [&counts](std::optional<std::int64_t> count) { counts.push_back(count); });
   voter.fetch(feature, {}, [&counts](std::int64_t count) { counts.emplace_back(count); });
   EXPECT_THAT(counts, IsEmpty());
-  std::jthread{[&late] {
+  std::thread{[&late] {
     late->asked[0](std::string{R"({"value": 7})"});
     late->asked[1](std::make_exception_ptr(URLError{"no connection"}));
   }}.join();
@@ -287,9 +288,9 @@ TEST_F(VoteClient, featuresAreAskedBesideEachOther) {
   serve([](const std::string& target) { return tests::ok("{\"value\": " + target.substr(target.size() - 1) + "}"); });
   std::vector<std::int64_t> counts(count);
   {
-    std::vector<std::jthread> threads;
+    tests::Threads threads;
     for (std::size_t number = 0; number < count; ++number)
-      threads.emplace_back([&, number] {
+      threads.start([&, number] {
         const DependencyScope own{dependencies};
         counts[number] = fetched(voter, {std::to_string(number), "", "", ""});
       });

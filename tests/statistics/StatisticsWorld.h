@@ -36,7 +36,7 @@ struct TipsDouble : TipCatalogue {
 };
 
 struct DonationsDouble : DonationClient {
-  void products(std::stop_token, Completion<DonationProducts> completion) const override {
+  void products(StopToken, Completion<DonationProducts> completion) const override {
     if (!failure.empty()) return completion(std::make_exception_ptr(URLError{failure}));
     completion(answer);
   }

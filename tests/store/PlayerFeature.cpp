@@ -28,10 +28,10 @@ auto PlayerFeature::core(State& state, const Action& action) const -> Effect<Act
   else if (std::holds_alternative<Action::loadBoth>(action))
     return Effect<Action>::merge(
         Effect<Action>::run(
-            [](const Send<Action>& send, std::stop_token) { send(Action::setSongs{List<std::string>{"one"}}); }),
-        Effect<Action>::run([](const Send<Action>& send, std::stop_token,
-                               const List<std::string>& songs) { send(Action::setSongs{songs}); },
-                            List<std::string>{"one", "two"}));
+            [](const Send<Action>& send, StopToken) { send(Action::setSongs{List<std::string>{"one"}}); }),
+        Effect<Action>::run(
+            [](const Send<Action>& send, StopToken, const List<std::string>& songs) { send(Action::setSongs{songs}); },
+            List<std::string>{"one", "two"}));
   return {};
 }
 

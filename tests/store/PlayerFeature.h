@@ -42,7 +42,7 @@ struct VolumeFeature {
     }
     state.volume = state.volume + 1;
     return Effect<Action>::run(
-        [](const Send<Action>& send, std::stop_token, int volume) { send(Action::didMeasure{volume * 10}); },
+        [](const Send<Action>& send, StopToken, int volume) { send(Action::didMeasure{volume * 10}); },
         state.volume.value());
   }
 };
@@ -77,7 +77,7 @@ struct LyricsFeature {
       state.text = loaded->text;
       return {};
     }
-    return Effect<Action>::run([](const Send<Action>& send, std::stop_token) { send(Action::didLoad{"la la"}); });
+    return Effect<Action>::run([](const Send<Action>& send, StopToken) { send(Action::didLoad{"la la"}); });
   }
 };
 

@@ -219,9 +219,8 @@ struct ClockFeature {
     if (const Date* ran = std::get_if<Date>(&action)) return state.ran = *ran, Effect<Action>::none();
     state.reduced = currentDependencies().date->now();
     return Effect<Action>::merge(
-        Effect<Action>::run([](const Send<Action>& send, std::stop_token) { send(currentDependencies().date->now()); }),
-        Effect<Action>::run(
-            [](const Send<Action>&, std::stop_token) { throw std::runtime_error("the disk is full"); }));
+        Effect<Action>::run([](const Send<Action>& send, StopToken) { send(currentDependencies().date->now()); }),
+        Effect<Action>::run([](const Send<Action>&, StopToken) { throw std::runtime_error("the disk is full"); }));
   }
 };
 

@@ -4,11 +4,11 @@
 #include <gtest/gtest.h>
 
 #include <limits>
-#include <thread>
 #include <unordered_set>
 #include <vector>
 
 #include "tests/support/FixedClients.h"
+#include "tests/support/Threads.h"
 
 namespace mivo {
 namespace {
@@ -97,9 +97,9 @@ TEST(SentenceCache, looksASentenceUpOnceAndReturnsThatOne) {
 TEST(SentenceCache, servesAnyThread) {
   std::vector<std::vector<const std::string*>> seen(4);
   {
-    std::vector<std::jthread> threads;
+    tests::Threads threads;
     for (auto& sentences : seen)
-      threads.emplace_back([&sentences] {
+      threads.start([&sentences] {
         const tests::EnglishTexts texts;
         for (const TimeRange range : allTimeRanges)
           for (const LegacyFastingZone zone : allFastingZones)

@@ -8,11 +8,11 @@
 #include <fstream>
 #include <latch>
 #include <string>
-#include <thread>
 #include <vector>
 
 #include "adapters/system/Awaited.h"
 #include "tests/http/HttpServer.h"
+#include "tests/support/Threads.h"
 
 namespace mivo::adapters {
 namespace {
@@ -26,7 +26,7 @@ using tests::HttpReply;
 using tests::HttpServer;
 
 /// The body of the answer; throws its error.
-std::string dataOf(const URLSession& session, const std::string& url, const std::stop_token& stop = {}) {
+std::string dataOf(const URLSession& session, const std::string& url, const StopToken& stop = {}) {
   return awaited<Answer<std::string>>([&](auto completion) { session.data(url, stop, completion); }).value();
 }
 
@@ -128,24 +128,24 @@ TEST_F(CurlURLSessionTest, refusesOtherSchemesAndWhatIsNoAddress) {
 
 TEST_F(CurlURLSessionTest, stopsWhileItWaits) {
   CurlURLSession patient;
-  std::jthread stopper;
+  tests::Threads stopper;
   std::latch isAsked{1};
   const HttpServer hanging{[&](const std::string&) {
     isAsked.count_down();
     return tests::silence();
   }};
-  std::stop_source stop;
-  stopper = std::jthread{[&] {
+  StopSource stop;
+  stopper.start([&] {
     isAsked.wait();
-    stop.request_stop();
-  }};
+    stop.requestStop();
+  });
   try {
-    dataOf(patient, hanging.address(), stop.get_token());
+    dataOf(patient, hanging.address(), stop.token());
     FAIL();
   } catch (const URLError& error) {
     EXPECT_EQ(error.what(), hanging.address() + ": the request was stopped");
   }
-  EXPECT_THROW(dataOf(patient, server.address() + "/fits", stop.get_token()), URLError) << "stopped before it began";
+  EXPECT_THROW(dataOf(patient, server.address() + "/fits", stop.token()), URLError) << "stopped before it began";
 }
 
 TEST_F(CurlURLSessionTest, threadsAskBesideEachOther) {
@@ -158,11 +158,11 @@ TEST_F(CurlURLSessionTest, threadsAskBesideEachOther) {
   std::vector<std::string> answers(count);
   {
     const CurlURLSession patient;
-    std::vector<std::jthread> threads;
+    tests::Threads threads;
     for (std::size_t thread = 0; thread < count; ++thread)
-      threads.emplace_back(
+      threads.start(
           [&, thread] { answers[thread] = dataOf(patient, meeting.address() + "/" + std::to_string(thread)); });
-    threads.clear();
+    threads.join();
   }
   for (std::size_t thread = 0; thread < count; ++thread) EXPECT_EQ(answers[thread], "/" + std::to_string(thread));
 }

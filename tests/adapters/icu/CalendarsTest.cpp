@@ -5,11 +5,11 @@
 
 #include <ostream>
 #include <string>
-#include <thread>
 #include <vector>
 
 #include "adapters/zoneinfo/LoadTimeZone.h"
 #include "tests/support/Instants.h"
+#include "tests/support/Threads.h"
 
 namespace mivo::adapters {
 namespace {
@@ -136,9 +136,9 @@ TEST(Calendars, answerTheSameFromManyThreads) {
   std::vector<std::string> expected, found(4);
   for (int i = 0; i < 4; ++i) expected.push_back(monthsBack(*alone, 400 * i));
   {
-    std::vector<std::jthread> threads;
+    tests::Threads threads;
     for (std::size_t i = 0; i < found.size(); ++i)
-      threads.emplace_back([&, i] { found[i] = monthsBack(*shared, 400 * static_cast<int>(i)); });
+      threads.start([&, i] { found[i] = monthsBack(*shared, 400 * static_cast<int>(i)); });
   }
   EXPECT_EQ(found, expected);
 }

@@ -5,13 +5,13 @@
 #include <limits>
 #include <ostream>
 #include <string>
-#include <thread>
 #include <vector>
 
 #include "adapters/icu/Calendars.h"
 #include "adapters/icu/LocaleFormatters.h"
 #include "adapters/zoneinfo/LoadTimeZone.h"
 #include "tests/support/Instants.h"
+#include "tests/support/Threads.h"
 
 namespace mivo::adapters {
 namespace {
@@ -205,9 +205,9 @@ TEST(Formatters, answerTheSameFromManyThreads) {
   std::vector<std::string> expected, found(4);
   for (int i = 0; i < 4; ++i) expected.push_back(texts(alone, 50 * i));
   {
-    std::vector<std::jthread> threads;
+    tests::Threads threads;
     for (std::size_t i = 0; i < found.size(); ++i)
-      threads.emplace_back([&, i] { found[i] = texts(shared, 50 * static_cast<int>(i)); });
+      threads.start([&, i] { found[i] = texts(shared, 50 * static_cast<int>(i)); });
   }
   EXPECT_EQ(found, expected);
 }

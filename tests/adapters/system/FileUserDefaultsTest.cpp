@@ -12,10 +12,10 @@
 #include <iterator>
 #include <limits>
 #include <string>
-#include <thread>
 #include <vector>
 
 #include "mivo/platform/Dependencies.h"
+#include "tests/support/Threads.h"
 
 namespace mivo::adapters {
 namespace {
@@ -202,9 +202,9 @@ TEST_F(FileUserDefaultsTest, replacesTheTargetOfALinkAndKeepsItsPermissions) {
 
 TEST_F(FileUserDefaultsTest, threadsMayShareOne) {
   const FileUserDefaults defaults{file};
-  std::vector<std::jthread> threads;
+  tests::Threads threads;
   for (int thread = 0; thread < 4; ++thread)
-    threads.emplace_back([&defaults, thread] {
+    threads.start([&defaults, thread] {
       for (int turn = 0; turn < 5; ++turn) {
         defaults.setValue(std::to_string(thread), std::int64_t{turn});
         EXPECT_EQ(defaults.integer(std::to_string(thread), -1), turn);

@@ -4,9 +4,10 @@
 #include <gtest/gtest.h>
 
 #include <bit>
-#include <thread>
 #include <unordered_set>
 #include <vector>
+
+#include "tests/support/Threads.h"
 
 namespace mivo::adapters {
 namespace {
@@ -40,9 +41,9 @@ TEST(LocalUUIDGenerator, repeatsNothingAcrossThreadsAndGenerators) {
   const LocalUUIDGenerator one, other;
   std::vector<std::vector<UUID>> made(4, std::vector<UUID>(5000));
   {
-    std::vector<std::jthread> threads;
+    tests::Threads threads;
     for (std::size_t thread = 0; thread < made.size(); ++thread)
-      threads.emplace_back([&, thread] {
+      threads.start([&, thread] {
         const LocalUUIDGenerator& generator = thread == 3 ? other : one;
         const std::span ids{made[thread]};
         generator.fill(ids.first(2000));

@@ -36,7 +36,7 @@ TEST(ThreadPool, waitsForWhatRuns) {
     didEnd = true;
   });
   isRunning.wait();
-  std::jthread destroys{[&] { pool.reset(); }};
+  std::thread destroys{[&] { pool.reset(); }};
   mayEnd.count_down();
   destroys.join();
   EXPECT_TRUE(didEnd);
@@ -82,7 +82,7 @@ TEST(ThreadPool, finishesThoughItsOwnTasksHoldIt) {
     });
     pool->run([pool] {});
     isRunning.wait();
-    std::jthread finishes{[&] { pool->finish(); }};
+    std::thread finishes{[&] { pool->finish(); }};
     mayEnd.count_down();
     finishes.join();
     EXPECT_TRUE(didEnd);

@@ -5,11 +5,11 @@
 
 #include <ostream>
 #include <string>
-#include <thread>
 #include <vector>
 
 #include "adapters/zoneinfo/LoadTimeZone.h"
 #include "tests/support/Instants.h"
+#include "tests/support/Threads.h"
 
 namespace mivo::adapters {
 namespace {
@@ -93,9 +93,9 @@ TEST(TimeZone, answersTheSameFromManyThreads) {
   std::vector<std::int64_t> expected, found(4);
   for (int i = 0; i < 4; ++i) expected.push_back(sumOfDays(hours{i * 7}));
   {
-    std::vector<std::jthread> threads;
+    tests::Threads threads;
     for (std::size_t i = 0; i < found.size(); ++i)
-      threads.emplace_back([&, i] { found[i] = sumOfDays(hours{static_cast<int>(i) * 7}); });
+      threads.start([&, i] { found[i] = sumOfDays(hours{static_cast<int>(i) * 7}); });
   }
   EXPECT_EQ(found, expected);
 }

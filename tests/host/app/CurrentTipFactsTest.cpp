@@ -12,7 +12,7 @@ namespace {
 class CurrentTipFacts : public tests::StatisticsTest {
  protected:
   struct Voter : FeatureVoter {
-    void fetch(const RoadmapFeature&, std::stop_token, Count completion) const override { completion(0); }
+    void fetch(const RoadmapFeature&, StopToken, Count completion) const override { completion(0); }
     void vote(const RoadmapFeature&, VoteCount completion) const override { completion(count); }
     void unvote(const RoadmapFeature&, VoteCount completion) const override { completion(count); }
     std::optional<std::int64_t> count;

@@ -6,10 +6,10 @@
 #include <gtest/gtest.h>
 
 #include <fstream>
-#include <thread>
 #include <vector>
 
 #include "tests/support/TemporaryFolder.h"
+#include "tests/support/Threads.h"
 
 namespace mivo::host {
 namespace {
@@ -216,13 +216,13 @@ TEST_F(DatabaseTest, showsWhatAnotherConnectionWrote) {
 }
 
 TEST_F(DatabaseTest, isMadeOnceByManyAtATime) {
-  std::vector<std::jthread> programs;
+  tests::Threads programs;
   for (std::uint64_t id = 1; id <= 8; ++id)
-    programs.emplace_back([&, id] {
+    programs.start([&, id] {
       const double start = static_cast<double>(id);
       for (std::uint64_t round = 0; round < 5; ++round) open().apply(adding({fast(id * 10 + round, start, start + 1)}));
     });
-  programs.clear();
+  programs.join();
   EXPECT_EQ(open().history().fasts.size(), 40u);
 }
 

@@ -22,7 +22,7 @@ using testing::IsEmpty;
 using testing::SizeIs;
 
 struct OneAnswer : URLSession {
-  void data(std::string_view url, std::stop_token, Completion<std::string> completion) const override {
+  void data(std::string_view url, StopToken, Completion<std::string> completion) const override {
     if (isAway) return completion(std::make_exception_ptr(URLError{std::string{url} + ": no connection"}));
     completion(body);
   }

@@ -134,8 +134,8 @@ TEST_F(ReadFiles, tellsHowFarItIsAndStops) {
   EXPECT_TRUE(std::ranges::is_sorted(steps));
   EXPECT_GT(steps.size(), 3u);
   EXPECT_GT(steps.back(), 0.8);
-  std::stop_source stop;
-  EXPECT_EQ(read({"long.csv"}, {.progress = [&](double) { stop.request_stop(); }, .stop = stop.get_token()}),
+  StopSource stop;
+  EXPECT_EQ(read({"long.csv"}, {.progress = [&](double) { stop.requestStop(); }, .stop = stop.token()}),
             "long.csv: cancelled; nothing was changed");
 }
 

@@ -322,15 +322,15 @@ TEST(HealthFeature, readsOnceAtATimeAndStopsWhenItIsToldTo) {
   std::vector<std::string> many;
   for (int record = 0; record < 2000; ++record) many.push_back(mass("07:00", 60 + record * 0.05));
   linked.write("export.xml", exportOf(many));
-  std::stop_source stop;
+  StopSource stop;
   int told = 0;
   const auto read = readLinkedHealth(
       linked.folder.file("export.xml"), std::nullopt, *linked.files,
       [&](double) {
         ++told;
-        stop.request_stop();
+        stop.requestStop();
       },
-      stop.get_token());
+      stop.token());
   EXPECT_EQ(told, 1);
   EXPECT_FALSE(read);
 
