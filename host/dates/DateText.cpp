@@ -9,6 +9,7 @@
 #include <cstdio>
 
 #include "host/dates/Scanner.h"
+#include "mivo/model/DecimalNumber.h"
 
 namespace mivo::host {
 namespace {
@@ -74,8 +75,7 @@ Date instantAt(sys_seconds whole, std::string_view fraction) {
   char* const firstDigit = end;
   end = std::copy(fraction.begin(), fraction.end(), end);
   if (isNegative) complement(firstDigit, end);
-  double magnitude = 0;
-  std::from_chars(decimal.data(), end, magnitude);
+  const double magnitude = readDecimalNumber({decimal.data(), end}).value_or(0);
   return dateSince1970(isNegative ? -magnitude : magnitude);
 }
 

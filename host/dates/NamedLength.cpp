@@ -50,7 +50,7 @@ std::optional<double> readNamedLength(std::string_view text) {
     const std::size_t count = std::min(text.find_first_not_of("0123456789"), text.size());
     if (count == 0 || count > mostDigits) return std::nullopt;
     const std::string_view digits = text.substr(0, count);
-    double number = 0;
+    int number = 0;
     std::from_chars(digits.data(), digits.data() + digits.size(), number);
     text.remove_prefix(count);
     skipBlanks(text);

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "host/history/Header.h"
 
+#include <algorithm>
 #include <array>
-#include <charconv>
-#include <cmath>
 
+#include "mivo/model/DecimalNumber.h"
 #include "mivo/model/LowerCase.h"
 
 namespace mivo::host {
@@ -47,10 +47,7 @@ std::optional<double> decimalNumber(std::string_view text, bool decimalComma) {
   char* const end = copy.data() + text.size();
   if (decimalComma && text.find('.') == std::string_view::npos)
     if (char* const comma = std::find(copy.data(), end, ','); comma != end) *comma = '.';
-  double number = 0;
-  const auto read = std::from_chars(copy.data(), end, number);
-  if (read.ec != std::errc{} || read.ptr != end || !std::isfinite(number)) return std::nullopt;
-  return number;
+  return readDecimalNumber({copy.data(), text.size()});
 }
 
 }  // namespace mivo::host

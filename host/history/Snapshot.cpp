@@ -15,6 +15,7 @@
 
 #include "host/dates/DateText.h"
 #include "host/history/FieldRules.h"
+#include "mivo/model/DecimalNumber.h"
 #include "mivo/model/UUID.h"
 
 namespace mivo::host {
@@ -252,9 +253,9 @@ class SnapshotReader {
     return accept();
   }
   bool weighed(std::string_view digits) {
-    const char* const begin = digits.data();
-    const bool isNumber = std::from_chars(begin, begin + digits.size(), fields.weightInKg).ec == std::errc{};
-    return accept(isNumber && isBodyWeight(fields.weightInKg), digits);
+    const auto number = readDecimalNumber(digits);
+    fields.weightInKg = number.value_or(0);
+    return accept(number && isBodyWeight(*number), digits);
   }
   static bool wholeNumber(std::string_view digits, std::int64_t& number) {
     const char* const begin = digits.data();
@@ -284,9 +285,8 @@ class SnapshotReader {
     const char* const end = begin + digits.size();
     std::int64_t whole = 0;
     if (std::from_chars(begin, end, whole).ptr == end) return keepSetting(whole);
-    double number = 0;
-    const bool isNumber = std::from_chars(begin, end, number).ec == std::errc{};
-    return isNumber ? keepSetting(number) : refuse(digits);
+    const auto number = readDecimalNumber(digits);
+    return number ? keepSetting(*number) : refuse(digits);
   }
   bool leaveSettings() {
     place = Place::snapshot;

@@ -22,7 +22,7 @@ std::size_t countDigits(std::string_view text) { return std::min(text.find_first
 std::optional<double> takeWhole(std::string_view& text, std::size_t mostDigits) {
   const std::size_t count = countDigits(text);
   if (count == 0 || count > mostDigits) return std::nullopt;
-  double number = 0;
+  int number = 0;
   const std::string_view digits = text.substr(0, count);
   std::from_chars(digits.data(), digits.data() + digits.size(), number);
   text.remove_prefix(count);

@@ -3,12 +3,11 @@
 
 #include <algorithm>
 #include <array>
-#include <charconv>
-#include <cmath>
 #include <cstddef>
 #include <cstdint>
 #include <string>
 
+#include "mivo/model/DecimalNumber.h"
 #include "mivo/model/LowerCase.h"
 
 namespace mivo {
@@ -47,11 +46,7 @@ void skipBlanks(std::string_view& text) { text.remove_prefix(std::min(text.find_
 
 std::optional<double> takeNumber(std::string_view& text) {
   skipBlanks(text);
-  double number = 0;
-  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-  if (error != std::errc{} || !std::isfinite(number) || number < 0 || text.front() == '-') return std::nullopt;
-  text.remove_prefix(static_cast<std::size_t>(end - text.data()));
-  return number;
+  return text.starts_with('-') ? std::nullopt : takeDecimalNumber(text);
 }
 
 std::optional<WeightUnit> takeUnit(std::string_view& text) {
