@@ -142,7 +142,7 @@ std::vector<std::optional<LinePoint>> LineChart::selection() const {
 
 std::optional<Annotation> LineChart::annotation(const PageClients& clients) const {
   const auto points = selection();
-  const auto first = std::ranges::find_if(points, &std::optional<LinePoint>::has_value);
+  const auto first = std::ranges::find_if(points, [](const auto& point) { return point.has_value(); });
   if (first == points.end()) return std::nullopt;
   Annotation words{clients.dates.string((*first)->date, "EEEdMMM").value_or(""), {}};
   for (std::size_t line = 0; line < points.size(); ++line)
