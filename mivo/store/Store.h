@@ -35,6 +35,9 @@ namespace mivo {
 /// from inside a reduction or an observer waits until that is through. The dependencies in force where the store was
 /// made are in force in its reductions, its observers and its tasks.
 ///
+/// Stands, as all of the module, on the standard library of C++20 alone: GCC's from 12, LLVM's from 17 without its
+/// experimental parts.
+///
 /// Thread: the main one, and only tasks elsewhere. Destroying the store requests its tasks to stop and waits for none;
 /// what they send later is dropped. An observer may destroy it.
 template <class Feature>
