@@ -375,6 +375,20 @@ bool takesFiles(const AppFeature::State& state);
 /// "Fast deleted": what was done, beside the offer to undo it; empty for a step without one.
 std::string doneText(const AppFeature::UndoOffer& offer, const TextLookup& texts, const NumberFormatter& numbers);
 
+template <RecordOf<AppFeature::Cases::didTapStart> Listed, class Visit>
+void fields(Listed& record, Visit&& visit) {
+  auto& [start, goalSeconds] = record;
+  visit("start", start);
+  visit("goalSeconds", goalSeconds);
+}
+
+template <RecordOf<AppFeature::Cases::didExport> Listed, class Visit>
+void fields(Listed& record, Visit&& visit) {
+  auto& [part, path] = record;
+  visit("part", part);
+  visit("path", path);
+}
+
 template <RecordOf<AppFeature::EditedWeight> Listed, class Visit>
 void fields(Listed& record, Visit&& visit) {
   auto& [before, entry] = record;

@@ -56,13 +56,13 @@ void JsonWriter::null() {
 
 std::string JsonWriter::text() && {
   assert(levels.empty());
-  out += '\n';
+  if (!isForPage()) out += '\n';
   return std::move(out);
 }
 
 void JsonWriter::begin(char bracket, Layout layout) {
   beginValue();
-  const bool isInLine = !levels.empty() && levels.back().layout == Layout::line;
+  const bool isInLine = isForPage() || (!levels.empty() && levels.back().layout == Layout::line);
   levels.push_back({isInLine ? Layout::line : layout});
   out += bracket;
 }

@@ -9,7 +9,8 @@
 
 namespace mivo::host {
 
-/// Writes JSON for people and programs: what is long is spread over lines, what is short stays on one.
+/// Writes JSON for people and programs: what is long is spread over lines, what is short stays on one. For a page that
+/// another thread draws, all of it is one line, and dates are numbers.
 ///
 ///     JsonWriter json;
 ///     json.beginObject(JsonWriter::Layout::line);
@@ -22,6 +23,11 @@ namespace mivo::host {
 class JsonWriter {
  public:
   enum class Layout { spread, line };
+  enum class Reader { anybody, page };
+
+  explicit JsonWriter(Reader reads = Reader::anybody) : reader{reads} {}
+
+  bool isForPage() const { return reader == Reader::page; }
 
   void beginObject(Layout layout) { begin('{', layout); }
   void endObject() { end('}'); }
@@ -38,7 +44,7 @@ class JsonWriter {
   void boolean(bool value);
   void null();
 
-  /// The whole text, ending in a line break.
+  /// The whole text, ending in a line break; without one for a page.
   std::string text() &&;
 
  private:
@@ -54,6 +60,7 @@ class JsonWriter {
   void breakLine();
   void quote(std::string_view text);
 
+  Reader reader;
   std::string out;
   std::vector<Level> levels;
   bool isAfterKey = false;
