@@ -20,13 +20,7 @@ AppAction toImport(host::ImportFeature::Action action) {
 }  // namespace
 
 void ImportModel::follow(const host::AppFeature::State& state) {
-  host::ImportSheet now = composeImportSheet(state, app.clients());
-  if (state.importing && !*state.importing->isTyped) {
-    last = std::move(now);
-  } else {
-    last.takesFiles = now.takesFiles;
-    last.dropLabel = std::move(now.dropLabel);
-  }
+  last = nextImportSheet(std::move(last), state, app.clients());
   show(last);
 }
 

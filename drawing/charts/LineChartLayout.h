@@ -12,6 +12,7 @@
 #include "drawing/text/TextWidth.h"
 #include "mivo/charts/Geometry.h"
 #include "mivo/model/Date.h"
+#include "mivo/model/Record.h"
 
 namespace mivo::drawing {
 
@@ -21,6 +22,13 @@ struct LinePoint {
   double value = 0;
   bool operator==(const LinePoint&) const = default;
 };
+
+template <RecordOf<LinePoint> Listed, class Visit>
+void fields(Listed& record, Visit&& visit) {
+  auto& [date, value] = record;
+  visit("date", date);
+  visit("value", value);
+}
 
 struct LineSeries {
   std::vector<LinePoint> points;  ///< ascending by date; values as they are shown

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "mivo/model/Date.h"
+#include "mivo/model/Record.h"
 #include "mivo/model/TimeRange.h"
 #include "mivo/platform/Calendar.h"
 #include "mivo/platform/Formatters.h"
@@ -21,6 +22,15 @@ struct TimeAxisLabel {
   Date until;
   bool operator==(const TimeAxisLabel&) const = default;
 };
+
+template <RecordOf<TimeAxisLabel> Listed, class Visit>
+void fields(Listed& record, Visit&& visit) {
+  auto& [date, text, isPresent, until] = record;
+  visit("date", date);
+  visit("text", text);
+  visit("isPresent", isPresent);
+  visit("until", until);
+}
 
 /// What a line chart of a range can be scrolled through: from its first point to the end of today, but at least as much
 /// as is on screen at once.

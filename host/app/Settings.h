@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 
+#include "mivo/model/Record.h"
 #include "mivo/platform/Formatters.h"
 #include "mivo/platform/UserDefaults.h"
 
@@ -51,6 +52,14 @@ struct Appearance {
   bool reducesMotion = false;
   bool operator==(const Appearance&) const = default;
 };
+
+template <RecordOf<Appearance> Listed, class Visit>
+void fields(Listed& record, Visit&& visit) {
+  auto& [mode, textScale, reducesMotion] = record;
+  visit("mode", mode);
+  visit("textScale", textScale);
+  visit("reducesMotion", reducesMotion);
+}
 
 inline constexpr double smallestTextScale = 0.85, largestTextScale = 2;
 

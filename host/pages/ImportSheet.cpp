@@ -185,4 +185,12 @@ ImportSheet composeImportSheet(const AppFeature::State& state, const PageClients
   return sheet;
 }
 
+ImportSheet nextImportSheet(ImportSheet last, const AppFeature::State& state, const PageClients& clients) {
+  ImportSheet now = composeImportSheet(state, clients);
+  if (state.importing && !*state.importing->isTyped) return now;
+  last.takesFiles = now.takesFiles;
+  last.dropLabel = std::move(now.dropLabel);
+  return last;
+}
+
 }  // namespace mivo::host

@@ -103,4 +103,8 @@ void fields(Listed& record, Visit&& visit) {
 /// Of the state as a whole: an import need not be open.
 ImportSheet composeImportSheet(const AppFeature::State& state, const PageClients& clients);
 
+/// The same while files are brought along; once none are any more, the sheet as it was last, for it may still be seen
+/// while it closes. Whether files can be dropped on the window it says all the time.
+ImportSheet nextImportSheet(ImportSheet last, const AppFeature::State& state, const PageClients& clients);
+
 }  // namespace mivo::host
