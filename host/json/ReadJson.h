@@ -65,9 +65,10 @@ template <std::integral Value>
 JsonRead<Value> readWhole(const rapidjson::Value& json) {
   if (json.IsInt64() && std::in_range<Value>(json.GetInt64())) return static_cast<Value>(json.GetInt64());
   using Limits = std::numeric_limits<Value>;
-  constexpr std::int64_t most = std::numeric_limits<std::int64_t>::max();
-  return expectedInJson("a whole number from " + std::to_string(Limits::min()) + " to " +
-                        std::to_string(std::cmp_less(Limits::max(), most) ? Limits::max() : most));
+  constexpr std::int64_t mostOfAll = std::numeric_limits<std::int64_t>::max();
+  constexpr auto most =
+      std::in_range<std::int64_t>(Limits::max()) ? static_cast<std::int64_t>(Limits::max()) : mostOfAll;
+  return expectedInJson("a whole number from " + std::to_string(Limits::min()) + " to " + std::to_string(most));
 }
 
 inline JsonRead<Date> readDate(const rapidjson::Value& json) {
