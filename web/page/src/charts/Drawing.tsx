@@ -1,0 +1,82 @@
+// SPDX-License-Identifier: MIT
+// What all pictures need: the geometry, how wide texts are, and the reading direction.
+import { createContext } from "preact";
+import { useContext, useLayoutEffect, useRef, useState } from "preact/hooks";
+import type { Geometry, TextWidth } from "./Geometry";
+
+const Context = createContext<Geometry | null>(null);
+export const GeometryProvider = Context.Provider;
+
+export function useGeometry(): Geometry {
+  const geometry = useContext(Context);
+  if (!geometry) throw new Error("no geometry");
+  return geometry;
+}
+
+export type ChartFont = "axis" | "axisStrong" | "caption" | "value" | "valueSmall";
+
+// For charts, whose room does not grow with the text: up to one and a half times the size.
+const sizes: { [font in ChartFont]: [weight: number, size: number] } = {
+  axis: [500, 11],
+  axisStrong: [600, 11],
+  caption: [400, 12],
+  value: [600, 13],
+  valueSmall: [600, 11],
+};
+const mostScale = 1.5;
+
+export function textScale(): number {
+  return parseFloat(getComputedStyle(document.documentElement).fontSize) / 16;
+}
+
+let canvas: CanvasRenderingContext2D | null = null;
+const widths = new Map<string, number>();
+
+/// How wide a text is in a font of charts, as it is painted.
+export function widthIn(font: ChartFont): TextWidth {
+  const [weight, size] = sizes[font];
+  const family = getComputedStyle(document.documentElement).getPropertyValue("--text-family");
+  const described = `${weight} ${size * Math.min(mostScale, textScale())}px ${family}`;
+  return (text) => {
+    const key = described + text;
+    let width = widths.get(key);
+    if (width === undefined) {
+      canvas ??= document.createElement("canvas").getContext("2d")!;
+      canvas.font = described;
+      width = canvas.measureText(text).width;
+      if (widths.size > 5000) widths.clear();
+      widths.set(key, width);
+    }
+    return width;
+  };
+}
+
+/// The size of an element, followed; null before it was laid out.
+export function useSize<Measured extends Element>() {
+  const ref = useRef<Measured>(null);
+  const [size, setSize] = useState<{ width: number; height: number } | null>(null);
+  useLayoutEffect(() => {
+    const element = ref.current;
+    if (!element) return;
+    const measure = () => {
+      const { width, height } = element.getBoundingClientRect();
+      setSize((before) => (before?.width === width && before.height === height ? before : { width, height }));
+    };
+    measure();
+    const observer = new ResizeObserver(measure);
+    observer.observe(element);
+    return () => observer.disconnect();
+  }, []);
+  return { ref, size };
+}
+
+export function isMirrored(): boolean {
+  return document.documentElement.dir === "rtl";
+}
+
+/// `x` in a picture so wide, from the leading edge.
+export function fromLeading(x: number, width: number): number {
+  return isMirrored() ? width - x : x;
+}
+
+export const zones = ["anabolic", "catabolic", "fatBurning", "ketosis", "deepKetosis"] as const;
