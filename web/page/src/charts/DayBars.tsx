@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
-import { useEffect, useLayoutEffect, useRef } from "preact/hooks";
+import { useEffect, useLayoutEffect, useMemo } from "preact/hooks";
 import type { Action } from "../engine/Action";
 import type { DayBarRow, DayBarsPage } from "../engine/Records";
 import { usePage, useRows, useSource } from "../engine/Source";
 import { ChartFrame } from "./ChartFrame";
-import { fromLeading, isMirrored, useGeometry, useSize, widthIn } from "./Drawing";
+import { fromLeading, isMirrored, textScale, useGeometry, useSize, widthIn } from "./Drawing";
 import type { DayBarsLayout, Popup, Rectangle } from "./Geometry";
 import { Scroller, useScrolling } from "./Scroller";
 
@@ -40,12 +40,13 @@ export function DayBars({ kind, title, height, onTable }: DayBarsProps) {
   const geometry = useGeometry();
   const { ref, size } = useSize<HTMLDivElement>();
   const width = size?.width ?? 0;
-  const layout = geometry.dayBars(width, height, chart?.unit ?? "day", chart?.count ?? 0, chart?.widestHours ?? "");
+  const { unit = "day", count = 0, widestHours = "" } = chart ?? {};
+  const scale = textScale();
+  const layout = useMemo(() => geometry.dayBars(width, height, unit, count, widestHours), [width, height, unit, count, widestHours, scale]);
   const { pitch, visibleColumns, plotWidth, maxScroll } = layout;
   const snapped = (scroll: number) => Math.min(maxScroll, Math.max(0, Math.round(scroll / pitch) * pitch));
   const scrolling = useScrolling((scroll) => scrolling.scrollTo(snapped(scroll), true));
   const { scroll, scrollTo } = scrolling;
-  const count = chart?.count ?? 0;
   const first = pitch > 0 ? Math.min(count, Math.max(0, Math.floor(scroll / pitch + hairOfAColumn))) : 0;
   const last = pitch > 0 ? Math.min(count, Math.ceil((scroll + plotWidth) / pitch - hairOfAColumn)) : 0;
 
@@ -95,6 +96,9 @@ export function DayBars({ kind, title, height, onTable }: DayBarsProps) {
   const clear = () => {
     if (selected !== null) void select(selected);
   };
+  // Drawn once for what is near: a scroll moves it, and draws nothing anew.
+  const drawn = useMemo(() => chart && shown && <Bars key={unit} kind={kind} chart={chart} layout={layout} first={shown.first} rows={shown.rows} />, [chart, shown, layout]);
+  const lines = useMemo(() => chart && <HourLines chart={chart} layout={layout} width={width} />, [chart, layout]);
   if (!chart) return <div class="chart" ref={ref} style={{ blockSize: `${height}px` }} />;
   const inWindow = selected !== null && shown ? shown.rows[selected - shown.first] : undefined;
   const popup =
@@ -114,7 +118,7 @@ export function DayBars({ kind, title, height, onTable }: DayBarsProps) {
     >
       {width > 0 && (
         <>
-          <HourLines chart={chart} layout={layout} width={width} />
+          {lines}
           <Scroller
             name={`${title}, ${chart.visibleDates}`}
             scrolling={scrolling}
@@ -125,7 +129,7 @@ export function DayBars({ kind, title, height, onTable }: DayBarsProps) {
               if (place < count) void select(place);
             }}
           >
-            {shown && <Bars key={chart.unit} kind={kind} chart={chart} layout={layout} first={shown.first} rows={shown.rows} />}
+            {drawn}
           </Scroller>
           {popup && selected !== null && selected < last && selected >= first && <PopupShape popup={popup} width={width} />}
         </>
@@ -176,9 +180,8 @@ function Bars({ kind, chart, layout, first, rows }: BarsProps) {
   const { pitch, baseline, height } = layout;
   const width = rows.length * pitch;
   const strong = widthIn("axisStrong");
-  const widest = useRef(0);
-  widest.current = Math.max(...rows.map((bar) => strong(bar.label)));
-  const labelled = new Set(geometry.labelled(layout, first, first + rows.length, widest.current));
+  const widest = Math.max(...rows.map((bar) => strong(bar.label)));
+  const labelled = new Set(geometry.labelled(layout, first, first + rows.length, widest));
   const gradient = `bars-of-${kind}`;
   return (
     <svg class="bars" data-accent={kind} width={width} height={height} style={{ insetInlineStart: `${first * pitch}px` }} aria-hidden="true">

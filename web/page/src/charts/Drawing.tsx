@@ -25,17 +25,19 @@ const sizes: { [font in ChartFont]: [weight: number, size: number] } = {
 };
 const mostScale = 1.5;
 
+/// As it was applied last; asking the styles would lay everything out.
 export function textScale(): number {
-  return parseFloat(getComputedStyle(document.documentElement).fontSize) / 16;
+  return Number(document.documentElement.dataset["scale"] ?? 1);
 }
 
 let canvas: CanvasRenderingContext2D | null = null;
+let family: string | undefined;
 const widths = new Map<string, number>();
 
 /// How wide a text is in a font of charts, as it is painted.
 export function widthIn(font: ChartFont): TextWidth {
   const [weight, size] = sizes[font];
-  const family = getComputedStyle(document.documentElement).getPropertyValue("--text-family");
+  family ??= getComputedStyle(document.documentElement).getPropertyValue("--text-family");
   const described = `${weight} ${size * Math.min(mostScale, textScale())}px ${family}`;
   return (text) => {
     const key = described + text;

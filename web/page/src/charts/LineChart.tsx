@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
-import { useEffect, useLayoutEffect, useRef, useState } from "preact/hooks";
+import { useEffect, useLayoutEffect, useMemo, useRef, useState } from "preact/hooks";
 import type { Action, LineChartAction } from "../engine/Action";
-import type { LineChartPage, LinePoint } from "../engine/Records";
+import type { LineChartPage, LinePoint, LineRow } from "../engine/Records";
 import { usePage, useRows, useSource } from "../engine/Source";
 import { ChartFrame } from "./ChartFrame";
-import { fromLeading, isMirrored, useGeometry, useSize } from "./Drawing";
+import { fromLeading, isMirrored, textScale, useGeometry, useSize } from "./Drawing";
 import type { LineLayout } from "./Geometry";
 import { Scroller, useScrolling } from "./Scroller";
 
@@ -52,7 +52,10 @@ export function LineChart({ kind, title, height, onTable }: LineChartProps) {
   const scrolling = useScrolling(() => {});
   const [low, high] = useMovingAxis(chart?.low ?? 0, chart?.high ?? 1);
   const isPair = chart?.lines.length === 2;
-  const layout = chart ? geometry.lineChart(width, height, chart) : undefined;
+  const scale = textScale();
+  const layout = useMemo(() => (chart ? geometry.lineChart(width, height, chart) : undefined), [width, height, chart, scale]);
+  const series = useMemo(() => splitInLines(chart?.lines ?? [], rows?.rows ?? []), [chart?.lines.length, rows]);
+  const dates = useMemo(() => [...new Set(series.flat().map((point) => point.date))].sort((one, other) => one - other), [series]);
   const contentWidth = layout?.contentWidth ?? 0;
   const plotWidth = layout?.plotWidth ?? 0;
   const { scroll, scrollTo } = scrolling;
@@ -74,7 +77,6 @@ export function LineChart({ kind, title, height, onTable }: LineChartProps) {
       return layout.bottom - share * (layout.bottom - layout.top);
     },
   };
-  const series = splitInLines(chart, rows?.rows ?? []);
   const touch = (date: number | null) => source.send(act({ didTouch: date }));
   const choose = (date: number | undefined) => {
     if (date === undefined) return;
@@ -85,7 +87,6 @@ export function LineChart({ kind, title, height, onTable }: LineChartProps) {
     }
     touch(date);
   };
-  const dates = [...new Set(series.flat().map((point) => point.date))].sort((one, other) => one - other);
   const selectedDate = Math.max(...chart.selection.map((point) => point?.date ?? -Infinity));
   const move = (steps: number) =>
     choose(
@@ -127,9 +128,9 @@ export function LineChart({ kind, title, height, onTable }: LineChartProps) {
   );
 }
 
-function splitInLines(chart: LineChartPage, points: LinePoint[]): LinePoint[][] {
+function splitInLines(lines: LineRow[], points: LinePoint[]): LinePoint[][] {
   let from = 0;
-  return chart.lines.map((line) => points.slice(from, (from += line.count)));
+  return lines.map((line) => points.slice(from, (from += line.count)));
 }
 
 // A new axis after scrolling is gone to, not jumped to.

@@ -27,6 +27,7 @@ function apply({ mode, textScale, reducesMotion }: Appearance): void {
   root.dataset["motion"] = reducesMotion ? "reduced" : "";
   root.style.fontSize = `${textScale * 100}%`;
   const whole = parseFloat(getComputedStyle(root).fontSize) / 16; // the browser's own size counts too
+  root.dataset["scale"] = String(whole);
   root.dataset["text"] = whole >= oneColumnFrom ? "stacked one-column" : whole >= stackedFrom ? "stacked" : "";
 }
 

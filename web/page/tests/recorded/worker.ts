@@ -72,8 +72,10 @@ async function load(): Promise<EngineModule> {
       const tapped = kind === "statistics" ? value.fastingChartAction?.didTapBar : undefined;
       const change = tapped === undefined ? changes[kind] : () => changes["didTapBar"]!(tapped);
       if (!change) return;
+      const before = { ...pages };
       change(value);
-      events.changed([...Object.keys(pages), ...Object.keys(lists)]);
+      const changed = Object.keys(pages).filter((page) => pages[page] !== before[page]);
+      events.changed(kind === "didDeleteFastOfRow" ? [...changed, "historyRows"] : changed);
     },
     page: (asked) => (asked === "sent" ? sent : (pages[asked] ?? null)),
     rows: (asked, first, count) => {
