@@ -9,8 +9,6 @@
 
 #include "cli/backup/DamagedSentence.h"
 #include "cli/options/OptionValues.h"
-#include "cli/report/Report.h"
-#include "cli/report/ReportJson.h"
 #include "cli/report/ReportText.h"
 #include "cli/report/RunSettings.h"
 #include "cli/terminal/Paint.h"
@@ -22,6 +20,7 @@
 #include "host/history/FastsCsv.h"
 #include "host/history/WeightsCsv.h"
 #include "host/import/PlanImport.h"
+#include "host/report/ReportJson.h"
 
 namespace mivo::cli {
 namespace {
@@ -108,13 +107,13 @@ tl::expected<History, ImportFault> readHistory(const ReportOptions& options, con
   return std::move(history).map_error([](BadRecord bad) { return ImportFault{std::move(bad)}; });
 }
 
-std::string drawn(const Report& report, const RunSettings& settings) {
+std::string drawn(const host::Report& report, const RunSettings& settings) {
   DashboardSettingsFeature::State flags;
-  if (settings.asJson) return reportJson(report, trends(report), screen(report, settings, flags));
+  if (settings.asJson) return reportJson(report, trends(report), screen(report, settings.report, flags));
   flags.showKetosisHours = true;  // a page has room for all seven
   flags.showDeepKetosisHours = true;
-  return reportText(report, screen(report, settings, flags), settings.weightUnit.value_or(settings.locale.weightUnit()),
-                    screenFormatters(), Paint::forStandardOutput());
+  return reportText(report, screen(report, settings.report, flags), settings.report.weightUnit, screenFormatters(),
+                    Paint::forStandardOutput());
 }
 
 int report(const ReportOptions& options, const RunSettings& settings, const UUIDGenerator& ids) {
@@ -124,7 +123,7 @@ int report(const ReportOptions& options, const RunSettings& settings, const UUID
     return refused(asks == ImportFault::Asks::nothing ? badData : wrongUsage,
                    withHelp(describe(bad), answeringOption(asks)));
   }
-  const std::string page = drawn(makeReport(*history, settings), settings);
+  const std::string page = drawn(makeReport(*history, settings.report), settings);
   if (history->endsBeforeStart) complain(describe(*history->endsBeforeStart));
   if (const auto fault = writeOutput(page)) return refused(badData, *fault);
   return done;

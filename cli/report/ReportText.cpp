@@ -17,6 +17,8 @@
 namespace mivo::cli {
 namespace {
 
+using host::Report;
+
 constexpr int pageWidth = 80, margin = 2, textWidth = pageWidth - 2 * margin;
 
 constexpr Ink inkOf(LegacyFastingZone zone) {

@@ -4,6 +4,8 @@
 #include <cstdint>
 
 #include "adapters/icu/Calendars.h"
+#include "adapters/icu/LocaleFormatters.h"
+#include "adapters/locale/MessageCatalogue.h"
 #include "adapters/system/SystemClock.h"
 #include "cli/options/OptionValues.h"
 
@@ -57,7 +59,17 @@ tl::expected<RunSettings, std::string> runSettings(const ReportOptions& options)
   if (!calendar) return wrong("--calendar", calendar.error());
   const auto instant = now(options.now, **zone);
   if (!instant) return tl::unexpected{instant.error()};
-  return RunSettings{*range, *instant, *calendar, *userLocale, *streaks, *weightUnit, *dateOrder, *asJson};
+  const host::ReportSettings report{*range, *instant, *calendar, *streaks,
+                                    weightUnit->value_or(userLocale->weightUnit())};
+  return RunSettings{report, *calendar, *userLocale, *weightUnit, *dateOrder, *asJson};
+}
+
+std::shared_ptr<const Dependencies> runDependencies(const RunSettings& settings) {
+  auto clients = std::make_shared<Dependencies>();
+  fillReportClients(*clients, settings.report);
+  clients->texts = std::make_shared<adapters::MessageCatalogue>(settings.locale.tag());
+  adapters::makeFormatters(settings.locale, *settings.calendar).fill(*clients);
+  return clients;
 }
 
 }  // namespace mivo::cli

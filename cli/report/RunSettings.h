@@ -10,19 +10,16 @@
 #include "adapters/time/ZonedCalendar.h"
 #include "cli/report/ReportOptions.h"
 #include "host/dates/WrittenDate.h"
-#include "mivo/model/Date.h"
-#include "mivo/model/StreakSettings.h"
-#include "mivo/model/TimeRange.h"
+#include "host/report/Report.h"
+#include "mivo/platform/Dependencies.h"
 
 namespace mivo::cli {
 
 /// What `ReportOptions` mean.
 struct RunSettings {
-  TimeRange range;
-  Date now;
-  std::shared_ptr<const adapters::ZonedCalendar> calendar;
+  host::ReportSettings report;
+  std::shared_ptr<const adapters::ZonedCalendar> calendar;  ///< that of the report
   adapters::UserLocale locale;
-  StreakSettings streaks;
   std::optional<WeightUnit> weightUnit;  ///< as it was asked for
   std::optional<host::DateOrder> dateOrder;
   bool asJson = false;
@@ -32,5 +29,8 @@ struct RunSettings {
 
 /// Or a sentence that names the option, what was expected and what was found.
 tl::expected<RunSettings, std::string> runSettings(const ReportOptions& options);
+
+/// The clients of one run, in its locale.
+std::shared_ptr<const Dependencies> runDependencies(const RunSettings& settings);
 
 }  // namespace mivo::cli

@@ -1,17 +1,17 @@
 // SPDX-License-Identifier: MIT
-#include "cli/report/Report.h"
+#include "host/report/Report.h"
 
+#include <array>
 #include <cstdint>
+#include <memory>
 #include <span>
 
-#include "adapters/icu/LocaleFormatters.h"
-#include "adapters/locale/MessageCatalogue.h"
 #include "mivo/calculations/RangeStarts.h"
 #include "mivo/calculations/Recomputed.h"
 #include "mivo/statistics/ComposeScreen.h"
 #include "mivo/statistics/ScreenInput.h"
 
-namespace mivo::cli {
+namespace mivo::host {
 namespace {
 
 struct StandingClock final : DateGenerator {
@@ -36,18 +36,14 @@ struct SilentReporter final : IssueReporter {
 
 }  // namespace
 
-std::shared_ptr<const Dependencies> runDependencies(const RunSettings& settings) {
-  auto clients = std::make_shared<Dependencies>();
-  clients->date = std::make_shared<StandingClock>(settings.now);
-  clients->uuid = std::make_shared<NumberedUUIDs>();
-  clients->calendar = clients->currentCalendar = settings.calendar;
-  clients->texts = std::make_shared<adapters::MessageCatalogue>(settings.locale.tag());
-  adapters::makeFormatters(settings.locale, *settings.calendar).fill(*clients);
-  clients->issueReporter = std::make_shared<SilentReporter>();
-  return clients;
+void fillReportClients(Dependencies& clients, const ReportSettings& settings) {
+  clients.date = std::make_shared<StandingClock>(settings.now);
+  clients.uuid = std::make_shared<NumberedUUIDs>();
+  clients.calendar = clients.currentCalendar = settings.calendar;
+  clients.issueReporter = std::make_shared<SilentReporter>();
 }
 
-Report makeReport(const host::History& history, const RunSettings& settings) {
+Report makeReport(const History& history, const ReportSettings& settings) {
   Report report{
       settings.now, settings.range,
       recomputed(StatsContainer::empty(), entries(history.fasts), settings.streaks, settings.range, settings.now)};
@@ -55,12 +51,12 @@ Report makeReport(const host::History& history, const RunSettings& settings) {
   return report;
 }
 
-std::vector<Card> screen(const Report& report, const RunSettings& settings,
+std::vector<Card> screen(const Report& report, const ReportSettings& settings,
                          const DashboardSettingsFeature::State& flags) {
   ScreenInput input{.stats = report.stats, .timeRange = report.range, .dashboardSettings = flags, .now = report.now};
   input.countingEntity = settings.streaks.countingEntity;
   input.daysOfThisRange = daysOfThisRange(report.range, *settings.calendar, report.now);
-  input.weightUnit = settings.weightUnit.value_or(settings.locale.weightUnit());
+  input.weightUnit = settings.weightUnit;
   return composeScreen(input, screenFormatters());
 }
 
@@ -77,4 +73,4 @@ std::vector<ZoneTrendDisplay> trends(const Report& report) {
   return rows;
 }
 
-}  // namespace mivo::cli
+}  // namespace mivo::host

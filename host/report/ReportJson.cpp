@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "cli/report/ReportJson.h"
+#include "host/report/ReportJson.h"
 
 #include <variant>
 
@@ -55,18 +55,13 @@ struct JsonFields<ClosedDateRange> : std::true_type {
   }
 };
 
-}  // namespace mivo::host
-
-namespace mivo::cli {
 namespace {
-
-using host::JsonWriter;
 
 void writeCard(JsonWriter& json, const Card& card) {
   json.beginObject(JsonWriter::Layout::spread);
   json.key("card");
-  host::writeJson(json, card.kind);
-  std::visit([&](const auto& content) { host::writeJsonFields(json, content); }, card.content);
+  writeJson(json, card.kind);
+  std::visit([&](const auto& content) { writeJsonFields(json, content); }, card.content);
   json.endObject();
 }
 
@@ -76,13 +71,13 @@ std::string reportJson(const Report& report, std::span<const ZoneTrendDisplay> t
   JsonWriter json;
   json.beginObject(JsonWriter::Layout::spread);
   json.key("now");
-  host::writeJson(json, report.now);
+  writeJson(json, report.now);
   json.key("timeRange");
-  host::writeJson(json, report.range);
+  writeJson(json, report.range);
   json.key("stats");
-  host::writeJson(json, report.stats);
+  writeJson(json, report.stats);
   json.key("trends");
-  host::writeJson(json, trends);
+  writeJson(json, trends);
   json.key("screen");
   json.beginArray(JsonWriter::Layout::spread);
   for (const Card& card : cards) writeCard(json, card);
@@ -91,4 +86,4 @@ std::string reportJson(const Report& report, std::span<const ZoneTrendDisplay> t
   return std::move(json).text();
 }
 
-}  // namespace mivo::cli
+}  // namespace mivo::host

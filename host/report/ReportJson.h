@@ -4,11 +4,11 @@
 #include <span>
 #include <string>
 
-#include "cli/report/Report.h"
+#include "host/report/Report.h"
 
-namespace mivo::cli {
+namespace mivo::host {
 
 /// {"now", "timeRange", "stats": all fields of the container, "trends": the rows in zone order, "screen": the cards}.
 std::string reportJson(const Report& report, std::span<const ZoneTrendDisplay> trends, std::span<const Card> cards);
 
-}  // namespace mivo::cli
+}  // namespace mivo::host
