@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "adapters/icu/LocaleFormatters.h"
+#include "adapters/texts/LocaleFormatters.h"
 
-#include "adapters/icu/DateFormatters.h"
-#include "adapters/icu/QuantityFormatters.h"
+#include "adapters/texts/DateFormatters.h"
+#include "adapters/texts/QuantityFormatters.h"
 
 namespace mivo::adapters {
 
@@ -26,13 +26,14 @@ PageClients LocaleFormatters::pageClients(const Calendar& calendar, const TextLo
           .masses = *massFormatter};
 }
 
-LocaleFormatters makeFormatters(const UserLocale& locale, const ZonedCalendar& calendar) {
-  return {.hourMinDurationUnitFormatter = durationFormatter(locale, DurationUnits::hoursAndMinutes),
-          .hourDurationUnitFormatter = durationFormatter(locale, DurationUnits::hours),
-          .dateFormatter = dateFormatter(locale, calendar),
-          .dateIntervalFormatter = dateIntervalFormatter(locale, calendar),
-          .massFormatter = massFormatter(locale),
-          .numberFormatter = numberFormatter(locale)};
+LocaleFormatters makeFormatters(const Client<QuantityTexts>& quantities, const Client<DateTexts>& dates,
+                                const ZonedCalendar& calendar) {
+  return {.hourMinDurationUnitFormatter = durationFormatter(quantities, DurationUnits::hoursAndMinutes),
+          .hourDurationUnitFormatter = durationFormatter(quantities, DurationUnits::hours),
+          .dateFormatter = dateFormatter(dates, calendar),
+          .dateIntervalFormatter = dateIntervalFormatter(dates, calendar),
+          .massFormatter = massFormatter(quantities),
+          .numberFormatter = numberFormatter(quantities)};
 }
 
 }  // namespace mivo::adapters

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "adapters/icu/UserLocale.h"
+#include "adapters/texts/DateTexts.h"
+#include "adapters/texts/QuantityTexts.h"
 #include "adapters/time/ZonedCalendar.h"
 #include "mivo/pages/PageClients.h"
 #include "mivo/platform/Dependencies.h"
@@ -23,7 +24,8 @@ struct LocaleFormatters {
   PageClients pageClients(const Calendar& calendar, const TextLookup& texts, Date now) const;
 };
 
-/// Cheap: what is costly to open is opened on its first use and kept.
-LocaleFormatters makeFormatters(const UserLocale& locale, const ZonedCalendar& calendar);
+/// On texts of one locale, those of dates made for the calendar.
+LocaleFormatters makeFormatters(const Client<QuantityTexts>& quantities, const Client<DateTexts>& dates,
+                                const ZonedCalendar& calendar);
 
 }  // namespace mivo::adapters
