@@ -1,6 +1,10 @@
 # Warnings and instrumentation that every target of this build shares; never exported.
 add_library(mivo_warnings INTERFACE)
-target_compile_options(mivo_warnings INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion)
+target_compile_options(mivo_warnings INTERFACE -Wall -Wextra -Wpedantic)
+if(NOT CMAKE_UNITY_BUILD) # there a file sees what another one has for itself
+  target_compile_options(mivo_warnings INTERFACE -Wshadow)
+endif()
+target_compile_options(mivo_warnings INTERFACE -Wconversion)
 if(CMAKE_CXX_COMPILER_ID STREQUAL GNU AND (MIVO_SANITIZE OR NOT CMAKE_BUILD_TYPE STREQUAL "Debug"))
   # As soon as it optimises, GCC 12 and 14 take variants and optionals that are copied or moved for uninitialised, and
   # GCC 12 takes `"a" + text` for a copy onto itself.
@@ -12,6 +16,10 @@ endif()
 if(CMAKE_CXX_COMPILER_ID MATCHES Clang)
   # The stable_sort of GCC 12's library calls what that library deprecates.
   target_compile_options(mivo_warnings INTERFACE -Wno-deprecated-declarations)
+endif()
+if(MIVO_WEB)
+  # Nothing there is larger than 32 bits can say.
+  target_compile_options(mivo_warnings INTERFACE -Wno-shorten-64-to-32)
 endif()
 if(MIVO_WARNINGS_AS_ERRORS)
   target_compile_options(mivo_warnings INTERFACE -Werror)

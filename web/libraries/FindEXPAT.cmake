@@ -1,0 +1,2 @@
+# EXPAT for the browser: web/libraries compiles it.
+set(EXPAT_FOUND TRUE)
