@@ -3,7 +3,7 @@
 # mivo_demand_portable(<target>...): stops where one of them links, over however many others, a room that is NATIVE or a
 # library of which it is not known that it compiles anywhere; says on which way.
 function(mivo_demand_portable)
-  set(anywhere tl::expected SQLiteCpp sqlite3 csv EXPAT::EXPAT mivo_warnings)
+  set(anywhere tl::expected nlohmann_json::nlohmann_json SQLiteCpp sqlite3 csv EXPAT::EXPAT mivo_warnings)
   set(ways ${ARGN})
   set(seen "")
   while(ways)

@@ -74,6 +74,8 @@ class Builder final : public nlohmann::json_sax<json> {
 }  // namespace
 
 JSONValue NlohmannDecoder::decoded(std::string_view text) const {
+  // The library takes it for the end.
+  if (text.find('\0') != std::string_view::npos) throw DecodingError{"not JSON: it has a byte of value 0"};
   Builder builder;
   json::sax_parse(text, &builder);
   return std::move(builder.root);

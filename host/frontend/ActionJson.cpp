@@ -13,14 +13,10 @@ bool isOneOf(std::string_view name, JsonCases<Case...>) {
   return ((name == typeName<Case>()) || ...);
 }
 
-bool isOfPages(const rapidjson::Value& json) {
-  const bool isPair = json.IsObject() && json.MemberCount() == 1;
-  if (!isPair && !json.IsString()) return false;
-  return isOneOf(textOf(isPair ? json.MemberBegin()->name : json), ListedCasesOf<PageAction::Action>{});
-}
+bool isOfPages(const JSONValue& json) { return isOneOf(namedCase(json).name, ListedCasesOf<PageAction::Action>{}); }
 
 template <class Action>
-tl::expected<PersonAction, std::string> readAs(const rapidjson::Value& json) {
+tl::expected<PersonAction, std::string> readAs(const JSONValue& json) {
   auto read = readJson<Action>(json);
   if (!read) return tl::unexpected{describe(read.error())};
   return PersonAction{*std::move(read)};

@@ -10,8 +10,8 @@ inline void writeJson(JsonWriter& json, Screen screen) { json.string(rawValue(sc
 
 /// Screens have names of their own, which the pages call them by.
 template <>
-inline JsonRead<Screen> readJson<Screen>(const rapidjson::Value& json) {
-  const auto screen = json.IsString() ? screenFrom(textOf(json)) : std::nullopt;
+inline JsonRead<Screen> readJson<Screen>(const JSONValue& json) {
+  const auto screen = json.text() ? screenFrom(*json.text()) : std::nullopt;
   if (!screen) return expectedInJson("the name of a screen");
   return *screen;
 }
