@@ -160,14 +160,14 @@ void Frontend::follow() {
   if (!told.empty()) observers.notify(told);
 }
 
-bool Frontend::Asked::follow(const PageSource& source) {
+bool Frontend::Asked::follow(const PageSource& from) {
   std::vector<Stamp> now;
-  read(source, now);
+  read(from, now);
   const bool isFirst = !stamps;
   if (stamps == now) return false;
   stamps = std::move(now);
   if (!compose) return !isFirst;
-  auto composed = compose(source);
+  auto composed = compose(from);
   return composed && std::exchange(text, *composed) != *composed;
 }
 

@@ -77,7 +77,7 @@ class Frontend {
     std::string text = "null";
 
     /// Whether it reads differently than before.
-    bool follow(const PageSource& source);
+    bool follow(const PageSource& from);
   };
 
   void follow();
