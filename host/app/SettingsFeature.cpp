@@ -6,11 +6,8 @@
 namespace mivo::host {
 namespace {
 
-using Action = SettingsFeature::Action;
-using State = SettingsFeature::State;
-
 template <class... Cases>
-bool isOneOf(const Action& action) {
+bool isOneOf(const SettingsFeature::Action& action) {
   return (std::holds_alternative<Cases>(action) || ...);
 }
 
@@ -25,13 +22,15 @@ void changeStreaks(const UserDefaults& defaults, Change change) {
 
 }  // namespace
 
-bool isReadByStatistics(const Action& action) {
+bool isReadByStatistics(const SettingsFeature::Action& action) {
+  using Action = SettingsFeature::Action;
   return isOneOf<Action::didChooseGoal, Action::didChooseWeightUnit, Action::didChooseCards,
                  Action::didChooseCountingEntity, Action::didToggleBelowGoal, Action::didChooseLongestBreak,
                  Action::didChooseFirstWeekday>(action);
 }
 
-bool isOfReminders(const Action& action) {
+bool isOfReminders(const SettingsFeature::Action& action) {
+  using Action = SettingsFeature::Action;
   return isOneOf<Action::didToggleGoalReminder, Action::didToggleEatingWindowReminder, Action::didChooseEatingWindow>(
       action);
 }
@@ -42,9 +41,9 @@ auto SettingsFeature::reduce(State& state, const Action& action) const -> Effect
 }
 
 void SettingsFeature::on(State& state, const Action::onAppear&) const {
-  state.firstWeekday = firstWeekday(*userDefaults);
-  state.language = language(*userDefaults);
-  state.appearance = overridden(appearance(*userDefaults), state.given);
+  state.firstWeekday = host::firstWeekday(*userDefaults);
+  state.language = host::language(*userDefaults);
+  state.appearance = overridden(host::appearance(*userDefaults), state.given);
   state.reminders = reminderSettings(*userDefaults);
 }
 
@@ -104,7 +103,7 @@ void SettingsFeature::on(State& state, const Action::didToggleReducedMotion&) co
 
 void SettingsFeature::on(State& state, const Action::didOverrideAppearance& sent) const {
   state.given = sent.given;
-  state.appearance = overridden(appearance(*userDefaults), sent.given);
+  state.appearance = overridden(host::appearance(*userDefaults), sent.given);
 }
 
 void SettingsFeature::on(State& state, const Action::didToggleGoalReminder&) const {

@@ -16,6 +16,7 @@ StatisticsPage statisticsPage(std::span<const Card> cards) {
         content);
   if (auto trends = trendsCard(cards)) page.cards.push_back({CardKind::trend, {}, *std::move(trends)});
   std::vector<CardKind> kinds;
+  kinds.reserve(page.cards.size());
   for (const ShownCard& card : page.cards) kinds.push_back(card.kind);
   for (std::size_t place = 0; place < kinds.size(); ++place)
     for (int columns = 1; columns <= 3; ++columns)
