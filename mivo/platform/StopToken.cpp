@@ -33,8 +33,9 @@ bool StopSource::requestStop() noexcept {
     StopCallback* const next = shared->waiting.back();
     shared->waiting.pop_back();
     shared->running = next;
+    const std::function<void()> call = next->call;  // it may destroy the callback while it runs
     lock.unlock();
-    next->call();  // and it may be gone
+    call();
     lock.lock();
     shared->running = nullptr;
     shared->callbackEnded.notify_all();
