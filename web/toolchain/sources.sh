@@ -5,7 +5,8 @@ cache_folder() { echo "${MIVO_WEB_CACHE:-${XDG_CACHE_HOME:-$HOME/.cache}/mivo/we
 
 # source_version PACKAGE: of the source that an installed package was built from; nothing where it is not installed.
 source_version() {
-    dpkg-query -W -f '${db:Status-Status} ${source:Version}\n' "$1" 2> /dev/null | sed -n 's/^installed //p' | head -n 1
+    { dpkg-query -W -f '${db:Status-Status} ${source:Version}\n' "$1" 2> /dev/null || true; } |
+        sed -n 's/^installed //p' | head -n 1
 }
 
 # with_addresses COMMAND...: apt's command, with addresses of sources: a private list of what apt's own configuration says
