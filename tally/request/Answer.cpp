@@ -17,6 +17,8 @@ std::string_view statusLine(unsigned status) {
   switch (status) {
     case 200:
       return "HTTP/1.1 200 OK\r\n";
+    case notModified:
+      return "HTTP/1.1 304 Not Modified\r\n";
     case 400:
       return "HTTP/1.1 400 Bad Request\r\n";
     case 403:
@@ -53,6 +55,12 @@ void appendHeader(std::string& out, std::string_view name, std::string_view valu
   out.append(name).append(": ").append(value).append("\r\n");
 }
 
+void appendLength(std::string& out, std::size_t length) {
+  out += "Content-Length: ";
+  appendNumber(out, static_cast<std::int64_t>(length));
+  out += "\r\n";
+}
+
 }  // namespace
 
 Answer countAnswer(std::int64_t count) {
@@ -75,10 +83,10 @@ Answer refusalAnswer(const Refusal& refusal, unsigned retryAfterSeconds) {
 void appendAnswer(std::string& out, const Answer& answer, const AnswerFrame& frame) {
   out += statusLine(answer.status);
   appendHeader(out, "Date", frame.date);
-  out += contentType(answer.content);
-  out += "Content-Length: ";
-  appendNumber(out, static_cast<std::int64_t>((answer.shared ? *answer.shared : answer.body).size()));
-  out += "\r\nCache-Control: no-store\r\nX-Content-Type-Options: nosniff\r\n";
+  if (!answer.head) out += contentType(answer.content);
+  if (answer.status != notModified) appendLength(out, (answer.shared ? *answer.shared : answer.body).size());
+  out += answer.head ? std::string_view{*answer.head} : "Cache-Control: no-store\r\n";
+  out += "X-Content-Type-Options: nosniff\r\n";
   if (answer.retryAfterSeconds > 0) appendHeader(out, "Retry-After", std::to_string(answer.retryAfterSeconds));
   if (!answer.allow.empty()) appendHeader(out, "Allow", answer.allow);
   if (!answer.allowedOrigin.empty()) appendHeader(out, "Access-Control-Allow-Origin", answer.allowedOrigin);

@@ -14,6 +14,8 @@ struct Refusal {
   bool operator==(const Refusal&) const = default;
 };
 
+inline constexpr unsigned notModified = 304;  // the client has it already, so it has no body
+
 inline constexpr Refusal onlyGetAndHead{405, "only GET and HEAD are understood"};
 
 enum class Content { json, text };
@@ -23,6 +25,7 @@ struct Answer {
   Content content = Content::json;
   std::string body = {};
   std::shared_ptr<const std::string> shared = {};  // a body that many answers have, instead of their own
+  std::shared_ptr<const std::string> head = {};    // header lines of it, instead of type and `no-store`
   unsigned retryAfterSeconds = 0;                  // 0 leaves the header out
   std::string_view allow = {};                     // the methods of a 405
   std::string_view allowedOrigin = {};             // for other sites' pages; empty leaves the header out
@@ -41,8 +44,8 @@ struct AnswerFrame {
   bool isHttp11 = true;
 };
 
-/// Appends the answer as it goes over the wire. Every answer is `Cache-Control: no-store`: a count that is served from
-/// a cache is a wrong one. A shared body is left to whoever sends it, behind this.
+/// Appends the answer as it goes over the wire. An answer without a head of its own is `Cache-Control: no-store`: a
+/// count that is served from a cache is a wrong one. A shared body is left to whoever sends it, behind this.
 void appendAnswer(std::string& out, const Answer& answer, const AnswerFrame& frame);
 
 }  // namespace mivo::tally

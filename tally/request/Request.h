@@ -17,6 +17,8 @@ struct Request {
   std::string_view referer;
   std::string_view fetchSite;     // Sec-Fetch-Site
   std::string_view forwardedFor;  // the last X-Forwarded-For line: the nearest balancer's
+  std::string_view ifNoneMatch;
+  std::string_view acceptEncoding;
   bool isPrefetch = false;
   bool isHttp11 = true;
   bool keepAlive = true;

@@ -59,6 +59,8 @@ class Parser : public http::basic_parser<true> {
     if (equalsIgnoringCase(name, "Sec-Fetch-Site")) found.fetchSite = value;
     if (equalsIgnoringCase(name, "Referer")) found.referer = value;
     if (equalsIgnoringCase(name, "X-Forwarded-For")) found.forwardedFor = value;
+    if (equalsIgnoringCase(name, "If-None-Match")) found.ifNoneMatch = value;
+    if (equalsIgnoringCase(name, "Accept-Encoding")) found.acceptEncoding = value;
     const bool saysPurpose = equalsIgnoringCase(name, "Sec-Purpose") || equalsIgnoringCase(name, "Purpose") ||
                              equalsIgnoringCase(name, "X-Purpose") || equalsIgnoringCase(name, "X-Moz");
     if (saysPurpose && value.starts_with("pre")) found.isPrefetch = true;  // prefetch, prerender, preview

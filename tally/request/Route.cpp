@@ -59,6 +59,7 @@ Route routeOf(std::string_view target) {
   if (path == "/health") return ReadHealth{};
   if (path == "/metrics") return ReadMetrics{};
   if (path == "/robots.txt") return ReadRobots{};
+  if (path.starts_with('/')) return ReadFile{path};
   return nothingThere;
 }
 

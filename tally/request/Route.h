@@ -28,12 +28,17 @@ struct ReadMetrics {
 struct ReadRobots {
   bool operator==(const ReadRobots&) const = default;
 };
+/// Whatever else there may be, by its path: "/index.html".
+struct ReadFile {
+  std::string_view path;
+  bool operator==(const ReadFile&) const = default;
+};
 
 inline constexpr Refusal nothingThere{404, "there is nothing at this path"};
 
-using Route = std::variant<Refusal, ReadCount, AddVote, ReadRoadmap, ReadHealth, ReadMetrics, ReadRobots>;
+using Route = std::variant<Refusal, ReadCount, AddVote, ReadRoadmap, ReadHealth, ReadMetrics, ReadRobots, ReadFile>;
 
-/// What a request target asks for; a Refusal with 404 for an unknown path, with 400 for a counter's name or a delta
+/// What a request target asks for; a Refusal with 404 for one that is no path, with 400 for a counter's name or a delta
 /// that is wrong. Query parameters that are not `delta` are ignored, as is the query elsewhere. The views are into
 /// `target`.
 ///

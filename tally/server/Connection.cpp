@@ -11,6 +11,7 @@ namespace mivo::tally {
 namespace {
 
 constexpr std::chrono::seconds partingTime{2};
+constexpr std::size_t slowestBytesPerSecond = 8 << 10;  // at which a large answer is taken
 constexpr Refusal tooSlow{408, "the request did not arrive in time"};
 
 auto now() { return std::chrono::steady_clock::now(); }
@@ -167,7 +168,8 @@ void Connection::write() {
   outbox.sent(stream.writeNow(outbox.unsent(), error));
   if (error) return close();
   if (outbox.isEmpty()) return didWrite();
-  enter(Phase::sending, now() + work.options.requestTime);
+  const std::chrono::seconds forItsSize{asio::buffer_size(outbox.unsent()) / slowestBytesPerSecond};
+  enter(Phase::sending, now() + work.options.requestTime + forItsSize);
   holdUnsent();
   if (phase == Phase::closed) return;
   stream.write(outbox.unsent(), [self = shared_from_this()](error_code failure, std::size_t) {

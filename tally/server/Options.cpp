@@ -120,6 +120,10 @@ void addStore(CLI::App& app, ServeOptions& options, Texts& texts) {
                  "Holds the password of --store; the variable MIVO_TALLY_REDIS_PASSWORD may too")
       ->type_name("FILE");
   app.add_option("--roadmap", options.roadmap, "The list served as /data/roadmap-mivo.json")->type_name("FILE");
+  app.add_option(
+         "--page", options.page,
+         "Serve the files of this folder too: the page for browsers, which then votes here; read again on SIGHUP")
+      ->type_name("FOLDER");
   app.add_flag("--any-counter", options.countsAny, "Take votes for features that the roadmap does not list");
   addNumber(app, "--max-counters", options.mostCounters,
             "Counters kept; votes for a further one are refused. In Redis all keys of the database count")
@@ -147,7 +151,8 @@ void addLimits(CLI::App& app, ServeOptions& options, Texts& texts) {
   addNumber(app, "--votes-per-day", options.votesPerDay,
             "Votes up, and down, that one address has for a feature a day; 0 takes all")
       ->check(votes);
-  addSeconds(app, "--request-seconds", texts.requestSeconds, "Time to send a request, and to take its answer");
+  addSeconds(app, "--request-seconds", texts.requestSeconds,
+             "Time to send a request, and to take its answer; one more for each 8 KB of that");
   addSeconds(app, "--idle-seconds", texts.idleSeconds, "Time between requests");
   addSeconds(app, "--drain-seconds", texts.drainSeconds, "On SIGTERM, time for what clients have sent already");
   app.add_option("--max-connections", texts.mostConnections,

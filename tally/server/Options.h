@@ -23,6 +23,7 @@ struct ServeOptions {
   StoreAddress store;
   StoreTimes storeTimes;
   std::filesystem::path roadmap;      // empty: the example that is built in
+  std::filesystem::path page;         // a folder whose files are served too; empty: none
   std::filesystem::path certificate;  // empty: plain HTTP
   std::filesystem::path key;
   bool allowPlainHttp = false;
@@ -35,7 +36,7 @@ struct ServeOptions {
   LogDetail logDetail;
   bool showsPassword = false;  // on the command line, which everyone on the machine can read
   AllowedOrigins allowedOrigins;
-  std::chrono::seconds requestTime{10};  // from a request's first byte to its last, and to take an answer
+  std::chrono::seconds requestTime{10};  // from a request's first byte to its last, and to take a small answer
   std::chrono::seconds idleTime{60};     // between two requests
   std::chrono::seconds drainTime{2};     // for the next request of a connection that is kept, once told to stop
   std::size_t mostConnections = 20'000;

@@ -8,6 +8,7 @@
 #include <stdexcept>
 #include <vector>
 
+#include "tally/server/PageFiles.h"
 #include "tally/server/Roadmap.h"
 #include "tally/server/TlsCertificate.h"
 
@@ -29,7 +30,7 @@ Server::Server(asio::io_context& eventLoop, const ServeOptions& given, CounterSt
       store(counters),
       log(lines),
       service(
-          given, counters, loadRoadmap(given.roadmap),
+          given, counters, loadRoadmap(given.roadmap), loadPageFiles(given.page),
           [this](const std::string& name) { return certificate && hasName(*certificate, name); },
           [this] { return metricsText(); }),
       operations(eventLoop, counters, [this](std::size_t count) { metrics.batchSent(count); }),
@@ -125,6 +126,7 @@ void Server::awaitSignal() {
 // Each by itself: a slip in the roadmap must not keep a certificate from being renewed.
 void Server::reload() {
   reload("roadmap", [this] { service.replaceRoadmap(loadRoadmap(options.roadmap)); });
+  if (!options.page.empty()) reload("page", [this] { service.replacePage(loadPageFiles(options.page)); });
   if (!certificate) return;
   reload("certificate", [this] { certificate = loadCertificate(options.certificate, options.key); });
   tellOfCertificate();

@@ -11,7 +11,8 @@ namespace mivo::tally {
 /// Listens, and minds the connections: their number, their deadlines, the signals of whoever runs the server.
 ///
 /// SIGTERM and SIGINT: no new connection, what is in flight is finished, then `run` returns; a second one ends it at
-/// once. SIGHUP: certificate and roadmap are read again; the old one of either stays where the new one cannot be used.
+/// once. SIGHUP: certificate, roadmap and page are read again; the old one of each stays where the new one cannot be
+/// used.
 class Server {
  public:
   /// Throws std::runtime_error with one sentence where it cannot listen or read a file.

@@ -32,11 +32,12 @@ Hosts hostsOf(const ServeOptions& options, std::function<bool(const std::string&
 
 }  // namespace
 
-Service::Service(const ServeOptions& options, const CounterStore& counters, Roadmap served,
+Service::Service(const ServeOptions& options, const CounterStore& counters, Roadmap served, PageFiles pageServed,
                  std::function<bool(const std::string&)> isCertified, std::function<std::string()> writeMetrics)
     : policy{options.allowedOrigins, hostsOf(options, std::move(isCertified))},
       store(counters),
       roadmap(std::move(served)),
+      page(std::move(pageServed)),
       countsAny(options.countsAny),
       metricsText(std::move(writeMetrics)),
       hasAdminsDoor(options.admin.has_value()),
@@ -82,6 +83,10 @@ std::variant<Answer, Operation> Service::handle(const Request& request, Door doo
           },
           [&](const ReadRoadmap&) -> Handled { return Answer{.shared = roadmap.text}; },
           [&](const ReadHealth&) -> Handled { return health(); },
+          [&](const ReadFile& read) -> Handled {
+            if (auto file = page.answerTo(read.path, request)) return std::move(*file);
+            return refusalAnswer(nothingThere);
+          },
           [](const ReadRobots&) -> Handled { return Answer{.content = Content::text, .body = robots}; },
           [&](const ReadMetrics&) -> Handled { return Answer{.content = Content::text, .body = metricsText()}; },
       },

@@ -8,6 +8,7 @@
 #include "tally/request/Decision.h"
 #include "tally/server/Metrics.h"
 #include "tally/server/Options.h"
+#include "tally/server/PageFiles.h"
 #include "tally/server/RateLimiter.h"
 #include "tally/server/Roadmap.h"
 #include "tally/server/VoteAllowance.h"
@@ -22,7 +23,7 @@ enum class Door { everyones, admins };
 class Service {
  public:
   /// `isCertified` says whether the certificate has a name; `metricsText` writes the page of /metrics.
-  Service(const ServeOptions& options, const CounterStore& store, Roadmap roadmap,
+  Service(const ServeOptions& options, const CounterStore& store, Roadmap roadmap, PageFiles page,
           std::function<bool(const std::string&)> isCertified, std::function<std::string()> metricsText);
 
   std::variant<Answer, Operation> handle(const Request& request, Door door, const asio::ip::address& client,
@@ -32,6 +33,7 @@ class Service {
   /// Adds what a web page needs to be allowed to read the answer.
   void allowOrigin(const Request& request, Answer& answer) const;
   void replaceRoadmap(Roadmap newer) { roadmap = std::move(newer); }
+  void replacePage(PageFiles newer) { page = std::move(newer); }
 
  private:
   Route routeOf(const Request& request, Door door) const;
@@ -42,6 +44,7 @@ class Service {
   VotePolicy policy;
   const CounterStore& store;
   Roadmap roadmap;
+  PageFiles page;
   bool countsAny;
   std::function<std::string()> metricsText;
   bool hasAdminsDoor;

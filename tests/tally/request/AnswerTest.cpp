@@ -40,6 +40,18 @@ TEST(AppendAnswer, writesARefusalWithItsHeaders) {
                     "Connection: close\r\n\r\n{\"error\":\"too many\"}"));
 }
 
+TEST(AppendAnswer, writesTheHeadOfAFileInPlaceOfItsOwn) {
+  Answer answer;
+  answer.shared = std::make_shared<const std::string>("{}");
+  answer.head = std::make_shared<const std::string>("Content-Type: text/css\r\n");
+  EXPECT_EQ(sent(answer, {}),
+            "HTTP/1.1 200 OK\r\nDate: Tue, 24 Nov 2026 21:50:00 GMT\r\nContent-Length: 2\r\nContent-Type: "
+            "text/css\r\nX-Content-Type-Options: nosniff\r\n\r\n");
+  EXPECT_EQ(sent({.status = notModified, .head = answer.head}, {}),
+            "HTTP/1.1 304 Not Modified\r\nDate: Tue, 24 Nov 2026 21:50:00 GMT\r\nContent-Type: "
+            "text/css\r\nX-Content-Type-Options: nosniff\r\n\r\n");
+}
+
 TEST(AppendAnswer, tellsAnOldClientThatTheConnectionStays) {
   const AnswerFrame old{.date = {}, .withBody = true, .keepAlive = true, .isHttp11 = false};
   EXPECT_NE(sent(countAnswer(1), old).find("Connection: keep-alive\r\n"), std::string::npos);
