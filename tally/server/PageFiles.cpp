@@ -21,11 +21,12 @@ constexpr std::string_view packedEnding = ".gz";
 constexpr std::string_view letters = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz";
 constexpr std::string_view hexadecimal = "0123456789abcdef";
 
-constexpr std::array<std::pair<std::string_view, std::string_view>, 9> types{{
+constexpr std::array<std::pair<std::string_view, std::string_view>, 10> types{{
     {".css", "text/css; charset=utf-8"},
     {".html", "text/html; charset=utf-8"},
     {".js", "text/javascript; charset=utf-8"},
     {".json", "application/json"},
+    {".mjs", "text/javascript; charset=utf-8"},
     {".png", "image/png"},
     {".svg", "image/svg+xml"},
     {".txt", "text/plain; charset=utf-8"},

@@ -93,7 +93,11 @@ const version = createHash("sha256").update([...written.keys(), ...written.value
 const files = ["./", ...[...written.keys()].filter((name) => name !== "index.html")];
 write("service-worker.js", (await bundle("src/serviceWorker/serviceWorker.ts", { VERSION: version, FILES: files }))[".js"]);
 
-const zipped = (name) => gzipSync(written.get(name), { level: 9 }).length;
-const total = [...written.keys()].filter((name) => !pictures.includes(name)).reduce((sum, name) => sum + zipped(name), 0);
-const scripts = [script, worker, "service-worker.js"].reduce((sum, name) => sum + zipped(name), 0);
+// Beside each file that it makes smaller, for servers that send one where it is wanted; they are no files of their own.
+const zipped = new Map([...written].map(([name, bytes]) => [name, gzipSync(bytes, { level: 9 })]));
+for (const [name, bytes] of zipped) if (bytes.length < 0.9 * written.get(name).length) writeFileSync(join(into, `${name}.gz`), bytes);
+
+const sizeOf = (names) => names.reduce((sum, name) => sum + zipped.get(name).length, 0);
+const total = sizeOf([...written.keys()].filter((name) => !pictures.includes(name)));
+const scripts = sizeOf([script, worker, "service-worker.js"]);
 console.log(`${into}: ${(total / 1000).toFixed(1)} KB gzipped, of it ${(scripts / 1000).toFixed(1)} KB script`);
