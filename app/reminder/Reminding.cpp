@@ -48,10 +48,9 @@ void Reminding::look() {
   const host::ReminderSettings settings = host::reminderSettings(defaults);
   if (!settings.isAny()) return Q_EMIT done();
   const Date now = adapters::SystemClock{}.now();
-  const host::ToldFasts told{host::toldFast(defaults, host::ReminderKind::goal),
-                             host::toldFast(defaults, host::ReminderKind::eatingWindow)};
   const auto records = history();
-  const auto next = records ? host::nextReminder(records->fasts, settings, told, now) : std::nullopt;
+  const auto next =
+      records ? host::nextReminder(records->fasts, settings, host::toldFasts(defaults), now) : std::nullopt;
   const bool isDue = next && next->due <= now;
   if (!records || (isDue && !tell(*next))) return alarm.setTo(now + untilTriedAgain);
   alarm.setTo(next && !isDue ? std::optional{next->due} : std::nullopt);

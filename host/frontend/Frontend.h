@@ -105,6 +105,7 @@ class Frontend {
   Done on(const PageAction::Cases::roadmap& sent);
   Done on(const PageAction::Cases::didTypeIdea& sent);
   Done on(const PageAction::Cases::didFindNoMailProgram& sent);
+  Done on(const PageAction::Cases::didTellReminder& sent);
   Done on(const PageAction::Cases::didExportRow& sent);
   Done on(const PageAction::Cases::didChooseWeightUnit& sent);
   Done on(const PageAction::Cases::didChooseFirstWeekday& sent);

@@ -161,6 +161,11 @@ struct PageAction {
     struct didFindNoMailProgram {
       bool operator==(const didFindNoMailProgram&) const = default;
     };
+    /// What "reminder" says is due was shown by who draws the pages, by its id.
+    struct didTellReminder {
+      std::string id;
+      bool operator==(const didTellReminder&) const = default;
+    };
     struct didExportRow {
       std::size_t row;  ///< of the sheet
       std::string path;
@@ -206,14 +211,15 @@ struct PageAction {
   };
   struct Action
       : Cases,
-        std::variant<
-            Cases::didTapFastingButton, Cases::didTapFast, Cases::didDeleteFastOfRow, Cases::didDeleteEditedFast,
-            Cases::didTapWeight, Cases::didDeleteWeightOfRow, Cases::didDeleteEditedWeight, Cases::didChooseTimeRange,
-            Cases::didDismissTip, Cases::didSeeFastingBars, Cases::didSeeEatingBars, Cases::weightChart,
-            Cases::weightFastingChart, Cases::goalChoice, Cases::dateChoice, Cases::roadmap, Cases::didTypeIdea,
-            Cases::didFindNoMailProgram, Cases::didExportRow, Cases::didChooseWeightUnit, Cases::didChooseFirstWeekday,
-            Cases::didChooseLanguage, Cases::didChooseAppearance, Cases::didChooseTextSize, Cases::didToggleCard,
-            Cases::didChooseCounted, Cases::didChooseLongestBreak, Cases::didChooseEatingWindow> {
+        std::variant<Cases::didTapFastingButton, Cases::didTapFast, Cases::didDeleteFastOfRow,
+                     Cases::didDeleteEditedFast, Cases::didTapWeight, Cases::didDeleteWeightOfRow,
+                     Cases::didDeleteEditedWeight, Cases::didChooseTimeRange, Cases::didDismissTip,
+                     Cases::didSeeFastingBars, Cases::didSeeEatingBars, Cases::weightChart, Cases::weightFastingChart,
+                     Cases::goalChoice, Cases::dateChoice, Cases::roadmap, Cases::didTypeIdea,
+                     Cases::didFindNoMailProgram, Cases::didTellReminder, Cases::didExportRow,
+                     Cases::didChooseWeightUnit, Cases::didChooseFirstWeekday, Cases::didChooseLanguage,
+                     Cases::didChooseAppearance, Cases::didChooseTextSize, Cases::didToggleCard,
+                     Cases::didChooseCounted, Cases::didChooseLongestBreak, Cases::didChooseEatingWindow> {
     using variant::variant;
   };
 };

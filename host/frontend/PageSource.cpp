@@ -62,9 +62,15 @@ const HistoryFacts& PageSource::history() const {
   std::vector<Stamp> read{state.fasts.stamp(), state.now.stamp()};
   if (std::exchange(historyRead, read) == read) return historyFacts;
   auto next = host::historyFacts(state.fasts, state.now);
-  if (next != historyFacts) told = nextStamp();
+  if (next != historyFacts) rowsTold = nextStamp();
   historyFacts = std::move(next);
   return historyFacts;
+}
+
+const std::vector<HistoryMonth>& PageSource::historyMonths() const {
+  std::vector<Stamp> read{historyStamp(), day()};
+  if (std::exchange(monthsRead, read) != read) months = composeHistoryMonths(history(), clients());
+  return months;
 }
 
 Stamp PageSource::day() const {

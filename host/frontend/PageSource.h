@@ -72,7 +72,8 @@ class PageSource {
 
   const FastingPageFacts& fasting() const;
   const HistoryFacts& history() const;
-  Stamp historyStamp() const { return history(), told; }  ///< another one where a row reads differently
+  const std::vector<HistoryMonth>& historyMonths() const;
+  Stamp historyStamp() const { return history(), rowsTold; }  ///< another one where a row reads differently
   /// Another one on another day, whose texts of dates are others, and after `retell`.
   Stamp day() const;
   void retell() { retold = nextStamp(); }
@@ -86,16 +87,18 @@ class PageSource {
   Observed<bool> isDateRefused = false;  ///< what was typed last is no date
   Observed<Idea> idea = Idea{};
   Observed<Stamp> tick = Stamp{0}, tip = Stamp{0};
+  Observed<Stamp> told = Stamp{0};  ///< another one where a reminder was told
   Observed<BarRange> seenFastingBars = BarRange{}, seenEatingBars = BarRange{};
   mutable KeptLineChart weights, weightsAndFasting;
   /// Only while it is open.
   std::unique_ptr<Store<RoadmapListFeature>> roadmap;
 
  private:
-  mutable std::vector<Stamp> fastingRead, historyRead;
+  mutable std::vector<Stamp> fastingRead, historyRead, monthsRead;
   mutable FastingPageFacts fastingFacts;
   mutable HistoryFacts historyFacts;
-  mutable Stamp told = nextStamp();
+  mutable std::vector<HistoryMonth> months;
+  mutable Stamp rowsTold = nextStamp();
   mutable Date toldAt;
   mutable Stamp retold = nextStamp();
   mutable ImportSheet lastImport;

@@ -76,6 +76,11 @@ MailPage mailPage(Source source) {
           .body = feedbackMessage(text, replyTo)};
 }
 
+std::optional<Reminder> nextReminderOf(Source source) {
+  return nextReminder(*source.state.fasts, source.state.settings.reminders,
+                      toldFasts(*source.dependencies().userDefaults), source.clients().now);
+}
+
 DateChoicePage dateChoicePage(Source source) {
   const PageClients clients = source.clients();
   DateChoicePage page{composeDateTimeChoice(source.date, clients), source.isDateRefused, {}};

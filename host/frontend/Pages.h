@@ -14,8 +14,10 @@
 #include "host/frontend/PageSource.h"
 #include "host/frontend/StatisticsPage.h"
 #include "host/pages/BackupsPage.h"
+#include "host/pages/BrowserWords.h"
 #include "host/pages/CardSettingsPage.h"
 #include "host/pages/ControlWords.h"
+#include "host/pages/DueReminder.h"
 #include "host/pages/ExportSheet.h"
 #include "host/pages/FastSheet.h"
 #include "host/pages/HealthSheet.h"
@@ -131,6 +133,11 @@ inline void readsFasting(const PageSource& source, std::vector<Stamp>& stamps) {
   stamps.push_back(source.tick.stamp());
 }
 
+inline void readsReminder(const PageSource& source, std::vector<Stamp>& stamps) {
+  reads<&AppFeature::State::fasts, &AppFeature::State::settings>(source, stamps);
+  stamps.insert(stamps.end(), {source.told.stamp(), source.day()});
+}
+
 inline void readsChoices(const PageSource& source, std::vector<Stamp>& stamps) {
   readsSource<&PageSource::goal, &PageSource::date, &PageSource::isDateRefused>(source, stamps);
   reads<&AppFeature::State::fasts, &AppFeature::State::draft>(source, stamps);
@@ -158,6 +165,7 @@ std::optional<FastSheet> editedFastSheet(Source source);
 std::optional<SeveralFastsSheet> severalFastsSheet(Source source);
 std::optional<RestoreSheet> restoreSheet(Source source);
 MailPage mailPage(Source source);
+std::optional<Reminder> nextReminderOf(Source source);
 DateChoicePage dateChoicePage(Source source);
 SettingsFacts settingsFactsOf(Source source);
 /// What is wrong with the goal of the fast that is edited.
@@ -172,6 +180,8 @@ using Shown = StatisticsFeature::State;
 
 inline constexpr std::tuple pages{
     Page<ControlWords>{"words", readsNothing, [](Source s) { return std::optional{controlWords(s.texts())}; }},
+    Page<BrowserWords>{"browser", readsNothing,
+                       [](Source s) { return std::optional{browserWords(s.dependencies().languageTag, s.texts())}; }},
     Page<OpenScreens>{"screens", readsAll, [](Source s) { return std::optional{composeOpenScreens(s.state)}; }},
     Page<Message>{
         "message", reads<&AppState::failure, &AppState::undo>,
@@ -236,6 +246,8 @@ inline constexpr std::tuple pages{
     Page<RemindersPage>{
         "reminders", reads<&AppState::settings>,
         [](Source s) { return std::optional{composeReminders(s.state.settings.reminders, s.clients())}; }},
+    Page<DueReminder>{"reminder", readsReminder,
+                      [](Source s) { return std::optional{composeDueReminder(nextReminderOf(s), s.clients())}; }},
     Page<AboutPage>{
         "about", readsNothing,
         [](Source s) { return std::optional{composeAbout(s.services.about, s.services.libraries, s.texts())}; }},
@@ -255,6 +267,9 @@ inline constexpr std::tuple lists{
     PageList<std::string>{"historySpoken", readsHistoryRows,
                           [](Source s) -> std::size_t { return s.history().places.size(); },
                           [](Source s, std::size_t place) { return historySpoken(s.history(), place, s.clients()); }},
+    PageList<HistoryMonth>{"historyMonths", readsHistoryRows,
+                           [](Source s) -> std::size_t { return s.historyMonths().size(); },
+                           [](Source s, std::size_t place) { return s.historyMonths()[place]; }},
     PageList<WeightRow>{"weightRows", readsWeightRows, [](Source s) -> std::size_t { return s.state.weights->size(); },
                         [](Source s, std::size_t place) {
                           return composeWeightRow(*weightOf(s.state.weights, place),

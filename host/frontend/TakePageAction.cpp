@@ -195,6 +195,15 @@ Done Frontend::on(const Cases::didFindNoMailProgram&) {
   return sent(Action::didFail{noMailProgramText(source.texts())});
 }
 
+// Another one may be due by now.
+Done Frontend::on(const Cases::didTellReminder& shown) {
+  const auto next = nextReminderOf(source);
+  if (!next || composeDueReminder(next, source.clients()).id != shown.id) return {};
+  setToldFast(*source.dependencies().userDefaults, next->kind, next->fast);
+  source.told = nextStamp();
+  return {};
+}
+
 Done Frontend::on(const Cases::didExportRow& wanted) {
   const auto sheet = composeExportSheet(state().printsWeights, source.clients());
   if (auto done = placeIn<Cases::didExportRow>(wanted.row, sheet.rows.size()); !done) return done;

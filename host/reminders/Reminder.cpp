@@ -53,6 +53,10 @@ std::optional<Reminder> eatingWindowAfter(std::span<const FastRecord> fasts, con
 
 double tellableFor(ReminderKind kind) { return (kind == ReminderKind::goal ? 12 : 2) * secondsPerHour; }
 
+ToldFasts toldFasts(const UserDefaults& defaults) {
+  return {toldFast(defaults, ReminderKind::goal), toldFast(defaults, ReminderKind::eatingWindow)};
+}
+
 std::optional<Reminder> nextReminder(std::span<const FastRecord> fasts, const ReminderSettings& settings,
                                      const ToldFasts& told, Date now) {
   const FastRecord* running = runningFast(fasts);

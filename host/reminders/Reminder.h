@@ -28,6 +28,9 @@ struct ToldFasts {
   std::optional<UUID> goal = {}, eatingWindow = {};
 };
 
+/// As the settings have them, see `setToldFast`.
+ToldFasts toldFasts(const UserDefaults& defaults);
+
 /// What to tell the user next: at once where `due` is not after `now`, and else at `due`, unless the history, the
 /// settings or the clock have changed by then. Nothing where there is nothing to wait for.
 ///

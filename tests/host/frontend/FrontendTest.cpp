@@ -182,6 +182,7 @@ TEST_F(FrontendTest, composesEveryPageAndListOfTenYears) {
       lists);
   EXPECT_EQ(at("history", "/count"), "3650");
   EXPECT_EQ(at("weights", "/count"), "3650");
+  EXPECT_EQ(rowsAt("historyMonths", 1, 1, "/0/row"), "29");
   EXPECT_EQ(at("weightChart", "/lines/0/count"), "90");
   EXPECT_EQ(at("fastingChart", "/count"), "3652");
   EXPECT_EQ(rowsAt("historyRows", 0, 1, "/0/length"), "\"16h 0m\"");
@@ -319,6 +320,19 @@ TEST_F(FrontendTest, ticksWhereTimeChangesWhatIsSeen) {
   app().tick();
   EXPECT_EQ(app().state().now, world.clock->now());
   EXPECT_THAT(lastTold, Contains("fasting"));
+}
+
+TEST_F(FrontendTest, tellsAReminderOnce) {
+  app().page("reminder");
+  send(R"({"didTapStart": {"start": )" + hoursFromNow(-15) + R"(, "goalSeconds": 57600}})");
+  EXPECT_EQ(at("reminder", "/id"), "\"\"") << "nobody wants to be told";
+  EXPECT_THAT(send(R"({"settings": "didToggleGoalReminder"})"), Contains("reminder"));
+  EXPECT_EQ(at("reminder", "/due"), hoursFromNow(1));
+  EXPECT_EQ(at("reminder", "/title"), "\"Goal reached\"");
+  pass(secondsPerHour);
+  EXPECT_THAT(send(R"({"didTellReminder": "goal-00000000-0000-0000-0000-000000000000"})"), IsEmpty());
+  EXPECT_THAT(send(R"({"didTellReminder": )" + at("reminder", "/id") + "}"), ElementsAre("reminder"));
+  EXPECT_EQ(at("reminder", "/id"), "\"\"");
 }
 
 TEST_F(FrontendTest, scrollsAndSelectsInCharts) {
