@@ -3,8 +3,10 @@
 
 #include <algorithm>
 #include <array>
-#include <charconv>
+#include <cmath>
+#include <cstdint>
 #include <initializer_list>
+#include <string>
 #include <string_view>
 
 #include "drawing/badges/BadgePaths.h"
@@ -47,11 +49,14 @@ std::string joined(std::initializer_list<std::string_view> parts) {
   return text;
 }
 
-// Six digits, as SVG reads them whatever the locale.
+// Of a number from 0 on, as SVG reads it. `std::to_chars` of a double would bring tables of 100 KB into a module.
 std::string digits(double number) {
-  std::array<char, 32> text{};
-  const auto [end, error] = std::to_chars(text.begin(), text.end(), number, std::chars_format::general, 6);
-  return {text.data(), end};
+  constexpr std::int64_t one = 10000;
+  const std::int64_t rounded = std::llround(number * static_cast<double>(one));
+  std::string decimals = std::to_string(one + rounded % one);
+  decimals.front() = '.';
+  decimals.erase(decimals.find_last_not_of('0') + 1);
+  return std::to_string(rounded / one) + (decimals == "." ? "" : decimals);
 }
 
 std::string gradient(std::string_view name, std::string_view from, std::string_view to) {

@@ -2,6 +2,8 @@
 #include "web/drawing/Exchange.h"
 
 #include <cstdlib>
+#include <exception>
+#include <typeinfo>
 #include <utility>
 
 extern "C" {
@@ -48,8 +50,8 @@ std::vector<std::string> texts(const char* joined, std::size_t size) {
 
 }  // namespace mivo::web
 
-// The library's own would bring in all that exceptions stand on. Memory that cannot be had ends the module: the page
-// goes on without the picture.
+// The library's own would bring in all that exceptions stand on, down to what spells their names. What would throw ends
+// the module instead, and so does memory that cannot be had: the page goes on without the picture.
 void* operator new(std::size_t size) {
   void* memory = std::malloc(size == 0 ? 1 : size);
   if (memory == nullptr) __builtin_trap();
@@ -57,3 +59,13 @@ void* operator new(std::size_t size) {
 }
 void operator delete(void* memory) noexcept { std::free(memory); }
 void operator delete(void* memory, std::size_t) noexcept { std::free(memory); }
+
+extern "C" {
+void* __cxa_allocate_exception(std::size_t) noexcept { __builtin_trap(); }
+void __cxa_free_exception(void*) noexcept {}
+[[noreturn]] void __cxa_throw(void*, std::type_info*, void (*)(void*)) { __builtin_trap(); }
+void* __cxa_begin_catch(void*) noexcept { __builtin_trap(); }
+void __cxa_end_catch() {}
+[[noreturn]] void abort_message(const char*, ...) { __builtin_trap(); }
+}
+[[noreturn]] void std::terminate() noexcept { __builtin_trap(); }

@@ -67,6 +67,8 @@ TEST(BadgeArt, setsLongNumbersSmallerByTheirCharacters) {
 TEST(BadgeArt, writesPlacesInPlainDigits) {
   EXPECT_THAT(badgeArt(BadgeShape::milestone, 1, 1, "1", false).svg,
               HasSubstr("<g transform='translate(48 27.5) scale(7.2)'>"));
+  EXPECT_THAT(badgeArt(BadgeShape::streak, 10, 10, "10", false).svg,
+              HasSubstr("<g transform='translate(30 20.65) scale(1.5)'>"));
 }
 
 }  // namespace
