@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 // The window: a page with tabs below, or beside it where there is room, and what is presented over it.
+import type { Screen } from "mivo";
 import { useEffect, useState } from "preact/hooks";
 import { MessageBar } from "./controls/MessageBar";
 import { FileDrop } from "./data/FileDrop";
-import type { Screen } from "./engine/Action";
 import { usePage, useSend } from "./engine/Source";
 import { FastingPage } from "./fasting/FastingPage";
 import { pushedPages } from "./presented/pages";

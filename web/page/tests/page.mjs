@@ -6,11 +6,14 @@ import { extname, join } from "node:path";
 import { fileURLToPath } from "node:url";
 import puppeteer from "puppeteer-core";
 
-const folder = fileURLToPath(new URL("../built", import.meta.url));
-const recordings = fileURLToPath(new URL("recorded", import.meta.url));
+const built = fileURLToPath(new URL("../built", import.meta.url));
+/// The page on the compiled engine.
+export const onEngine = fileURLToPath(new URL("../built-on-engine", import.meta.url));
+const recordings = fileURLToPath(new URL("../generated", import.meta.url));
 const types = {
   ".html": "text/html",
   ".js": "text/javascript",
+  ".mjs": "text/javascript",
   ".css": "text/css",
   ".svg": "image/svg+xml",
   ".png": "image/png",
@@ -23,8 +26,8 @@ export const insecureHost = "mivo.test";
 
 const browsers = ["/usr/bin/chromium", "/usr/bin/chromium-browser", "/usr/bin/google-chrome"];
 
-/// Serves the page. `change` makes another recording of it; `replace` gives a file another content.
-export async function startServer({ change = (recording) => recording, replace = {} } = {}) {
+/// Serves a page. `change` makes another recording of it; `replace` gives a file another content.
+export async function startServer({ folder = built, port = 0, change = (recording) => recording, replace = {} } = {}) {
   const server = createServer((request, response) => {
     const path = new URL(request.url, "http://localhost").pathname;
     const name = path === "/" ? "index.html" : path.slice(1);
@@ -35,9 +38,10 @@ export async function startServer({ change = (recording) => recording, replace =
     const content = recorded ? JSON.stringify(change(JSON.parse(read()))) : replace[name] ? replace[name](read().toString()) : read();
     response.writeHead(200, { "content-type": types[extname(file)] ?? "text/plain", "cache-control": "no-cache" }).end(content);
   });
-  await new Promise((started) => server.listen(0, started));
+  await new Promise((started) => server.listen(port, started));
   return {
     url: `http://localhost:${server.address().port}/`,
+    port: server.address().port,
     replace,
     stop: () => {
       server.closeAllConnections();
@@ -46,10 +50,12 @@ export async function startServer({ change = (recording) => recording, replace =
   };
 }
 
-export async function startBrowser() {
+/// `options` as Puppeteer's.
+export async function startBrowser(options = {}) {
   const executablePath = browsers.find((path) => existsSync(path));
   if (!executablePath) throw new Error(`none of these browsers is installed: ${browsers.join(", ")}`);
-  return puppeteer.launch({ executablePath, args: ["--no-sandbox", "--disable-gpu", `--host-resolver-rules=MAP ${insecureHost} 127.0.0.1`] });
+  const args = ["--no-sandbox", "--disable-gpu", "--lang=en-GB", `--host-resolver-rules=MAP ${insecureHost} 127.0.0.1`];
+  return puppeteer.launch({ executablePath, args, ...options });
 }
 
 export const phone = { width: 390, height: 844, isMobile: true, hasTouch: true };

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
+import type { Action, DayBarRow, DayBarsPage, ScrollChartFeatureAction } from "mivo";
 import { useEffect, useLayoutEffect, useMemo } from "preact/hooks";
-import type { Action } from "../engine/Action";
-import type { DayBarRow, DayBarsPage } from "../engine/Records";
 import { usePage, useRows, useSource } from "../engine/Source";
 import { ChartFrame } from "./ChartFrame";
 import { fromLeading, isMirrored, textScale, useGeometry, useSize, widthIn } from "./Drawing";
@@ -12,13 +11,13 @@ const kinds = {
   fasting: {
     page: "fastingChart",
     bars: "fastingBars",
-    act: (action: unknown) => ({ statistics: { fastingChartAction: action } }) as Action,
+    act: (action: ScrollChartFeatureAction): Action => ({ statistics: { fastingChartAction: action } }),
     see: (range: { first: number; last: number }): Action => ({ didSeeFastingBars: range }),
   },
   eating: {
     page: "eatingChart",
     bars: "eatingBars",
-    act: (action: unknown) => ({ statistics: { eatingChartAction: action } }) as Action,
+    act: (action: ScrollChartFeatureAction): Action => ({ statistics: { eatingChartAction: action } }),
     see: (range: { first: number; last: number }): Action => ({ didSeeEatingBars: range }),
   },
 } as const;
@@ -69,7 +68,7 @@ export function DayBars({ kind, title, height, onTable }: DayBarsProps) {
     if (!shown || plotWidth === 0) return;
     const beforeTheEdge = layout.frameWidth - 2;
     const days = shown.rows
-      .map((bar, place) => [bar.start, (shown.first + place + 0.5) * pitch - scroll + beforeTheEdge])
+      .map((bar, place): readonly [number, number] => [bar.start, (shown.first + place + 0.5) * pitch - scroll + beforeTheEdge])
       .slice(first - shown.first, last - shown.first);
     source.send(act({ didUpdateVisibleDays: days }));
   }, [shown, first, last, pitch, chart?.selected === null ? 0 : scroll]); // the popup follows the selected bar

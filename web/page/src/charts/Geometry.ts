@@ -2,7 +2,7 @@
 // Where everything of a picture stands, in points. Everything runs from the leading edge: who paints mirrors. The rules
 // are those of drawing; this is how the page asks for them.
 
-import type { DayBarsPage, LineChartPage, PopupViewState, TimeAxisLabel } from "../engine/Records";
+import type { DayBarsPage, LineChartPage, TimeAxisLabel } from "mivo";
 
 export interface Point {
   x: number;
@@ -80,13 +80,13 @@ export interface Geometry {
   bar(layout: DayBarsLayout, place: number, value: number): Rectangle;
   barCorners(width: number, height: number): { top: number; bottom: number };
   labelled(layout: DayBarsLayout, first: number, last: number, widestLabel: number): number[];
-  popup(layout: DayBarsLayout, state: PopupViewState, barMiddle: number, value: number): Popup;
+  popup(layout: DayBarsLayout, state: NonNullable<DayBarsPage["popup"]>, barMiddle: number, value: number): Popup;
 
   lineChart(width: number, height: number, chart: LineChartPage): LineLayout;
-  labelsThatFit(labels: TimeAxisLabel[], from: number, to: number, width: number): { label: number; x: number; isCentred: boolean }[];
+  labelsThatFit(labels: readonly TimeAxisLabel[], from: number, to: number, width: number): { label: number; x: number; isCentred: boolean }[];
   gutterPlaces(ys: number[]): number[];
   hasMarks(plotWidth: number, pointsInPlot: number): boolean;
-  annotation(layout: LineLayout, innerWidth: number, isPair: boolean, at: Point, date: string, values: string[]): Annotation;
+  annotation(layout: LineLayout, innerWidth: number, isPair: boolean, at: Point, date: string, values: readonly string[]): Annotation;
 
   ring(seconds: number, span: number, isEating: boolean): { arcs: RingArc[]; head: Point };
   ringMark(at: number, span: number, textWidth: number, width: number, height: number): Point;

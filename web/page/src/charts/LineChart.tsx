@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
+import type { Action, LineChartActionAction, LineChartPage, LinePoint, LineRow } from "mivo";
 import { useEffect, useLayoutEffect, useMemo, useRef, useState } from "preact/hooks";
-import type { Action, LineChartAction } from "../engine/Action";
-import type { LineChartPage, LinePoint, LineRow } from "../engine/Records";
 import { usePage, useRows, useSource } from "../engine/Source";
 import { ChartFrame } from "./ChartFrame";
 import { fromLeading, isMirrored, textScale, useGeometry, useSize } from "./Drawing";
@@ -12,12 +11,12 @@ const kinds = {
   weight: {
     page: "weightChart",
     points: "weightPoints",
-    act: (action: LineChartAction): Action => ({ weightChart: action }),
+    act: (action: LineChartActionAction): Action => ({ weightChart: action }),
   },
   weightFasting: {
     page: "weightFastingChart",
     points: "weightFastingPoints",
-    act: (action: LineChartAction): Action => ({ weightFastingChart: action }),
+    act: (action: LineChartActionAction): Action => ({ weightFastingChart: action }),
   },
 } as const;
 
@@ -128,7 +127,7 @@ export function LineChart({ kind, title, height, onTable }: LineChartProps) {
   );
 }
 
-function splitInLines(lines: LineRow[], points: LinePoint[]): LinePoint[][] {
+function splitInLines(lines: readonly LineRow[], points: readonly LinePoint[]): LinePoint[][] {
   let from = 0;
   return lines.map((line) => points.slice(from, (from += line.count)));
 }

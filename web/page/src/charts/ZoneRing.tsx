@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-import type { RingMark } from "../engine/Records";
+import type { RingMark } from "mivo";
 import { useGeometry, useSize, widthIn, zones } from "./Drawing";
 import type { RingArc } from "./Geometry";
 
@@ -19,7 +19,7 @@ interface ZoneRingProps {
   seconds: number;
   span: number;
   isEating: boolean;
-  marks: RingMark[];
+  marks: readonly RingMark[];
 }
 
 /// The ring of a running fast or of the eating window. It runs clockwise in every layout.

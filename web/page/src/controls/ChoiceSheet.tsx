@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-import type { Choice } from "../engine/Records";
+import type { Choice } from "mivo";
 import { ChoiceRow } from "./Rows";
 import { Sheet } from "./Sheet";
 

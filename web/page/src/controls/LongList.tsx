@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 // A list of any length: rows are asked for, and drawn, in pieces that come into sight. A piece out of sight is as high as
 // it was last, or as so many rows usually are.
+import type { Lists } from "mivo";
 import type { ComponentChild } from "preact";
 import { useEffect, useLayoutEffect, useRef, useState } from "preact/hooks";
-import type { Lists } from "../engine/Pages";
 import { type ListName, useRows } from "../engine/Source";
 
 export const rowsOfAPiece = 24;

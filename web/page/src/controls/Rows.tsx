@@ -107,7 +107,7 @@ export function ChoiceRow({ text, chosen, capitalized = false, onClick }: Choice
 
 interface SegmentedControlProps {
   name: string;
-  options: string[];
+  options: readonly string[];
   chosen: number;
   onChoose: (place: number) => void;
 }

@@ -16,8 +16,8 @@ export function HealthSheet() {
   const choose = async () => {
     const [file] = await chooseFiles({ many: false });
     if (!file) return;
-    files.offer([file]);
-    send({ health: { didLink: file.name } });
+    const [path] = files.offer([file]);
+    if (path) send({ health: { didLink: path } });
   };
   return (
     <Sheet title={page.title} onClose={close}>

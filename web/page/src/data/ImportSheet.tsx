@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
+import type { ImportFeatureAction, RefusedRow } from "mivo";
 import { ActionButton } from "../controls/Buttons";
 import { Progress } from "../controls/Card";
 import { Problem } from "../controls/Fields";
 import { Sheet, SheetButtons } from "../controls/Sheet";
-import type { RefusedRow } from "../engine/Records";
 import { usePage, useSend } from "../engine/Source";
 import { chooseFiles, useFiles } from "../platform/files";
 
@@ -14,7 +14,7 @@ export function ImportSheet() {
   const files = useFiles();
   if (!page) return null;
   const close = () => send({ didClose: "import" });
-  const act = (action: unknown) => send({ importing: { presented: action } });
+  const act = (action: ImportFeatureAction) => send({ importing: { presented: action } });
   const choose = async () => files.bring(await chooseFiles({ many: true }));
   return (
     <Sheet title={page.title} onClose={close}>
@@ -48,7 +48,7 @@ export function ImportSheet() {
 }
 
 /// The rows that are not taken in, and why.
-export function RefusedList({ title, rows, more }: { title: string; rows: RefusedRow[]; more: string }) {
+export function RefusedList({ title, rows, more }: { title: string; rows: readonly RefusedRow[]; more: string }) {
   if (rows.length === 0) return null;
   return (
     <div class="stack">

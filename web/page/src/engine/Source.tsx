@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
 // Pages as components read them: each is fetched when it is first wanted, and anew when the engine says that it reads
 // differently. All that one action changed is fetched before any of it is drawn.
+import type { Action, Lists, Pages } from "mivo";
 import { createContext, type ComponentChildren } from "preact";
 import { useContext, useEffect, useState } from "preact/hooks";
-import type { Action } from "./Action";
 import type { Engine } from "./Engine";
-import type { Lists, Pages } from "./Pages";
 
 export type PageName = keyof Pages;
 export type ListName = keyof Lists;
@@ -22,8 +21,8 @@ export class Source {
 
   send = (action: Action): void => this.engine.send(action);
 
-  read<Name extends PageName>(name: Name): Pages[Name] | undefined {
-    return this.pages.get(name) as Pages[Name] | undefined;
+  read<Name extends PageName>(name: Name): NonNullable<Pages[Name]> | undefined {
+    return this.pages.get(name) as NonNullable<Pages[Name]> | undefined;
   }
 
   async load(names: PageName[]): Promise<void> {
@@ -69,7 +68,7 @@ export function useSend(): (action: Action) => void {
 }
 
 /// A page as it reads now; nothing until it was fetched for the first time.
-export function usePage<Name extends PageName>(name: Name): Pages[Name] | undefined {
+export function usePage<Name extends PageName>(name: Name): NonNullable<Pages[Name]> | undefined {
   const source = useSource();
   const [, redraw] = useState({});
   useEffect(() => {

@@ -1,10 +1,22 @@
 // SPDX-License-Identifier: MIT
-import type { Action } from "./Action";
+import type { Action, Lists, Pages } from "mivo";
 import type { Engine } from "./Engine";
-import type { FromWorker, ToWorker } from "./Messages";
-import type { Lists, Pages } from "./Pages";
+import type { FromWorker, Opening, ToWorker } from "./Messages";
 
 export type WrittenFile = Extract<FromWorker, { kind: "written" }>;
+
+/// Why the history is not open, in a sentence.
+export class NotOpened extends Error {
+  constructor(
+    sentence: string,
+    /// It is, and there are backups.
+    readonly isDamaged: boolean,
+  ) {
+    super(sentence);
+  }
+}
+
+const closesWithin = 1000;
 
 /// The engine in a worker of its own, where the database is.
 export class WorkerEngine implements Engine {
@@ -14,23 +26,35 @@ export class WorkerEngine implements Engine {
   private asked = 0;
   private offered = 0;
   private opening: { done: () => void; fail: (error: Error) => void } | null = null;
+  private closed: () => void = () => {};
   onWritten: (file: WrittenFile) => void = () => {};
+  /// It answers no more, for which it has this sentence.
+  onEnded: (sentence: string) => void = () => {};
 
   constructor(worker: Worker) {
     this.worker = worker;
     worker.onmessage = ({ data }: MessageEvent<FromWorker>) => this.take(data);
-    worker.onerror = (event) => this.opening?.fail(new Error(event.message));
+    worker.onerror = ({ message }) => (this.opening ? this.opening.fail(new NotOpened(message, false)) : this.onEnded(message));
   }
 
-  /// Resolves once the history is open; else fails with a sentence that says why it is not.
-  open(): Promise<void> {
-    this.post({ kind: "open" });
-    return new Promise((done, fail) => (this.opening = { done, fail }));
+  /// Resolves once the history is open; else fails with a `NotOpened`.
+  open(how: Opening = "asItIs"): Promise<void> {
+    this.post({ kind: "open", how });
+    return new Promise<void>((done, fail) => (this.opening = { done, fail })).finally(() => (this.opening = null));
   }
 
-  /// Lets go of the database. Nothing answers after that.
-  stop(): void {
+  /// Resolves once it has let go of the database. Nothing answers after that.
+  async stop(): Promise<void> {
+    this.post({ kind: "close" });
+    await new Promise<void>((closed) => {
+      this.closed = closed;
+      setTimeout(closed, closesWithin);
+    });
     this.worker.terminate();
+  }
+
+  setWatched(isNow: boolean): void {
+    this.post({ kind: "watched", isNow });
   }
 
   send(action: Action): void {
@@ -50,7 +74,7 @@ export class WorkerEngine implements Engine {
     this.post({ kind: "takeDatabase" });
   }
 
-  page<Name extends keyof Pages>(name: Name): Promise<Pages[Name] | null> {
+  page<Name extends keyof Pages>(name: Name): Promise<Pages[Name]> {
     return this.ask((id) => ({ kind: "page", id, name }));
   }
 
@@ -80,11 +104,13 @@ export class WorkerEngine implements Engine {
       case "opened":
         return this.opening?.done();
       case "failed":
-        return this.opening?.fail(new Error(message.sentence));
+        return this.opening?.fail(new NotOpened(message.sentence, message.isDamaged));
       case "changed":
         return this.listeners.forEach((tell) => tell(message.names));
       case "written":
         return this.onWritten(message);
+      case "closed":
+        return this.closed();
       case "answer":
         this.waiting.get(message.id)?.(message.value);
         this.waiting.delete(message.id);

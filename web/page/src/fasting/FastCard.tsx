@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
+import type { FastingPage, ZoneTimeText } from "mivo";
 import { ZoneRing } from "../charts/ZoneRing";
 import { ActionButton } from "../controls/Buttons";
 import { Card } from "../controls/Card";
 import { CautionLine, Icon, Swatch } from "../controls/Icon";
 import { NumberText } from "../controls/NumberText";
-import type { FastingPage, ZoneTimeText } from "../engine/Records";
 import { useSend } from "../engine/Source";
 
 /// The ring, the time in each zone, what can be changed, and the button that starts or ends a fast.
@@ -63,7 +63,7 @@ export function FastCard({ page }: { page: FastingPage }) {
 }
 
 /// How long a fast was in each zone: names over times, spread over the width.
-export function ZoneTimes({ zones }: { zones: ZoneTimeText[] }) {
+export function ZoneTimes({ zones }: { zones: readonly ZoneTimeText[] }) {
   return (
     <ul class="zone-times">
       {zones.map(({ zone, name, duration, isPresent }) => (

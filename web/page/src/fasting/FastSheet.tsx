@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+import type { Screen } from "mivo";
 import { useEffect, useState } from "preact/hooks";
 import { ZoneStrip } from "../charts/ZoneStrip";
 import { ActionButton } from "../controls/Buttons";
@@ -6,7 +7,6 @@ import { DateTimeSheet } from "../controls/DateTimeSheet";
 import { Problem, TextArea } from "../controls/Fields";
 import { CautionLine, Icon } from "../controls/Icon";
 import { Sheet, SheetButtons } from "../controls/Sheet";
-import type { Screen } from "../engine/Action";
 import { usePage, useSend } from "../engine/Source";
 import { ZoneTimes } from "./FastCard";
 import { GoalChoice } from "./GoalChoice";

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
+import type { Screen } from "mivo";
 import { ActionButton, Chip } from "../controls/Buttons";
 import { TextField } from "../controls/Fields";
 import { Sheet, SheetButtons } from "../controls/Sheet";
-import type { Screen } from "../engine/Action";
 import { usePage, useSend } from "../engine/Source";
 
 /// How long a fast is meant to be: the usual lengths, or one that is typed.

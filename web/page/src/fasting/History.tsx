@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+import type { HistoryRow } from "mivo";
 import { useRef, useState } from "preact/hooks";
 import { GoalMark, ZoneStrip } from "../charts/ZoneStrip";
 import { ActionButton, IconButton } from "../controls/Buttons";
@@ -9,7 +10,6 @@ import { NumberText } from "../controls/NumberText";
 import { ChoiceRow } from "../controls/Rows";
 import { Sheet } from "../controls/Sheet";
 import { SwipeRow } from "../controls/SwipeRow";
-import type { HistoryRow } from "../engine/Records";
 import { usePage, useRows, useSend } from "../engine/Source";
 
 /// The fasts that have ended, the latest first.

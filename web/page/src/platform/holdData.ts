@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
-// One tab has the database. Another one says so, and takes it over when it is asked to.
+// One tab has the database of a history. Another one says so, and takes it over when it is asked to.
 
-const lockName = "mivo-data";
-const channelName = "mivo-data";
 const answersWithin = 3000;
 
 export interface Holding {
@@ -11,28 +9,30 @@ export interface Holding {
 }
 
 /// Resolves with a holding once this tab has the data; with nothing where another one has it.
-export async function holdData(): Promise<Holding | null> {
-  return request({ ifAvailable: true });
+export async function holdData(history: string): Promise<Holding | null> {
+  return request(history, { ifAvailable: true });
 }
 
 /// Has the tab that holds the data let go of it. One that does not answer, asleep or frozen, is not waited for.
-export async function takeData(): Promise<Holding> {
-  new BroadcastChannel(channelName).postMessage("letGo");
-  const answer = await request({ signal: AbortSignal.timeout(answersWithin) }).catch(() => null);
-  return answer ?? (await request({ steal: true }))!;
+export async function takeData(history: string): Promise<Holding> {
+  new BroadcastChannel(nameOf(history)).postMessage("letGo");
+  const answer = await request(history, { signal: AbortSignal.timeout(answersWithin) }).catch(() => null);
+  return answer ?? (await request(history, { steal: true }))!;
 }
 
-function request(options: LockOptions): Promise<Holding | null> {
+const nameOf = (history: string) => `mivo-${history}`;
+
+function request(history: string, options: LockOptions): Promise<Holding | null> {
   return new Promise((resolve, reject) => {
     let letGo: () => void = () => {};
     let lose: (letGo: () => void) => void = (done) => done();
-    const channel = new BroadcastChannel(channelName);
+    const channel = new BroadcastChannel(nameOf(history));
     const onWanted = () => {
       channel.close();
       lose(letGo);
     };
     navigator.locks
-      .request(lockName, options, (lock) => {
+      .request(nameOf(history), options, (lock) => {
         if (!lock) return resolve(null);
         channel.onmessage = onWanted;
         resolve({ whenWanted: (told) => (lose = told) });

@@ -7,7 +7,6 @@ export async function askToNotify(): Promise<boolean> {
   return (await Notification.requestPermission()) === "granted";
 }
 
-const toldKey = "told";
 const longestTimer = 2 ** 31 - 1;
 
 /// Waits for what is due next, and tells it once.
@@ -16,7 +15,7 @@ export function notifyWhatIsDue(source: Source): void {
   const wait = () => {
     clearTimeout(timer);
     const next = source.read("reminder");
-    if (!next || next.id === "" || localStorage.getItem(toldKey) === next.id) return;
+    if (!next || next.id === "") return;
     timer = window.setTimeout(() => void tell(), Math.min(longestTimer, Math.max(0, next.due * 1000 - Date.now())));
   };
   const tell = async () => {
@@ -25,7 +24,7 @@ export function notifyWhatIsDue(source: Source): void {
     if (Notification.permission !== "granted") return;
     const registration = await navigator.serviceWorker.ready;
     await registration.showNotification(next.title, { body: next.sentence, tag: next.id, icon: "icon-192.png" });
-    localStorage.setItem(toldKey, next.id);
+    source.send({ didTellReminder: next.id });
   };
   if (!("Notification" in window) || !("serviceWorker" in navigator)) return;
   source.watch("reminder", wait);

@@ -17,8 +17,9 @@ const rules: ScriptPolicy = {
 };
 const policy = typeof trustedTypes === "undefined" ? rules : trustedTypes.createPolicy("mivo", rules);
 
-export function startEngineWorker(): Worker {
-  return new Worker(policy.createScriptURL(WORKER_FILE), { type: "module" });
+/// `name` is of the history that it is to open.
+export function startEngineWorker(name: string): Worker {
+  return new Worker(policy.createScriptURL(WORKER_FILE), { type: "module", name });
 }
 
 export function registerServiceWorker(): Promise<ServiceWorkerRegistration> {

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
+import type { BadgeFamilyPage } from "mivo";
 import { Badge } from "../controls/Badge";
 import { Card, CardHead, Progress, TappableCard } from "../controls/Card";
 import { NumberText } from "../controls/NumberText";
 import { PushedPage } from "../controls/PushedPage";
-import type { BadgeFamilyPage } from "../engine/Records";
 import { usePage, useSend } from "../engine/Source";
 
 type Shape = "milestone" | "streak";

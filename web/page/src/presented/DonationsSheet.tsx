@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+import type { DonationsFeatureAction } from "mivo";
 import { ActionButton } from "../controls/Buttons";
 import { Problem } from "../controls/Fields";
 import { Sheet, SheetButtons } from "../controls/Sheet";
@@ -9,7 +10,7 @@ export function DonationsSheet() {
   const page = usePage("donations");
   const send = useSend();
   if (!page) return null;
-  const act = (action: unknown) => send({ statistics: { destination: { presented: { donations: action } } } });
+  const act = (action: DonationsFeatureAction) => send({ statistics: { destination: { presented: { donations: action } } } });
   const close = () => send({ didClose: "donations" });
   return (
     <Sheet title={page.title} onClose={close}>

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
+import type { RoadmapItem } from "mivo";
 import { useEffect, useState } from "preact/hooks";
 import { ActionButton, Chip } from "../controls/Buttons";
 import { Card } from "../controls/Card";
 import { Problem } from "../controls/Fields";
 import { Icon, IconTile } from "../controls/Icon";
 import { PushedPage } from "../controls/PushedPage";
-import type { RoadmapItem } from "../engine/Records";
 import { usePage, useSend } from "../engine/Source";
 
 /// What may come: features with their votes, by state.

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // What stands over everything, by the screen that is open. Menus of rows are with their lists.
+import type { Action, Choice, Screen } from "mivo";
 import type { ShownTable } from "../App";
 import { ChoiceSheet } from "../controls/ChoiceSheet";
 import { DateTimeSheet } from "../controls/DateTimeSheet";
@@ -8,8 +9,6 @@ import { HealthSheet } from "../data/HealthSheet";
 import { ImportSheet } from "../data/ImportSheet";
 import { RestoreSheet } from "../data/RestoreSheet";
 import { SeveralFastsSheet } from "../data/SeveralFastsSheet";
-import type { Action, Screen } from "../engine/Action";
-import type { Choice } from "../engine/Records";
 import { usePage, useSend } from "../engine/Source";
 import { FastSheet } from "../fasting/FastSheet";
 import { GoalSheet } from "../fasting/GoalChoice";

@@ -11,7 +11,7 @@ export function TableSheet({ table }: { table: ShownTable }) {
   const eating = usePage("eatingChart");
   const weight = usePage("weightChart");
   const pair = usePage("weightFastingChart");
-  const points = (lines: { count: number }[] | undefined) => lines?.reduce((sum, line) => sum + line.count, 0);
+  const points = (lines: readonly { count: number }[] | undefined) => lines?.reduce((sum, line) => sum + line.count, 0);
   const counts = {
     fastingTable: fasting?.count,
     eatingTable: eating?.count,

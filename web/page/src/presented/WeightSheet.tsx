@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
+import type { AddWeightLogFeatureAction } from "mivo";
 import { useState } from "preact/hooks";
 import { ActionButton, FieldButton } from "../controls/Buttons";
 import { DateTimeSheet } from "../controls/DateTimeSheet";
 import { NumberField, Problem } from "../controls/Fields";
 import { Sheet, SheetButtons } from "../controls/Sheet";
-import type { WeightAction } from "../engine/Action";
 import { usePage, useSend } from "../engine/Source";
 
 /// Edits a weight of the list.
@@ -14,7 +14,7 @@ export function WeightSheet() {
   const send = useSend();
   const [choosesDate, chooseDate] = useState(false);
   if (!entry || !weights) return null;
-  const act = (action: WeightAction) => send({ editedWeight: { presented: action } });
+  const act = (action: AddWeightLogFeatureAction) => send({ editedWeight: { presented: action } });
   return (
     <Sheet title={weights.editLabel} onClose={() => send({ didClose: "editWeight" })}>
       <NumberField

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
+import type { Screen } from "mivo";
 import type { ComponentType } from "preact";
 import { BackupsPage } from "../data/BackupsPage";
-import type { Screen } from "../engine/Action";
 import { AboutPage } from "../settings/AboutPage";
 import { CardSettingsPage } from "../settings/CardSettingsPage";
 import { RemindersPage } from "../settings/RemindersPage";

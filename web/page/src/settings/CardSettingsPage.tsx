@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
+import type { CardGroup, CardSwitch } from "mivo";
 import { PushedPage } from "../controls/PushedPage";
 import { ControlRow, ListGroup, SegmentedControl, Stepper, SwitchRow } from "../controls/Rows";
-import type { CardSwitch } from "../engine/Records";
 import { usePage, useRows, useSend } from "../engine/Source";
 
 /// Which cards the statistics show, and what counts as a streak.
@@ -11,7 +11,7 @@ export function CardSettingsPage() {
   const hours = useRows("hourTexts", page?.longestBreak.value ?? 0, 1)?.rows[0];
   const send = useSend();
   if (!page || !words) return null;
-  const switches = (group: "cards" | "charts" | "trends", rows: CardSwitch[]) =>
+  const switches = (group: CardGroup, rows: readonly CardSwitch[]) =>
     rows.map(({ title, hours: detail, meaning, isShown }, row) => (
       <SwitchRow
         key={title}

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // What the user can choose. What belongs to the statistics, and what the app is, have a page of their own.
+import type { Screen } from "mivo";
 import { ControlRow, ListGroup, Stepper, SwitchRow, ValueRow } from "../controls/Rows";
-import type { Screen } from "../engine/Action";
 import { usePage, useRows, useSend } from "../engine/Source";
 import { StorageGroup } from "../platform/StorageGroup";
 

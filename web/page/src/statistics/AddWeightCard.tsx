@@ -1,16 +1,15 @@
 // SPDX-License-Identifier: MIT
+import type { AddWeightLogFeatureAction, NoticeCard } from "mivo";
 import { ActionButton, FieldButton, QuietButton } from "../controls/Buttons";
 import { Card, CardHead } from "../controls/Card";
 import { NumberField, Problem } from "../controls/Fields";
-import type { WeightAction } from "../engine/Action";
-import type { NoticeCard } from "../engine/Records";
 import { usePage, useSend } from "../engine/Source";
 
 /// Takes a weight in. Where it is narrow, field, date and button stand below each other.
 export function AddWeightCard({ card, inRow }: { card: NoticeCard; inRow: boolean }) {
   const form = usePage("addWeight");
   const send = useSend();
-  const act = (action: WeightAction) => send({ statistics: { addWeightLogAction: action } });
+  const act = (action: AddWeightLogFeatureAction) => send({ statistics: { addWeightLogAction: action } });
   const chooseDate = () => {
     if (form) send({ dateChoice: { didBegin: form.date } });
     send({ didOpen: "date" });

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
+import type { BadgeFigure, BadgesCard as Badges } from "mivo";
 import { Badge } from "../controls/Badge";
 import { CardHead, Progress, TappableCard } from "../controls/Card";
-import type { BadgeFigure, BadgesCard as Badges } from "../engine/Records";
 import { useSend } from "../engine/Source";
 
 export function BadgesCard({ card }: { card: Badges }) {

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
+import type * as Record from "mivo";
 import { EmptyChart } from "../charts/ChartFrame";
 import { DayBars } from "../charts/DayBars";
 import { LineChart, Mark } from "../charts/LineChart";
 import { Card, CardHead, CardLink } from "../controls/Card";
 import { NumberText } from "../controls/NumberText";
-import type * as Record from "../engine/Records";
 import { usePage, useSend } from "../engine/Source";
 import type { OpenTable } from "./StatisticsPage";
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
+import type { GoalWeightCard as GoalWeight } from "mivo";
 import { ActionButton } from "../controls/Buttons";
 import { CardHead, CardLink, Progress, TappableCard } from "../controls/Card";
-import type { GoalWeightCard as GoalWeight } from "../engine/Records";
 import { usePage, useSend } from "../engine/Source";
 import { Figure } from "./SummaryCard";
 

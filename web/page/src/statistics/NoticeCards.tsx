@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 // Cards that say something and offer at most one thing to do.
+import type { NoticeCard as Notice } from "mivo";
 import { ActionButton, IconButton } from "../controls/Buttons";
 import { Card, TappableCard } from "../controls/Card";
 import { Icon, IconTile } from "../controls/Icon";
-import type { NoticeCard as Notice } from "../engine/Records";
 import { usePage, useSend } from "../engine/Source";
 
 export function TipCard({ card }: { card: Notice }) {

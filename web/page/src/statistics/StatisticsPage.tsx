@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 // The statistics tab: a column of cards that scrolls; on wide windows rows of cards.
+import type { CardKind, NoticeCard as Notice, ShownCard, TimeRangeCard } from "mivo";
 import type { ComponentChild } from "preact";
 import { useEffect, useRef, useState } from "preact/hooks";
 import { SegmentedControl } from "../controls/Rows";
-import type { ShownCard, TimeRangeCard } from "../engine/Records";
 import { usePage, useSend } from "../engine/Source";
 import { AddWeightCard } from "./AddWeightCard";
 import { BadgesCard } from "./BadgesCard";
@@ -27,7 +27,7 @@ export function StatisticsPage({ wide, onTable }: StatisticsPageProps) {
   const send = useSend();
   const picker = useRef<HTMLDivElement>(null);
   const sticks = useGoneUnderTheTop(picker);
-  const range = page?.cards.find((card) => card.kind === "timeRange")?.content;
+  const range = page?.cards.map(timeRangeOf).find((card) => card !== null);
   const choose = (place: number) => send({ didChooseTimeRange: place });
   return (
     <main class="page statistics">
@@ -42,16 +42,17 @@ export function StatisticsPage({ wide, onTable }: StatisticsPageProps) {
       )}
       <div class="cards">
         {page?.cards.map((card) => {
-          if (card.kind === "timeRange" && wide) return null;
+          const picked = timeRangeOf(card);
+          if (picked && wide) return null;
           const [, ofTwo = 6, ofThree = 6] = card.sixths;
           return (
             <div key={card.kind} class={`slot of-${card.kind}`} style={{ "--of-two": ofTwo, "--of-three": ofThree }}>
-              {card.kind === "timeRange" ? (
+              {picked ? (
                 <div class="range-picker">
-                  <h2 class="text-section">{card.content.title}</h2>
-                  <p class="text-label secondary">{card.content.prompt}</p>
+                  <h2 class="text-section">{picked.title}</h2>
+                  <p class="text-label secondary">{picked.prompt}</p>
                   <div ref={picker}>
-                    <SegmentedControl name={card.content.title} options={card.content.options} chosen={card.content.selectedIndex} onChoose={choose} />
+                    <SegmentedControl name={picked.title} options={picked.options} chosen={picked.selectedIndex} onChoose={choose} />
                   </div>
                 </div>
               ) : (
@@ -64,6 +65,8 @@ export function StatisticsPage({ wide, onTable }: StatisticsPageProps) {
     </main>
   );
 }
+
+const timeRangeOf = ({ content }: ShownCard): TimeRangeCard | null => ("TimeRangeCard" in content ? content.TimeRangeCard : null);
 
 // On wide windows in the title row.
 function TimeRangeRow({ card, onChoose }: { card: TimeRangeCard; onChoose: (place: number) => void }) {
@@ -95,41 +98,42 @@ function useGoneUnderTheTop(element: { current: HTMLElement | null }): boolean {
 }
 
 function CardOfKind({ card, wide, onTable }: { card: ShownCard; wide: boolean; onTable: OpenTable }): ComponentChild {
+  const { kind, content } = card;
+  if ("NoticeCard" in content) return <NoticeOfKind kind={kind} card={content.NoticeCard} inRow={wide && card.sixths[2] === 2} />;
+  if ("SummaryCard" in content) return <SummaryCard card={content.SummaryCard} wide={wide} />;
+  if ("GoalWeightCard" in content) return <GoalWeightCard card={content.GoalWeightCard} />;
+  if ("BadgesCard" in content) return <BadgesCard card={content.BadgesCard} />;
+  if ("DayBarsCard" in content) {
+    const bars = kind === "eatingChart" ? "eating" : "fasting";
+    return <DayBarsChartCard kind={bars} card={content.DayBarsCard} height={wide || bars === "fasting" ? 200 : 160} onTable={onTable} />;
+  }
+  if ("WeightChartCard" in content) return <WeightChartCard card={content.WeightChartCard} height={wide ? 224 : 176} onTable={onTable} />;
+  if ("WeightFastingChartCard" in content)
+    return <WeightFastingChartCard card={content.WeightFastingChartCard} height={wide ? 236 : 216} onTable={onTable} />;
+  if ("TrendsCard" in content) return <TrendsCard card={content.TrendsCard} />;
+  return null; // the time range has a place of its own
+}
+
+function NoticeOfKind({ kind, card, inRow }: { kind: CardKind; card: Notice; inRow: boolean }): ComponentChild {
   const send = useSend();
-  switch (card.kind) {
+  switch (kind) {
     case "tip":
-      return <TipCard card={card.content} />;
+      return <TipCard card={card} />;
     case "start":
-      return <StartCard card={card.content} />;
+      return <StartCard card={card} />;
     case "configure":
-      return <ConfigureCard card={card.content} />;
-    case "summary":
-      return <SummaryCard card={card.content} wide={wide} />;
+      return <ConfigureCard card={card} />;
     case "overlappingFasts":
-      return <NoticeCard card={card.content} icon="warning" caution onClick={() => send({ didOpen: "overlaps" })} />;
+      return <NoticeCard card={card} icon="warning" caution onClick={() => send({ didOpen: "overlaps" })} />;
     case "donation":
-      return <TileCard card={card.content} icon="heart" onClick={() => send({ didOpen: "donations" })} />;
+      return <TileCard card={card} icon="heart" onClick={() => send({ didOpen: "donations" })} />;
     case "roadmap":
-      return <TileCard card={card.content} icon="feedback" onClick={() => send({ didOpen: "roadmap" })} />;
+      return <TileCard card={card} icon="feedback" onClick={() => send({ didOpen: "roadmap" })} />;
     case "healthData":
-      return <NoticeCard card={card.content} icon="health" onClick={() => send({ didOpen: "health" })} />;
+      return <NoticeCard card={card} icon="health" onClick={() => send({ didOpen: "health" })} />;
     case "addWeight":
-      return <AddWeightCard card={card.content} inRow={wide && card.sixths[2] === 2} />;
-    case "goalWeight":
-      return <GoalWeightCard card={card.content} />;
-    case "badges":
-      return <BadgesCard card={card.content} />;
-    case "fastingChart":
-      return <DayBarsChartCard kind="fasting" card={card.content} height={200} onTable={onTable} />;
-    case "eatingChart":
-      return <DayBarsChartCard kind="eating" card={card.content} height={wide ? 200 : 160} onTable={onTable} />;
-    case "weightChart":
-      return <WeightChartCard card={card.content} height={wide ? 224 : 176} onTable={onTable} />;
-    case "weightFastingChart":
-      return <WeightFastingChartCard card={card.content} height={wide ? 236 : 216} onTable={onTable} />;
-    case "trend":
-      return <TrendsCard card={card.content} />;
-    case "timeRange":
+      return <AddWeightCard card={card} inRow={inRow} />;
+    default:
       return null;
   }
 }

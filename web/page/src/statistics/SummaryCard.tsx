@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
+import type { SummaryCard as Summary } from "mivo";
 import { useLayoutEffect, useState } from "preact/hooks";
 import { useSize } from "../charts/Drawing";
 import { Card, CardHead } from "../controls/Card";
 import { NumberText } from "../controls/NumberText";
-import type { SummaryCard as Summary } from "../engine/Records";
 
 const steps = ["number-large", "number", "number-small", "number-row"];
 

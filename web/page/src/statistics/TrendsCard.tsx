@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
+import type { TrendCard, TrendsCard as Trends } from "mivo";
 import { useLayoutEffect, useRef, useState } from "preact/hooks";
 import { useSize } from "../charts/Drawing";
 import { Card, CardHead } from "../controls/Card";
-import type { TrendCard, TrendsCard as Trends } from "../engine/Records";
 
 export function TrendsCard({ card }: { card: Trends }) {
   return (

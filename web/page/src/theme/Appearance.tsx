@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // What the settings and the system say about how everything looks, on the root element, where the styles read it.
+import type { Appearance } from "mivo";
 import { useEffect, useState } from "preact/hooks";
-import type { Appearance } from "../engine/Records";
 import { usePage } from "../engine/Source";
 
 const systemDark = matchMedia("(prefers-color-scheme: dark)");

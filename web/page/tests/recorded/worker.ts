@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-// Pages as they were recorded once answer in the place of the engine. What is open, and what is chosen among a few, is
+// Pages that the engine once composed answer in its place. What is open, and what is chosen among a few, is
 // followed, so that the page can be driven; nothing else is decided.
-import type { Action } from "../../src/engine/Action";
+import type { Action } from "mivo";
 import { type EngineModule, events, serve } from "../../src/worker/serve";
 
 interface Recording {
@@ -58,7 +58,7 @@ const changes: Record<string, (value: any) => void> = {
     pages["fastingChart"] =
       chart.selected === selected
         ? { ...chart, selected: null, popup: null, spokenSelection: "" }
-        : { ...chart, selected, popup: { popupLabel: "16h 59m", popupXOffset: 0, popupYOffset: 0, popupWidth: 0 }, spokenSelection: "16h 59m" };
+        : { ...chart, selected, popup: { popupLabel: "16h 59m", popupXOffset: 10 * selected, popupYOffset: -150, popupWidth: 90 }, spokenSelection: "16h 59m" };
   },
 };
 
@@ -66,6 +66,7 @@ async function load(): Promise<EngineModule> {
   ({ pages, lists } = (await (await fetch(`recorded-${name}.json`)).json()) as Recording);
   return {
     open: async () => null,
+    isDamaged: () => false,
     send: (action) => {
       sent.push(action);
       const [kind, value]: [string, any] = typeof action === "string" ? [action, undefined] : Object.entries(action)[0]!;
@@ -79,19 +80,13 @@ async function load(): Promise<EngineModule> {
     },
     page: (asked) => (asked === "sent" ? sent : (pages[asked] ?? null)),
     rows: (asked, first, count) => {
-      const texts: Record<string, (place: number) => string> = {
-        days: (place) => `Day ${place}`,
-        hours: (place) => String(place).padStart(2, "0"),
-        minutes: (place) => String(place).padStart(2, "0"),
-        percentTexts: (place) => `${place}%`,
-        hourTexts: (place) => `${place}h`,
-      };
-      const text = texts[asked];
-      if (text) return Array.from({ length: count }, (_, index) => text(first + index));
+      if (asked === "days") return Array.from({ length: count }, (_, index) => `Day ${first + index}`); // of which there are millions
       return (lists[asked] ?? []).slice(first, first + count);
     },
     offer: () => {},
     database: () => new Uint8Array(16),
+    setWatched: () => {},
+    close: () => {},
   };
 }
 
