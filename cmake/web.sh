@@ -37,3 +37,13 @@ write_catalogues() {
         node web/engine/catalogues.mjs build/release/share/locale/$language/LC_MESSAGES/mivo.mo > build/web/$language.mjs
     done
 }
+
+# Against the types and the sample that the native build writes.
+test_page() {
+    install_packages browser
+    install_page_tools
+    mkdir -p web/page/generated
+    cp build/release/web/types/Mivo.ts build/release/tests/web/pages/three-weeks.json web/page/generated/
+    step "Test the page"
+    (cd web/page && npm test)
+}
