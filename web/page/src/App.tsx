@@ -9,6 +9,7 @@ import { FastingPage } from "./fasting/FastingPage";
 import { pushedPages } from "./presented/pages";
 import { Sheets } from "./presented/Sheets";
 import { SettingsPage } from "./settings/SettingsPage";
+import { Printed } from "./statistics/Printed";
 import { type ChartTable, StatisticsPage } from "./statistics/StatisticsPage";
 import { BrowserNotices } from "./platform/BrowserNotices";
 import { SideBar, TabBar } from "./Tabs";
@@ -37,6 +38,7 @@ export function App() {
   const send = useSend();
   const wide = useIsWide();
   const [table, setTable] = useState<ShownTable | null>(null);
+  const [prints, setPrints] = useState(false);
   const openTable = (list: ChartTable, title: string) => {
     setTable({ list, title });
     send({ didOpen: "table" });
@@ -44,6 +46,7 @@ export function App() {
   useShortcuts();
   useSystemBack();
   if (!screens) return null;
+  if (prints) return <Printed onDone={() => setPrints(false)} />;
   const Pushed = pushedPages[screens.page as Screen];
   return (
     <div class={wide ? "window wide" : "window"}>
@@ -59,7 +62,7 @@ export function App() {
         <MessageBar />
       </div>
       {!wide && !Pushed && <TabBar />}
-      <Sheets screen={screens.sheet as Screen | ""} table={table} />
+      <Sheets screen={screens.sheet as Screen | ""} table={table} onPrint={() => setPrints(true)} />
       <FileDrop />
     </div>
   );

@@ -157,6 +157,26 @@ test("a list of ten years draws what is near, and goes to its end", async () => 
   await long.stop();
 });
 
+test("statistics are printed by themselves, in light colours, and then the window is back", async () => {
+  const exporting = await startServer({
+    change: (recording) => {
+      recording.pages.screens = { tab: "settings", page: "", sheet: "export" };
+      return recording;
+    },
+  });
+  await withPage({ url: exporting.url, scheme: "dark" }, async (page) => {
+    await page.evaluate(() => (window.print = () => (window.wasAsked = true)));
+    await page.click("dialog[open] .sheet-line:nth-child(4)");
+    await page.waitForFunction(() => window.wasAsked);
+    assert.equal(await page.$(".tab-bar, dialog"), null);
+    assert.equal(await page.evaluate(() => getComputedStyle(document.querySelector(".printed .card")).backgroundColor), "rgb(255, 255, 255)");
+    await page.waitForSelector(".printed .bars path");
+    await page.evaluate(() => dispatchEvent(new Event("afterprint")));
+    await page.waitForSelector(".tab-bar");
+  });
+  await exporting.stop();
+});
+
 test("at twice the text size nothing is wider than the phone", () =>
   withPage({ viewport: { ...phone, width: 320 } }, async (page) => {
     await page.evaluate(() => (document.documentElement.style.fontSize = "200%"));

@@ -22,9 +22,10 @@ import { WeightSheet } from "./WeightSheet";
 interface SheetsProps {
   screen: Screen | "";
   table: ShownTable | null;
+  onPrint: () => void;
 }
 
-export function Sheets({ screen, table }: SheetsProps) {
+export function Sheets({ screen, table, onPrint }: SheetsProps) {
   const send = useSend();
   switch (screen) {
     case "editFast":
@@ -55,7 +56,7 @@ export function Sheets({ screen, table }: SheetsProps) {
     case "import":
       return <ImportSheet />;
     case "export":
-      return <ExportSheet />;
+      return <ExportSheet onPrint={onPrint} />;
     case "health":
       return <HealthSheet />;
     case "restore":

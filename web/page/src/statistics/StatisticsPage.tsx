@@ -17,12 +17,13 @@ export type ChartTable = "fastingTable" | "eatingTable" | "weightTable" | "weigh
 export type OpenTable = (list: ChartTable, title: string) => void;
 
 interface StatisticsPageProps {
+  page?: "statistics" | "printedStatistics";
   wide: boolean;
   onTable: OpenTable;
 }
 
-export function StatisticsPage({ wide, onTable }: StatisticsPageProps) {
-  const page = usePage("statistics");
+export function StatisticsPage({ page: name = "statistics", wide, onTable }: StatisticsPageProps) {
+  const page = usePage(name);
   const words = usePage("words");
   const send = useSend();
   const picker = useRef<HTMLDivElement>(null);
