@@ -34,7 +34,7 @@ build_page() {
 write_catalogues() {
     local language
     for language in de es fr; do
-        node web/engine/catalogues.mjs build/release/share/locale/$language/LC_MESSAGES/mivo.mo > build/web/$language.mjs
+        node web/locale/catalogues.mjs build/release/share/locale/$language/LC_MESSAGES/mivo.mo > build/web/$language.mjs
     done
 }
 

@@ -14,11 +14,11 @@
 #include "adapters/icu/UserLocale.h"
 #include "adapters/json/NlohmannDecoder.h"
 #include "adapters/locale/MessageCatalogue.h"
+#include "adapters/standard/LocalRandomNumberGenerator.h"
+#include "adapters/standard/LocalUUIDGenerator.h"
+#include "adapters/standard/SystemClock.h"
 #include "adapters/system/FileUserDefaults.h"
-#include "adapters/system/LocalRandomNumberGenerator.h"
-#include "adapters/system/LocalUUIDGenerator.h"
 #include "adapters/system/StandardErrorReporter.h"
-#include "adapters/system/SystemClock.h"
 #include "adapters/system/ThreadPool.h"
 #include "adapters/system/UserDirectories.h"
 #include "adapters/time/ZonedCalendar.h"
@@ -29,10 +29,11 @@
 #include "app/program/SystemZone.h"
 #include "host/app/CarriedSettings.h"
 #include "host/app/Settings.h"
+#include "host/backup/BackedUpHistory.h"
 #include "host/database/DatabaseHistory.h"
 #include "host/database/FaultText.h"
 #include "host/disk/DailyBackup.h"
-#include "host/disk/DamagedText.h"
+#include "host/backup/DamagedText.h"
 #include "host/disk/DatabaseFile.h"
 #include "host/disk/FindBackupPlace.h"
 #include "host/disk/TextFile.h"
@@ -262,24 +263,24 @@ Client<host::HistoryClient> clientOf(host::Database database, const Environment&
   if (environment.sampleFolder || environment.databaseFile != host::ownDatabaseFile()) return history;
   return std::make_shared<host::BackedUpHistory>(
       std::move(history),
-      host::BackupSource{
-          .place = [files = environment.files] { return files->backupPlace(); },
-          .history =
-              [file = environment.databaseFile] {
-                return host::openDatabase(file, host::Database::Access::readOnly).history();
-              },
-          .settings = settingsOf(environment),
-          .now = [date = environment.dependencies->date] { return date->now(); },
-          .failed =
-              [faults = environment.faults, clients = environment.dependencies](const std::exception& why) {
-                tell(faults, *clients,
-                     filledIn(clients->texts->text("Today's backup could not be made: {1}"),
-                              {host::faultText(why, *clients->texts)}));
-              },
-          .wentBesideTheDatabase =
-              [faults = environment.faults, clients = environment.dependencies](const host::BackupPlace& place) {
-                tell(faults, *clients, backupFaultText(place, *clients->texts));
-              }});
+      host::dailyBackup(
+          {.place = [files = environment.files] { return files->backupPlace(); },
+           .history =
+               [file = environment.databaseFile] {
+                 return host::openDatabase(file, host::Database::Access::readOnly).history();
+               },
+           .settings = settingsOf(environment),
+           .now = [date = environment.dependencies->date] { return date->now(); },
+           .failed =
+               [faults = environment.faults, clients = environment.dependencies](const std::exception& why) {
+                 tell(faults, *clients,
+                      filledIn(clients->texts->text("Today's backup could not be made: {1}"),
+                               {host::faultText(why, *clients->texts)}));
+               },
+           .wentBesideTheDatabase =
+               [faults = environment.faults, clients = environment.dependencies](const host::BackupPlace& place) {
+                 tell(faults, *clients, backupFaultText(place, *clients->texts));
+               }}));
 }
 
 // What stands against opening it.

@@ -7,7 +7,7 @@
 #include "adapters/icu/LocaleFormatters.h"
 #include "adapters/icu/UserLocale.h"
 #include "adapters/locale/MessageCatalogue.h"
-#include "adapters/system/SystemClock.h"
+#include "adapters/standard/SystemClock.h"
 #include "adapters/system/UserDirectories.h"
 #include "adapters/time/ZonedCalendar.h"
 #include "host/app/Settings.h"

@@ -10,7 +10,7 @@
 #include <cstdint>
 #include <system_error>
 
-#include "adapters/system/SystemClock.h"
+#include "adapters/standard/SystemClock.h"
 
 namespace mivo::app {
 namespace {

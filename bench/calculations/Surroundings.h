@@ -7,7 +7,7 @@
 
 #include "adapters/icu/DateFormatters.h"
 #include "adapters/icu/UserLocale.h"
-#include "adapters/system/LocalUUIDGenerator.h"
+#include "adapters/standard/LocalUUIDGenerator.h"
 #include "adapters/time/TimeZone.h"
 #include "adapters/time/ZonedCalendar.h"
 #include "adapters/zoneinfo/LoadTimeZone.h"

@@ -8,7 +8,7 @@
 #include "adapters/icu/LocaleFormatters.h"
 #include "adapters/icu/UserLocale.h"
 #include "adapters/locale/MessageCatalogue.h"
-#include "adapters/system/LocalUUIDGenerator.h"
+#include "adapters/standard/LocalUUIDGenerator.h"
 #include "adapters/zoneinfo/LoadTimeZone.h"
 #include "bench/support/Floor.h"
 #include "bench/support/Histories.h"

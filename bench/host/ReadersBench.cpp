@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "adapters/system/LocalUUIDGenerator.h"
+#include "adapters/standard/LocalUUIDGenerator.h"
 #include "adapters/zoneinfo/LoadTimeZone.h"
 #include "bench/support/Floor.h"
 #include "bench/support/Histories.h"

@@ -22,7 +22,7 @@
 #include <string>
 #include <vector>
 
-#include "adapters/system/LocalUUIDGenerator.h"
+#include "adapters/standard/LocalUUIDGenerator.h"
 #include "host/dates/DateText.h"
 #include "host/disk/DatabaseFile.h"
 

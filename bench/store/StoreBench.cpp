@@ -7,8 +7,8 @@
 #include <vector>
 
 #include "adapters/icu/Calendars.h"
-#include "adapters/system/LocalUUIDGenerator.h"
-#include "adapters/system/SystemClock.h"
+#include "adapters/standard/LocalUUIDGenerator.h"
+#include "adapters/standard/SystemClock.h"
 #include "adapters/zoneinfo/LoadTimeZone.h"
 #include "bench/support/Floor.h"
 #include "bench/support/Histories.h"

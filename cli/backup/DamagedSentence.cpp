@@ -4,7 +4,7 @@
 #include "adapters/system/FileUserDefaults.h"
 #include "adapters/system/UserDirectories.h"
 #include "cli/usage/Usage.h"
-#include "host/disk/DamagedText.h"
+#include "host/backup/DamagedText.h"
 #include "host/disk/DatabaseFile.h"
 #include "host/disk/FindBackupPlace.h"
 

@@ -3,7 +3,7 @@
 #include <vector>
 
 #include "adapters/system/FileUserDefaults.h"
-#include "adapters/system/LocalUUIDGenerator.h"
+#include "adapters/standard/LocalUUIDGenerator.h"
 #include "adapters/system/UserDirectories.h"
 #include "cli/options/OptionValues.h"
 #include "cli/records/ImportCommand.h"

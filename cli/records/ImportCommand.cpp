@@ -7,7 +7,7 @@
 
 #include "adapters/icu/LanguageWords.h"
 #include "adapters/system/FileUserDefaults.h"
-#include "adapters/system/LocalUUIDGenerator.h"
+#include "adapters/standard/LocalUUIDGenerator.h"
 #include "adapters/system/UserDirectories.h"
 #include "cli/options/OptionValues.h"
 #include "cli/records/RecordCommands.h"

@@ -6,7 +6,7 @@
 
 #include "adapters/locale/MessageCatalogue.h"
 #include "adapters/system/FileUserDefaults.h"
-#include "adapters/system/SystemClock.h"
+#include "adapters/standard/SystemClock.h"
 #include "adapters/system/UserDirectories.h"
 #include "cli/backup/DamagedSentence.h"
 #include "cli/options/OptionValues.h"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "adapters/system/LocalUUIDGenerator.h"
+#include "adapters/standard/LocalUUIDGenerator.h"
 #include "cli/options/OptionValues.h"
 #include "cli/records/RecordCommands.h"
 #include "cli/records/RecordRun.h"

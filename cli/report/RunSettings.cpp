@@ -6,7 +6,7 @@
 #include "adapters/icu/Calendars.h"
 #include "adapters/icu/LocaleFormatters.h"
 #include "adapters/locale/MessageCatalogue.h"
-#include "adapters/system/SystemClock.h"
+#include "adapters/standard/SystemClock.h"
 #include "cli/options/OptionValues.h"
 
 namespace mivo::cli {

@@ -3,6 +3,7 @@
 
 #include <atomic>
 #include <cstdint>
+#include <functional>
 #include <mutex>
 #include <optional>
 #include <utility>
@@ -26,6 +27,10 @@ class DatabaseHistory final : public HistoryClient {
   }
   std::optional<FileState> lastSynced() const override { return locked()->lastSynced(); }
   std::int64_t sync(const WeightSync& read) const override { return locked()->sync(read); }
+  /// See `Database::replace`; `before` may not ask this history.
+  HistoryChange replace(const History& records, const std::function<void(const History& present)>& before) const {
+    return locked()->replace(records, before);
+  }
 
  private:
   struct Locked {

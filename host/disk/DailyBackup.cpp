@@ -34,23 +34,15 @@ std::optional<BackupPlace> backUpWhereDue(BackupPlace place, const std::function
   return isMadeHere && place.fault ? std::optional{std::move(place)} : std::nullopt;
 }
 
-void BackedUpHistory::backUp() const {
-  try {
-    const auto place = backUpWhereDue(source.place(), source.history, source.settings, source.now());
-    if (place) source.wentBesideTheDatabase(*place);
-  } catch (const std::exception& error) {
-    source.failed(error);
-  }
-}
-
-void BackedUpHistory::apply(const HistoryChange& change) const {
-  backUp();
-  history->apply(change);
-}
-
-std::int64_t BackedUpHistory::sync(const WeightSync& read) const {
-  backUp();
-  return history->sync(read);
+std::function<void()> dailyBackup(BackupSource source) {
+  return [source = std::move(source)] {
+    try {
+      const auto place = backUpWhereDue(source.place(), source.history, source.settings, source.now());
+      if (place) source.wentBesideTheDatabase(*place);
+    } catch (const std::exception& error) {
+      source.failed(error);
+    }
+  };
 }
 
 }  // namespace mivo::host

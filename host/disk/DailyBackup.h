@@ -1,15 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <cstdint>
+#include <exception>
 #include <functional>
 #include <optional>
-#include <string>
-#include <utility>
 #include <vector>
 
 #include "host/backup/BackupPlace.h"
-#include "host/fasting/HistoryClient.h"
+#include "host/history/History.h"
 #include "host/history/Setting.h"
 #include "mivo/model/Date.h"
 
@@ -32,22 +30,7 @@ struct BackupSource {
   std::function<void(const BackupPlace& place)> wentBesideTheDatabase;  ///< its `fault` says why
 };
 
-/// A history that is backed up before the first change of a day. Thread: as the history's.
-class BackedUpHistory final : public HistoryClient {
- public:
-  BackedUpHistory(std::shared_ptr<const HistoryClient> kept, BackupSource from)
-      : history{std::move(kept)}, source{std::move(from)} {}
-  History load() const override { return history->load(); }
-  void apply(const HistoryChange& change) const override;
-  std::int64_t version() const override { return history->version(); }
-  std::optional<FileState> lastSynced() const override { return history->lastSynced(); }
-  std::int64_t sync(const WeightSync& read) const override;
-
- private:
-  void backUp() const;
-
-  std::shared_ptr<const HistoryClient> history;
-  BackupSource source;
-};
+/// Makes the backup of a day where that has none yet; for `BackedUpHistory`.
+std::function<void()> dailyBackup(BackupSource source);
 
 }  // namespace mivo::host

@@ -5,7 +5,7 @@
 #include <QtDBus/QDBusConnectionInterface>
 #include <filesystem>
 
-#include "adapters/system/SystemClock.h"
+#include "adapters/standard/SystemClock.h"
 #include "host/disk/DatabaseFile.h"
 #include "tests/app/ShownApp.h"
 #include "tests/app/reminder/SessionBus.h"

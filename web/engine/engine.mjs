@@ -5,8 +5,9 @@
 //
 // SPDX-License-Identifier: MIT
 
-import { intlTexts, firstWeekdayOf, weightUnitOf } from './texts.mjs';
-import { transitionsOf } from './zones.mjs';
+import { Exchange } from '../exchange/exchange.mjs';
+import { firstWeekdayOf, intlTexts, textImports, weightUnitOf } from '../locale/texts.mjs';
+import { transitionsOf } from '../locale/zones.mjs';
 
 /** Where a module is compiled from: its bytes, or a WebAssembly.Module. */
 export async function loadEngine(source) {
@@ -15,10 +16,8 @@ export async function loadEngine(source) {
 
 class Engine {
   #module;
-  #exports; // of an instance that speaks the language of #texts; it keeps sentences
+  #exchange; // with an instance that speaks the language of #texts; it keeps sentences
   #texts;
-  #encoder = new TextEncoder();
-  #decoder = new TextDecoder();
 
   constructor(module) {
     this.#module = module;
@@ -50,78 +49,18 @@ class Engine {
       weightUnit: weightUnitOf(place),
       ...rest,
     };
-    return this.#call('report', typeof snapshot === 'string' ? snapshot : JSON.stringify(snapshot), JSON.stringify(asked));
+    const text = typeof snapshot === 'string' ? snapshot : JSON.stringify(snapshot);
+    try {
+      return this.#exchange.call('report', text, JSON.stringify(asked));
+    } catch (error) {
+      if (error instanceof WebAssembly.RuntimeError) this.#exchange = undefined; // its memory is not to be trusted
+      throw error;
+    }
   }
 
   #speak(locale, catalogue) {
-    if (this.#exports && this.#texts.locale === locale && this.#texts.catalogue === catalogue) return;
+    if (this.#exchange && this.#texts.locale === locale && this.#texts.catalogue === catalogue) return;
     this.#texts = intlTexts(locale, catalogue);
-    const imports = { mivo: this.#imports(), ...systemStubs(this.#module) };
-    this.#exports = new WebAssembly.Instance(this.#module, imports).exports;
-    this.#exports._initialize();
+    this.#exchange = new Exchange(this.#module, (exchange) => textImports(exchange, () => this.#texts));
   }
-
-  // Calls a function that takes texts and gives an answer: its address, its size and whether it says what is wrong.
-  #call(name, ...texts) {
-    const given = texts.map((text) => this.#put(text));
-    let answer;
-    try {
-      answer = this.#exports[name](...given.flat());
-    } catch (error) {
-      this.#exports = undefined; // whatever it was, its memory is not to be trusted
-      throw error;
-    }
-    for (const [address] of given) this.#exports.release(address);
-    const [address, size, isRefused] = new Uint32Array(this.#exports.memory.buffer, answer, 3);
-    const text = this.#read(address, size);
-    if (isRefused & 0xff) throw new Error(text);
-    return text;
-  }
-
-  #put(text) {
-    const bytes = this.#encoder.encode(text);
-    const address = this.#exports.allocate(bytes.length || 1);
-    new Uint8Array(this.#exports.memory.buffer, address, bytes.length).set(bytes);
-    return [address, bytes.length];
-  }
-
-  #read(address, size) {
-    return this.#decoder.decode(new Uint8Array(this.#exports.memory.buffer, address, size));
-  }
-
-  // Writes a text where an import is to put its answer; nothing where there is none.
-  #give(into, text) {
-    if (text === undefined) return 0;
-    const bytes = this.#encoder.encode(text);
-    const address = this.#exports.room(into, bytes.length);
-    new Uint8Array(this.#exports.memory.buffer, address, bytes.length).set(bytes);
-    return 1;
-  }
-
-  #imports() {
-    const read = (address, size) => this.#read(address, size);
-    const give = (into, text) => this.#give(into, text);
-    return {
-      wholeNumber: (into, number) => void give(into, this.#texts.number(number, 0)),
-      number: (into, number, digits) => void give(into, this.#texts.number(number, digits)),
-      quantity: (into, number, unit, digits) => void give(into, this.#texts.quantity(number, unit, digits)),
-      joined: (into, first, firstSize, second, secondSize) =>
-        void give(into, this.#texts.joined(read(first, firstSize), read(second, secondSize))),
-      date: (into, wall, skeleton, size) => give(into, this.#texts.date(wall, read(skeleton, size))),
-      interval: (into, first, last) => give(into, this.#texts.interval(first, last)),
-      text: (into, key, keySize, context, contextSize) =>
-        void give(into, this.#texts.text(read(key, keySize), read(context, contextSize))),
-      plural: (into, one, oneSize, many, manySize, count) =>
-        void give(into, this.#texts.plural(read(one, oneSize), read(many, manySize), count)),
-    };
-  }
-}
-
-// What a C library asks of a system, and what nothing of the module calls: files, clocks, arguments.
-function systemStubs(module) {
-  const notImplemented = 52;
-  const stubs = {};
-  for (const { module: from, name, kind } of WebAssembly.Module.imports(module))
-    if (from !== 'mivo' && kind === 'function') (stubs[from] ??= {})[name] = () => notImplemented;
-  return stubs;
 }

@@ -22,9 +22,11 @@ set(CMAKE_C_FLAGS_INIT "-ffunction-sections -fdata-sections")
 set(CMAKE_CXX_FLAGS_INIT "${CMAKE_C_FLAGS_INIT} -fwasm-exceptions -nostdinc++")
 set(CMAKE_CXX_STANDARD_INCLUDE_DIRECTORIES
     ${MIVO_WEB_LIBRARY}/include /usr/lib/llvm-19/include/wasm32-wasi/c++/v1)
-# The linker makes code of what was left for it to optimise, and is to know exceptions then.
+# The linker makes code of what was left for it to optimise, and is to know exceptions then. Unless it is told not to
+# optimise, which the linker does not care about, the compiler hands the module to whatever wasm-opt is installed, and
+# Debian 12's is too old for it.
 set(CMAKE_EXE_LINKER_FLAGS_INIT
-    "-mexec-model=reactor -nostdlib++ -Wl,--gc-sections -Wl,-mllvm,-wasm-enable-eh -Wl,-mllvm,-exception-model=wasm")
+    "-O0 -mexec-model=reactor -nostdlib++ -Wl,--gc-sections -Wl,-mllvm,-wasm-enable-eh -Wl,-mllvm,-exception-model=wasm")
 set(CMAKE_CXX_STANDARD_LIBRARIES "${MIVO_WEB_LIBRARY}/lib/libc++.a")
 
 # What is installed on this machine is made for this machine.

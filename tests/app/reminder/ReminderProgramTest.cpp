@@ -9,7 +9,7 @@
 #include <fstream>
 
 #include "adapters/system/FileUserDefaults.h"
-#include "adapters/system/SystemClock.h"
+#include "adapters/standard/SystemClock.h"
 #include "host/app/Settings.h"
 #include "host/disk/DatabaseFile.h"
 #include "host/reminders/ReminderSettings.h"

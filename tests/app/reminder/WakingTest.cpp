@@ -7,7 +7,7 @@
 #include <fstream>
 
 #include "adapters/system/AtomicFile.h"
-#include "adapters/system/SystemClock.h"
+#include "adapters/standard/SystemClock.h"
 #include "app/reminder/FileWatch.h"
 #include "app/reminder/WallClockAlarm.h"
 #include "tests/support/TemporaryFolder.h"

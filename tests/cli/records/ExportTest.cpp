@@ -4,7 +4,7 @@
 
 #include <filesystem>
 
-#include "adapters/system/LocalUUIDGenerator.h"
+#include "adapters/standard/LocalUUIDGenerator.h"
 #include "host/disk/DatabaseFile.h"
 #include "host/disk/TextFile.h"
 #include "host/history/Snapshot.h"

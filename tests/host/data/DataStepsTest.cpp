@@ -7,7 +7,7 @@
 #include <fstream>
 
 #include "adapters/icu/LanguageWords.h"
-#include "adapters/system/LocalUUIDGenerator.h"
+#include "adapters/standard/LocalUUIDGenerator.h"
 #include "adapters/zoneinfo/LoadTimeZone.h"
 #include "host/database/DatabaseHistory.h"
 #include "host/disk/BackupFolder.h"

@@ -5,6 +5,7 @@
 
 #include <fstream>
 
+#include "host/backup/BackedUpHistory.h"
 #include "host/database/DatabaseHistory.h"
 #include "host/disk/BackupFolder.h"
 #include "host/disk/DatabaseFile.h"
@@ -45,12 +46,13 @@ class DailyBackup : public testing::Test {
   std::vector<std::string> told;
   const BackedUpHistory history{
       std::make_shared<DatabaseHistory>(openDatabase(file)),
-      {.place = [this] { return backupPlace(file, setting); },
-       .history = [this] { return openDatabase(file, Database::Access::readOnly).history(); },
-       .settings = [] { return std::vector<Setting>{}; },
-       .now = [this] { return present; },
-       .failed = [this](const std::exception& why) { failure = why.what(); },
-       .wentBesideTheDatabase = [this](const BackupPlace& went) { told.push_back(went.fault.message()); }}};
+      dailyBackup(
+          {.place = [this] { return backupPlace(file, setting); },
+           .history = [this] { return openDatabase(file, Database::Access::readOnly).history(); },
+           .settings = [] { return std::vector<Setting>{}; },
+           .now = [this] { return present; },
+           .failed = [this](const std::exception& why) { failure = why.what(); },
+           .wentBesideTheDatabase = [this](const BackupPlace& went) { told.push_back(went.fault.message()); }})};
 };
 
 TEST_F(DailyBackup, holdsWhatWasThereBeforeTheFirstChangeOfADayInUTC) {

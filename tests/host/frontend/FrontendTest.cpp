@@ -10,7 +10,7 @@
 #include "adapters/icu/Calendars.h"
 #include "adapters/icu/LanguageWords.h"
 #include "adapters/json/NlohmannDecoder.h"
-#include "adapters/system/LocalUUIDGenerator.h"
+#include "adapters/standard/LocalUUIDGenerator.h"
 #include "adapters/zoneinfo/LoadTimeZone.h"
 #include "host/database/DatabaseHistory.h"
 #include "host/disk/DatabaseFile.h"

@@ -12,7 +12,7 @@
 #include <ostream>
 #include <sstream>
 
-#include "adapters/system/LocalUUIDGenerator.h"
+#include "adapters/standard/LocalUUIDGenerator.h"
 #include "adapters/zoneinfo/LoadTimeZone.h"
 #include "host/database/DatabaseHistory.h"
 #include "host/disk/DatabaseFile.h"

@@ -40,6 +40,25 @@ export function intlTexts(locale, catalogue) {
   };
 }
 
+/** The imports of ImportedTexts.h; `texts` gives those of the present language. */
+export function textImports(exchange, texts) {
+  const read = (address, size) => exchange.read(address, size);
+  const give = (into, text) => exchange.give(into, text);
+  return {
+    wholeNumber: (into, number) => void give(into, texts().number(number, 0)),
+    number: (into, number, digits) => void give(into, texts().number(number, digits)),
+    quantity: (into, number, unit, digits) => void give(into, texts().quantity(number, unit, digits)),
+    joined: (into, first, firstSize, second, secondSize) =>
+      void give(into, texts().joined(read(first, firstSize), read(second, secondSize))),
+    date: (into, wall, skeleton, size) => give(into, texts().date(wall, read(skeleton, size))),
+    interval: (into, first, last) => give(into, texts().interval(first, last)),
+    text: (into, key, keySize, context, contextSize) =>
+      void give(into, texts().text(read(key, keySize), read(context, contextSize))),
+    plural: (into, one, oneSize, many, manySize, count) =>
+      void give(into, texts().plural(read(one, oneSize), read(many, manySize), count)),
+  };
+}
+
 // The fields that a skeleton names, as Intl asks for them: "EEEdMMMjm". Nothing where it names another.
 function fieldsOf(skeleton) {
   const names = ['numeric', '2-digit', 'short', 'long', 'narrow'];

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "adapters/system/LocalRandomNumberGenerator.h"
+#include "adapters/standard/LocalRandomNumberGenerator.h"
 
 namespace mivo::adapters {
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "adapters/system/SystemClock.h"
+#include "adapters/standard/SystemClock.h"
 
 #include <chrono>
 

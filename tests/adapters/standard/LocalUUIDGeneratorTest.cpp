@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "adapters/system/LocalUUIDGenerator.h"
+#include "adapters/standard/LocalUUIDGenerator.h"
 
 #include <gtest/gtest.h>
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "web/engine/ImportedTexts.h"
+#include "web/locale/ImportedTexts.h"
 
 #include <memory>
 
-#include "web/engine/Imports.h"
+#include "web/locale/Imports.h"
 
 namespace mivo::web {
 namespace {

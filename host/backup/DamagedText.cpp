@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "host/disk/DamagedText.h"
+#include "host/backup/DamagedText.h"
 
 namespace mivo::host {
 
-std::string damagedText(const std::filesystem::path& database, const BackupFolder& folder, const TextLookup& texts,
+std::string damagedText(const std::filesystem::path& database, const BackupList& folder, const TextLookup& texts,
                         const DateFormatter& dates) {
   const auto backups = folder.backups();
   if (backups.empty())
