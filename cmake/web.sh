@@ -2,6 +2,7 @@
 # Where sources of Debian's packages or tools from npm cannot be had, it ends with a sentence.
 
 page=build/page
+engine=build/engine
 
 build_for_browsers() {
     install_packages build web
@@ -25,16 +26,20 @@ install_page_tools() {
 build_page() {
     build_for_browsers
     install_page_tools
+    build release --target catalogues
+    gather_engine
     step "Make the page"
-    node web/page/build.mjs --into "$page" --drawing build/web/web/drawing/drawing.wasm >&2
+    node web/page/build.mjs --into "$page" --engine "$engine" >&2
     cp data/one-year.json "$page/sample.json" # asked for by `?sample` alone, so no file of the version
 }
 
-# The texts of each language, as modules.
-write_catalogues() {
+# The app as a module, and the texts of each language as modules of JavaScript.
+gather_engine() {
     local language
+    mkdir -p "$engine"
+    cp build/web/web/worker/mivo-app.wasm "$engine"
     for language in de es fr; do
-        node web/locale/catalogues.mjs build/release/share/locale/$language/LC_MESSAGES/mivo.mo > build/web/$language.mjs
+        node web/locale/catalogues.mjs build/release/share/locale/$language/LC_MESSAGES/mivo.mo > "$engine/$language.mjs"
     done
 }
 

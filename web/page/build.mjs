@@ -2,9 +2,9 @@
 // Builds the page into a folder of files whose names say what is in them, so that each can be kept for ever; only the
 // page itself, the service worker and the manifest have names of their own.
 //
-//     node build.mjs --drawing FILE.wasm [--into FOLDER] [--engine FOLDER] [--recorded]
+//     node build.mjs [--into FOLDER] [--drawing FILE.wasm] [--engine FOLDER] [--recorded]
 //
-// --drawing   the compiled drawing module
+// --drawing   the compiled drawing module, if it is not where ./test web leaves it
 // --engine    the folder of the compiled engine, whose files are taken along
 // --recorded  pages recorded before answer in the place of an engine, for tests
 import { createHash } from "node:crypto";
@@ -20,7 +20,7 @@ const { values: options } = parseArgs({
   options: { into: { type: "string" }, engine: { type: "string" }, drawing: { type: "string" }, recorded: { type: "boolean", default: false } },
 });
 const into = options.into ?? join(here, "built");
-if (!options.drawing) throw new Error("--drawing FILE.wasm is missing: build/web/web/drawing/drawing.wasm, which ./test web makes");
+const drawingModule = options.drawing ?? join(here, "../../build/web/web/drawing/drawing.wasm");
 
 rmSync(into, { recursive: true, force: true });
 mkdirSync(into, { recursive: true });
@@ -78,7 +78,7 @@ const engine = Object.fromEntries(
 const worker = options.recorded
   ? writeHashed("recorded.js", (await bundle("tests/recorded/worker.ts"))[".js"])
   : writeHashed("engine.js", (await bundle("src/worker/worker.ts", { ENGINE_FILES: engine }))[".js"]);
-const drawing = writeHashed("drawing.wasm", readFileSync(options.drawing));
+const drawing = writeHashed("drawing.wasm", readFileSync(drawingModule));
 const page = await bundle("src/main.tsx", { WORKER_FILE: worker, ICON_FILE: icons, DRAWING_FILE: drawing });
 const script = writeHashed("page.js", page[".js"]);
 const style = writeHashed("page.css", page[".css"]);

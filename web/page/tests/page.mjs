@@ -51,10 +51,10 @@ export async function startServer({ folder = built, port = 0, change = (recordin
 }
 
 /// `options` as Puppeteer's.
-export async function startBrowser(options = {}) {
+export async function startBrowser({ language = "en-GB", ...options } = {}) {
   const executablePath = browsers.find((path) => existsSync(path));
   if (!executablePath) throw new Error(`none of these browsers is installed: ${browsers.join(", ")}`);
-  const args = ["--no-sandbox", "--disable-gpu", "--lang=en-GB", `--host-resolver-rules=MAP ${insecureHost} 127.0.0.1`];
+  const args = ["--no-sandbox", "--disable-gpu", `--accept-lang=${language}`, `--host-resolver-rules=MAP ${insecureHost} 127.0.0.1`];
   return puppeteer.launch({ executablePath, args, ...options });
 }
 

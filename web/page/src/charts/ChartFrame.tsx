@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // What all charts have around them: what keys do, what is said of the selection, and the menu.
-import type { ComponentChildren, RefObject } from "preact";
+import type { ComponentChildren, RefCallback } from "preact";
 import { useState } from "preact/hooks";
 import { ChoiceRow } from "../controls/Rows";
 import { Sheet } from "../controls/Sheet";
@@ -8,7 +8,7 @@ import { usePage } from "../engine/Source";
 import { isMirrored } from "./Drawing";
 
 interface ChartFrameProps {
-  frame: RefObject<HTMLDivElement | null>;
+  frame: RefCallback<HTMLDivElement>;
   selection: string;
   height: number;
   onMove: (steps: number) => void;

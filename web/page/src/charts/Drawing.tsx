@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // What all pictures need: the geometry, how wide texts are, and the reading direction.
 import { createContext } from "preact";
-import { useContext, useLayoutEffect, useRef, useState } from "preact/hooks";
+import { useCallback, useContext, useLayoutEffect, useState } from "preact/hooks";
 import type { Geometry, TextWidth } from "./Geometry";
 
 const Context = createContext<Geometry | null>(null);
@@ -55,10 +55,9 @@ export function widthIn(font: ChartFont): TextWidth {
 
 /// The size of an element, followed; null before it was laid out.
 export function useSize<Measured extends Element>() {
-  const ref = useRef<Measured>(null);
+  const [element, setElement] = useState<Measured | null>(null);
   const [size, setSize] = useState<{ width: number; height: number } | null>(null);
   useLayoutEffect(() => {
-    const element = ref.current;
     if (!element) return;
     const measure = () => {
       const { width, height } = element.getBoundingClientRect();
@@ -68,8 +67,9 @@ export function useSize<Measured extends Element>() {
     const observer = new ResizeObserver(measure);
     observer.observe(element);
     return () => observer.disconnect();
-  }, []);
-  return { ref, size };
+  }, [element]);
+  const ref = useCallback((shown: Measured | null) => setElement(() => shown), []);
+  return { ref, element, size };
 }
 
 export function isMirrored(): boolean {

@@ -16,13 +16,12 @@ interface FigureProps {
 
 /// A number over what it counts. It never wraps: where it has no room it steps down to a smaller size.
 export function Figure({ value, label, largest, trailing = false }: FigureProps) {
-  const { ref, size } = useSize<HTMLDivElement>();
+  const { ref, element, size } = useSize<HTMLDivElement>();
   const first = steps.indexOf(largest);
   const [step, setStep] = useState(first);
   useLayoutEffect(() => setStep(first), [value, largest, size?.width]);
   useLayoutEffect(() => {
-    const figure = ref.current;
-    if (figure && figure.scrollWidth > figure.clientWidth + 1 && step < steps.length - 1) setStep(step + 1);
+    if (element && element.scrollWidth > element.clientWidth + 1 && step < steps.length - 1) setStep(step + 1);
   }, [step, value, size?.width]);
   return (
     <div class={trailing ? "figure trailing" : "figure"} ref={ref}>
