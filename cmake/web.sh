@@ -37,3 +37,9 @@ write_catalogues() {
         node web/engine/catalogues.mjs build/release/share/locale/$language/LC_MESSAGES/mivo.mo > build/web/$language.mjs
     done
 }
+
+# The package for npm, whose name it prints; nothing is published.
+build_package() {
+    build release --target mivo_write_report_types_Report.ts
+    node web/package/pack.mjs --build build/web --catalogues build/web --types build/release/web/types/Report.ts --into build/npm
+}
