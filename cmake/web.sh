@@ -52,3 +52,9 @@ test_page() {
     step "Test the page"
     (cd web/page && npm test)
 }
+
+# The package for npm, whose name it prints; nothing is published.
+build_package() {
+    build release --target mivo_write_report_types_Report.ts
+    node web/package/pack.mjs --build build/web --catalogues "$engine" --types build/release/web/types/Report.ts --into build/npm
+}

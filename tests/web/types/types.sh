@@ -12,4 +12,4 @@ folder=$(mktemp -d)
 trap 'rm -rf "$folder"' EXIT
 cp "$1" "$folder/Mivo.ts"
 cp tests/web/types/uses.ts "$folder"
-tsc --noEmit --strict --target es2020 --moduleResolution node "$folder/uses.ts"
+tsc --noEmit --strict --target es2022 --module esnext --moduleResolution bundler "$folder/uses.ts"
