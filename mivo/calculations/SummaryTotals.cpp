@@ -2,8 +2,8 @@
 #include "mivo/calculations/SummaryTotals.h"
 
 #include <cmath>
+#include <cstdio>
 #include <cstdlib>
-#include <iostream>
 
 namespace mivo {
 namespace {
@@ -12,7 +12,7 @@ std::int64_t wholeHours(double seconds) {
   const double hours = std::trunc(seconds / secondsPerHour);
   constexpr double limit = 0x1p63;
   if (hours >= -limit && hours < limit) return static_cast<std::int64_t>(hours);
-  std::cerr << "The fasts add up to " << hours << " hours, more than can be counted." << std::endl;
+  std::fprintf(stderr, "The fasts add up to %g hours, more than can be counted.\n", hours);
   std::abort();
 }
 

@@ -3,8 +3,8 @@
 
 #include <cmath>
 #include <cstddef>
+#include <cstdio>
 #include <cstdlib>
-#include <iostream>
 #include <limits>
 #include <utility>
 
@@ -58,7 +58,7 @@ std::optional<ClosedDateRange> trendTimeRange(std::span<const BodyWeightSample> 
   if (trendSamples.empty() || trendSamples.front() == trendSamples.back()) return std::nullopt;
   const ClosedDateRange range{trendSamples.front().date, trendSamples.back().date};
   if (range.lowerBound <= range.upperBound) return range;
-  std::cerr << "Weight samples must come in ascending order of their dates." << std::endl;
+  std::fputs("Weight samples must come in ascending order of their dates.\n", stderr);
   std::abort();
 }
 

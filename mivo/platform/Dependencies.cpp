@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "mivo/platform/Dependencies.h"
 
+#include <cstdio>
 #include <cstdlib>
-#include <iostream>
 #include <utility>
 
 namespace mivo {
@@ -21,12 +21,12 @@ DependencyScope::~DependencyScope() { context = std::move(previous); }
 
 const Dependencies& currentDependencies() {
   if (context) return *context;
-  std::cerr << "No dependencies are set on this thread: call withDependencies around what uses them.\n";
+  std::fputs("No dependencies are set on this thread: call withDependencies around what uses them.\n", stderr);
   std::abort();
 }
 
 void stopForMissingDependency(const char* type) {
-  std::cerr << "The current dependencies have no client of type " << type << ": fill it in before it is used.\n";
+  std::fprintf(stderr, "The current dependencies have no client of type %s: fill it in before it is used.\n", type);
   std::abort();
 }
 

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "mivo/platform/IssueReporting.h"
 
-#include <iostream>
+#include <cstdio>
+#include <string>
 
 #include "mivo/platform/Dependencies.h"
 
@@ -15,7 +16,9 @@ void reportIssue(std::string_view message, std::source_location where) {
 
 void printIssue(std::string_view message, const std::source_location& where) {
   const std::string_view path = where.file_name();
-  std::cerr << path.substr(path.find_last_of('/') + 1) << ':' << where.line() << ": " << message << '\n';
+  std::string line{path.substr(path.find_last_of('/') + 1)};
+  line.append(":").append(std::to_string(where.line())).append(": ").append(message).append("\n");
+  std::fputs(line.c_str(), stderr);  // streams would bring all that is known of locales into every program
 }
 
 }  // namespace mivo

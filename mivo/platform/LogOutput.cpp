@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "mivo/platform/LogOutput.h"
 
-#include <iostream>
+#include <cstdio>
 #include <mutex>
+#include <string>
 
 #include "mivo/platform/Dependencies.h"
 
@@ -13,7 +14,8 @@ void logLine(std::string_view line) {
   const std::scoped_lock lock{oneLineAtATime};
   const auto context = currentContext();
   if (context && context->log) return context->log->print(line);
-  std::cout << line << std::endl;
+  std::puts(std::string{line}.c_str());
+  std::fflush(stdout);
 }
 
 }  // namespace mivo

@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "mivo/regressor/BaseRegressor.h"
 
+#include <cstdio>
 #include <cstdlib>
-#include <iostream>
+#include <string>
 
 namespace mivo {
 
 void stopRegression(std::string_view sentence) {
-  std::cerr << sentence << std::endl;
+  std::fputs((std::string{sentence} + '\n').c_str(), stderr);
   std::abort();
 }
 

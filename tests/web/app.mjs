@@ -110,7 +110,7 @@ const cases = {
 
   async 'opens a history of the desktop, with its log, and gives one back that it opens'() {
     const file = join(workspace, 'mivo.sqlite');
-    native('import', '--database', file, '--yes', 'data/one-year.json');
+    native('import', '--database', file, 'data/one-year.json');
     const folder = new MemoryFolder();
     const files = await StoredFiles.open(folder);
     for (const part of ['', '-wal'])
@@ -197,11 +197,12 @@ const cases = {
     const app = await opened(folder);
     addFast(app, 30);
     app.send({ didOpen: 'backups' });
-    assert.deepEqual(app.page('backups').rows.map(({ counts }) => counts), ['1 fast, 0 weights']);
+    assert.deepEqual(app.page('backups').rows.map(({ counts }) => counts), ['1 fast, 0 weights']); // it was running
     addFast(app, 5);
     app.send({ backups: { didChoose: 0 } });
     app.send({ backups: 'didTapRestore' });
-    assert.equal(history(app).length, 1);
+    assert.equal(history(app).length, 0);
+    assert.equal(app.page('fasting').isRunning, true);
     app.send('didTapMessage'); // undo
     assert.equal(history(app).length, 2);
   },

@@ -61,7 +61,9 @@ int checkReservedLock(sqlite3_file*, int* isReserved) {
 
 int fileControl(sqlite3_file*, int, void*) { return SQLITE_NOTFOUND; }
 int sectorSize(sqlite3_file*) { return 4096; }
-int deviceCharacteristics(sqlite3_file*) { return 0; }
+/// As on other systems. Without it the log is filled up to the end of a sector, behind what is a commit already: where
+/// there is no room for that, a change would be refused that is there when the database is opened again.
+int deviceCharacteristics(sqlite3_file*) { return SQLITE_IOCAP_POWERSAFE_OVERWRITE; }
 
 constexpr sqlite3_io_methods fileMethods{.iVersion = 1,
                                          .xClose = close,

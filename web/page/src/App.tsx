@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The window: a page with tabs below, or beside it where there is room, and what is presented over it.
 import type { Screen } from "mivo";
-import { useEffect, useState } from "preact/hooks";
+import { useEffect, useLayoutEffect, useRef, useState } from "preact/hooks";
 import { MessageBar } from "./controls/MessageBar";
 import { FileDrop } from "./data/FileDrop";
 import { usePage, useSend } from "./engine/Source";
@@ -45,6 +45,7 @@ export function App() {
   };
   useShortcuts();
   useSystemBack();
+  useKeptScroll(screens?.tab ?? "", screens?.page ?? "");
   if (!screens) return null;
   if (prints) return <Printed onDone={() => setPrints(false)} />;
   const Pushed = pushedPages[screens.page as Screen];
@@ -87,6 +88,20 @@ function useShortcuts(): void {
     document.addEventListener("keydown", onKeyDown);
     return () => document.removeEventListener("keydown", onKeyDown);
   }, [send, message]);
+}
+
+// The document scrolls for all of them: a tab is found again where it was left, and what is pushed begins at its top. The
+// browser would do it by its history, whose entries are none of these.
+history.scrollRestoration = "manual";
+
+function useKeptScroll(tab: string, pushed: string): void {
+  const places = useRef(new Map<string, number>());
+  const shown = useRef({ tab, pushed });
+  const { tab: tabBefore, pushed: pushedBefore } = shown.current;
+  const hasChanged = tab !== tabBefore || pushed !== pushedBefore;
+  if (hasChanged && pushedBefore === "") places.current.set(tabBefore, scrollY); // what was shown still is
+  shown.current = { tab, pushed };
+  useLayoutEffect(() => scrollTo(0, pushed === "" ? (places.current.get(tab) ?? 0) : 0), [tab, pushed]);
 }
 
 // The system's way back closes the innermost that is open. While something is, one entry of the history stands for it.

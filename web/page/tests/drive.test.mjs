@@ -35,6 +35,24 @@ test("tabs are gone through by keyboard, and said to be chosen", () =>
     assert.equal(await textOf(page, ".tab[aria-current]"), "Settings");
   }));
 
+test("a tab is found again where it was left", () =>
+  withPage({ viewport: phone }, async (page) => {
+    const place = () => page.evaluate(() => scrollY);
+    await page.evaluate(() => scrollTo(0, 700));
+    await page.evaluate(() => document.querySelector(".of-badges .whole").click());
+    await page.waitForSelector(".pushed");
+    assert.equal(await place(), 0);
+    await page.keyboard.press("Escape");
+    await page.waitForFunction(() => !document.querySelector(".pushed"));
+    assert.equal(await place(), 700);
+    await page.click(tab(3));
+    await page.waitForSelector(".settings");
+    assert.equal(await place(), 0);
+    await page.click(tab(2));
+    await page.waitForSelector(".of-trend");
+    assert.equal(await place(), 700);
+  }));
+
 test("a bar is selected by a tap and by arrows, and let go by Escape", () =>
   withPage({ viewport: desktop }, async (page) => {
     const chart = ".of-fastingChart .chart";

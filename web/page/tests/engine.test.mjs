@@ -47,36 +47,36 @@ const countOf = (page, selector) => page.$$eval(selector, (found) => found.lengt
 const waitForCount = (page, selector, count) =>
   page.waitForFunction((wanted, expected) => document.querySelectorAll(wanted).length === expected, {}, selector, count);
 
+/// Closes what is open, and waits for the browser's own history to have heard of it.
+async function goBack(page) {
+  await page.keyboard.press("Escape");
+  await page.waitForFunction(() => !document.querySelector(".pushed, dialog") && history.state === null);
+}
+
 /// All weights, as they are listed.
 async function weights(page) {
   await click(page, statistics);
   await clickText(page, "statistics", "All weights");
   await page.waitForSelector(".weight-row");
   const listed = await page.$$eval(".weight-row > .text-body-strong", (rows) => rows.map((row) => row.textContent));
-  await page.keyboard.press("Escape");
-  await page.waitForFunction(() => !document.querySelector(".pushed"));
+  await goBack(page);
   return listed;
 }
 
 test("a person's day", async (context) => {
   const visitor = await browser.createBrowserContext();
   const page = await openPage(visitor, server.url, { viewport: desktop });
+  let hasFailed = false;
   const step = (name, drive) =>
-    context.test(name, async () => {
+    context.test(name, { skip: hasFailed }, async () => {
+      hasFailed = true;
       await drive();
       assert.deepEqual(page.complaints, []);
+      hasFailed = false;
     });
 
   await step("a fast is begun, and moved back", async () => {
-    await click(page, fasting);
-    await click(page, ".fast-card .action.data");
-    await page.waitForSelector("[role=timer]");
-    await click(page, "button.fact-tile");
-    await page.waitForSelector("dialog[open] .wheels");
-    await page.focus(".wheel.of-days");
-    await page.keyboard.press("ArrowUp");
-    await click(page, "dialog[open] .sheet-buttons .action");
-    await page.waitForFunction(() => document.querySelector("[role=timer]").textContent.startsWith("24:0"));
+    await beginYesterday(page);
   });
   await step("it is ended, and is in the history", async () => {
     await click(page, ".fast-card .action.of-large");
@@ -149,7 +149,7 @@ test("a person's day", async (context) => {
     assert.equal(fasts.length, 3);
     assert.deepEqual(exportedWeights.map(({ weightInKg }) => weightInKg), [81.4]);
     assert.equal(database.subarray(0, 15).toString(), "SQLite format 3");
-    await page.keyboard.press("Escape");
+    await goBack(page);
   });
   await step("without the server, and opened anew, everything is still there", async () => {
     await page.evaluate(async () => (await navigator.serviceWorker.ready).active);
@@ -189,6 +189,39 @@ async function addFast(page) {
   await click(page, "dialog[open] .sheet-buttons .action");
   await page.waitForFunction((count) => Number(document.querySelector(".list-row")?.getAttribute("aria-setsize")) > count, {}, before);
 }
+
+/// Begins a fast, and then moves its start a day back.
+async function beginYesterday(page) {
+  await click(page, fasting);
+  await click(page, ".fast-card .action.data");
+  await page.waitForSelector("[role=timer]");
+  await click(page, "button.fact-tile");
+  await page.waitForSelector("dialog[open] .wheels");
+  await page.focus(".wheel.of-days");
+  await page.keyboard.press("ArrowUp");
+  await click(page, "dialog[open] .sheet-buttons .action");
+  await page.waitForFunction(() => document.querySelector("[role=timer]").textContent.startsWith("24:0"));
+}
+
+test("a goal that is reached is told once", async () => {
+  const visitor = await browser.createBrowserContext();
+  await visitor.overridePermissions(server.url, ["notifications"]);
+  const page = await openPage(visitor, server.url, { viewport: desktop });
+  const told = () => page.evaluate(async () => (await (await navigator.serviceWorker.ready).getNotifications()).map(({ title }) => title));
+  await beginYesterday(page);
+  await click(page, settings);
+  await clickText(page, "settings", "Reminders");
+  await click(page, ".pushed [role=switch]");
+  await page.waitForFunction(async () => (await (await navigator.serviceWorker.ready).getNotifications()).length > 0);
+  assert.deepEqual(await told(), ["Goal reached"]);
+  await page.evaluate(async () => (await (await navigator.serviceWorker.ready).getNotifications()).forEach((notification) => notification.close()));
+  await page.reload();
+  await click(page, settings);
+  await clickText(page, "settings", "Reminders");
+  assert.equal(await page.$eval(".pushed [role=switch]", (row) => row.ariaChecked), "true");
+  assert.deepEqual(await told(), []);
+  await visitor.close();
+});
 
 test("it speaks the browser's language", async () => {
   const german = await startBrowser({ language: "de-DE" });

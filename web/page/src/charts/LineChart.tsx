@@ -202,18 +202,19 @@ function LineContent({ chart, layout, plot, series, scroll }: PartProps & { seri
   const start = Math.max(0, Math.floor(Math.min(scroll, contentWidth - plotWidth) / plotWidth - 1) * plotWidth);
   const width = Math.min(3 * plotWidth, contentWidth - start);
   const x = (date: number) => fromLeading(plot.x(date) - start, width);
-  const labels = geometry.labelsThatFit(chart.labels, plot.date(start), plot.date(start + width), width);
+  const labels = geometry.labelsThatFit(chart.labels, plot.date(scroll), plot.date(scroll + plotWidth), plotWidth);
+  const label = (at: number) => fromLeading(scroll - start + at, width);
   const isPair = series.length === 2;
   return (
     <svg class="lines" width={width} height="100%" style={{ insetInlineStart: `${start}px` }} aria-hidden="true">
-      {labels.map(({ label, x: at, isCentred }) => {
-        const { text, isPresent, date } = chart.labels[label]!;
+      {labels.map(({ label: place, x: at, isCentred }) => {
+        const { text, isPresent, date } = chart.labels[place]!;
         return (
           <g key={date}>
-            <text class={isPresent ? "axis strong" : "axis"} x={fromLeading(at, width)} y={baseline + 8} text-anchor={isCentred ? "middle" : "start"} dominant-baseline="hanging">
+            <text class={isPresent ? "axis strong" : "axis"} x={label(at)} y={baseline + 8} text-anchor={isCentred ? "middle" : "start"} dominant-baseline="hanging">
               {text}
             </text>
-            {isPresent && <circle class="present" cx={fromLeading(at, width)} cy={baseline + 30} r="2" />}
+            {isPresent && <circle class="present" cx={label(at)} cy={baseline + 30} r="2" />}
           </g>
         );
       })}

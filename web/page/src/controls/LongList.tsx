@@ -95,7 +95,7 @@ function Piece<Name extends ListName>(props: PieceProps<Name>) {
   const height = useRef(props.count * props.usualHeight);
   const [isNear, setIsNear] = useState(props.first === 0);
   useEffect(() => {
-    const observer = new IntersectionObserver(([entry]) => setIsNear(entry?.isIntersecting ?? false), { rootMargin: "100% 0px" });
+    const observer = new IntersectionObserver(([entry]) => setIsNear(entry?.isIntersecting ?? false), { rootMargin: "100%" });
     observer.observe(element.current!);
     return () => observer.disconnect();
   }, []);
