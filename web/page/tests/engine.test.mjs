@@ -7,7 +7,7 @@ import { join } from "node:path";
 import { after, before, test } from "node:test";
 import { desktop, insecureHost, onEngine, openPage, startBrowser, startServer, textOf, waitForText } from "./page.mjs";
 
-const kills = Number(process.env.MIVO_KILLS ?? 10);
+const kills = Number(process.env.MIVO_KILLS ?? 10); // more of them by hand
 const folder = mkdtempSync(join(tmpdir(), "mivo-page-"));
 let server;
 let browser;
