@@ -2,8 +2,8 @@
 #include <cstddef>
 #include <vector>
 
-#include "adapters/system/FileUserDefaults.h"
 #include "adapters/standard/LocalUUIDGenerator.h"
+#include "adapters/system/FileUserDefaults.h"
 #include "adapters/system/UserDirectories.h"
 #include "cli/options/OptionValues.h"
 #include "cli/records/ImportCommand.h"

@@ -6,8 +6,8 @@
 #include <vector>
 
 #include "adapters/icu/LanguageWords.h"
-#include "adapters/system/FileUserDefaults.h"
 #include "adapters/standard/LocalUUIDGenerator.h"
+#include "adapters/system/FileUserDefaults.h"
 #include "adapters/system/UserDirectories.h"
 #include "cli/options/OptionValues.h"
 #include "cli/records/RecordCommands.h"

@@ -5,8 +5,8 @@
 #include <utility>
 
 #include "adapters/locale/MessageCatalogue.h"
-#include "adapters/system/FileUserDefaults.h"
 #include "adapters/standard/SystemClock.h"
+#include "adapters/system/FileUserDefaults.h"
 #include "adapters/system/UserDirectories.h"
 #include "cli/backup/DamagedSentence.h"
 #include "cli/options/OptionValues.h"

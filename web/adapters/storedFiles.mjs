@@ -170,13 +170,13 @@ export class StoredFiles {
 
 /** The content of a file, which another program may have open: what was written last is as good as any. */
 export async function readOnce(folder, name) {
-  let found = { number: 0 };
+  let found;
   for await (const file of folder.values()) {
-    const content = await (await file.getFile()).arrayBuffer().catch(() => new ArrayBuffer(0));
-    const head = readHead(new Uint8Array(content, 0, Math.min(headSize, content.byteLength)));
-    if (head?.name === name && head.number > found.number) found = { number: head.number, content };
+    const content = await file.getFile();
+    const head = readHead(new Uint8Array(await content.slice(0, headSize).arrayBuffer()));
+    if (head?.name === name && !(found?.number > head.number)) found = { number: head.number, content };
   }
-  return found.content && new Uint8Array(found.content, headSize);
+  return found && new Uint8Array(await found.content.slice(headSize).arrayBuffer());
 }
 
 async function handleOf(file, patience) {

@@ -123,10 +123,11 @@ class App {
 
   setWatched(isNow) {
     this.#exchange.call('setWatched', isNow ? 1 : 0);
+    if (isNow && presentZone() !== this.#zone) return this.lookAround();
     this.#settle();
   }
 
-  /** Whether another zone holds now. */
+  /** Another zone may hold now. */
   lookAround() {
     const zone = presentZone();
     const isOther = zone !== this.#zone;

@@ -8,8 +8,8 @@
 #include <filesystem>
 #include <fstream>
 
-#include "adapters/system/FileUserDefaults.h"
 #include "adapters/standard/SystemClock.h"
+#include "adapters/system/FileUserDefaults.h"
 #include "host/app/Settings.h"
 #include "host/disk/DatabaseFile.h"
 #include "host/reminders/ReminderSettings.h"

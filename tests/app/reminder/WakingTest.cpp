@@ -6,8 +6,8 @@
 #include <filesystem>
 #include <fstream>
 
-#include "adapters/system/AtomicFile.h"
 #include "adapters/standard/SystemClock.h"
+#include "adapters/system/AtomicFile.h"
 #include "app/reminder/FileWatch.h"
 #include "app/reminder/WallClockAlarm.h"
 #include "tests/support/TemporaryFolder.h"
