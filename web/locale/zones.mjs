@@ -16,23 +16,38 @@ export function transitionsOf(name) {
   return kept.get(name);
 }
 
+const begin = Date.UTC(firstYear, 0, 1) / 1000;
+const end = Date.UTC(lastYear + 1, 0, 1) / 1000;
+
 function find(name) {
+  return { name, lastYear, ...(typeof Temporal === 'undefined' ? byHalving(name) : byTemporal(name)) };
+}
+
+function byTemporal(name) {
+  const offsetOf = (time) => time.offsetNanoseconds / 1e9;
+  const first = Temporal.Instant.fromEpochMilliseconds(begin * 1000).toZonedDateTimeISO(name);
+  const transitions = [];
+  for (let time = first; (time = time.getTimeZoneTransition('next')) && time.epochMilliseconds / 1000 < end; )
+    transitions.push([time.epochMilliseconds / 1000, offsetOf(time)]);
+  return { firstOffset: offsetOf(first), transitions };
+}
+
+// Without Temporal: a hundred milliseconds, and as exact.
+function byHalving(name) {
   const offsetAt = offsets(name);
-  const end = Date.UTC(lastYear + 1, 0, 1) / 1000;
-  let before = Date.UTC(firstYear, 0, 1) / 1000;
+  let before = begin;
   let offset = offsetAt(before);
-  const found = { name, firstOffset: offset, transitions: [], lastYear };
+  const found = { firstOffset: offset, transitions: [] };
   while (before < end) {
     const after = Math.min(before + step, end);
     const next = offsetAt(after);
     if (next !== offset) {
       const at = firstWith(offsetAt, before, after, offset);
-      found.transitions.push([at, next]);
+      if (at < end) found.transitions.push([at, next]);
       offset = next;
     }
     before = after;
   }
-  if (found.transitions.at(-1)?.[0] >= end) found.transitions.pop();
   return found;
 }
 
