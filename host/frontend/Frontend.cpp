@@ -28,6 +28,18 @@ Store<AppFeature> storeOf(const FrontendServices& services) {
       services.dependencies->mainQueue, services.dependencies->taskRunner};
 }
 
+/// Keeps a flag up, and lets it down whatever is thrown meanwhile.
+class WhileTrue {
+ public:
+  explicit WhileTrue(bool& kept) : flag(kept) { flag = true; }
+  ~WhileTrue() { flag = false; }
+  WhileTrue(const WhileTrue&) = delete;
+  WhileTrue& operator=(const WhileTrue&) = delete;
+
+ private:
+  bool& flag;
+};
+
 template <class Value>
 std::string jsonOf(const Value& value) {
   JsonWriter json{JsonWriter::Reader::page};
@@ -78,9 +90,11 @@ tl::expected<void, std::string> Frontend::send(std::string_view json) {
   auto action = readAction(json);
   if (!action) return tl::unexpected{std::move(action.error())};
   const DependencyScope scope{services.dependencies};
-  isTaking = true;
-  Done done = std::visit([this](auto& one) { return take(std::move(one)); }, *action);
-  isTaking = false;
+  Done done;
+  {
+    const WhileTrue taking{isTaking};
+    done = std::visit([this](auto& one) { return take(std::move(one)); }, *action);
+  }
   follow();
   return done;
 }
@@ -132,13 +146,14 @@ double Frontend::untilNextTick() const {
 void Frontend::tick() {
   const DependencyScope scope{services.dependencies};
   const Date computed = state().now;
-  isTaking = true;
-  source.tick = nextStamp();
-  if (secondsBetween(computed, source.clients().now) >= untilNextMinute(computed)) {
-    if (!isWatched) store.send(Action::lookForChanges{});
-    store.send(Action::recompute{});
+  {
+    const WhileTrue taking{isTaking};
+    source.tick = nextStamp();
+    if (secondsBetween(computed, source.clients().now) >= untilNextMinute(computed)) {
+      if (!isWatched) store.send(Action::lookForChanges{});
+      store.send(Action::recompute{});
+    }
   }
-  isTaking = false;
   follow();
 }
 
@@ -150,9 +165,10 @@ void Frontend::lookAround(const std::optional<std::string>& newZone) {
 
 void Frontend::follow() {
   if (isTaking) return;
-  isTaking = true;
-  followRoadmap();
-  isTaking = false;
+  {
+    const WhileTrue taking{isTaking};
+    followRoadmap();
+  }
   tellTips();
   std::vector<std::string_view> told;
   for (Asked& one : known)
