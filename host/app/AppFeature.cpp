@@ -17,7 +17,15 @@ using Action = AppFeature::Action;
 using State = AppFeature::State;
 using Step = AppFeature::Step;
 
+// A weight is usually near the newest one: the field follows that, but where the user typed.
+void followNewestWeight(AddWeightLogFeature::State& entry, const std::vector<BodyWeightSample>& before,
+                        const std::vector<BodyWeightSample>& after) {
+  const bool isNewest = !after.empty() && (before.empty() || before.back() != after.back());
+  if (isNewest && !*entry.typedText) entry.weightInKg = after.back().weightInKg;
+}
+
 void take(State& state, std::vector<FastRecord> fasts, std::vector<BodyWeightSample> weights) {
+  followNewestWeight(state.statistics.addWeightLogState, state.weights->elements(), weights);
   state.statistics.fasts = List<FastingDataEntry>{entries(fasts)};
   state.fasts = List<FastRecord>{std::move(fasts)};
   state.weights = List<BodyWeightSample>{std::move(weights)};
@@ -119,8 +127,6 @@ auto AppFeature::on(State&, const Action::reload&) const -> Effect<Action> {
 
 auto AppFeature::on(State& state, const Action::didLoad& loaded) const -> Effect<Action> {
   take(state, loaded.history.fasts, loaded.history.weights);
-  auto& card = state.statistics.addWeightLogState;
-  if (!loaded.history.weights.empty() && !*card.typedText) card.weightInKg = loaded.history.weights.back().weightInKg;
   recompute(state);
   return {};
 }

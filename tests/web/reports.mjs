@@ -1,13 +1,17 @@
 // node reports.mjs ENGINE.wasm MIVO CATALOGUES: whether the WebAssembly module tells of every sample what `mivo report
-// --format json` prints: all numbers and dates, and all texts where both libraries of locales agree, blanks aside.
+// --format json` prints: all numbers and dates, and all texts where both libraries of locales agree, blanks aside. And of
+// random histories in zones whose clocks are odd: 40, or as many as MIVO_HISTORIES says.
 //
 // SPDX-License-Identifier: MIT
 
 import { execFileSync } from 'node:child_process';
-import { readFileSync } from 'node:fs';
+import { mkdtempSync, readFileSync, rmSync, writeFileSync } from 'node:fs';
+import { tmpdir } from 'node:os';
+import { join } from 'node:path';
 import { pathToFileURL } from 'node:url';
 
 import { loadEngine } from '../../web/engine/engine.mjs';
+import { randomReport } from './histories.mjs';
 
 const [wasm, mivo, catalogues] = process.argv.slice(2);
 const engine = await loadEngine(readFileSync(wasm));
@@ -27,7 +31,7 @@ const runs = [
 
 const optionNames = { timeZone: 'time-zone', firstWeekday: 'first-weekday', maxBreakHours: 'max-break-hours', weightUnit: 'weight-unit' };
 
-function nativeReport({ file, ignoreGoal, ...options }) {
+function nativeReport({ file, ignoreGoal, now, ...options }) {
   const rest = Object.entries(options).flatMap(([name, value]) => [`--${optionNames[name] ?? name}`, String(value)]);
   if (ignoreGoal) rest.push('--ignore-goal');
   const given = ['report', '--format', 'json', '--input', file, '--now', now, ...rest];
@@ -59,12 +63,27 @@ function expect(name, wrong) {
 for (const { file, ...options } of runs) {
   const snapshot = readFileSync(file, 'utf8');
   const catalogue = await catalogueOf(options.locale.slice(0, 2));
-  const expected = nativeReport({ file, ...options });
+  const expected = nativeReport({ file, now, ...options });
   const began = performance.now();
   const found = engine.statistics(snapshot, { now, catalogue, ...options });
   const took = Math.round(performance.now() - began);
   expect(`${Object.values({ file, ...options }).join(' ')}: ${count(expected)} values, ${took} ms`, differences(expected, found));
 }
+
+const folder = mkdtempSync(join(tmpdir(), 'mivo-histories-'));
+const histories = Number(process.env.MIVO_HISTORIES ?? 40);
+let wrong = 0;
+for (let number = 1; number <= histories; ++number) {
+  const { snapshot, ...options } = randomReport(number);
+  const file = join(folder, `${number}.json`);
+  writeFileSync(file, snapshot);
+  const found = engine.statistics(snapshot, { catalogue: await catalogueOf(options.locale.slice(0, 2)), ...options });
+  const differing = differences(nativeReport({ file, ...options }), found);
+  if (differing.length > 0) expect(`random history ${number}: ${Object.values(options).join(' ')}`, differing);
+  wrong += differing.length > 0 ? 1 : 0;
+}
+rmSync(folder, { recursive: true });
+if (wrong === 0) expect(`${histories} random histories`, []);
 
 // What is wrong is told in one sentence, and the module goes on.
 const refusals = [

@@ -156,6 +156,28 @@ TEST_F(AppFeatureTest, savesAWeightAndTellsItsCard) {
   EXPECT_EQ(*state().statistics.stats.currentWeightInKg, 72.4);
 }
 
+TEST_F(AppFeatureTest, beginsTheNextWeightWithTheNewestUnlessOneIsTyped) {
+  using Card = AddWeightLogFeature::Action;
+  const auto& card = state().statistics.addWeightLogState;
+  const auto enter = [this](Card action) { send(Action::statistics{Sent::addWeightLogAction{std::move(action)}}); };
+  const BodyWeightSample first{{7, 1}, at(-3), 72}, newest{{7, 2}, at(-2), 90};
+  for (const auto& sample : {first, newest}) openDatabase(file).apply(adding(sample));
+  send(Action::reload{});
+  EXPECT_EQ(*card.weightInKg, 90);
+  send(Action::didDeleteWeight{newest.id});
+  EXPECT_EQ(*card.weightInKg, 72);
+  send(Action::didTapMessage{});
+  EXPECT_EQ(*card.weightInKg, 90);
+
+  enter(Card::didTapDecrease{});
+  send(Action::didDeleteWeight{first.id});
+  EXPECT_EQ(*card.weightInKg, 89.9) << "the newest is the same";
+  enter(Card::didChangeText{"85"});
+  send(Action::didDeleteWeight{newest.id});
+  send(Action::didTapMessage{});
+  EXPECT_EQ(*card.weightInKg, 85);
+}
+
 TEST_F(AppFeatureTest, offersToTakeASavedWeightBackAndWritesItOnce) {
   const Action save = Action::statistics{Sent::addWeightLogAction{AddWeightLogFeature::Action::didTapSave{}}};
   send(save);

@@ -181,6 +181,7 @@ TEST_F(DataSteps, importAllFilesAsOneChangeThatIsUndoneAsOne) {
   EXPECT_EQ(onDisk().fasts, state().fasts->elements());
   EXPECT_EQ(onDisk().weights, state().weights->elements());
   EXPECT_EQ(state().statistics.stats.totalFasts, 2);
+  EXPECT_EQ(*state().statistics.addWeightLogState.weightInKg, 80) << "where the next one begins";
   EXPECT_EQ(message(), (Message{"Imported: 2 fasts, 1 weight", "Undo", false, 6}));
 
   choose(paths);

@@ -53,6 +53,20 @@ test("a tab is found again where it was left", () =>
     assert.equal(await place(), 700);
   }));
 
+test("the time range is at hand once it was scrolled past, however far", () =>
+  withPage({ viewport: phone }, async (page) => {
+    const isAtHand = (expected) =>
+      page.waitForFunction((wanted) => (document.querySelector(".sticky-range:not([hidden])") !== null) === wanted, {}, expected);
+    const jump = (to) => page.evaluate((selector) => document.querySelector(selector).scrollIntoView({ block: "center" }), to);
+    await isAtHand(false);
+    await jump(".of-trend");
+    await isAtHand(true);
+    await jump(".title-bar");
+    await isAtHand(false);
+    await jump(".of-addWeight");
+    await isAtHand(false);
+  }));
+
 test("a bar is selected by a tap and by arrows, and let go by Escape", () =>
   withPage({ viewport: desktop }, async (page) => {
     const chart = ".of-fastingChart .chart";

@@ -10,6 +10,7 @@ const built = fileURLToPath(new URL("../built", import.meta.url));
 /// The page on the compiled engine.
 export const onEngine = fileURLToPath(new URL("../built-on-engine", import.meta.url));
 const recordings = fileURLToPath(new URL("../generated", import.meta.url));
+const sample = fileURLToPath(new URL("../../../data/one-year.json", import.meta.url));
 const types = {
   ".html": "text/html",
   ".js": "text/javascript",
@@ -24,7 +25,23 @@ const types = {
 /// Leads to the tests' own server, and is not trusted as localhost is.
 export const insecureHost = "mivo.test";
 
-const browsers = ["/usr/bin/chromium", "/usr/bin/chromium-browser", "/usr/bin/google-chrome"];
+/// "chromium", or "firefox", which is never dark here.
+export const browserName = process.env.MIVO_BROWSER ?? "chromium";
+const browsers = {
+  chromium: {
+    paths: ["/usr/bin/chromium", "/usr/bin/chromium-browser", "/usr/bin/google-chrome"],
+    options: (language) => ({
+      args: ["--no-sandbox", "--disable-gpu", `--accept-lang=${language}`, `--host-resolver-rules=MAP ${insecureHost} 127.0.0.1`],
+    }),
+  },
+  firefox: {
+    paths: ["/usr/bin/firefox", "/usr/bin/firefox-esr"],
+    options: (language) => ({
+      browser: "firefox",
+      extraPrefsFirefox: { "intl.accept_languages": language, "network.dns.localDomains": insecureHost, "layout.css.prefers-color-scheme.content-override": 1 },
+    }),
+  },
+};
 
 /// Serves a page. `change` makes another recording of it; `replace` gives a file another content.
 export async function startServer({ folder = built, port = 0, change = (recording) => recording, replace = {} } = {}) {
@@ -32,7 +49,7 @@ export async function startServer({ folder = built, port = 0, change = (recordin
     const path = new URL(request.url, "http://localhost").pathname;
     const name = path === "/" ? "index.html" : path.slice(1);
     const recorded = /^recorded-(.*)\.json$/.exec(name)?.[1];
-    const file = recorded ? join(recordings, `${recorded}.json`) : join(folder, name);
+    const file = recorded ? join(recordings, `${recorded}.json`) : name === "sample.json" ? sample : join(folder, name);
     if (!existsSync(file)) return response.writeHead(404).end();
     const read = () => readFileSync(file);
     const content = recorded ? JSON.stringify(change(JSON.parse(read()))) : replace[name] ? replace[name](read().toString()) : read();
@@ -52,10 +69,11 @@ export async function startServer({ folder = built, port = 0, change = (recordin
 
 /// `options` as Puppeteer's.
 export async function startBrowser({ language = "en-GB", ...options } = {}) {
-  const executablePath = browsers.find((path) => existsSync(path));
-  if (!executablePath) throw new Error(`none of these browsers is installed: ${browsers.join(", ")}`);
-  const args = ["--no-sandbox", "--disable-gpu", `--accept-lang=${language}`, `--host-resolver-rules=MAP ${insecureHost} 127.0.0.1`];
-  return puppeteer.launch({ executablePath, args, ...options });
+  if (!browsers[browserName]) throw new Error(`MIVO_BROWSER: expected ${Object.keys(browsers).join(" or ")}, found "${browserName}"`);
+  const { paths, options: usual } = browsers[browserName];
+  const executablePath = paths.find((path) => existsSync(path));
+  if (!executablePath) throw new Error(`none of these browsers is installed: ${paths.join(", ")}`);
+  return puppeteer.launch({ executablePath, ...usual(language), ...options });
 }
 
 export const phone = { width: 390, height: 844, isMobile: true, hasTouch: true };
@@ -70,10 +88,16 @@ export async function openPage(browser, url, { viewport = phone, scheme = "light
     if (message.type() === "error") page.complaints.push(message.text());
   });
   await page.setViewport(viewport);
-  await page.emulateMediaFeatures([{ name: "prefers-color-scheme", value: scheme }]);
+  if (browserName === "chromium") await page.emulateMediaFeatures([{ name: "prefers-color-scheme", value: scheme }]);
+  else await page.evaluateOnNewDocument(ignoreCancelling);
   await page.goto(url);
   await page.waitForSelector(".window, .alone");
   return page;
+}
+
+// Where files are chosen by a test, Firefox says first that none were.
+function ignoreCancelling() {
+  Object.defineProperty(HTMLInputElement.prototype, "oncancel", { set() {} });
 }
 
 export const textOf = (page, selector) => page.$eval(selector, (element) => element.textContent);

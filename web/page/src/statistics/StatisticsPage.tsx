@@ -89,8 +89,11 @@ function useGoneUnderTheTop(element: { current: HTMLElement | null }): boolean {
     const shown = element.current;
     if (!shown) return;
     const observer = new IntersectionObserver(
-      ([entry]) => setIsGone(entry !== undefined && !entry.isIntersecting && entry.boundingClientRect.top < 8),
-      { rootMargin: "-8px 0px 0px 0px", threshold: 1 },
+      (entries) => {
+        const { intersectionRatio, boundingClientRect } = entries.at(-1)!;
+        setIsGone(intersectionRatio < 1 && boundingClientRect.height > 0); // it has no height while another page is open
+      },
+      { rootMargin: "-8px 0px 1000000px 0px", threshold: 1 }, // all that is below counts as seen, however far a jump goes
     );
     observer.observe(shown);
     return () => observer.disconnect();
