@@ -30,7 +30,15 @@ SettingsModel::SettingsModel(AppLink to, const host::AboutFacts& aboutFacts, int
       usualWeekday{usualFirstWeekday},
       cards{new CardSettingsModel{app, this}},
       reminders{new RemindersModel{app, this}} {
-  about->show(host::composeAbout(aboutFacts, {{std::string{"Qt "} + qVersion(), "LGPL-3.0"}}, app.clients().texts));
+  about->show(host::composeAbout(aboutFacts,
+                                 {{std::string{"Qt "} + qVersion(), "LGPL-3.0"},
+                                  {"Inter", "OFL-1.1"},
+                                  {"ICU", "Unicode-DFS-2016"},
+                                  {"cctz", "Apache-2.0"},
+                                  {"Boost.Locale", "BSL-1.0"},
+                                  {"libcurl", "curl"},
+                                  {"CLI11", "BSD-3-Clause"}},
+                                 app.clients().texts));
 }
 
 void SettingsModel::follow(const AppState& state) {

@@ -27,7 +27,7 @@ struct FrontendServices {
   WeightUnit usualWeightUnit = WeightUnit::kilograms;  ///< in the user's locale
   std::string feedbackAddress = {};                    ///< of mail; none where nobody reads any
   AboutFacts about = {};
-  std::vector<Fact> libraries = {};  ///< of whoever draws the pages
+  std::vector<Fact> libraries = {};  ///< beside those of every program: `composeAbout`
   std::function<std::optional<std::string>(const ReminderSettings&)> keepReminding = {};
 };
 

@@ -43,12 +43,12 @@ void fields(Listed& record, Visit&& visit) {
 }
 
 /// What only the program knows about itself. `exportCommand` writes a copy of all records; the database's file alone
-/// may lack the latest.
+/// may lack the latest; it is empty where there are no commands.
 struct AboutFacts {
   std::string version, databaseFile, exportCommand;
 };
 
-/// `front` are the libraries of whoever draws the app, before those that it stands on.
-AboutPage composeAbout(const AboutFacts& about, std::vector<Fact> front, const TextLookup& texts);
+/// `libraries` are the program's own; those that every program stands on come after them.
+AboutPage composeAbout(const AboutFacts& about, std::vector<Fact> libraries, const TextLookup& texts);
 
 }  // namespace mivo::host

@@ -71,7 +71,7 @@ export class Exchange {
 // What a C library asks of a system: the clock, randomness, and somewhere to say what went wrong. All else, files and
 // arguments, nothing of the modules calls.
 function system(exchange, module) {
-  const done = 0, notImplemented = 52;
+  const done = 0, notImplemented = 52, standardOutput = 1;
   const view = () => new DataView(exchange.exports.memory.buffer);
   const known = {
     clock_time_get: (clock, precision, into) => {
@@ -82,14 +82,14 @@ function system(exchange, module) {
       globalThis.crypto.getRandomValues(exchange.bytes(address, size));
       return done;
     },
-    fd_write: (file, pieces, count, written) => {
+    fd_write: (stream, pieces, count, written) => {
       const all = new Uint32Array(exchange.exports.memory.buffer, pieces, 2 * count);
       let text = '', size = 0;
       for (let piece = 0; piece < all.length; piece += 2) {
         text += exchange.read(all[piece], all[piece + 1]);
         size += all[piece + 1];
       }
-      if (text.trim()) console.error(text.trimEnd());
+      if (text.trim()) console[stream === standardOutput ? 'log' : 'error'](text.trimEnd());
       view().setUint32(written, size, true);
       return done;
     },

@@ -112,6 +112,8 @@ TEST(AboutPage, namesWhatItIsBuiltOn) {
                           Fact{"Copy of everything", "mivo export --to FILE"}));
   EXPECT_EQ(shown.libraries.front(), (Fact{"Paint 1", "MIT"}));
   EXPECT_THAT(shown.libraries, testing::Contains(Fact{"SQLite", "Public domain"}));
+  EXPECT_THAT(composeAbout({"0.1.0", "mivo.sqlite", ""}, {}, tests::EnglishTexts{}).facts, testing::SizeIs(3))
+      << "a page has no commands";
 }
 
 }  // namespace
