@@ -6,14 +6,14 @@
 
 namespace mivo::host {
 
+// Screens have names of their own, which the pages call them by.
 inline void writeJson(JsonWriter& json, Screen screen) { json.string(rawValue(screen)); }
 
-/// Screens have names of their own, which the pages call them by.
 template <>
-inline JsonRead<Screen> readJson<Screen>(const JSONValue& json) {
+inline std::optional<Screen> readValue<Screen>(const JSONValue& json, JsonFault& fault) {
   const auto screen = json.text() ? screenFrom(*json.text()) : std::nullopt;
-  if (!screen) return expectedInJson("the name of a screen");
-  return *screen;
+  if (!screen) expectedInJson("the name of a screen", fault);
+  return screen;
 }
 
 }  // namespace mivo::host

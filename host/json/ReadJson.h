@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <algorithm>
+#include <array>
 #include <concepts>
 #include <cstdint>
 #include <limits>
 #include <optional>
 #include <ranges>
+#include <span>
 #include <string>
 #include <string_view>
 #include <tl/expected.hpp>
@@ -16,7 +17,6 @@
 #include <vector>
 
 #include "host/json/RecordJson.h"
-#include "host/text/BadRecord.h"
 #include "mivo/model/Date.h"
 #include "mivo/model/UUID.h"
 #include "mivo/platform/JSONValue.h"
@@ -45,107 +45,113 @@ inline constexpr std::size_t longestJson = 1U << 20;
 
 JsonRead<JSONValue> parseJson(std::string_view text);
 
-inline tl::unexpected<JsonFault> expectedInJson(std::string_view what) {
-  return tl::unexpected{JsonFault{{}, "expected " + std::string{what}}};
-}
+// What is wrong leaves the fault, and answers with nothing or false. What does not hang on the type is a function of
+// its own: all else is there once for each record and each action, and a page has to load it.
 
-/// A fault of what stands under a name or at a place.
-inline tl::unexpected<JsonFault> within(std::string_view name, JsonFault fault) {
-  fault.path = std::string{name} + (fault.path.empty() || fault.path.front() == '[' ? "" : ".") + fault.path;
-  return tl::unexpected{std::move(fault)};
-}
+/// Always false, with "expected " before what was.
+bool expectedInJson(std::string_view what, JsonFault& fault);
 
-/// A number, whole or not.
-inline std::optional<double> numberOf(const JSONValue& json) {
-  if (const auto* whole = std::get_if<std::int64_t>(&json.content)) return static_cast<double>(*whole);
-  const auto* number = std::get_if<double>(&json.content);
-  return number ? std::optional{*number} : std::nullopt;
-}
+/// Always false: the fault is of what stands under a name, or at a place.
+bool within(std::string_view name, JsonFault& fault);
+bool within(std::size_t place, JsonFault& fault);
 
 template <class Value>
-JsonRead<Value> readJson(const JSONValue& json);
+std::optional<Value> readValue(const JSONValue& json, JsonFault& fault);
+template <>
+std::optional<bool> readValue<bool>(const JSONValue& json, JsonFault& fault);
+/// Whole or not.
+template <>
+std::optional<double> readValue<double>(const JSONValue& json, JsonFault& fault);
+template <>
+std::optional<std::string> readValue<std::string>(const JSONValue& json, JsonFault& fault);
+template <>
+std::optional<Date> readValue<Date>(const JSONValue& json, JsonFault& fault);
+template <>
+std::optional<UUID> readValue<UUID>(const JSONValue& json, JsonFault& fault);
+
+/// A whole number within these limits.
+std::optional<std::int64_t> wholeIn(std::int64_t least, std::int64_t most, const JSONValue& json, JsonFault& fault);
 
 template <std::integral Value>
-JsonRead<Value> readWhole(const JSONValue& json) {
-  const auto* whole = std::get_if<std::int64_t>(&json.content);
-  if (whole && std::in_range<Value>(*whole)) return static_cast<Value>(*whole);
+std::optional<Value> readWhole(const JSONValue& json, JsonFault& fault) {
   using Limits = std::numeric_limits<Value>;
   constexpr std::int64_t mostOfAll = std::numeric_limits<std::int64_t>::max();
   constexpr auto most =
       std::in_range<std::int64_t>(Limits::max()) ? static_cast<std::int64_t>(Limits::max()) : mostOfAll;
-  return expectedInJson("a whole number from " + std::to_string(Limits::min()) + " to " + std::to_string(most));
+  const auto whole = wholeIn(static_cast<std::int64_t>(Limits::min()), most, json, fault);
+  return whole ? std::optional{static_cast<Value>(*whole)} : std::nullopt;
 }
 
-inline JsonRead<Date> readDate(const JSONValue& json) {
-  const auto number = numberOf(json);
-  if (!number) return expectedInJson("a number");
-  const Date date = dateSince1970(*number);
-  if (!isRepresentable(date)) return expectedInJson("seconds since 1970 of a date in the years 1 to 9999");
-  return date;
-}
+/// The place of the name that the text is; of those that are empty none.
+std::optional<std::size_t> placeOfName(std::span<const std::string_view> names, const JSONValue& json,
+                                       JsonFault& fault);
 
 template <class Enumeration>
-JsonRead<Enumeration> readEnumerator(const JSONValue& json) {
-  std::string all;
-  for (std::size_t value = 0; value < enumeratorNames<Enumeration>.size(); ++value) {
-    const std::string_view name = enumeratorNames<Enumeration>[value];
-    if (name.empty()) continue;
-    if (json.text() && *json.text() == name) return static_cast<Enumeration>(value);
-    all += (all.empty() ? "\"" : ", \"") + std::string{name} + '"';
-  }
-  return expectedInJson("one of " + all);
+std::optional<Enumeration> readEnumerator(const JSONValue& json, JsonFault& fault) {
+  const auto place = placeOfName(enumeratorNames<Enumeration>, json, fault);
+  return place ? std::optional{static_cast<Enumeration>(*place)} : std::nullopt;
 }
 
-/// A field of an object, also where it is null.
-inline const JSONValue* fieldOf(const JSONValue& json, std::string_view name) {
-  const auto found = std::ranges::find(*json.object(), name, &JSONValue::Member::name);
-  return found == json.object()->end() ? nullptr : &found->value;
-}
+/// The fields of an object, one after another, until one is wrong.
+class JsonFieldReader {
+ public:
+  JsonFieldReader(const JSONValue& json, JsonFault& fault);
+
+  /// Also where it is null; nothing after a fault, and where it is missing, which is one.
+  const JSONValue* field(std::string_view name);
+  /// What was read of the field.
+  void read(std::string_view name, bool isWell) { isAllWell = isWell || within(name, fault); }
+  /// Whether all went well, and the object has no other fields.
+  bool end(std::string_view record);
+
+ private:
+  const JSONValue::Object* members;
+  JsonFault& fault;
+  std::size_t count = 0;
+  bool isAllWell;
+};
 
 template <class Listed>
-JsonRead<Listed> readRecord(const JSONValue& json) {
-  if (!json.object()) return expectedInJson("an object");
-  Listed record{};
-  std::optional<JsonFault> fault;
-  std::size_t count = 0;
-  fields(record, [&]<class Field>(std::string_view name, Field& field) {
-    ++count;
-    if (fault) return;
-    const JSONValue* const found = fieldOf(json, name);
-    if (!found) {
-      fault = within(name, {{}, "expected this field"}).value();
-    } else if (auto read = readJson<Field>(*found)) {
-      field = *std::move(read);
-    } else {
-      fault = within(name, std::move(read.error())).value();
-    }
+std::optional<Listed> readRecord(const JSONValue& json, JsonFault& fault) {
+  std::optional<Listed> record{std::in_place};
+  JsonFieldReader reader{json, fault};
+  fields(*record, [&]<class Field>(std::string_view name, Field& field) {
+    const JSONValue* const found = reader.field(name);
+    if (!found) return;
+    auto read = readValue<Field>(*found, fault);
+    reader.read(name, read.has_value());
+    if (read) field = *std::move(read);
   });
-  if (fault) return tl::unexpected{*std::move(fault)};
-  if (json.object()->size() != count)
-    return expectedInJson("each field of " + std::string{typeName<Listed>()} + " once, and no other");
+  if (!reader.end(typeName<Listed>())) record.reset();
   return record;
 }
 
+/// The elements of a list.
+const JSONValue::Array* elementsOf(const JSONValue& json, JsonFault& fault);
+/// The same of a list of two.
+const JSONValue::Array* pairOf(const JSONValue& json, JsonFault& fault);
+
 template <class Pair>
-JsonRead<Pair> readPair(const JSONValue& json) {
-  const auto* const two = json.array();
-  if (!two || two->size() != 2) return expectedInJson("a list of two");
-  auto first = readJson<std::remove_const_t<typename Pair::first_type>>((*two)[0]);
-  if (!first) return within("[0]", std::move(first.error()));
-  auto second = readJson<typename Pair::second_type>((*two)[1]);
-  if (!second) return within("[1]", std::move(second.error()));
+std::optional<Pair> readPair(const JSONValue& json, JsonFault& fault) {
+  const auto* const two = pairOf(json, fault);
+  if (!two) return std::nullopt;
+  auto first = readValue<std::remove_const_t<typename Pair::first_type>>((*two)[0], fault);
+  if (!first) return within(0, fault), std::nullopt;
+  auto second = readValue<typename Pair::second_type>((*two)[1], fault);
+  if (!second) return within(1, fault), std::nullopt;
   return Pair{*std::move(first), *std::move(second)};
 }
 
 /// Lists, and maps as lists of pairs.
 template <class List>
-JsonRead<List> readList(const JSONValue& json) {
-  if (!json.array()) return expectedInJson("a list");
+std::optional<List> readList(const JSONValue& json, JsonFault& fault) {
+  const auto* const given = elementsOf(json, fault);
+  if (!given) return std::nullopt;
   std::vector<std::ranges::range_value_t<List>> elements;
-  elements.reserve(json.array()->size());
-  for (const JSONValue& element : *json.array()) {
-    auto read = readJson<std::ranges::range_value_t<List>>(element);
-    if (!read) return within('[' + std::to_string(elements.size()) + ']', std::move(read.error()));
+  elements.reserve(given->size());
+  for (const JSONValue& element : *given) {
+    auto read = readValue<std::ranges::range_value_t<List>>(element, fault);
+    if (!read) return within(elements.size(), fault), std::nullopt;
     elements.push_back(*std::move(read));
   }
   if constexpr (std::constructible_from<List, std::vector<std::ranges::range_value_t<List>>>)
@@ -160,85 +166,68 @@ struct NamedCase {
   const JSONValue* value = nullptr;
 };
 
-inline NamedCase namedCase(const JSONValue& json) {
-  if (const std::string* name = json.text()) return {*name};
-  const auto* const members = json.object();
-  if (!members || members->size() != 1) return {};
-  return {members->front().name, &members->front().value};
-}
+NamedCase namedCase(const JSONValue& json);
+std::optional<std::size_t> placeOfCase(std::span<const std::string_view> names, const NamedCase& given,
+                                       JsonFault& fault);
+bool standsAlone(const NamedCase& given, JsonFault& fault);
+bool hasValue(const NamedCase& given, JsonFault& fault);
 
-template <class Case>
-JsonRead<Case> readCase(const JSONValue* json) {
+template <class Union, class Case>
+std::optional<Union> readCase(const NamedCase& given, JsonFault& fault) {
   if constexpr (std::is_empty_v<Case>) {
-    if (!json) return Case{};
-    return expectedInJson("this name alone");
+    return standsAlone(given, fault) ? std::optional<Union>{Case{}} : std::nullopt;
   } else {
-    if (!json) return expectedInJson("an object with a value of this name");
+    if (!hasValue(given, fault)) return std::nullopt;
     if constexpr (hasOneValue<Case>) {
-      auto read = readJson<PayloadOf<Case>>(*json);
-      if (!read) return tl::unexpected{std::move(read.error())};
-      return Case{*std::move(read)};
+      auto read = readValue<PayloadOf<Case>>(*given.value, fault);
+      return read ? std::optional<Union>{Case{*std::move(read)}} : std::nullopt;
     } else {
-      return readJson<Case>(*json);
+      auto read = readValue<Case>(*given.value, fault);
+      return read ? std::optional<Union>{*std::move(read)} : std::nullopt;
     }
   }
 }
 
 template <class Union, class... Case>
-JsonRead<Union> readCases(const JSONValue& json, JsonCases<Case...>) {
+std::optional<Union> readCases(const JSONValue& json, JsonFault& fault, JsonCases<Case...>) {
+  using Read = std::optional<Union> (*)(const NamedCase&, JsonFault&);
+  static constexpr std::array<std::string_view, sizeof...(Case)> names{caseName<Case>...};
+  static constexpr std::array<Read, sizeof...(Case)> reads{readCase<Union, Case>...};
   const NamedCase given = namedCase(json);
-  if (given.name.empty()) return expectedInJson("the name of an action, alone or with its value");
-  std::optional<JsonRead<Union>> result;
-  [[maybe_unused]] const auto readIfNamed = [&]<class Named>(std::type_identity<Named>) {
-    if (given.name != caseName<Named>) return false;
-    auto read = readCase<Named>(given.value);
-    if (read)
-      result.emplace(*std::move(read));
-    else
-      result.emplace(within(given.name, std::move(read.error())));
-    return true;
-  };
-  if ((readIfNamed(std::type_identity<Case>{}) || ...)) return *std::move(result);
-  return within(quotable(given.name), {{}, "expected an action that a person can take"});
+  const auto place = placeOfCase(names, given, fault);
+  if (!place) return std::nullopt;
+  auto read = reads[*place](given, fault);
+  if (!read) within(given.name, fault);
+  return read;
+}
+
+template <class Value>
+std::optional<Value> readValue(const JSONValue& json, JsonFault& fault) {
+  if constexpr (isOptional<Value>) {
+    if (json.isNull()) return Value{};
+    auto read = readValue<typename Value::value_type>(json, fault);
+    return read ? std::optional<Value>{std::move(read)} : std::nullopt;
+  } else if constexpr (std::integral<Value>) {
+    return readWhole<Value>(json, fault);
+  } else if constexpr (std::is_enum_v<Value>) {
+    return readEnumerator<Value>(json, fault);
+  } else if constexpr (isPair<Value>) {
+    return readPair<Value>(json, fault);
+  } else if constexpr (Record<Value>) {
+    return readRecord<Value>(json, fault);
+  } else if constexpr (CaseUnion<Value>) {
+    return readCases<Value>(json, fault, ListedCasesOf<Value>{});
+  } else {
+    return readList<Value>(json, fault);
+  }
 }
 
 template <class Value>
 JsonRead<Value> readJson(const JSONValue& json) {
-  if constexpr (isOptional<Value>) {
-    if (json.isNull()) return Value{};
-    auto read = readJson<typename Value::value_type>(json);
-    if (!read) return tl::unexpected{std::move(read.error())};
-    return Value{*std::move(read)};
-  } else if constexpr (std::same_as<Value, bool>) {
-    const auto* const flag = std::get_if<bool>(&json.content);
-    if (!flag) return expectedInJson("true or false");
-    return *flag;
-  } else if constexpr (std::floating_point<Value>) {
-    const auto number = numberOf(json);
-    if (!number) return expectedInJson("a number");
-    return *number;
-  } else if constexpr (std::integral<Value>) {
-    return readWhole<Value>(json);
-  } else if constexpr (std::is_enum_v<Value>) {
-    return readEnumerator<Value>(json);
-  } else if constexpr (std::same_as<Value, std::string>) {
-    if (!json.text()) return expectedInJson("a text");
-    return *json.text();
-  } else if constexpr (std::same_as<Value, Date>) {
-    return readDate(json);
-  } else if constexpr (std::same_as<Value, UUID>) {
-    const auto id = json.text() ? parseUUID(*json.text()) : std::nullopt;
-    if (!id) return expectedInJson("a UUID");
-    return *id;
-  } else if constexpr (isPair<Value>) {
-    return readPair<Value>(json);
-  } else if constexpr (Record<Value>) {
-    return readRecord<Value>(json);
-  } else if constexpr (CaseUnion<Value>) {
-    return readCases<Value>(json, ListedCasesOf<Value>{});
-  } else {
-    return readList<Value>(json);
-  }
+  JsonFault fault;
+  auto read = readValue<Value>(json, fault);
+  if (!read) return tl::unexpected{std::move(fault)};
+  return *std::move(read);
 }
 
 }  // namespace mivo::host
