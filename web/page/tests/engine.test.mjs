@@ -228,6 +228,7 @@ test("a sample ends today, and the next weight begins with its newest", async ()
   const begun = await page.$eval(".add-weight input", (field) => field.value);
   assert.equal(begun, (await weights(page))[0]); // in stones and pounds the field has the units too
   await click(page, fasting);
+  await page.waitForSelector("[role=timer]");
   const hours = (await textOf(page, "[role=timer]")).split(":")[0];
   assert.ok(Number(hours) < 24, `the last fast ended ${hours} hours ago`);
   assert.deepEqual(page.complaints, []);
