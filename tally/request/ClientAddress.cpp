@@ -5,14 +5,10 @@
 #include <numeric>
 #include <string>
 
+#include "tally/request/Trimmed.h"
+
 namespace mivo::tally {
 namespace {
-
-std::string_view trimmed(std::string_view text) {
-  const auto first = text.find_first_not_of(" \t");
-  if (first == std::string_view::npos) return {};
-  return text.substr(first, text.find_last_not_of(" \t") - first + 1);
-}
 
 // Some balancers add the port: "192.0.2.7:4711", "[2001:db8::7]:4711".
 std::string_view withoutPort(std::string_view entry) {

@@ -4,15 +4,10 @@
 #include <optional>
 
 #include "tally/request/AsciiCase.h"
+#include "tally/request/Trimmed.h"
 
 namespace mivo::tally {
 namespace {
-
-std::string_view trimmed(std::string_view text) {
-  const auto begin = text.find_first_not_of(" \t");
-  if (begin == std::string_view::npos) return {};
-  return text.substr(begin, text.find_last_not_of(" \t") - begin + 1);
-}
 
 // The text before the separator, which it takes away with it.
 std::string_view takePart(std::string_view& text, char separator) {
