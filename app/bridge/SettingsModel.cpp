@@ -37,6 +37,7 @@ SettingsModel::SettingsModel(AppLink to, const host::AboutFacts& aboutFacts, int
                                   {"cctz", "Apache-2.0"},
                                   {"Boost.Locale", "BSL-1.0"},
                                   {"libcurl", "curl"},
+                                  {"libzip", "BSD-3-Clause"},
                                   {"CLI11", "BSD-3-Clause"}},
                                  app.clients().texts));
 }

@@ -49,9 +49,10 @@ class PageFiles {
 ///
 /// A name that ends with ten hexadecimal digits, as in page-0123456789.js, says what is in the file, which a browser
 /// may then keep; it asks again for all others. Each file has the Content-Security-Policy that index.html says for
-/// itself, so that the workers have it too, and no other page may frame it. Errors  std::runtime_error with one
-/// sentence that names the folder or the file: one that cannot be read, a folder
-///         without index.html or with more than `largestPage`, a name of other than letters, digits and `-._~`.
+/// itself, so that the workers have it too, and no other page may frame it.
+///
+/// Throws std::runtime_error with one sentence that names the folder or the file: one that cannot be read, a folder
+/// without index.html or with more than `largestPage`, a name of other than letters, digits and `-._~`.
 PageFiles loadPageFiles(const std::filesystem::path& folder);
 
 }  // namespace mivo::tally

@@ -10,7 +10,7 @@
 
 namespace mivo::web {
 
-/// Requests that the browser makes. Nothing waits for one: it calls back, or gives up after a time (`fetch.mjs`).
+/// Requests that the browser makes. Nothing waits for one: it calls back, or gives up after a time (`fetchText.mjs`).
 /// Thread: the only one.
 class FetchSession final : public URLSession {
  public:

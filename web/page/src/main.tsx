@@ -8,7 +8,7 @@ import { loadGeometry } from "./charts/DrawingModule";
 import type { Geometry } from "./charts/Geometry";
 import { ActionButton } from "./controls/Buttons";
 import { type PageName, Source, SourceProvider } from "./engine/Source";
-import type { Opening } from "./engine/Messages";
+import type { Opening } from "../../worker/app.mjs";
 import { NotOpened, WorkerEngine } from "./engine/WorkerEngine";
 import { fillWithSample } from "./platform/sample";
 import { filesOf, FilesProvider, hand, takeSharedFiles } from "./platform/files";

@@ -1,9 +1,6 @@
 // SPDX-License-Identifier: MIT
 import type { Action } from "mivo";
-
-/// What becomes of a damaged history that has backups: nothing, and it is not opened; or the newest backup that can be read
-/// takes its place, or an empty one does. The damaged file is kept.
-export type Opening = "asItIs" | "fromNewestBackup" | "anew";
+import type { Opening } from "../../../worker/app.mjs";
 
 // What page and worker say to each other.
 

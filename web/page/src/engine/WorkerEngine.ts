@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 import type { Action, Lists, Pages } from "mivo";
 import type { Engine } from "./Engine";
-import type { FromWorker, Opening, ToWorker } from "./Messages";
+import type { Opening } from "../../../worker/app.mjs";
+import type { FromWorker, ToWorker } from "./Messages";
 
 export type WrittenFile = Extract<FromWorker, { kind: "written" }>;
 

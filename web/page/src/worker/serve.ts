@@ -1,32 +1,15 @@
 // SPDX-License-Identifier: MIT
 import type { Action } from "mivo";
-import type { FromWorker, Opening, ToWorker } from "../engine/Messages";
+import type { App, Surroundings } from "../../../worker/app.mjs";
+import type { FromWorker, ToWorker } from "../engine/Messages";
 
-/// The compiled engine, as the worker sees it.
-export interface EngineModule {
-  /// Nothing once the history is open, or a sentence that says why it is not.
-  open(how: Opening): Promise<string | null>;
-  /// After a failure: whether the history is damaged and has backups.
-  isDamaged(): boolean;
-  /// What it changes is on disk when it returns.
-  send(action: Action): void;
-  page(name: string): unknown;
-  rows(name: string, first: number, count: number): unknown[];
-  offer(path: string, file: File): void;
-  database(): Uint8Array<ArrayBuffer>;
-  setWatched(isNow: boolean): void;
-  close(): void;
-}
-
-/// What the module tells of its own.
-export interface EngineEvents {
-  changed(names: string[]): void;
-  written(name: string, type: string, bytes: Uint8Array<ArrayBuffer>): void;
-}
+/// The compiled app, as the worker sees it.
+export type EngineModule = Omit<App, "send" | "lookAround"> & { send(action: Action): void };
 
 const post = (message: FromWorker, transfer: Transferable[] = []) => self.postMessage(message, { transfer });
 
-export const events: EngineEvents = {
+/// What the app tells of its own.
+export const events: Surroundings["events"] = {
   changed: (names) => post({ kind: "changed", names }),
   written: (name, type, bytes) => post({ kind: "written", name, type, bytes }, [bytes.buffer]),
 };
